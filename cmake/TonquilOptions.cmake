@@ -1,0 +1,19 @@
+# What every target of ours is compiled with.
+
+add_library(tonquil_options INTERFACE)
+target_compile_features(tonquil_options INTERFACE cxx_std_20)
+target_compile_options(tonquil_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+    # Tables are held to the bit: a fused multiply-add would round once where the formula rounds
+    # twice. Never -ffast-math, for the same reason.
+    -ffp-contract=off)
+
+if(TONQUIL_SANITIZE)
+    list(JOIN TONQUIL_SANITIZE "," sanitizers)
+    target_compile_options(tonquil_options INTERFACE
+        -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(tonquil_options INTERFACE -fsanitize=${sanitizers})
+endif()
+if(TONQUIL_FUZZERS)
+    target_compile_options(tonquil_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "values/PropertyValue.h"
+
+#include <charconv>
+#include <cctype>
+#include <cmath>
+#include <limits>
+
+namespace tonquil {
+
+namespace {
+
+/// The text after leading white space and one plus sign, neither of which `from_chars` accepts.
+std::string_view numberText(const PropertyValue& string) {
+    std::string_view text = string.get_ref<const std::string&>();
+    const auto start = text.find_first_not_of(" \t\r\n\v\f");
+    text.remove_prefix(std::min(start, text.size()));
+    if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
+        text.remove_prefix(1);
+    }
+    return text;
+}
+
+/// The leading number of a string: 0 where there is none, the nearest that there is where it does
+/// not fit.
+template <typename Number>
+Number leadingNumber(std::string_view text) {
+    // `from_chars` would also read "inf" and "nan", which are words and not decimal numbers.
+    const auto first = text.find_first_not_of('-');
+    if (first == std::string_view::npos || std::isalpha(static_cast<unsigned char>(text[first]))) {
+        return Number{};
+    }
+    Number number{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error == std::errc::result_out_of_range) {
+        const bool negative = text.front() == '-';
+        if constexpr (std::is_floating_point_v<Number>) {
+            // Too large and too small are the same error: only an exponent below zero, or a
+            // number without one that begins with a zero, is too small.
+            const std::string_view used(text.data(), static_cast<std::size_t>(end - text.data()));
+            const auto exponent = used.find_first_of("eE");
+            const bool tiny = exponent != std::string_view::npos
+                                  ? used.substr(exponent + 1).starts_with('-')
+                                  : used.substr(negative ? 1 : 0).starts_with('0') ||
+                                        used.substr(negative ? 1 : 0).starts_with('.');
+            const Number size = tiny ? Number{0} : std::numeric_limits<Number>::infinity();
+            return negative ? -size : size;
+        } else {
+            return negative ? std::numeric_limits<Number>::min()
+                            : std::numeric_limits<Number>::max();
+        }
+    }
+    return error == std::errc() ? number : Number{};
+}
+
+std::int64_t truncated(double value) {
+    constexpr double limit = 9223372036854775808.0;  // 2^63
+    if (std::isnan(value)) {
+        return 0;
+    }
+    if (value >= limit) {
+        return std::numeric_limits<std::int64_t>::max();
+    }
+    if (value < -limit) {
+        return std::numeric_limits<std::int64_t>::min();
+    }
+    return static_cast<std::int64_t>(value);
+}
+
+}  // namespace
+
+bool isNumber(const PropertyValue& value) { return value.is_number() || value.is_boolean(); }
+
+float toSinglePrecision(double value) {
+    // Half a step beyond the largest finite single is where rounding reaches infinity.
+    constexpr double overflow = 0x1.ffffffp+127;
+    if (value >= overflow) {
+        return std::numeric_limits<float>::infinity();
+    }
+    if (value <= -overflow) {
+        return -std::numeric_limits<float>::infinity();
+    }
+    return static_cast<float>(value);
+}
+
+std::optional<float> floatValue(const PropertyValue& value) {
+    switch (value.type()) {
+        case PropertyValue::value_t::boolean:
+            return value.get<bool>() ? 1.0F : 0.0F;
+        case PropertyValue::value_t::number_integer:
+            return static_cast<float>(value.get<std::int64_t>());
+        case PropertyValue::value_t::number_unsigned:
+            return static_cast<float>(value.get<std::uint64_t>());
+        case PropertyValue::value_t::number_float:
+            return toSinglePrecision(value.get<double>());
+        case PropertyValue::value_t::string:
+            return leadingNumber<float>(numberText(value));
+        default:
+            return std::nullopt;
+    }
+}
+
+std::int64_t integerValue(const PropertyValue& value) {
+    switch (value.type()) {
+        case PropertyValue::value_t::boolean:
+            return value.get<bool>() ? 1 : 0;
+        case PropertyValue::value_t::number_integer:
+            return value.get<std::int64_t>();
+        case PropertyValue::value_t::number_unsigned: {
+            constexpr std::uint64_t most = std::numeric_limits<std::int64_t>::max();
+            return static_cast<std::int64_t>(std::min(value.get<std::uint64_t>(), most));
+        }
+        case PropertyValue::value_t::number_float:
+            return truncated(value.get<double>());
+        case PropertyValue::value_t::string:
+            return leadingNumber<std::int64_t>(numberText(value));
+        default:
+            return 0;
+    }
+}
+
+PropertyValue singlePrecision(float value) { return static_cast<double>(value); }
+
+const PropertyValue* entry(const PropertyValue& dictionary, std::string_view key) {
+    if (!dictionary.is_object()) {
+        return nullptr;
+    }
+    const auto found = dictionary.find(key);
+    return found == dictionary.end() ? nullptr : &*found;
+}
+
+}  // namespace tonquil
