@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "values/PropertyValue.h"
 
-#include <charconv>
+#include <algorithm>
 #include <cctype>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -21,6 +22,27 @@ std::string_view numberText(const PropertyValue& string) {
     return text;
 }
 
+/// Whether a decimal number other than 0 is smaller than 1, judged by where its first digit that
+/// counts stands and by its exponent, either of which may be beyond any number type.
+bool isBelowOne(std::string_view number) {
+    const auto mantissa = number.substr(0, number.find_first_of("eE"));
+    std::string_view exponentText = number.substr(mantissa.size());
+    exponentText.remove_prefix(std::min<std::size_t>(exponentText.size(), 1));
+    const bool negative = exponentText.starts_with('-');
+    if (negative || exponentText.starts_with('+')) {
+        exponentText.remove_prefix(1);
+    }
+    std::int64_t exponent = 0;
+    const auto parsed =
+        std::from_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent);
+    if (parsed.ec == std::errc::result_out_of_range) {
+        return negative;
+    }
+    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+    return point - first <= (negative ? exponent : -exponent);
+}
+
 /// The leading number of a string: 0 where there is none, the nearest that there is where it does
 /// not fit.
 template <typename Number>
@@ -35,14 +57,9 @@ Number leadingNumber(std::string_view text) {
     if (error == std::errc::result_out_of_range) {
         const bool negative = text.front() == '-';
         if constexpr (std::is_floating_point_v<Number>) {
-            // Too large and too small are the same error: only an exponent below zero, or a
-            // number without one that begins with a zero, is too small.
-            const std::string_view used(text.data(), static_cast<std::size_t>(end - text.data()));
-            const auto exponent = used.find_first_of("eE");
-            const bool tiny = exponent != std::string_view::npos
-                                  ? used.substr(exponent + 1).starts_with('-')
-                                  : used.substr(negative ? 1 : 0).starts_with('0') ||
-                                        used.substr(negative ? 1 : 0).starts_with('.');
+            // Too large and too small are the same error.
+            const bool tiny =
+                isBelowOne({text.data(), static_cast<std::size_t>(end - text.data())});
             const Number size = tiny ? Number{0} : std::numeric_limits<Number>::infinity();
             return negative ? -size : size;
         } else {
@@ -69,7 +86,9 @@ std::int64_t truncated(double value) {
 
 }  // namespace
 
-bool isNumber(const PropertyValue& value) { return value.is_number() || value.is_boolean(); }
+bool isNumber(const PropertyValue& value) {
+    return value.is_number() || value.is_boolean();
+}
 
 float toSinglePrecision(double value) {
     // Half a step beyond the largest finite single is where rounding reaches infinity.
@@ -119,7 +138,9 @@ std::int64_t integerValue(const PropertyValue& value) {
     }
 }
 
-PropertyValue singlePrecision(float value) { return static_cast<double>(value); }
+PropertyValue singlePrecision(float value) {
+    return static_cast<double>(value);
+}
 
 const PropertyValue* entry(const PropertyValue& dictionary, std::string_view key) {
     if (!dictionary.is_object()) {

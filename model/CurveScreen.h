@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+#include "model/GammaTable.h"
+#include "model/TransferFormula.h"
+
+namespace tonquil {
+
+class ComputedTable;
+
+/// What a curve needs of the screen that it is applied to or read from.
+class CurveScreen {
+ public:
+    virtual ~CurveScreen() = default;
+
+    /// The screen's own calibration; stays valid until it is read anew.
+    [[nodiscard]] virtual const BaseGamma& baseGamma() const = 0;
+    /// Where the screen keeps the table that was computed for it last.
+    [[nodiscard]] virtual ComputedTable& computedTable() = 0;
+
+    /// Puts a table of 256 levels per channel on the display.
+    virtual void setTransferTable(const GammaTable& table) = 0;
+    /// Reads the display's present table into the first slots of each channel, leaves the others
+    /// as they are, and returns how many it filled (0 when the display does not answer).
+    virtual std::uint32_t getTransferTable(GammaTable& table) const = 0;
+    virtual void setTransferFormula(const TransferFormula& formula) = 0;
+    [[nodiscard]] virtual TransferFormula getTransferFormula() const = 0;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+
+#include "model/KVGammaCurve.h"
+
+namespace tonquil {
+
+/// A curve that is a transfer table itself; its inherited points and mode play no part.
+class KVTableGammaCurve : public KVGammaCurve {
+ public:
+    /// Bytes of a raw table file: 256 of red, 256 of green, 256 of blue.
+    static constexpr std::size_t dataSize = GammaTable::channelCount * GammaTable::capacity;
+
+    explicit KVTableGammaCurve(const GammaTable& table) : _array(table) {}
+
+    /// Reads the first 768 bytes as 8-bit samples; null when there are fewer. A sample s is the
+    /// level s / 256, after the i / n rule of computed tables, so that none reaches 1.
+    [[nodiscard]] static std::shared_ptr<KVTableGammaCurve> tableGammaCurveWithData(
+        std::span<const std::uint8_t> data);
+
+    [[nodiscard]] const GammaTable& table() const { return _array; }
+
+    void applyToScreen(CurveScreen& screen) const override;
+    /// Takes the display's present table; slots that the display does not fill stay as they are.
+    void retriveFromScreen(CurveScreen& screen) override;
+
+ private:
+    GammaTable _array;
+};
+
+}  // namespace tonquil
