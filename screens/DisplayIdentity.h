@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tonquil {
+
+/// Names a display while it is attached; another one may be given when it comes back. 0 stands for
+/// the main display.
+using DisplayID = std::uint32_t;
+
+/// What a display says of itself.
+struct DisplayIdentity {
+    /// 0 and 4294967295 mean that the display has none.
+    std::uint32_t serialNumber = 0;
+    std::uint32_t modelNumber = 0;
+    std::uint32_t vendorNumber = 0;
+    bool isBuiltIn = false;
+    double widthInMillimetres = 0;
+    double heightInMillimetres = 0;
+
+    bool operator==(const DisplayIdentity&) const = default;
+};
+
+/// What people are told of a display.
+struct DisplayDescription {
+    /// The name of the socket, such as "DP-1".
+    std::string connector;
+    /// The monitor's own name, such as "DELL U2720Q"; may be empty.
+    std::string productName;
+    /// Entries per channel of the hardware ramp; 0 where there is none.
+    std::uint32_t rampSize = 0;
+    /// Why the display cannot be corrected, as a sentence; empty when it can.
+    std::string obstacle;
+};
+
+}  // namespace tonquil

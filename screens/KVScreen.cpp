@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "screens/KVScreen.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/TQExtendedGammaCurve.h"
+#include "values/PropertyValue.h"
+
+namespace tonquil {
+
+KVScreen::KVScreen(DisplayService& service) : KVScreen(service, service.mainDisplay()) {}
+
+KVScreen::KVScreen(DisplayService& service, DisplayID directDisplayID)
+    : _service(service),
+      _directDisplayID(directDisplayID),
+      _referenceID(referenceIDFor(service.identity(directDisplayID))) {
+    readBaseGamma();
+}
+
+std::shared_ptr<const PlatformScreen> KVScreen::nsscreen() {
+    if (!_nsscreen) {
+        const auto screens = platformScreens(_service);
+        const auto found = std::find_if(screens.begin(), screens.end(), [this](const auto& screen) {
+            return screen->screenNumber() == _directDisplayID;
+        });
+        if (found != screens.end()) {
+            _nsscreen = *found;
+        }
+    }
+    return _nsscreen;
+}
+
+void KVScreen::readBaseGamma() {
+    _baseGamma.sampleCount = _service.getTransferTable(_directDisplayID, _baseGamma.table);
+}
+
+std::uint32_t KVScreen::getBaseGamma(GammaTable& table) const {
+    table = _baseGamma.table;
+    return _baseGamma.sampleCount;
+}
+
+void KVScreen::setGammaCurve(CurvePointer curve) {
+    _gammaCurve = std::move(curve);
+    if (_autoApplyGamma) {
+        applyGammaCurve();
+    }
+}
+
+void KVScreen::applyGammaCurve() {
+    if (_gammaCurve) {
+        _gammaCurve->applyToScreen(*this);
+    }
+}
+
+void KVScreen::setAutoApplyGamma(bool autoApplyGamma) {
+    _autoApplyGamma = autoApplyGamma;
+    if (autoApplyGamma) {
+        applyGammaCurve();
+    }
+}
+
+void KVScreen::retriveGammaCurve() {
+    setGammaCurve(KVGammaCurve::gammaCurveWithScreen(*this));
+}
+
+void KVScreen::retriveExtendedGammaCurve() {
+    setGammaCurve(TQExtendedGammaCurve::gammaCurveWithScreen(*this));
+}
+
+void KVScreen::adoptGammaCurveDictionary(const PropertyValue& dictionary,
+                                         CurvePointer initialCurve) {
+    if (dictionary.is_object()) {
+        for (const auto& [key, value] : dictionary.items()) {
+            if (key == referenceID() || key == oldReferenceID()) {
+                setGammaCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(value));
+                return;
+            }
+        }
+    }
+    if (initialCurve) {
+        setGammaCurve(std::move(initialCurve));
+    }
+}
+
+void KVScreen::setTransferTable(const GammaTable& table) {
+    _service.setTransferTable(_directDisplayID, table);
+}
+
+std::uint32_t KVScreen::getTransferTable(GammaTable& table) const {
+    return _service.getTransferTable(_directDisplayID, table);
+}
+
+void KVScreen::setTransferFormula(const TransferFormula& formula) {
+    _service.setTransferFormula(_directDisplayID, formula);
+}
+
+TransferFormula KVScreen::getTransferFormula() const {
+    return _service.getTransferFormula(_directDisplayID);
+}
+
+}  // namespace tonquil

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <nlohmann/json_fwd.hpp>
+#include <string>
+
+#include "model/ComputedTable.h"
+#include "model/CurveScreen.h"
+#include "model/KVGammaCurve.h"
+#include "screens/DisplayService.h"
+#include "screens/PlatformScreen.h"
+#include "screens/ReferenceID.h"
+
+namespace tonquil {
+
+/// One physical display: its identity, its own calibration (the base), the curve that it was given
+/// and whether a curve is applied as soon as it is assigned.
+///
+/// Screens are made by the registry and live as long as it does, so that a display that is
+/// unplugged and comes back finds its curve. The display service must outlive them.
+class KVScreen : public CurveScreen {
+ public:
+    using CurvePointer = std::shared_ptr<KVGammaCurve>;
+
+    /// The main display.
+    explicit KVScreen(DisplayService& service);
+    /// Computes the reference ID and reads the base; without a curve and with auto-apply off.
+    KVScreen(DisplayService& service, DisplayID directDisplayID);
+    KVScreen(const KVScreen&) = delete;
+    KVScreen& operator=(const KVScreen&) = delete;
+    ~KVScreen() override = default;
+
+    [[nodiscard]] DisplayID directDisplayID() const { return _directDisplayID; }
+    /// Binds the screen to its display's new ID; everything else stays as it was.
+    void _setDirectDisplayID(DisplayID display) { _directDisplayID = display; }
+    [[nodiscard]] const std::string& referenceID() const { return _referenceID.text; }
+    [[nodiscard]] bool isReferenceIDLocallyUnique() const { return _referenceID.isLocallyUnique; }
+    /// The identity that earlier settings used: the display ID in decimal.
+    [[nodiscard]] std::string oldReferenceID() const { return std::to_string(_directDisplayID); }
+    /// The screen that windows know this display by; null while there is none. The first one found
+    /// is kept.
+    [[nodiscard]] std::shared_ptr<const PlatformScreen> nsscreen();
+
+    /// Reads the base anew, so that it becomes the system's present calibration.
+    void readBaseGamma();
+    /// Copies all 256 slots of each channel and returns how many of them the display filled.
+    std::uint32_t getBaseGamma(GammaTable& table) const;
+
+    /// Null until a curve is assigned.
+    [[nodiscard]] const CurvePointer& gammaCurve() const { return _gammaCurve; }
+    /// Assigns a curve, or none; with auto-apply on it is applied at once.
+    void setGammaCurve(CurvePointer curve);
+    /// Puts the curve on the display; does nothing without one. Allocates nothing.
+    void applyGammaCurve();
+    [[nodiscard]] bool autoApplyGamma() const { return _autoApplyGamma; }
+    /// Switching it on applies the curve.
+    void setAutoApplyGamma(bool autoApplyGamma);
+    void activateAutoApplyGamma() { setAutoApplyGamma(true); }
+    void deactivateAutoApplyGamma() { setAutoApplyGamma(false); }
+    /// Assigns a plain curve made from this screen.
+    void retriveGammaCurve();
+    /// Assigns an extended curve made from this screen: the neutral one over the base.
+    void retriveExtendedGammaCurve();
+    /// Assigns the curve that an all-screens dictionary holds under this screen's reference ID or
+    /// its old-style one, whichever key comes first; without either, the initial curve itself if
+    /// one is given.
+    void adoptGammaCurveDictionary(const nlohmann::json& dictionary, CurvePointer initialCurve);
+
+    [[nodiscard]] const BaseGamma& baseGamma() const override { return _baseGamma; }
+    [[nodiscard]] ComputedTable& computedTable() override { return _computedTable; }
+    void setTransferTable(const GammaTable& table) override;
+    std::uint32_t getTransferTable(GammaTable& table) const override;
+    void setTransferFormula(const TransferFormula& formula) override;
+    [[nodiscard]] TransferFormula getTransferFormula() const override;
+
+ private:
+    DisplayService& _service;
+    DisplayID _directDisplayID;
+    BaseGamma _baseGamma;
+    CurvePointer _gammaCurve;
+    bool _autoApplyGamma = false;
+    ReferenceID _referenceID;
+    std::shared_ptr<const PlatformScreen> _nsscreen;
+    ComputedTable _computedTable;
+};
+
+}  // namespace tonquil

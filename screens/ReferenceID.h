@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "screens/DisplayIdentity.h"
+
+namespace tonquil {
+
+/// The text that identifies a display across sessions and reconnections, and the key of every
+/// per-display setting.
+struct ReferenceID {
+    std::string text;
+    /// True when the display has no serial number, so that another machine's display of the same
+    /// model may have the same text.
+    bool isLocallyUnique = false;
+};
+
+/// "serial-model-vendor", or, without a usable serial number, "builtin-model-vendor" for a
+/// built-in display and "WIDTHxHEIGHT-model-vendor" (millimetres, six decimals, a point in every
+/// locale) for any other.
+[[nodiscard]] ReferenceID referenceIDFor(const DisplayIdentity& identity);
+
+}  // namespace tonquil

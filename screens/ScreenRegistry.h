@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <nlohmann/json_fwd.hpp>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "screens/DisplayService.h"
+#include "screens/KVScreen.h"
+
+namespace tonquil {
+
+/// The screens online at the last update, and every screen seen since the program started.
+///
+/// A program has one registry, made where the program is composed. Looking up a screen never
+/// reports an error: a null pointer or an empty list means that there is none.
+class ScreenRegistry {
+ public:
+    using ScreenPointer = std::shared_ptr<KVScreen>;
+    using Screens = std::vector<ScreenPointer>;
+
+    /// No more displays than this are listed.
+    static constexpr std::size_t mostScreens = 25;
+
+    /// The service must outlive the registry and its screens.
+    explicit ScreenRegistry(DisplayService& service) : _service(service) {}
+    ScreenRegistry(const ScreenRegistry&) = delete;
+    ScreenRegistry& operator=(const ScreenRegistry&) = delete;
+
+    /// Lists the displays anew. A display is recognised by its display ID if that was ever seen,
+    /// else by its reference ID if a screen of the list so far has it.
+    ///
+    /// Of two displays with the same reference ID one that arrives later therefore takes the
+    /// other's screen over, and the list holds that screen twice; both have screens of their own
+    /// only when they are there at the first update.
+    void updateScreenList();
+    /// In the display service's order; the first call makes the list.
+    [[nodiscard]] const Screens& screens();
+    /// In no particular order.
+    [[nodiscard]] const Screens& sightedScreens() const { return _sightedScreens; }
+
+    /// The screens whose bounds contain a point of the bottom-up desktop space.
+    [[nodiscard]] Screens screensWithPoint(const Point& point);
+    /// The screens whose bounds are exactly a rectangle of the bottom-up desktop space.
+    [[nodiscard]] Screens screensWithRect(const Rectangle& rectangle);
+    /// The screens whose bounds contain, or intersect, a rectangle of the *top-down* space.
+    [[nodiscard]] Screens screensContainingRect(const Rectangle& rectangle);
+    [[nodiscard]] Screens screensIntersectingRect(const Rectangle& rectangle);
+    /// The screen under the centre of the platform screen's frame, taken unflipped; null for null
+    /// only where no display lies at the origin.
+    [[nodiscard]] ScreenPointer screenWithScreen(const PlatformScreen* platformScreen);
+    /// The sighted screen with this ID, else a new one that the registry does not keep.
+    [[nodiscard]] ScreenPointer screenWithDirectDisplayID(DisplayID display);
+    /// Null also before the first update.
+    [[nodiscard]] ScreenPointer _sightedScreenWithDirectDisplayID(DisplayID display) const;
+    /// The first listed screen with this reference ID, by exact match; null before the first
+    /// update.
+    [[nodiscard]] ScreenPointer screenWithReferenceID(std::string_view referenceID) const;
+
+    /// Assigns to each listed screen that has an entry in an all-screens dictionary (under its
+    /// reference ID; old-style IDs are not looked for) its curve, and to all others the initial
+    /// curve itself, if one is given: they share it.
+    void adoptGammaCurveDictionary(const nlohmann::json& dictionary,
+                                   const KVScreen::CurvePointer& initialCurve);
+    /// The curves of the listed screens by reference ID.
+    [[nodiscard]] nlohmann::json gammaCurveDictionary();
+    /// The same laid over a given all-screens dictionary, whose other entries stay as they are.
+    [[nodiscard]] nlohmann::json gammaCurveDictionaryExtendingDictionary(
+        const nlohmann::json& dictionary);
+
+ private:
+    [[nodiscard]] ScreenPointer screenForOnlineDisplay(DisplayID display);
+    template <typename Predicate>
+    [[nodiscard]] Screens screensWithBounds(Predicate predicate);
+
+    DisplayService& _service;
+    std::optional<Screens> _screens;
+    Screens _sightedScreens;
+};
+
+}  // namespace tonquil
