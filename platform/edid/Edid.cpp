@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "platform/edid/Edid.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tonquil {
+
+namespace {
+
+constexpr std::size_t blockSize = 128;
+constexpr std::array<std::uint8_t, 8> header{0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00};
+
+// Four 18-byte descriptors; those that begin with three zeros hold text or limits by their tag.
+constexpr std::size_t firstDescriptor = 54;
+constexpr std::size_t descriptorSize = 18;
+constexpr std::size_t descriptorCount = 4;
+constexpr std::uint8_t serialTextTag = 0xFF;
+constexpr std::uint8_t productNameTag = 0xFC;
+
+/// The text of the first descriptor with this tag: up to 13 characters, ended by a line feed and
+/// padded with spaces.
+std::string descriptorText(std::span<const std::uint8_t> block, std::uint8_t tag) {
+    for (std::size_t i = 0; i < descriptorCount; ++i) {
+        const auto descriptor = block.subspan(firstDescriptor + i * descriptorSize, descriptorSize);
+        if (descriptor[0] != 0 || descriptor[1] != 0 || descriptor[2] != 0 ||
+            descriptor[3] != tag) {
+            continue;
+        }
+        std::string text;
+        for (const std::uint8_t byte : descriptor.subspan(5)) {
+            if (byte == '\n') {
+                break;
+            }
+            if (byte >= ' ' && byte < 0x7F) {
+                text.push_back(static_cast<char>(byte));
+            }
+        }
+        const auto first = text.find_first_not_of(' ');
+        const auto last = text.find_last_not_of(' ');
+        return first == std::string::npos ? std::string() : text.substr(first, last - first + 1);
+    }
+    return {};
+}
+
+bool isFiller(std::uint32_t serial) {
+    return serial == 0 || serial == 0x01010101U || serial == 0xFFFFFFFFU;
+}
+
+/// 32-bit FNV-1a. Settings are kept under what it gives, so it must never change.
+std::uint32_t hashOf(const std::string& text) {
+    std::uint32_t hash = 0x811C9DC5U;
+    for (const char c : text) {
+        hash = (hash ^ static_cast<std::uint8_t>(c)) * 0x01000193U;
+    }
+    // The two values that mean "no serial number" elsewhere must not come out of a serial number.
+    return hash == 0 || hash == 0xFFFFFFFFU ? 1 : hash;
+}
+
+}  // namespace
+
+std::optional<Edid> parseEdid(std::span<const std::uint8_t> bytes) {
+    if (bytes.size() < blockSize || !std::equal(header.begin(), header.end(), bytes.begin())) {
+        return std::nullopt;
+    }
+    const auto block = bytes.first(blockSize);
+    Edid edid;
+    edid.vendorNumber = (std::uint32_t{block[8]} << 8U) | block[9];
+    edid.modelNumber = (std::uint32_t{block[11]} << 8U) | block[10];
+    edid.serialNumber = (std::uint32_t{block[15]} << 24U) | (std::uint32_t{block[14]} << 16U) |
+                        (std::uint32_t{block[13]} << 8U) | block[12];
+    if (isFiller(edid.serialNumber)) {
+        const std::string text = descriptorText(block, serialTextTag);
+        edid.serialNumber = text.empty() ? 0 : hashOf(text);
+    }
+    edid.productName = descriptorText(block, productNameTag);
+    return edid;
+}
+
+}  // namespace tonquil

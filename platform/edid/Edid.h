@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+
+namespace tonquil {
+
+/// What a monitor says of itself in the first 128 bytes of its EDID (VESA Enhanced EDID Standard,
+/// release A).
+struct Edid {
+    /// The 16-bit manufacturer code, three letters of five bits.
+    std::uint32_t vendorNumber = 0;
+    /// The manufacturer's product code.
+    std::uint32_t modelNumber = 0;
+    /// The 32-bit serial number; where that is 0 or a filler, a hash of the serial number's text;
+    /// 0 where there is neither.
+    std::uint32_t serialNumber = 0;
+    /// May be empty; printable ASCII.
+    std::string productName;
+};
+
+/// Nothing unless the bytes begin with a whole base block. Its checksum is not asked for: the
+/// system that hands the block out has verified what can be, and a block that is wrong in the same
+/// way each time still tells one monitor from another.
+[[nodiscard]] std::optional<Edid> parseEdid(std::span<const std::uint8_t> bytes);
+
+}  // namespace tonquil

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "platform/icc/CalibrationRamp.h"
+
+#include <lcms2.h>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+
+namespace tonquil {
+
+namespace {
+
+struct CloseProfile {
+    void operator()(void* profile) const { cmsCloseProfile(profile); }
+};
+
+}  // namespace
+
+std::optional<HardwareRamp> calibrationRamp(std::span<const std::uint8_t> profile,
+                                            std::uint32_t size) {
+    if (size < 2 || profile.size() > std::numeric_limits<cmsUInt32Number>::max()) {
+        return std::nullopt;
+    }
+    const std::unique_ptr<void, CloseProfile> opened(
+        cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
+    if (!opened) {
+        return std::nullopt;
+    }
+    // Owned by the profile: three curves.
+    const auto* curves =
+        static_cast<const cmsToneCurve* const*>(cmsReadTag(opened.get(), cmsSigVcgtTag));
+    if (curves == nullptr) {
+        return std::nullopt;
+    }
+    HardwareRamp ramp(size);
+    for (std::size_t c = 0; c < GammaTable::channelCount; ++c) {
+        for (std::uint32_t i = 0; i < size; ++i) {
+            const float input = static_cast<float>(i) / static_cast<float>(size - 1);
+            const float level = cmsEvalToneCurveFloat(curves[c], input);
+            const float held = level > 0.0F ? std::fmin(level, 1.0F) : 0.0F;
+            ramp.channel(c)[i] = static_cast<std::uint16_t>(std::lround(held * 65535.0F));
+        }
+    }
+    return ramp;
+}
+
+}  // namespace tonquil

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "model/GammaTable.h"
+
+namespace tonquil {
+
+/// The ramp of a piece of display hardware: three channels of as many 16-bit entries as it has,
+/// 0 (dark) to 65535 (full).
+class HardwareRamp {
+ public:
+    /// Anything longer is taken for a driver's mistake and refused before memory is taken.
+    static constexpr std::uint32_t largestSize = 16384;
+
+    HardwareRamp() = default;
+    /// All entries 0.
+    explicit HardwareRamp(std::uint32_t size) : _size(size), _entries(3 * std::size_t{size}) {}
+
+    /// Entries per channel.
+    [[nodiscard]] std::uint32_t size() const { return _size; }
+    [[nodiscard]] std::span<std::uint16_t> channel(std::size_t index) {
+        return std::span(_entries).subspan(index * _size, _size);
+    }
+    [[nodiscard]] std::span<const std::uint16_t> channel(std::size_t index) const {
+        return std::span(_entries).subspan(index * _size, _size);
+    }
+    /// Red, green and blue one after the other.
+    [[nodiscard]] std::span<const std::uint16_t> entries() const { return _entries; }
+    [[nodiscard]] std::span<std::uint16_t> entries() { return _entries; }
+
+    /// A 64-bit digest by which a ramp is recognised again; not proof against forgery.
+    [[nodiscard]] std::uint64_t fingerprint() const;
+
+    /// Replaces the entries by a table, resampled linearly from end to end; 256 entries take it
+    /// level by level. Levels are clamped to 0…1 and rounded, a not-a-number becomes 0. Keeps the
+    /// size and allocates nothing.
+    ///
+    /// On a ramp shorter than 256 a table whose slots past the ramp's length are all 0 is one that
+    /// was computed for that length and is taken slot by slot.
+    void setTable(const GammaTable& table);
+    /// Writes the ramp into a table's first slots and returns how many: all 256, resampled, or
+    /// each entry of a ramp that has fewer.
+    std::uint32_t getTable(GammaTable& table) const;
+
+    /// From 0 to 65535 in equal steps.
+    [[nodiscard]] static HardwareRamp straight(std::uint32_t size);
+
+    bool operator==(const HardwareRamp&) const = default;
+
+ private:
+    std::uint32_t _size = 0;
+    std::vector<std::uint16_t> _entries;
+};
+
+}  // namespace tonquil

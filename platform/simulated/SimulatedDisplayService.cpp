@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "platform/simulated/SimulatedDisplayService.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tonquil {
+
+namespace {
+
+class Observation : public DisplayService::Subscription {
+ public:
+    Observation(SimulatedDesk& desk, SimulatedDesk::Observer observer)
+        : _desk(desk), _position(desk.addObserver(std::move(observer))) {}
+    Observation(const Observation&) = delete;
+    Observation& operator=(const Observation&) = delete;
+    ~Observation() override { _desk.removeObserver(_position); }
+
+ private:
+    SimulatedDesk& _desk;
+    std::list<SimulatedDesk::Observer>::iterator _position;
+};
+
+}  // namespace
+
+std::vector<DisplayID> SimulatedDisplayService::onlineDisplays(std::size_t most) {
+    std::vector<DisplayID> online;
+    for (const SimulatedDisplay& display : _desk.displays()) {
+        if (online.size() < most) {
+            online.push_back(display.id);
+        }
+    }
+    return online;
+}
+
+DisplayID SimulatedDisplayService::mainDisplay() {
+    const SimulatedDisplay* display = _desk.find(0);
+    return display == nullptr ? 0 : display->id;
+}
+
+DisplayIdentity SimulatedDisplayService::identity(DisplayID display) {
+    const SimulatedDisplay* found = _desk.find(display);
+    return found == nullptr ? DisplayIdentity{} : found->identity;
+}
+
+DisplayDescription SimulatedDisplayService::description(DisplayID display) {
+    const SimulatedDisplay* found = _desk.find(display);
+    if (found == nullptr) {
+        return {};
+    }
+    const bool hasGamma = found->ramp.size() >= 2;
+    return {.connector = found->connector,
+            .productName = found->productName,
+            .rampSize = hasGamma ? found->ramp.size() : 0,
+            .obstacle = hasGamma ? "" : "This display has no gamma ramp."};
+}
+
+Rectangle SimulatedDisplayService::bounds(DisplayID display) {
+    const SimulatedDisplay* found = _desk.find(display);
+    return found == nullptr ? Rectangle{} : found->bounds;
+}
+
+SimulatedDisplay* SimulatedDisplayService::correctable(DisplayID display) {
+    SimulatedDisplay* found = _desk.find(display);
+    if (found != nullptr && found->ramp.size() >= 2) {
+        _reported.erase(display);
+        return found;
+    }
+    if (_reported.insert(display).second && _log) {
+        _log("Display " + std::to_string(display) +
+             (found == nullptr ? " is gone." : " has no gamma ramp."));
+    }
+    return nullptr;
+}
+
+void SimulatedDisplayService::setTransferTable(DisplayID display, const GammaTable& table) {
+    SimulatedDisplay* found = correctable(display);
+    if (found == nullptr) {
+        _allReached = false;
+        return;
+    }
+    RampHistory& history = _desk.history(found->id);
+    if (!history.isCorrection(found->ramp.fingerprint())) {
+        history.setSystemRamp(found->ramp);
+    }
+    found->ramp.setTable(table);
+    history.addCorrection(found->ramp.fingerprint());
+    ++_desk.rampWrites;
+}
+
+std::uint32_t SimulatedDisplayService::getTransferTable(DisplayID display, GammaTable& table) {
+    const SimulatedDisplay* found = correctable(display);
+    return found == nullptr ? 0 : _desk.history(found->id).uncorrected(found->ramp).getTable(table);
+}
+
+std::uint32_t SimulatedDisplayService::getHardwareTable(DisplayID display, GammaTable& table) {
+    const SimulatedDisplay* found = correctable(display);
+    return found == nullptr ? 0 : found->ramp.getTable(table);
+}
+
+void SimulatedDisplayService::restoreSystemCalibration(std::span<const DisplayID> displays) {
+    for (const DisplayID display : displays) {
+        if (SimulatedDisplay* found = correctable(display)) {
+            RampHistory& history = _desk.history(found->id);
+            found->ramp =
+                found->profileRamp ? *found->profileRamp : history.uncorrected(found->ramp);
+            history.setSystemRamp(found->ramp);
+            ++_desk.rampWrites;
+        }
+    }
+}
+
+std::unique_ptr<DisplayService::Subscription>
+SimulatedDisplayService::registerReconfigurationCallback(ReconfigurationCallback callback) {
+    return std::make_unique<Observation>(_desk, std::move(callback));
+}
+
+}  // namespace tonquil
