@@ -1,0 +1,319 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/X11DisplayService.h"
+
+#include <algorithm>
+#include <list>
+#include <utility>
+
+#include "platform/icc/CalibrationRamp.h"
+
+namespace tonquil {
+
+namespace {
+
+constexpr std::size_t mostProfileBytes = 4 * std::size_t{1024} * 1024;
+
+/// Whether an equal entry stands in the other list.
+bool isIn(const std::vector<X11Display>& displays, const X11Display& display) {
+    return std::find(displays.begin(), displays.end(), display) != displays.end();
+}
+
+}  // namespace
+
+struct X11DisplayService::Callbacks {
+    std::list<std::shared_ptr<ReconfigurationCallback>> all;
+};
+
+Result<std::unique_ptr<X11DisplayService>> X11DisplayService::open(const char* display,
+                                                                   RunLoop* runLoop, Log log) {
+    auto connection = X11Connection::open(display);
+    if (!connection) {
+        return tl::unexpected(std::move(connection.error()));
+    }
+    return std::unique_ptr<X11DisplayService>(
+        new X11DisplayService(std::move(*connection), runLoop, std::move(log)));
+}
+
+X11DisplayService::X11DisplayService(std::unique_ptr<X11Connection> connection, RunLoop* runLoop,
+                                     Log log)
+    : _connection(std::move(connection)),
+      _runLoop(runLoop),
+      _log(std::move(log)),
+      _ramps(*_connection),
+      _callbacks(std::make_shared<Callbacks>()) {}
+
+X11DisplayService::~X11DisplayService() = default;
+
+const std::vector<X11Display>& X11DisplayService::layout() {
+    if (!_layout) {
+        readLayout();
+    }
+    return *_layout;
+}
+
+void X11DisplayService::readLayout() {
+    const auto previous = std::exchange(_layout, readX11Layout(*_connection));
+    _isLayoutOfBatch = true;
+    _areRampsOfBatch = false;
+    for (const X11Display& display : previous.value_or(std::vector<X11Display>{})) {
+        const bool keepsItsCrtc =
+            std::any_of(_layout->begin(), _layout->end(), [&](const X11Display& now) {
+                return now.output == display.output && now.crtc == display.crtc;
+            });
+        // A correction left behind would be whoever's display comes to this CRTC next.
+        if (!keepsItsCrtc && _ramps.isLoaded(display.crtc)) {
+            _ramps.release(display.crtc);
+        }
+    }
+}
+
+const X11Display* X11DisplayService::find(DisplayID display) {
+    const auto& displays = layout();
+    const auto found = std::find_if(displays.begin(), displays.end(), [=](const auto& each) {
+        return display == 0 || each.output == display;
+    });
+    return found == displays.end() ? nullptr : &*found;
+}
+
+const X11Display* X11DisplayService::correctable(DisplayID display) {
+    const X11Display* found = find(display);
+    if (found == nullptr) {
+        report(display, "Display " + std::to_string(display) + " is gone.");
+        return nullptr;
+    }
+    if (_connection->isXwayland() ||
+        (_ramps.isLoaded(found->crtc) && _ramps.size(found->crtc) == 0)) {
+        report(display, found->connector + ": " + description(display).obstacle);
+        return nullptr;
+    }
+    return found;
+}
+
+std::vector<DisplayID> X11DisplayService::onlineDisplays(std::size_t most) {
+    if (!_isInBatch || !_isLayoutOfBatch) {
+        readLayout();
+    }
+    std::vector<DisplayID> online;
+    for (const X11Display& display : *_layout) {
+        if (online.size() < most) {
+            online.push_back(display.output);
+        }
+    }
+    if (_reconfiguration) {
+        _reconfiguration->takeQueuedEvents();
+    }
+    return online;
+}
+
+DisplayID X11DisplayService::mainDisplay() {
+    const X11Display* display = find(0);
+    return display == nullptr ? 0 : display->output;
+}
+
+DisplayIdentity X11DisplayService::identity(DisplayID display) {
+    const X11Display* found = find(display);
+    return found == nullptr ? DisplayIdentity{} : found->identity;
+}
+
+DisplayDescription X11DisplayService::description(DisplayID display) {
+    const X11Display* found = find(display);
+    if (found == nullptr) {
+        return {};
+    }
+    lookAtRamp(*found);
+    DisplayDescription description{.connector = found->connector,
+                                   .productName = found->productName,
+                                   .rampSize = _ramps.size(found->crtc),
+                                   .obstacle = {}};
+    if (_connection->isXwayland()) {
+        description.obstacle =
+            "This X server only draws into a Wayland desktop: setting its gamma ramps changes "
+            "nothing.";
+    } else if (description.rampSize == 0) {
+        description.obstacle = "This display has no gamma ramp.";
+    }
+    return description;
+}
+
+Rectangle X11DisplayService::bounds(DisplayID display) {
+    const X11Display* found = find(display);
+    return found == nullptr ? Rectangle{} : found->bounds;
+}
+
+void X11DisplayService::lookAtRamp(const X11Display& display) {
+    if (!_isInBatch) {
+        _ramps.load({display.crtc});
+    } else if (!_areRampsOfBatch) {
+        std::vector<xcb_randr_crtc_t> crtcs;
+        for (const X11Display& each : layout()) {
+            crtcs.push_back(each.crtc);
+        }
+        _ramps.load(crtcs);
+        _areRampsOfBatch = true;
+    }
+    if (_reconfiguration) {
+        _reconfiguration->takeQueuedEvents();
+    }
+}
+
+void X11DisplayService::setTransferTable(DisplayID display, const GammaTable& table) {
+    const DisplayBatch batch(*this);
+    const X11Display* found = correctable(display);
+    if (found != nullptr && !_ramps.isLoaded(found->crtc)) {
+        lookAtRamp(*found);
+        found = correctable(display);
+    }
+    if (found == nullptr) {
+        _allReached = false;
+        return;
+    }
+    _ramps.setCorrection(found->crtc, table);
+}
+
+std::uint32_t X11DisplayService::getTransferTable(DisplayID display, GammaTable& table) {
+    const X11Display* found = correctable(display);
+    if (found == nullptr) {
+        return 0;
+    }
+    lookAtRamp(*found);
+    const auto ramp = _ramps.uncorrected(found->crtc);
+    return ramp ? ramp->getTable(table) : 0;
+}
+
+std::uint32_t X11DisplayService::getHardwareTable(DisplayID display, GammaTable& table) {
+    const X11Display* found = correctable(display);
+    if (found == nullptr) {
+        return 0;
+    }
+    lookAtRamp(*found);
+    const HardwareRamp* ramp = _ramps.present(found->crtc);
+    return ramp == nullptr ? 0 : ramp->getTable(table);
+}
+
+std::optional<HardwareRamp> X11DisplayService::profileRamp(const X11Display& display) {
+    // Desktops publish the main monitor's profile under the plain name and the others' by their
+    // number, in the order that the layout has.
+    const auto index = static_cast<std::size_t>(&display - layout().data());
+    const std::string name = index == 0 ? "_ICC_PROFILE" : "_ICC_PROFILE_" + std::to_string(index);
+    const auto profile = _connection->rootProperty(_connection->atom(name), mostProfileBytes);
+    return profile.empty() ? std::nullopt : calibrationRamp(profile, _ramps.size(display.crtc));
+}
+
+void X11DisplayService::restoreSystemCalibration(std::span<const DisplayID> displays) {
+    const DisplayBatch batch(*this);
+    for (const DisplayID display : displays) {
+        const X11Display* found = correctable(display);
+        if (found != nullptr) {
+            lookAtRamp(*found);
+            found = correctable(display);
+        }
+        if (found == nullptr) {
+            _allReached = false;
+            continue;
+        }
+        auto ramp = profileRamp(*found);
+        if (!ramp) {
+            ramp = _ramps.uncorrected(found->crtc);
+        }
+        if (ramp) {
+            _ramps.setSystemRamp(found->crtc, *ramp);
+        }
+    }
+}
+
+void X11DisplayService::warpPointer(const Point& point) {
+    xcb_warp_pointer(_connection->get(), XCB_NONE, _connection->root(), 0, 0, 0, 0,
+                     static_cast<std::int16_t>(point.x), static_cast<std::int16_t>(point.y));
+    xcb_flush(_connection->get());
+}
+
+void X11DisplayService::beginBatch() {
+    _isInBatch = true;
+    _isLayoutOfBatch = false;
+    _areRampsOfBatch = false;
+    _allReached = true;
+}
+
+bool X11DisplayService::endBatch() {
+    _isInBatch = false;
+    for (const xcb_randr_crtc_t crtc : _ramps.finish()) {
+        _allReached = false;
+        const auto refused =
+            std::find_if(layout().begin(), layout().end(),
+                         [=](const X11Display& display) { return display.crtc == crtc; });
+        if (refused != layout().end()) {
+            report(refused->output, refused->connector + " did not take its gamma ramp.");
+        }
+    }
+    if (_connection->isLost()) {
+        _allReached = false;
+        report(0, "The X server has gone.");
+    }
+    if (_reconfiguration) {
+        _reconfiguration->takeQueuedEvents();
+    }
+    return _allReached;
+}
+
+void X11DisplayService::report(DisplayID display, const std::string& text) {
+    if (_reported.insert(display).second && _log) {
+        _log(text);
+    }
+}
+
+std::unique_ptr<DisplayService::Subscription> X11DisplayService::registerReconfigurationCallback(
+    ReconfigurationCallback callback) {
+    class Registration : public Subscription {
+     public:
+        Registration(std::shared_ptr<Callbacks> callbacks, ReconfigurationCallback callback)
+            : _callbacks(std::move(callbacks)),
+              _callback(std::make_shared<ReconfigurationCallback>(std::move(callback))) {
+            _callbacks->all.push_back(_callback);
+        }
+        Registration(const Registration&) = delete;
+        Registration& operator=(const Registration&) = delete;
+        ~Registration() override { _callbacks->all.remove(_callback); }
+
+     private:
+        std::shared_ptr<Callbacks> _callbacks;
+        std::shared_ptr<ReconfigurationCallback> _callback;
+    };
+    if (!_reconfiguration && _runLoop != nullptr) {
+        // Selected first and read after, so that no change falls between the two.
+        _reconfiguration = std::make_unique<X11Reconfiguration>(*_connection, *_runLoop, _log,
+                                                                [this] { displaysChanged(); });
+        readLayout();
+        _announced = layout();
+    }
+    return std::make_unique<Registration>(_callbacks, std::move(callback));
+}
+
+void X11DisplayService::displaysChanged() {
+    readLayout();
+    const auto before = std::exchange(_announced, layout());
+    std::vector<DisplayID> affected;
+    for (const X11Display& display : before) {
+        if (!isIn(_announced, display)) {
+            affected.push_back(display.output);
+        }
+    }
+    for (const X11Display& display : _announced) {
+        if (!isIn(before, display) &&
+            std::find(affected.begin(), affected.end(), display.output) == affected.end()) {
+            affected.push_back(display.output);
+        }
+    }
+    _reported.clear();
+    // A callback may end its own registration or another's.
+    const auto callbacks = _callbacks->all;
+    for (const ReconfigurationFlags flags : {beginConfiguration, endConfiguration}) {
+        for (const DisplayID display : affected) {
+            for (const auto& callback : callbacks) {
+                (*callback)(display, flags);
+            }
+        }
+    }
+    _reconfiguration->takeQueuedEvents();
+}
+
+}  // namespace tonquil
