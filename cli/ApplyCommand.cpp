@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include <utility>
+#include <vector>
+
+#include "cli/Commands.h"
+#include "cli/CurveSource.h"
+#include "cli/ScreenSelection.h"
+#include "model/TQExtendedGammaCurve.h"
+
+namespace tonquil {
+
+namespace {
+
+using Assignment = std::pair<ScreenRegistry::ScreenPointer, KVScreen::CurvePointer>;
+
+/// Which curve each screen gets: its entry under its reference ID, else under its old-style one.
+Result<std::vector<Assignment>> assign(const CurvesByDisplay& curves,
+                                       const ScreenRegistry::Screens& screens) {
+    std::vector<Assignment> assignments;
+    for (const auto& screen : screens) {
+        const PropertyValue* dictionary = entry(curves.screens, screen->referenceID());
+        if (dictionary == nullptr || !dictionary->is_object()) {
+            dictionary = entry(curves.screens, screen->oldReferenceID());
+        }
+        if (dictionary != nullptr && dictionary->is_object()) {
+            assignments.emplace_back(screen,
+                                     TQExtendedGammaCurve::gammaCurveWithDictionary(*dictionary));
+        }
+    }
+    if (assignments.empty()) {
+        return problem(
+            "Settings from this file apply to different screens than those available on this "
+            "computer.");
+    }
+    return assignments;
+}
+
+Result<std::vector<Assignment>> assign(const OneCurve& curve,
+                                       const ScreenRegistry::Screens& screens) {
+    std::vector<Assignment> assignments;
+    for (const auto& screen : screens) {
+        assignments.emplace_back(screen, curve);
+    }
+    return assignments;
+}
+
+}  // namespace
+
+Result<void> runApply(const Arguments& arguments, const OpenDisplays& openDisplays,
+                      std::ostream& notes) {
+    const auto curves = readCurves(arguments);
+    if (!curves) {
+        return tl::unexpected(curves.error());
+    }
+    const auto service = openDisplays();
+    if (!service) {
+        return tl::unexpected(service.error());
+    }
+    DisplayBatch batch(**service);
+    ScreenRegistry registry(**service);
+    registry.updateScreenList();
+    const auto screens = selectScreens(registry, **service, arguments.displays, notes);
+    if (!screens) {
+        return tl::unexpected(screens.error());
+    }
+    const auto assignments =
+        std::visit([&](const auto& source) { return assign(source, *screens); }, *curves);
+    if (!assignments) {
+        return tl::unexpected(assignments.error());
+    }
+    for (const auto& [screen, curve] : *assignments) {
+        screen->setGammaCurve(curve);
+        screen->applyGammaCurve();
+    }
+    if (!batch.finish()) {
+        return problem("Not every display took the correction.");
+    }
+    return {};
+}
+
+}  // namespace tonquil

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "foundation/Problem.h"
+
+namespace tonquil {
+
+/// A command line, taken apart. Which options a command takes is checked already.
+struct Arguments {
+    enum class Command { help, version, displays, apply, restore, read, table };
+
+    Command command = Command::help;
+    bool json = false;
+    bool hardware = false;
+    /// Reference IDs of the displays that are meant; empty for all.
+    std::vector<std::string> displays;
+    std::optional<std::string> curve;
+    std::optional<std::string> file;
+    std::optional<std::string> base;
+    std::uint32_t samples = 256;
+};
+
+/// The problem of a command line that makes no sense says what is wrong with it.
+[[nodiscard]] Result<Arguments> parseArguments(int argc, char* const* argv);
+
+}  // namespace tonquil

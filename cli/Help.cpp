@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Help.h"
+
+namespace tonquil {
+
+const std::string_view helpText =
+    R"(tonquilctl: corrects the tone and colour of displays from a shell
+
+  tonquilctl displays [--json]
+      lists the displays: number, reference ID, connector, bounds, ramp size,
+      and whether the ID is unique everywhere or only among this machine's
+  tonquilctl apply FILE [--display REFERENCE-ID]...
+      applies a settings file or a raw table of 768 bytes
+  tonquilctl apply --curve '[13 numbers]' [--display REFERENCE-ID]...
+      applies a curve: mode (0 absolute, 1 over the calibration), master black,
+      middle and white, then black, middle and white of red, green and blue
+  tonquilctl restore [--display REFERENCE-ID]...
+      goes back to the system's own calibration
+  tonquilctl read [--display REFERENCE-ID] [--hardware]
+      prints the system's table of a display, or what is on its hardware now
+  tonquilctl table (FILE | --curve '[13 numbers]') [--samples N] [--base FILE]
+      computes a table without any display; of a file for several displays,
+      --display REFERENCE-ID says which curve
+  tonquilctl --help | --version
+
+Without --display, apply and restore mean all displays, read the main one.
+Tables are lines of: index, red, green, blue, separated by tabs, levels 0 to 1.
+The exit status is 0, 1 for a failure and 2 for a wrong command line.
+)";
+
+}  // namespace tonquil

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include <vector>
+
+#include "cli/Commands.h"
+#include "cli/ScreenSelection.h"
+
+namespace tonquil {
+
+Result<void> runRestore(const Arguments& arguments, DisplayService& service, std::ostream& notes) {
+    DisplayBatch batch(service);
+    ScreenRegistry registry(service);
+    registry.updateScreenList();
+    const auto screens = selectScreens(registry, service, arguments.displays, notes);
+    if (!screens) {
+        return tl::unexpected(screens.error());
+    }
+    std::vector<DisplayID> displays;
+    for (const auto& screen : *screens) {
+        displays.push_back(screen->directDisplayID());
+    }
+    service.restoreSystemCalibration(displays);
+    if (!batch.finish()) {
+        return problem("Not every display went back to its calibration.");
+    }
+    return {};
+}
+
+}  // namespace tonquil

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "foundation/Problem.h"
+#include "screens/ScreenRegistry.h"
+
+namespace tonquil {
+
+/// The screens with the given reference IDs, or all when none is given, without those that cannot
+/// be corrected.
+///
+/// A problem if an ID is no attached display's, if a display that was named cannot be corrected,
+/// or if no screen is left. A display that was not named and cannot be corrected is only noted.
+[[nodiscard]] Result<ScreenRegistry::Screens> selectScreens(
+    ScreenRegistry& registry, DisplayService& service, const std::vector<std::string>& referenceIDs,
+    std::ostream& notes);
+
+}  // namespace tonquil

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "platform/choice/DisplayServiceChoice.h"
+
+#include <cstdlib>
+#include <string_view>
+#include <utility>
+
+#include "files/BoundedFile.h"
+#include "platform/simulated/SimulatedDeskReader.h"
+#include "platform/simulated/SimulatedDisplayService.h"
+#include "platform/x11/X11DisplayService.h"
+
+namespace tonquil {
+
+namespace {
+
+std::string_view environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string_view() : std::string_view(value);
+}
+
+struct DeskHolder {
+    SimulatedDesk desk;
+};
+
+/// A simulated service together with its desk.
+class OwnDeskService : private DeskHolder, public SimulatedDisplayService {
+ public:
+    OwnDeskService(SimulatedDesk own, Log log)
+        : DeskHolder{std::move(own)}, SimulatedDisplayService(desk, std::move(log)) {}
+};
+
+Result<std::unique_ptr<DisplayService>> openSimulated(const Log& log) {
+    const std::string_view file = environment("TONQUIL_SIMULATED_DESK");
+    if (file.empty()) {
+        return std::make_unique<OwnDeskService>(demonstrationDesk(), log);
+    }
+    constexpr std::size_t mostBytes = std::size_t{64} * 1024;
+    const auto bytes = readBoundedFile(file, mostBytes);
+    if (!bytes) {
+        return tl::unexpected(bytes.error());
+    }
+    auto desk = readSimulatedDesk(std::string(bytes->begin(), bytes->end()));
+    if (!desk) {
+        return tl::unexpected(std::move(desk.error()));
+    }
+    return std::make_unique<OwnDeskService>(std::move(*desk), log);
+}
+
+Result<std::unique_ptr<DisplayService>> openX11(RunLoop* runLoop, const Log& log) {
+    auto service = X11DisplayService::open(nullptr, runLoop, log);
+    if (!service) {
+        return tl::unexpected(std::move(service.error()));
+    }
+    return std::move(*service);
+}
+
+}  // namespace
+
+Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop, const Log& log) {
+    const std::string_view wanted = environment("TONQUIL_DISPLAY_SERVICE");
+    if (wanted == "simulated") {
+        return openSimulated(log);
+    }
+    if (!wanted.empty() && wanted != "x11") {
+        return problem("TONQUIL_DISPLAY_SERVICE is \"" + std::string(wanted) +
+                       "\"; it can be x11 or simulated.");
+    }
+    // Whether an X server is a real one is for the server to say, not for the session's variables:
+    // a private server may well run inside a Wayland session.
+    if (wanted.empty() && environment("DISPLAY").empty() &&
+        !environment("WAYLAND_DISPLAY").empty()) {
+        return problem("This is a Wayland session, whose displays cannot be corrected yet.");
+    }
+    return openX11(runLoop, log);
+}
+
+}  // namespace tonquil

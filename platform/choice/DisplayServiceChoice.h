@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+
+#include "foundation/Log.h"
+#include "foundation/Problem.h"
+#include "foundation/RunLoop.h"
+#include "screens/DisplayService.h"
+
+namespace tonquil {
+
+/// Picks the display service for this desktop and opens it; only a program's `main` calls this.
+///
+/// TONQUIL_DISPLAY_SERVICE=x11|simulated overrides the choice; the simulated desk is read from the
+/// file that TONQUIL_SIMULATED_DESK names, if any. Without a run loop, which must outlive the
+/// service, changes of the displays are not watched for.
+[[nodiscard]] Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop,
+                                                                           const Log& log);
+
+}  // namespace tonquil
