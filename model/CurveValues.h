@@ -25,6 +25,7 @@ struct CurveValues {
 /// Compares bits, so that a not-a-number equals itself and a changed sign of zero is a change.
 [[nodiscard]] inline bool haveSameBits(const CurveValues& a, const CurveValues& b) {
     static_assert(sizeof(CurveValues) == 10 * sizeof(float), "no padding to compare by accident");
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): as said above.
     return std::memcmp(&a, &b, sizeof a) == 0;
 }
 

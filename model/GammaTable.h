@@ -29,6 +29,8 @@ struct GammaTable {
 
 /// Whether two tables hold the same bits: not-a-number equals itself, 0 and -0 differ.
 [[nodiscard]] inline bool haveSameBits(const GammaTable& a, const GammaTable& b) {
+    // Comparing representations is the point.
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison)
     return std::memcmp(a.levels.data(), b.levels.data(), sizeof a.levels) == 0;
 }
 

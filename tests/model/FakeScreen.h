@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/ComputedTable.h"
+#include "model/CurveScreen.h"
+
+namespace tonquil {
+
+/// A screen in memory that a test can set up and look into.
+class FakeScreen : public CurveScreen {
+ public:
+    BaseGamma base;
+    GammaTable shown;
+    std::uint32_t shownSampleCount = 256;
+    TransferFormula formula;
+    ComputedTable computed;
+
+    [[nodiscard]] const BaseGamma& baseGamma() const override { return base; }
+    [[nodiscard]] ComputedTable& computedTable() override { return computed; }
+    void setTransferTable(const GammaTable& table) override { shown = table; }
+    std::uint32_t getTransferTable(GammaTable& table) const override {
+        for (std::size_t c = 0; c < GammaTable::channelCount; ++c) {
+            for (std::uint32_t i = 0; i < shownSampleCount; ++i) {
+                table.channel(c)[i] = shown.channel(c)[i];
+            }
+        }
+        return shownSampleCount;
+    }
+    void setTransferFormula(const TransferFormula& wanted) override { formula = wanted; }
+    [[nodiscard]] TransferFormula getTransferFormula() const override { return formula; }
+};
+
+}  // namespace tonquil

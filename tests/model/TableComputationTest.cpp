@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "model/TableComputation.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <functional>
+#include <string>
+
+#include "tests/model/FakeScreen.h"
+#include "tests/model/PlainFormula.h"
+#include "tests/model/RandomCurve.h"
+
+namespace tonquil {
+namespace {
+
+/// Ten thousand unless the environment asks for a longer run.
+int randomCurveCount() {
+    const char* count = std::getenv("TONQUIL_RANDOM_CURVES");
+    return count == nullptr ? 10'000 : std::atoi(count);
+}
+
+TEST(TableComputation, GivesTheWorkedValues) {
+    struct Row {
+        ChannelCurve channel;
+        std::uint32_t slot;
+        float level;
+    };
+    // From the formula by hand: black + (white - black) * (slot / 256) ^ middle.
+    const std::vector<Row> rows{{{0, 1, 1}, 0, 0.0F},
+                                {{0, 1, 1}, 255, 0.99609375F},
+                                {{0.1F, 1, 0.9F}, 0, 0.1F},
+                                {{0.1F, 1, 0.9F}, 128, 0.5F},
+                                {{0.1F, 1, 0.9F}, 255, 0.896875F},
+                                {{0, 2.2F, 1}, 128, 0.217638F},
+                                {{0.5F, 1, 0.5F}, 77, 0.5F},
+                                {{0.8F, 1, 0.2F}, 128, 0.5F}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.level);
+        GammaTable table;
+        computeTransferTable({.channels = {row.channel, row.channel, row.channel},
+                              .blendingMode = KVBlendingModeAbsolute},
+                             table, 256);
+        for (std::size_t c = 0; c < 3; ++c) {
+            EXPECT_NEAR(table.channel(c)[row.slot], row.level, 1e-6F);
+        }
+    }
+}
+
+TEST(TableComputation, WeighsTheLowerNeighbourByTheFraction) {
+    GammaTable table;
+    for (std::size_t i = 0; i < 256; ++i) {
+        table.channel(1)[i] = static_cast<float>(i) / 255.0F;
+    }
+    computeTransferTable({}, table, 256);
+    EXPECT_EQ(table.channel(1)[0], 0.0F);
+    // Position 255/256: (1 - 255/256) of slot 1, whose level is 1/255, and 255/256 of slot 0.
+    EXPECT_NEAR(table.channel(1)[1], (1.0F - 0.99609375F) / 255.0F, 1e-9F);
+    // Range 0 at a fractional position: 0.5 * 255 = 127.5, half of 127/255 and half of 128/255.
+    computeTransferTable({.channels = {{{0.5F, 1, 0.5F}, {0.5F, 1, 0.5F}, {0.5F, 1, 0.5F}}}}, table,
+                         256);
+    EXPECT_EQ(table.channel(0)[9], table.channel(0)[200]);
+}
+
+TEST(TableComputation, NeutralCurveFollowsThePositionRuleOnAnyBase) {
+    std::mt19937 random(7);
+    for (const std::uint32_t n : {1U, 2U, 3U, 64U, 255U, 256U}) {
+        SCOPED_TRACE(n);
+        GammaTable base;
+        for (float& level : base.levels) {
+            level = std::uniform_real_distribution<float>(0, 1)(random);
+        }
+        GammaTable table = base;
+        computeTransferTable({}, table, n);
+        for (std::uint32_t i = 0; i < n; ++i) {
+            // Slot i lies at i * (n - 1) / n, which is i / n short of i. The fraction of the
+            // position, 1 - i / n, weighs the lower neighbour.
+            const double shortfall = static_cast<double>(i) / n;
+            const double lower = i == 0 ? 0 : static_cast<double>(base.channel(2)[i - 1]);
+            const double expected = i == 0 ? static_cast<double>(base.channel(2)[0])
+                                           : shortfall * static_cast<double>(base.channel(2)[i]) +
+                                                 (1 - shortfall) * lower;
+            ASSERT_NEAR(static_cast<double>(table.channel(2)[i]), expected, 2e-5) << "slot " << i;
+        }
+        // What lies beyond the sample count stays.
+        for (std::uint32_t i = n; i < 256; ++i) {
+            ASSERT_EQ(table.channel(2)[i], base.channel(2)[i]);
+        }
+    }
+}
+
+TEST(TableComputation, NoSamplesLeaveTheTableAlone) {
+    GammaTable table;
+    table.levels.fill(0.25F);
+    const GammaTable before = table;
+    computeTransferTable({.channels = {}, .blendingMode = 0}, table, 0);
+    EXPECT_TRUE(haveSameBits(table, before));
+}
+
+TEST(TableComputation, EqualsThePlainFormulaToTheBit) {
+    std::mt19937 random(20'231);
+    for (int round = 0; round < randomCurveCount(); ++round) {
+        const CurveValues curve = randomCurveValues(random);
+        const std::uint32_t n = round % 5 == 0 ? 1 + random() % 256 : 256;
+        GammaTable base;
+        for (float& level : base.levels) {
+            level = static_cast<float>(random() % 65'536) / 65'535.0F;
+        }
+        GammaTable expected = base;
+        computeByPlainFormula(curve, expected, n);
+        computeTransferTable(curve, base, n);
+        for (std::size_t i = 0; i < base.levels.size(); ++i) {
+            // A not-a-number has no one representation; that it is one is what counts.
+            if (std::isnan(expected.levels[i])) {
+                ASSERT_TRUE(std::isnan(base.levels[i]));
+                continue;
+            }
+            ASSERT_EQ(base.levels[i], expected.levels[i])
+                << "round " << round << ", slot " << i << ", mode " << curve.blendingMode;
+        }
+    }
+}
+
+TEST(ComputedTable, NoticesEveryChangeOfWhatItWasComputedFrom) {
+    FakeScreen screen;
+    screen.base.sampleCount = 256;
+    for (std::size_t i = 0; i < 768; ++i) {
+        screen.base.table.levels[i] = static_cast<float>(i % 256) / 255.0F;
+    }
+    TQExtendedGammaCurve curve;
+    const std::vector<std::pair<std::string, std::function<void()>>> changes{
+        {"nothing", [] {}},
+        {"a point", [&] { curve.middlePoint()->setGreenValue(1.5F); }},
+        {"a master", [&] { curve.setMasterWhiteCorrection(0.5F); }},
+        {"a value that only differs in sign", [&] { curve.blackPoint()->setRedValue(-0.0F); }},
+        {"the base", [&] { screen.base.table.channel(2)[9] = 0.75F; }},
+        {"the sample count", [&] { screen.base.sampleCount = 200; }},
+        {"the mode", [&] { curve.setBlendingMode(KVBlendingModeAbsolute); }},
+        {"the base under an absolute curve", [&] { screen.base.table.channel(0)[255] = 0.125F; }}};
+    for (const auto& [what, change] : changes) {
+        SCOPED_TRACE(what);
+        change();
+        curve.applyToScreen(screen);
+        GammaTable expected = screen.base.table;
+        curve.flatGammaCurve()->_applyGammaValues(expected, screen.base.sampleCount);
+        EXPECT_TRUE(haveSameBits(screen.shown, expected));
+    }
+}
+
+}  // namespace
+}  // namespace tonquil
