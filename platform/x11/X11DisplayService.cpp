@@ -309,7 +309,10 @@ void X11DisplayService::displaysChanged() {
     for (const ReconfigurationFlags flags : {beginConfiguration, endConfiguration}) {
         for (const DisplayID display : affected) {
             for (const auto& callback : callbacks) {
-                (*callback)(display, flags);
+                if (std::find(_callbacks->all.begin(), _callbacks->all.end(), callback) !=
+                    _callbacks->all.end()) {
+                    (*callback)(display, flags);
+                }
             }
         }
     }

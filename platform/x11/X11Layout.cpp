@@ -40,6 +40,7 @@ Resources readResources(const X11Connection& connection) {
 std::vector<X11Display> readLitCrtcs(const X11Connection& connection, const Resources& resources) {
     xcb_connection_t* const c = connection.get();
     std::vector<xcb_randr_get_crtc_info_cookie_t> cookies;
+    cookies.reserve(resources.crtcs.size());
     for (const xcb_randr_crtc_t crtc : resources.crtcs) {
         cookies.push_back(xcb_randr_get_crtc_info(c, crtc, resources.timestamp));
     }
