@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "tests/platform/ServiceBench.h"
+
+namespace tonquil {
+namespace {
+
+struct Kind {
+    std::string name;
+    std::function<std::unique_ptr<ServiceBench>()> make;
+};
+
+/// What every display service owes.
+class DisplayServiceContract : public testing::TestWithParam<Kind> {
+ protected:
+    [[nodiscard]] std::unique_ptr<DisplayService> open() {
+        return bench->openService([this](std::string_view line) { log.emplace_back(line); });
+    }
+    [[nodiscard]] DisplayID display(int index) {
+        return service->onlineDisplays(25).at(static_cast<std::size_t>(index));
+    }
+    [[nodiscard]] GammaTable read(int index) {
+        GammaTable table;
+        EXPECT_EQ(service->getTransferTable(display(index), table), 256U);
+        return table;
+    }
+
+    std::vector<std::string> log;
+    std::unique_ptr<ServiceBench> bench = GetParam().make();
+    std::unique_ptr<DisplayService> service = open();
+};
+
+/// A table of whole 16-bit entries, so that it comes back as it was.
+GammaTable tableOf(int seed) {
+    GammaTable table;
+    for (std::size_t i = 0; i < table.levels.size(); ++i) {
+        table.levels[i] =
+            static_cast<float>((i * 97 + static_cast<std::size_t>(seed) * 1013) % 65'536) /
+            65'535.0F;
+    }
+    return table;
+}
+
+HardwareRamp rampOf(int seed) {
+    HardwareRamp ramp(256);
+    ramp.setTable(tableOf(seed));
+    return ramp;
+}
+
+TEST_P(DisplayServiceContract, SetsWhatIsGivenAndStillReadsTheSystemsTable) {
+    const GammaTable system = read(0);
+    const HardwareRamp other = bench->hardwareRamp(1);
+    service->setTransferTable(display(0), tableOf(1));
+    EXPECT_EQ(bench->hardwareRamp(0), rampOf(1));
+    EXPECT_EQ(bench->hardwareRamp(1), other) << "only the display that was meant";
+    EXPECT_TRUE(haveSameBits(read(0), system));
+    GammaTable hardware;
+    EXPECT_EQ(service->getHardwareTable(display(0), hardware), 256U);
+    HardwareRamp shown(256);
+    shown.setTable(hardware);
+    EXPECT_EQ(shown, rampOf(1));
+}
+
+TEST_P(DisplayServiceContract, HoldsLevelsWithinTheRange) {
+    GammaTable wild;
+    wild.channel(0)[1] = -0.5F;
+    wild.channel(0)[2] = 7;
+    wild.channel(0)[3] = std::numeric_limits<float>::quiet_NaN();
+    wild.channel(0)[4] = std::numeric_limits<float>::infinity();
+    wild.channel(0)[5] = -std::numeric_limits<float>::infinity();
+    wild.channel(0)[6] = 0.5F;
+    service->setTransferTable(display(0), wild);
+    const HardwareRamp ramp = bench->hardwareRamp(0);
+    const auto red = ramp.channel(0);
+    EXPECT_EQ((std::vector<std::uint16_t>(red.begin() + 1, red.begin() + 7)),
+              (std::vector<std::uint16_t>{0, 65535, 0, 65535, 0, 32768}));
+}
+
+TEST_P(DisplayServiceContract, RecognisesItsCorrectionAfterAnyRestart) {
+    const GammaTable system = read(0);
+    for (int round = 0; round < 3; ++round) {
+        service->setTransferTable(display(0), tableOf(round));
+        service = open();
+        EXPECT_TRUE(haveSameBits(read(0), system)) << round;
+    }
+    service->restoreSystemCalibration();
+    GammaTable restored;
+    EXPECT_EQ(service->getHardwareTable(display(0), restored), 256U);
+    EXPECT_TRUE(haveSameBits(restored, system));
+}
+
+TEST_P(DisplayServiceContract, TakesAForeignRampForTheSystems) {
+    service->setTransferTable(display(0), tableOf(1));
+    bench->setForeignRamp(0, rampOf(2));
+    service->setTransferTable(display(0), tableOf(1));
+    HardwareRamp system(256);
+    system.setTable(read(0));
+    EXPECT_EQ(system, rampOf(2)) << "it was found while it was replaced";
+    service = open();
+    const std::vector displays{display(0)};
+    service->restoreSystemCalibration(displays);
+    EXPECT_EQ(bench->hardwareRamp(0), rampOf(2));
+}
+
+TEST_P(DisplayServiceContract, TwoProgramsTakeEachOthersCorrectionsForNoneOfTheSystems) {
+    const GammaTable system = read(0);
+    const auto other = open();
+    for (int round = 0; round < 40; ++round) {
+        service->setTransferTable(display(0), tableOf(1));
+        other->setTransferTable(display(0), tableOf(2 + round));
+    }
+    service->setTransferTable(display(0), tableOf(1));
+    EXPECT_TRUE(haveSameBits(read(0), system));
+    service = open();
+    EXPECT_TRUE(haveSameBits(read(0), system));
+}
+
+TEST_P(DisplayServiceContract, RestoresTheProfilesCalibrationWhereThereIsOne) {
+    service->setTransferTable(display(0), tableOf(1));
+    service->setTransferTable(display(1), tableOf(1));
+    const HardwareRamp calibration = rampOf(3);
+    bench->publishProfile(1, calibration);
+    const std::vector displays{display(1)};
+    service->restoreSystemCalibration(displays);
+    EXPECT_EQ(bench->hardwareRamp(1), calibration);
+    EXPECT_EQ(bench->hardwareRamp(0), rampOf(1)) << "only the display that was meant";
+    HardwareRamp base(256);
+    base.setTable(read(1));
+    EXPECT_EQ(base, calibration) << "it is the system's from now on";
+}
+
+TEST_P(DisplayServiceContract, RestoringWhatWasNeverCorrectedChangesNothing) {
+    const HardwareRamp before = bench->hardwareRamp(0);
+    service->restoreSystemCalibration();
+    EXPECT_EQ(bench->hardwareRamp(0), before);
+}
+
+TEST_P(DisplayServiceContract, LeavesADisplayThatIsGoneAloneAndSaysSoOnce) {
+    const DisplayID second = display(1);
+    const HardwareRamp first = bench->hardwareRamp(0);
+    bench->unplugSecond();
+    EXPECT_EQ(service->onlineDisplays(25).size(), 1U);
+    GammaTable table;
+    for (int call = 0; call < 3; ++call) {
+        service->setTransferTable(second, tableOf(1));
+        EXPECT_EQ(service->getTransferTable(second, table), 0U);
+    }
+    service->restoreSystemCalibration(std::vector{second});
+    EXPECT_TRUE(service->bounds(second).isEmpty());
+    EXPECT_EQ(service->identity(second), DisplayIdentity{});
+    EXPECT_EQ(log.size(), 1U);
+    EXPECT_EQ(bench->hardwareRamp(0), first);
+    bench->plugSecond();
+    EXPECT_EQ(service->identity(display(1)).serialNumber, 2U);
+    DisplayBatch batch(*service);
+    service->setTransferTable(display(1), tableOf(4));
+    EXPECT_TRUE(batch.finish());
+    EXPECT_EQ(bench->hardwareRamp(1), rampOf(4));
+}
+
+TEST_P(DisplayServiceContract, ABatchSaysWhetherAllArrived) {
+    DisplayBatch good(*service);
+    service->setTransferTable(display(0), tableOf(1));
+    service->setTransferTable(display(1), tableOf(2));
+    EXPECT_TRUE(good.finish());
+    EXPECT_EQ(bench->hardwareRamp(0), rampOf(1));
+    EXPECT_EQ(bench->hardwareRamp(1), rampOf(2));
+    DisplayBatch bad(*service);
+    service->setTransferTable(display(0), tableOf(3));
+    service->setTransferTable(987'654, tableOf(3));
+    EXPECT_FALSE(bad.finish());
+    EXPECT_EQ(bench->hardwareRamp(0), rampOf(3));
+}
+
+TEST_P(DisplayServiceContract, DisplayZeroIsTheMainOne) {
+    EXPECT_EQ(service->mainDisplay(), display(0));
+    EXPECT_EQ(service->bounds(0), service->bounds(display(0)));
+    EXPECT_EQ(service->identity(0).serialNumber, 1U);
+    EXPECT_EQ(service->onlineDisplays(1).size(), 1U);
+    EXPECT_EQ(service->displaysWithPoint(service->bounds(display(1)).centre(), 9),
+              std::vector{display(1)});
+    EXPECT_TRUE(service->displaysWithPoint({-5, -5}, 9).empty());
+}
+
+TEST_P(DisplayServiceContract, AFormulaIsReadBackFromTheSystemsTable) {
+    HardwareRamp gamma(256);
+    for (std::size_t c = 0; c < 3; ++c) {
+        for (std::size_t i = 0; i < 256; ++i) {
+            gamma.channel(c)[i] = static_cast<std::uint16_t>(
+                std::lround(65535 * std::pow(static_cast<double>(i) / 255, 1.5)));
+        }
+    }
+    bench->setForeignRamp(0, gamma);
+    service->setTransferFormula(display(1),
+                                {.red = {0, 1, 1.5F}, .green = {0, 1, 1.5F}, .blue = {0, 1, 1.5F}});
+    EXPECT_EQ(bench->hardwareRamp(1), gamma);
+    EXPECT_NEAR(service->getTransferFormula(display(0)).green.exponent, 1.5F, 1e-3F);
+}
+
+INSTANTIATE_TEST_SUITE_P(Services, DisplayServiceContract,
+                         testing::Values(Kind{"Simulated", makeSimulatedBench},
+                                         Kind{"X11", makeX11Bench}),
+                         [](const auto& kind) { return kind.param.name; });
+
+}  // namespace
+}  // namespace tonquil

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ramp/HardwareRamp.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+#include "platform/simulated/SimulatedDeskReader.h"
+#include "platform/simulated/SimulatedDisplayService.h"
+#include "screens/ScreenRegistry.h"
+
+namespace tonquil {
+namespace {
+
+TEST(HardwareRamp, Of256EntriesTakesAndGivesEveryEntryExactly) {
+    for (std::uint32_t first = 0; first < 65'536; first += 256) {
+        HardwareRamp ramp(256);
+        for (std::uint32_t i = 0; i < 256; ++i) {
+            ramp.channel(first / 256 % 3)[i] = static_cast<std::uint16_t>(first + i);
+        }
+        GammaTable table;
+        ASSERT_EQ(ramp.getTable(table), 256U);
+        HardwareRamp again(256);
+        again.setTable(table);
+        ASSERT_EQ(again, ramp) << first;
+    }
+}
+
+TEST(HardwareRamp, ResamplesFromEndToEnd) {
+    GammaTable table;
+    for (std::size_t i = 0; i < 256; ++i) {
+        table.channel(0)[i] = static_cast<float>(i) / 255.0F;
+        table.channel(1)[i] = i < 128 ? 0.25F : 0.75F;
+        table.channel(2)[i] = 1.0F - static_cast<float>(i) / 255.0F;
+    }
+    for (const std::uint32_t size : {2U, 3U, 17U, 128U, 1'024U, 4'096U}) {
+        SCOPED_TRACE(size);
+        HardwareRamp ramp(size);
+        ramp.setTable(table);
+        EXPECT_EQ(ramp.channel(0).front(), 0);
+        EXPECT_EQ(ramp.channel(0).back(), 65535);
+        EXPECT_EQ(ramp.channel(1).front(), 16384);
+        EXPECT_EQ(ramp.channel(1).back(), 49151);
+        EXPECT_EQ(ramp.channel(2).front(), 65535);
+        for (std::uint32_t i = 0; i < size; ++i) {
+            // A straight line stays one: the level is i / (size - 1), within one rounding of the
+            // table's singles and one of the entry.
+            ASSERT_NEAR(ramp.channel(0)[i], 65535.0 * i / (size - 1.0), 0.51) << i;
+        }
+        GammaTable back;
+        ASSERT_EQ(ramp.getTable(back), std::min(size, 256U));
+        for (std::uint32_t i = 0; i < std::min(size, 256U); ++i) {
+            ASSERT_NEAR(back.channel(0)[i], i / (std::min(size, 256U) - 1.0), 1.0 / 65535) << i;
+        }
+    }
+}
+
+TEST(HardwareRamp, ShorterThanATableTellsWhatWasComputedForItFromWhatWasNot) {
+    GammaTable computed;
+    for (std::size_t i = 0; i < 64; ++i) {
+        computed.channel(0)[i] = static_cast<float>(i + 1) / 64.0F;
+    }
+    HardwareRamp ramp(64);
+    ramp.setTable(computed);
+    EXPECT_EQ(ramp.channel(0)[63], 65535);
+    EXPECT_EQ(ramp.channel(0)[31], 32768);
+    GammaTable whole = computed;
+    whole.channel(1)[255] = 1;
+    ramp.setTable(whole);
+    EXPECT_EQ(ramp.channel(0)[63], 0) << "slot 255 of a whole table";
+    EXPECT_EQ(ramp.channel(1)[63], 65535);
+}
+
+TEST(HardwareRamp, FingerprintChangesWithEveryEntryAndWithTheSize) {
+    HardwareRamp ramp = HardwareRamp::straight(1'023);
+    const std::uint64_t before = ramp.fingerprint();
+    EXPECT_EQ(before, HardwareRamp::straight(1'023).fingerprint());
+    for (const std::size_t i : {0U, 1U, 1'022U, 3'068U}) {
+        HardwareRamp changed = ramp;
+        changed.entries()[i] ^= 1U;
+        EXPECT_NE(changed.fingerprint(), before) << i;
+    }
+    EXPECT_NE(HardwareRamp(4).fingerprint(), HardwareRamp(8).fingerprint());
+}
+
+TEST(HardwareRamp, DoesNotDriftThroughReadingAndNeutralApplying) {
+    for (const std::uint32_t size : {1'024U, 4'096U}) {
+        SCOPED_TRACE(size);
+        std::mt19937 random(size);
+        SimulatedDesk desk =
+            readSimulatedDesk("[{\"rampSize\": " + std::to_string(size) + "}]").value();
+        HardwareRamp calibration(size);
+        for (std::uint32_t i = 0; i < size; ++i) {
+            for (std::size_t c = 0; c < 3; ++c) {
+                calibration.channel(c)[i] = static_cast<std::uint16_t>(
+                    std::lround(60'000 * std::pow(i / (size - 1.0), 1.8)) + random() % 5);
+            }
+        }
+        desk.setForeignRamp(1, calibration);
+        GammaTable first;
+        for (int round = 0; round < 100; ++round) {
+            SimulatedDisplayService service(desk);
+            ScreenRegistry registry(service);
+            KVScreen& screen = *registry.screens()[0];
+            GammaTable base;
+            ASSERT_EQ(screen.getBaseGamma(base), 256U);
+            if (round == 0) {
+                first = base;
+            }
+            for (std::size_t i = 0; i < base.levels.size(); ++i) {
+                ASSERT_NEAR(base.levels[i], first.levels[i], 0.5 / 65535) << round;
+            }
+            screen.retriveExtendedGammaCurve();
+            screen.applyGammaCurve();
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tonquil

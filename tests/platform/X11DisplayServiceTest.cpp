@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/X11DisplayService.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/x11/X11RampJournal.h"
+#include "screens/ScreenRegistry.h"
+#include "tests/support/EdidBuilder.h"
+#include "tests/support/RampReader.h"
+#include "tests/support/Succeeded.h"
+#include "tests/support/XServer.h"
+
+namespace tonquil {
+namespace {
+
+/// The reason why a server's displays cannot be corrected.
+std::string failureOf(const std::string& display) {
+    const auto service = X11DisplayService::open(display.c_str(), nullptr, {});
+    return service ? "it opened" : service.error().sentence;
+}
+
+TEST(X11DisplayService, SaysWhyItCannotOpen) {
+    EXPECT_EQ(failureOf(":987"), "Cannot connect to the X server :987.");
+    EXPECT_EQ(failureOf(""), "There is no X server to talk to: DISPLAY is not set.");
+    const auto server =
+        XServer::start({.arguments = {"-extension", "RANDR"}, .framebufferOnly = true});
+    ASSERT_TRUE(server);
+    EXPECT_EQ(failureOf((*server)->display()),
+              "The X server has no RandR extension, so its displays cannot be corrected.");
+}
+
+TEST(X11DisplayService, KnowsDisplaysByTheirEdidOrTheirSize) {
+    const auto server = XServer::start().value();
+    mustSucceed(server->setEdid(
+        "DUMMY0", buildEdid({.manufacturer = "DEL", .product = 41, .serial = 77, .name = "Left"})));
+    mustSucceed(server->plug("DUMMY1", "1280x1024"));
+    mustSucceed(server->setPhysicalSize("DUMMY1", 600, 340));
+    mustSucceed(server->plug("DUMMY2", "1024x768"));
+    mustSucceed(server->setEdid(
+        "DUMMY2", buildEdid({.manufacturer = "DEL", .product = 42, .serialText = "ABC123"})));
+    mustSucceed(server->setPrimary("DUMMY2"));
+
+    const auto service = X11DisplayService::open(server->display().c_str(), nullptr, {}).value();
+    ScreenRegistry registry(*service);
+    std::vector<std::string> found;
+    for (const auto& screen : registry.screens()) {
+        const Rectangle bounds = service->bounds(screen->directDisplayID());
+        const DisplayDescription description = service->description(screen->directDisplayID());
+        found.push_back(description.connector + " " + description.productName + " " +
+                        std::to_string(static_cast<int>(bounds.x)) + " " + screen->referenceID());
+    }
+    EXPECT_EQ(found, (std::vector<std::string>{"DUMMY2  2680 1166364645-42-4268",
+                                               "DUMMY0 Left 0 77-41-4268",
+                                               "DUMMY1  1400 600.000000x340.000000-0-0"}));
+    EXPECT_EQ(service->description(registry.screens()[0]->directDisplayID()).rampSize, 256U);
+}
+
+TEST(X11DisplayService, SurvivesTheServersDeath) {
+    const auto server = XServer::start().value();
+    std::vector<std::string> log;
+    const auto service =
+        X11DisplayService::open(server->display().c_str(), nullptr, [&](std::string_view line) {
+            log.emplace_back(line);
+        }).value();
+    const DisplayID display = service->mainDisplay();
+    GammaTable table;
+    EXPECT_EQ(service->getTransferTable(display, table), 256U);
+    server->kill();
+    for (int call = 0; call < 3; ++call) {
+        service->setTransferTable(display, table);
+        service->restoreSystemCalibration();
+    }
+    EXPECT_EQ(service->getTransferTable(display, table), 0U);
+    EXPECT_TRUE(service->onlineDisplays(25).empty());
+    EXPECT_TRUE(service->description(display).connector.empty());
+    EXPECT_LE(log.size(), 3U);
+}
+
+TEST(X11DisplayService, KeepsItsJournalShortDuringALongDrag) {
+    const auto server = XServer::start().value();
+    const RampReader reader = RampReader::connect(server->display()).value();
+    const Ramp system = reader.read("DUMMY0").value();
+    const auto open = [&] {
+        return X11DisplayService::open(server->display().c_str(), nullptr, {}).value();
+    };
+    const auto service = open();
+    GammaTable table;
+    for (int edit = 0; edit < 3'000; ++edit) {
+        table.channel(0)[7] = static_cast<float>(edit) / 3'000.0F;
+        service->setTransferTable(0, table);
+    }
+    const auto connection = X11Connection::open(server->display().c_str()).value();
+    const auto bytes = connection->rootProperty(connection->correctionsAtom(), 1U << 20U);
+    EXPECT_LT(bytes.size(), 32'768U);
+    open()->restoreSystemCalibration();
+    EXPECT_EQ(reader.read("DUMMY0").value(), system);
+}
+
+}  // namespace
+}  // namespace tonquil

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tonquil {
+
+/// What a made-up display says of itself.
+struct EdidDescription {
+    /// Three capital letters.
+    std::string manufacturer = "TQL";
+    std::uint16_t product = 1;
+    std::uint32_t serial = 0;
+    /// At most 13 characters; what is longer is cut, as the format has no room for more.
+    std::optional<std::string> serialText = std::nullopt;
+    std::optional<std::string> name = std::nullopt;
+    std::uint8_t widthCentimetres = 60;
+    std::uint8_t heightCentimetres = 34;
+};
+
+/// The 128 bytes of a valid EDID 1.4 base block, with its checksum.
+[[nodiscard]] std::vector<std::uint8_t> buildEdid(const EdidDescription& description);
+
+/// Makes the checksum of a base block right again, for tests that change some of its bytes.
+void repairEdidChecksum(std::vector<std::uint8_t>& edid);
+
+}  // namespace tonquil

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <vector>
+
+#include "foundation/RunLoop.h"
+
+namespace tonquil {
+
+/// A run loop that a test drives by hand: time stands still until `advance`.
+///
+/// The clock starts at zero. Nothing is ever called but from `advance`, `runPosted` and
+/// `pollReadable`. Handles may outlive the loop.
+class ManualRunLoop final : public RunLoop {
+ public:
+    ManualRunLoop() = default;
+
+    [[nodiscard]] Clock::time_point now() const override { return m_now; }
+    [[nodiscard]] std::unique_ptr<Handle> callOnce(std::chrono::milliseconds delay,
+                                                   Call call) override;
+    /// An interval below one millisecond counts as one.
+    [[nodiscard]] std::unique_ptr<Handle> callRepeatedly(std::chrono::milliseconds interval,
+                                                         Call call) override;
+    [[nodiscard]] std::unique_ptr<Handle> watchReadable(int descriptor, Call call) override;
+    void post(Call call) override;
+
+    /// Moves the clock on and fires what falls due on the way, in order of time.
+    ///
+    /// During a call the clock shows the time at which it was due. Of timers due at one time, the
+    /// one set first goes first. What is posted runs before the first timer and after each. A
+    /// timer made on the way fires too if it falls due by the end.
+    void advance(std::chrono::milliseconds duration);
+
+    /// Runs what is posted, including what that posts in turn; gives the number of calls.
+    std::size_t runPosted();
+
+    /// Waits up to `timeout` of real time for a watched descriptor, and calls for the readable.
+    ///
+    /// An end of file, an error and a closed descriptor count as readable. What is posted runs
+    /// after each call. The clock stays. Gives the number of watches called.
+    std::size_t pollReadable(std::chrono::milliseconds timeout);
+
+ private:
+    struct Entry;
+    class EntryHandle;
+    using Entries = std::vector<std::shared_ptr<Entry>>;
+
+    std::unique_ptr<Handle> add(Entries& entries, std::shared_ptr<Entry> entry);
+    std::shared_ptr<Entry> nextTimer(Clock::time_point end);
+    static void call(Entry& entry);
+    static void removeEnded(Entries& entries);
+
+    Clock::time_point m_now{};
+    std::uint64_t m_order = 0;
+    Entries m_timers;
+    Entries m_watches;
+    std::deque<Call> m_posted;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <csignal>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "foundation/Problem.h"
+#include "tests/support/FileDescriptor.h"
+
+namespace tonquil {
+
+/// What to run.
+struct ProcessRequest {
+    /// The program, looked up in PATH when it has no slash, and its arguments.
+    std::vector<std::string> command;
+    /// Added to the environment of this program, or replacing what it holds.
+    std::map<std::string, std::string> environment;
+    /// Names taken out of the environment.
+    std::vector<std::string> unset;
+    std::string standardInput;
+    /// Given to the program as its descriptor 3.
+    std::optional<int> thirdDescriptor;
+    /// How long `run` waits before it kills the program.
+    std::chrono::milliseconds limit = std::chrono::seconds(60);
+};
+
+/// How a program ended.
+struct ProcessResult {
+    std::string standardOutput;
+    std::string standardError;
+    /// The exit status, or -1 when a signal ended the program.
+    int exitStatus = -1;
+    /// The signal that ended the program, or 0.
+    int signal = 0;
+
+    [[nodiscard]] bool succeeded() const { return exitStatus == 0; }
+};
+
+/// A program running beside this one; it is killed with this object or with this program.
+class BackgroundProcess {
+ public:
+    /// Fails when the program cannot be run at all.
+    [[nodiscard]] static Result<std::unique_ptr<BackgroundProcess>> start(
+        const ProcessRequest& request);
+    ~BackgroundProcess();
+    BackgroundProcess(const BackgroundProcess&) = delete;
+    BackgroundProcess& operator=(const BackgroundProcess&) = delete;
+
+    [[nodiscard]] pid_t pid() const { return m_pid; }
+    [[nodiscard]] bool isRunning();
+    /// What it has written so far.
+    [[nodiscard]] std::string standardOutput() const;
+    [[nodiscard]] std::string standardError() const;
+
+    /// Sends a signal, without waiting for what it does; nothing once the program has ended.
+    void send(int signal);
+    /// Ends it at once (kill -9) and waits until it is gone.
+    ProcessResult kill();
+    /// Waits for its end; nothing when it still runs after `limit`.
+    [[nodiscard]] std::optional<ProcessResult> wait(std::chrono::milliseconds limit);
+    /// Waits until its standard output holds `text`; false when it ends or `limit` passes first.
+    [[nodiscard]] bool waitForOutput(std::string_view text, std::chrono::milliseconds limit);
+
+ private:
+    BackgroundProcess(pid_t pid, FileDescriptor handle, FileDescriptor output,
+                      FileDescriptor error);
+    [[nodiscard]] ProcessResult result() const;
+
+    pid_t m_pid;
+    FileDescriptor m_handle;
+    FileDescriptor m_output;
+    FileDescriptor m_error;
+    std::optional<int> m_status;
+};
+
+/// Runs a program to its end; one that outlives the limit is killed, which `signal` tells.
+[[nodiscard]] Result<ProcessResult> run(const ProcessRequest& request);
+
+}  // namespace tonquil

@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/XServer.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <fstream>
+#include <optional>
+#include <sstream>
+#include <system_error>
+#include <utility>
+
+namespace tonquil {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds startLimit = std::chrono::seconds(30);
+constexpr milliseconds stopLimit = std::chrono::seconds(10);
+
+constexpr const char* configuration = R"(Section "ServerFlags"
+    Option "AutoAddDevices" "false"
+    Option "AllowMouseOpenFail" "true"
+    Option "DontVTSwitch" "true"
+EndSection
+Section "Device"
+    Identifier "dummy device"
+    Driver "dummy"
+    VideoRam 256000
+EndSection
+Section "Monitor"
+    Identifier "dummy monitor"
+    HorizSync 5.0-1000.0
+    VertRefresh 5.0-200.0
+EndSection
+Section "Screen"
+    Identifier "dummy screen"
+    Device "dummy device"
+    Monitor "dummy monitor"
+    DefaultDepth 24
+    SubSection "Display"
+        Depth 24
+        Virtual 5760 1080
+    EndSubSection
+EndSection
+)";
+
+// The server itself, past the wrapper in PATH that lets only people at the console start it.
+constexpr const char* serverProgram = "/usr/lib/xorg/Xorg";
+
+std::vector<std::string> commandFor(const XServer::Options& options,
+                                    const std::filesystem::path& folder) {
+    std::vector<std::string> command;
+    if (options.framebufferOnly) {
+        command = {"Xvfb", "-screen", "0", "1280x1024x24"};
+    } else {
+        command = {serverProgram,        "-novtswitch", "-sharevts",        "-config",
+                   folder / "xorg.conf", "-logfile",    folder / "xorg.log"};
+    }
+    // Without -noreset the server would forget everything when its last client leaves.
+    const std::vector<std::string> common{"-displayfd", "3",          "-noreset", "-nolisten",
+                                          "tcp",        "+extension", "RANDR"};
+    command.insert(command.end(), common.begin(), common.end());
+    command.insert(command.end(), options.arguments.begin(), options.arguments.end());
+    return command;
+}
+
+// The line that the server writes once it listens; nothing when it ends before that.
+std::optional<std::string> readLine(const FileDescriptor& descriptor, milliseconds limit) {
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    std::string line;
+    while (true) {
+        const auto rest =
+            std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now());
+        pollfd readable{descriptor.get(), POLLIN, 0};
+        if (rest.count() <= 0 || poll(&readable, 1, static_cast<int>(rest.count())) == 0) {
+            return std::nullopt;
+        }
+        char letter = 0;
+        const auto count = read(descriptor.get(), &letter, 1);
+        if (count == 0 || (count < 0 && errno != EINTR)) {
+            return std::nullopt;
+        }
+        if (count == 1 && letter == '\n') {
+            return line;
+        }
+        if (count == 1) {
+            line.push_back(letter);
+        }
+    }
+}
+
+bool answers(const std::string& display) {
+    auto* connection = xcb_connect(display.c_str(), nullptr);
+    const bool connected = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return connected;
+}
+
+}  // namespace
+
+XServer::XServer(ScratchFolder folder, std::unique_ptr<BackgroundProcess> process,
+                 std::string display)
+    : m_folder(std::move(folder)), m_process(std::move(process)), m_display(std::move(display)) {}
+
+XServer::~XServer() {
+    m_process->send(SIGTERM);
+    if (!m_process->wait(stopLimit)) {
+        m_process->kill();
+    }
+    removeLeftovers();
+}
+
+Result<std::unique_ptr<XServer>> XServer::start(const Options& options) {
+    // Two servers that start at the same moment may reach for the same display number.
+    constexpr int attempts = 3;
+    auto server = startOnce(options);
+    for (int attempt = 1; !server && attempt < attempts; ++attempt) {
+        server = startOnce(options);
+    }
+    return server;
+}
+
+Result<std::unique_ptr<XServer>> XServer::startOnce(const Options& options) {
+    ScratchFolder folder;
+    std::ofstream(folder.path() / "xorg.conf") << configuration;
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) {
+        return problem("The X server cannot be started.", "No pipe can be made.");
+    }
+    const FileDescriptor readEnd(ends[0]);
+    FileDescriptor writeEnd(ends[1]);
+    ProcessRequest request;
+    request.command = commandFor(options, folder.path());
+    request.thirdDescriptor = writeEnd.get();
+    auto process = BackgroundProcess::start(request);
+    if (!process) {
+        return tl::unexpected(process.error());
+    }
+    writeEnd.close();
+    const auto number = readLine(readEnd, startLimit);
+    if (!number) {
+        return problem("The X server does not start.", (*process)->kill().standardError);
+    }
+    return std::unique_ptr<XServer>(
+        new XServer(std::move(folder), std::move(*process), ":" + *number));
+}
+
+Result<void> XServer::plug(const std::string& connector, const std::string& mode) {
+    std::vector<std::string> arguments{"--output", connector, "--mode", mode};
+    const bool isNew = std::find(m_plugged.begin(), m_plugged.end(), connector) == m_plugged.end();
+    if (isNew) {
+        if (auto added = xrandr({"--addmode", connector, mode}); !added) {
+            return tl::unexpected(added.error());
+        }
+        if (!m_plugged.empty()) {
+            arguments.insert(arguments.end(), {"--right-of", m_plugged.back()});
+        }
+    }
+    const auto lit = xrandr(arguments);
+    if (lit && isNew) {
+        m_plugged.push_back(connector);
+    }
+    return lit.map([](const std::string&) {});
+}
+
+Result<void> XServer::unplug(const std::string& connector) {
+    if (std::erase(m_plugged, connector) == 0) {
+        return problem("The output " + connector + " is not plugged in.");
+    }
+    if (auto dark = xrandr({"--output", connector, "--off"}); !dark) {
+        return tl::unexpected(dark.error());
+    }
+    const auto outputs = XcbOutputs::connect(m_display);
+    return outputs ? outputs->removeAddedModes(connector) : tl::unexpected(outputs.error());
+}
+
+Result<void> XServer::setPhysicalSize(const std::string& connector, int widthMillimetres,
+                                      int heightMillimetres) {
+    return xrandr({"--output", connector, "--set", "WIDTH_MM", std::to_string(widthMillimetres),
+                   "--output", connector, "--set", "HEIGHT_MM", std::to_string(heightMillimetres)})
+        // The server tells the new size only once it has probed its outputs again.
+        .and_then([this](const std::string&) { return xrandr({"--query"}); })
+        .map([](const std::string&) {});
+}
+
+Result<void> XServer::setPrimary(const std::string& connector) {
+    return xrandr({"--output", connector, "--primary"}).map([](const std::string&) {});
+}
+
+Result<void> XServer::setEdid(const std::string& connector, const std::vector<std::uint8_t>& edid) {
+    const auto outputs = XcbOutputs::connect(m_display);
+    return outputs ? outputs->setEdid(connector, edid) : tl::unexpected(outputs.error());
+}
+
+Result<void> XServer::setRootProperty(const std::string& name,
+                                      const std::vector<std::uint8_t>& bytes) {
+    const auto outputs = XcbOutputs::connect(m_display);
+    if (!outputs) {
+        return tl::unexpected(outputs.error());
+    }
+    const auto property = outputs->atom(name);
+    if (!property) {
+        return tl::unexpected(property.error());
+    }
+    const std::string failure = "The root property " + name + " cannot be set.";
+    auto* connection = outputs->connection();
+    if (bytes.empty()) {
+        return outputs->check(xcb_delete_property_checked(connection, outputs->root(), *property),
+                              failure);
+    }
+    return outputs->check(
+        xcb_change_property_checked(connection, XCB_PROP_MODE_REPLACE, outputs->root(), *property,
+                                    XCB_ATOM_CARDINAL, 8, static_cast<std::uint32_t>(bytes.size()),
+                                    bytes.data()),
+        failure);
+}
+
+Result<std::string> XServer::xrandr(const std::vector<std::string>& arguments) const {
+    ProcessRequest request;
+    request.command = {"xrandr"};
+    request.command.insert(request.command.end(), arguments.begin(), arguments.end());
+    request.environment["DISPLAY"] = m_display;
+    const auto result = run(request);
+    if (!result) {
+        return tl::unexpected(result.error());
+    }
+    // It reports some failures, such as an output it does not know, on standard error alone.
+    if (!result->succeeded() || result->standardError.find("not found") != std::string::npos) {
+        std::ostringstream command;
+        for (const auto& argument : request.command) {
+            command << argument << ' ';
+        }
+        return problem("The command " + command.str() + "fails.", result->standardError);
+    }
+    return result->standardOutput;
+}
+
+void XServer::kill() {
+    m_process->kill();
+    removeLeftovers();
+}
+
+// A server that was killed leaves its socket. Another may have taken the number since: then it
+// answers, and the socket is its own.
+void XServer::removeLeftovers() const {
+    if (!answers(m_display)) {
+        std::error_code ignored;
+        std::filesystem::remove("/tmp/.X11-unix/X" + m_display.substr(1), ignored);
+    }
+}
+
+}  // namespace tonquil

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "foundation/Problem.h"
+#include "tests/support/ProcessRunner.h"
+#include "tests/support/ScratchFolder.h"
+#include "tests/support/XcbOutputs.h"
+
+namespace tonquil {
+
+/// A private X server with the dummy driver, on which displays are plugged in and out.
+///
+/// It has the outputs DUMMY0 to DUMMY15, each with a ramp of 256 entries of its own. DUMMY0 is lit
+/// at 1400x1050 and primary from the start. The server picks its own display number, and ends with
+/// this object or with the program, whichever is first.
+class XServer {
+ public:
+    struct Options {
+        /// Added to the server's command line, for example {"-extension", "RANDR"}.
+        std::vector<std::string> arguments;
+        /// Starts Xvfb instead: one output named "screen", at 1280x1024.
+        bool framebufferOnly = false;
+    };
+
+    [[nodiscard]] static Result<std::unique_ptr<XServer>> start(const Options& options);
+    [[nodiscard]] static Result<std::unique_ptr<XServer>> start() { return start(Options{}); }
+    ~XServer();
+    XServer(const XServer&) = delete;
+    XServer& operator=(const XServer&) = delete;
+
+    /// What DISPLAY is to be, for example ":7".
+    [[nodiscard]] const std::string& display() const { return m_display; }
+
+    /// Lights an output at one of the server's modes, right of the one plugged in before it.
+    [[nodiscard]] Result<void> plug(const std::string& connector, const std::string& mode);
+    /// Turns an output off and takes the modes away that were added to it.
+    ///
+    /// This driver finds an output connected once it has been looked at while lit, and never
+    /// disconnected again: whether a display is there shows in whether it is lit, not in that.
+    [[nodiscard]] Result<void> unplug(const std::string& connector);
+    /// Sets what the server tells of the size of the picture, in millimetres.
+    [[nodiscard]] Result<void> setPhysicalSize(const std::string& connector, int widthMillimetres,
+                                               int heightMillimetres);
+    [[nodiscard]] Result<void> setPrimary(const std::string& connector);
+    /// Gives an output an identity; no bytes take it away.
+    [[nodiscard]] Result<void> setEdid(const std::string& connector,
+                                       const std::vector<std::uint8_t>& edid);
+    /// Sets a property of the root window, for example "_ICC_PROFILE"; no bytes delete it.
+    [[nodiscard]] Result<void> setRootProperty(const std::string& name,
+                                               const std::vector<std::uint8_t>& bytes);
+    /// Runs xrandr with these arguments and gives its standard output.
+    [[nodiscard]] Result<std::string> xrandr(const std::vector<std::string>& arguments) const;
+
+    /// Ends the server at once, as a crash would; every later call fails.
+    void kill();
+
+ private:
+    XServer(ScratchFolder folder, std::unique_ptr<BackgroundProcess> process, std::string display);
+    static Result<std::unique_ptr<XServer>> startOnce(const Options& options);
+    void removeLeftovers() const;
+
+    ScratchFolder m_folder;
+    std::unique_ptr<BackgroundProcess> m_process;
+    std::string m_display;
+    /// The lit connectors, in the order of plugging.
+    std::vector<std::string> m_plugged{"DUMMY0"};
+};
+
+}  // namespace tonquil
