@@ -22,12 +22,12 @@ struct ProcessRequest {
     /// The program, looked up in PATH when it has no slash, and its arguments.
     std::vector<std::string> command;
     /// Added to the environment of this program, or replacing what it holds.
-    std::map<std::string, std::string> environment;
+    std::map<std::string, std::string> environment = {};
     /// Names taken out of the environment.
-    std::vector<std::string> unset;
-    std::string standardInput;
+    std::vector<std::string> unset = {};
+    std::string standardInput = {};
     /// Given to the program as its descriptor 3.
-    std::optional<int> thirdDescriptor;
+    std::optional<int> thirdDescriptor = {};
     /// How long `run` waits before it kills the program.
     std::chrono::milliseconds limit = std::chrono::seconds(60);
 };

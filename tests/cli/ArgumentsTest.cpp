@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Arguments.h"
+
+#include <gtest/gtest.h>
+
+namespace tonquil {
+namespace {
+
+Result<Arguments> parsed(std::vector<std::string> words) {
+    words.insert(words.begin(), "tonquilctl");
+    std::vector<char*> argv;
+    for (std::string& word : words) {
+        argv.push_back(word.data());
+    }
+    argv.push_back(nullptr);
+    return parseArguments(static_cast<int>(words.size()), argv.data());
+}
+
+TEST(Arguments, AreUnderstoodInAnyOrder) {
+    const auto apply = parsed({"apply", "--display", "1-2-3", "file", "--display=4-5-6"});
+    ASSERT_TRUE(apply);
+    EXPECT_EQ(apply->command, Arguments::Command::apply);
+    EXPECT_EQ(apply->displays, (std::vector<std::string>{"1-2-3", "4-5-6"}));
+    EXPECT_EQ(apply->file, "file");
+
+    const auto table = parsed({"table", "--samples", "17", "--curve", "[0]", "--base", "b"});
+    ASSERT_TRUE(table);
+    EXPECT_EQ(table->samples, 17U);
+    EXPECT_EQ(table->curve, "[0]");
+    EXPECT_EQ(table->base, "b");
+
+    EXPECT_EQ(parsed({"apply", "--", "--file"})->file, "--file");
+    EXPECT_EQ(parsed({"read", "--help"})->command, Arguments::Command::help);
+    EXPECT_EQ(parsed({"--version"})->command, Arguments::Command::version);
+}
+
+TEST(Arguments, ThatMakeNoSenseAreRefused) {
+    const std::vector<std::vector<std::string>> refused{
+        {},
+        {"frobnicate"},
+        {"displays", "file"},
+        {"displays", "--hardware"},
+        {"read", "--json"},
+        {"read", "--display"},
+        {"apply"},
+        {"apply", "one", "two"},
+        {"apply", "file", "--curve", "[0]"},
+        {"apply", "file", "--samples", "3"},
+        {"restore", "--nonsense"},
+        {"table", "--curve", "[0]", "--samples", "0"},
+        {"table", "--curve", "[0]", "--samples", "257"},
+        {"table", "--curve", "[0]", "--samples", "12x"},
+        {"table", "--curve", "[0]", "--samples", "-1"}};
+    for (const auto& words : refused) {
+        SCOPED_TRACE(testing::PrintToString(words));
+        EXPECT_FALSE(parsed(words));
+    }
+}
+
+}  // namespace
+}  // namespace tonquil

@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <thread>
+
+#include "model/TQExtendedGammaCurve.h"
+#include "tests/cli/ControlProgram.h"
+#include "tests/support/EdidBuilder.h"
+#include "tests/support/IccBuilder.h"
+#include "tests/support/RampReader.h"
+#include "tests/support/Succeeded.h"
+#include "tests/support/XServer.h"
+#include "values/BoundedJson.h"
+
+namespace tonquil {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Three displays: serial numbers 1 and 2, and one known by its size.
+class ProgramOnXServer : public testing::Test {
+ protected:
+    ProgramOnXServer() {
+        mustSucceed(server->setEdid("DUMMY0", buildEdid({.product = 10, .serial = 1})));
+        mustSucceed(server->setEdid("DUMMY1", buildEdid({.product = 10, .serial = 2})));
+        mustSucceed(server->plug("DUMMY1", "1280x1024"));
+        mustSucceed(server->plug("DUMMY2", "1024x768"));
+        mustSucceed(server->setPhysicalSize("DUMMY2", 600, 340));
+    }
+    ProcessResult control(const std::vector<std::string>& arguments) {
+        return tonquilctl(server->display(), arguments);
+    }
+    void mustRun(const std::vector<std::string>& arguments) {
+        const ProcessResult result = control(arguments);
+        EXPECT_EQ(result.exitStatus, 0) << result.standardError;
+        EXPECT_EQ(result.standardError, "");
+    }
+    Ramp ramp(int display) { return reader.read("DUMMY" + std::to_string(display)).value(); }
+
+    std::unique_ptr<XServer> server = XServer::start().value();
+    RampReader reader = RampReader::connect(server->display()).value();
+};
+
+/// What the server starts with: i << 8.
+Ramp startRamp() {
+    Ramp ramp;
+    for (int i = 0; i < 256; ++i) {
+        ramp.red.push_back(static_cast<std::uint16_t>(i << 8));
+    }
+    ramp.green = ramp.blue = ramp.red;
+    return ramp;
+}
+
+/// The ramp of an absolute curve with this exponent and white, from the formula.
+Ramp absoluteRamp(double exponent, double white) {
+    Ramp ramp;
+    for (int i = 0; i < 256; ++i) {
+        ramp.red.push_back(
+            static_cast<std::uint16_t>(std::lround(65535 * white * std::pow(i / 256.0, exponent))));
+    }
+    ramp.green = ramp.blue = ramp.red;
+    return ramp;
+}
+
+TEST_F(ProgramOnXServer, ListsTheDisplays) {
+    EXPECT_EQ(control({"displays"}).standardOutput,
+              "1\t1-10-21036\tDUMMY0\t1400x1050+0+0\t256\tunique\n"
+              "2\t2-10-21036\tDUMMY1\t1280x1024+1400+0\t256\tunique\n"
+              "3\t600.000000x340.000000-0-0\tDUMMY2\t1024x768+2680+0\t256\tlocal\n");
+    const auto list = readBoundedJson(control({"displays", "--json"}).standardOutput).value();
+    ASSERT_EQ(list.size(), 3U);
+    const PropertyValue& second = list[1];
+    EXPECT_EQ(second["number"], 2);
+    EXPECT_EQ(second["referenceID"], "2-10-21036");
+    EXPECT_EQ(second["name"], "DUMMY1");
+    EXPECT_EQ(second["bounds"], (PropertyValue{1400, 0, 1280, 1024}));
+    EXPECT_EQ(second["rampSize"], 256);
+    EXPECT_EQ(second["local"], false);
+    EXPECT_EQ(second["main"], false);
+    EXPECT_EQ(list[0]["main"], true);
+    EXPECT_EQ(list[2]["local"], true);
+    EXPECT_EQ(second.size(), 8U);
+}
+
+TEST_F(ProgramOnXServer, AppliesAFileToTheDisplaysThatItNames) {
+    const auto dictionary = [](float exponent) {
+        return TQExtendedGammaCurve::gammaCurveWithMasterBlack(0, exponent, 1, nullptr, nullptr,
+                                                               nullptr, 0)
+            ->gammaCurveDictionary();
+    };
+    const auto list = readBoundedJson(control({"displays", "--json"}).standardOutput).value();
+    const std::string oldID = list[2]["oldReferenceID"].get<std::string>();
+    const std::string file = propertyListFile(
+        {{"Format", 1},
+         {"Screens",
+          {{"1-10-21036", dictionary(2)}, {oldID, dictionary(0.5F)}, {"9-9-9", dictionary(3)}}}});
+    mustRun({"apply", file});
+    EXPECT_EQ(ramp(0), absoluteRamp(2, 1));
+    EXPECT_EQ(ramp(1), startRamp());
+    EXPECT_EQ(ramp(2), absoluteRamp(0.5, 1));
+    mustRun({"restore", "--display", "1-10-21036"});
+    EXPECT_EQ(ramp(0), startRamp());
+    EXPECT_EQ(ramp(2), absoluteRamp(0.5, 1));
+    mustRun({"apply", file, "--display", "1-10-21036"});
+    EXPECT_EQ(ramp(0), absoluteRamp(2, 1));
+    mustRun({"restore"});
+    EXPECT_EQ(ramp(2), startRamp());
+    // A raw table goes to all; byte 255 is 255 / 256.
+    mustRun({"apply", fileWith(std::string(768, '\xFF'))});
+    for (int display = 0; display < 3; ++display) {
+        EXPECT_EQ(ramp(display).green[3], 65279);
+    }
+}
+
+TEST_F(ProgramOnXServer, ReadsTheBaseOrTheHardware) {
+    const std::string before = control({"read"}).standardOutput;
+    EXPECT_TRUE(before.starts_with("0\t0\t0\t0\n1\t0.0039063096\t0.0039063096\t0.0039063096\n"));
+    mustRun({"apply", "--curve", "[0,0,1,0.5]", "--display", "2-10-21036"});
+    EXPECT_EQ(control({"read", "--display", "2-10-21036"}).standardOutput, before);
+    const std::string hardware =
+        control({"read", "--hardware", "--display", "2-10-21036"}).standardOutput;
+    // 32640 of 65535 in slot 255: half of 255 / 256.
+    EXPECT_TRUE(hardware.ends_with("\n255\t0.498054475\t0.498054475\t0.498054475\n")) << hardware;
+    EXPECT_EQ(control({"read", "--hardware"}).standardOutput, before);
+}
+
+TEST_F(ProgramOnXServer, DoesNotCompoundHoweverOftenItIsKilled) {
+    const std::vector<std::string> apply{"apply", "--curve", "[1,0.05,1.3,0.9]"};
+    mustRun(apply);
+    const Ramp once = ramp(1);
+    ASSERT_NE(once, startRamp());
+    mustRun({"restore"});
+    // Killed at ever later moments of its short life, with two curves in turn.
+    for (int round = 0; round < 120; ++round) {
+        const auto process =
+            BackgroundProcess::start(
+                tonquilctlRequest(
+                    server->display(),
+                    round % 2 == 0 ? apply
+                                   : std::vector<std::string>{"apply", "--curve", "[0,0.1,0.7,1]"}))
+                .value();
+        std::this_thread::sleep_for(std::chrono::microseconds(50 * (round % 60)));
+        process->kill();
+    }
+    mustRun(apply);
+    for (int display = 0; display < 3; ++display) {
+        EXPECT_EQ(ramp(display), once);
+    }
+    mustRun({"restore"});
+    EXPECT_EQ(ramp(1), startRamp());
+}
+
+TEST_F(ProgramOnXServer, AForeignRampBetweenTwoAppliesBecomesTheSystems) {
+    mustRun({"apply", "--curve", "[1,0,1.5,1]"});
+    mustSucceed(server->xrandr({"--output", "DUMMY1", "--gamma", "1.2:1:0.8"}));
+    const Ramp foreign = ramp(1);
+    mustRun({"apply", "--curve", "[1,0,1.5,1]"});
+    EXPECT_NE(ramp(1), foreign);
+    mustRun({"restore"});
+    EXPECT_EQ(ramp(1), foreign);
+    EXPECT_EQ(ramp(0), startRamp());
+}
+
+TEST_F(ProgramOnXServer, RestoresWhatAPublishedProfileAsksFor) {
+    const Ramp calibration = absoluteRamp(1.1, 0.95);
+    mustSucceed(server->setRootProperty("_ICC_PROFILE_2", buildIccWithTable(calibration)));
+    mustSucceed(server->setRootProperty("_ICC_PROFILE_1", {1, 2, 3}));
+    mustSucceed(server->setRootProperty("_ICC_PROFILE", buildIccWithoutCalibration()));
+    mustRun({"apply", "--curve", "[1,0,1.5,1]"});
+    mustRun({"restore"});
+    EXPECT_EQ(ramp(2), calibration);
+    EXPECT_EQ(ramp(1), startRamp()) << "a broken profile counts as none";
+    EXPECT_EQ(ramp(0), startRamp()) << "so does one without a calibration";
+}
+
+TEST_F(ProgramOnXServer, SurvivesDisplaysComingAndGoingWhileItApplies) {
+    for (int round = 0; round < 6; ++round) {
+        const auto loop =
+            BackgroundProcess::start(
+                {.command =
+                     {"sh", "-c",
+                      "for i in 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20; do " TONQUILCTL
+                      " apply --curve '[1,0,1.5,1]' || echo failed with $?; done"},
+                 .environment = {{"DISPLAY", server->display()}}})
+                .value();
+        mustSucceed(server->unplug("DUMMY1"));
+        mustSucceed(server->plug("DUMMY1", "1280x1024"));
+        const auto result = loop->wait(20s);
+        ASSERT_TRUE(result);
+        // A display that goes while it is being set is a failure that is said, never a crash.
+        for (const char* signal : {"134", "135", "136", "139"}) {
+            EXPECT_EQ(result->standardOutput.find(std::string("failed with ") + signal),
+                      std::string::npos);
+        }
+    }
+    mustRun({"apply", "--curve", "[0,0,2,1]"});
+    EXPECT_EQ(ramp(1), absoluteRamp(2, 1));
+    EXPECT_NE(control({"displays"}).standardOutput.find("\t2-10-21036\tDUMMY1\t"),
+              std::string::npos);
+    mustRun({"restore"});
+    EXPECT_EQ(ramp(0), startRamp());
+    EXPECT_EQ(ramp(1), startRamp());
+}
+
+}  // namespace
+}  // namespace tonquil
