@@ -5,16 +5,17 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <limits>
 
-#include "../tests/plist/SameValue.h"
+#include "Require.h"
 #include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
+#include "tests/plist/SameValue.h"
 
 namespace {
 
 using tonquil::PropertyValue;
+using tonquil::require;
 
 /// Whether XML cannot carry the text, told from its UTF-8 bytes alone.
 bool isRefusedByXml(const std::string& text) {
@@ -36,12 +37,6 @@ bool hasTextRefusedByXml(const PropertyValue& value) {
         });
     }
     return value.is_array() && std::any_of(value.begin(), value.end(), &hasTextRefusedByXml);
-}
-
-void require(bool condition) {
-    if (!condition) {
-        std::abort();
-    }
 }
 
 }  // namespace

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+//
+// Any contents of the two root-window properties, which any client may write.
+
+#include <cstring>
+#include <vector>
+
+#include "Require.h"
+#include "platform/x11/X11RampJournal.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    std::vector<std::uint32_t> units(size / sizeof(std::uint32_t));
+    if (!units.empty()) {
+        std::memcpy(units.data(), data, units.size() * sizeof(std::uint32_t));
+    }
+    for (const auto& [crtc, history] : tonquil::X11RampJournal::parse(units, units)) {
+        tonquil::require(history.corrections().size() <= tonquil::RampHistory::mostCorrections);
+        tonquil::require(!history.systemRamp() ||
+                         history.systemRamp()->size() <= tonquil::HardwareRamp::largestSize);
+    }
+    return 0;
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+//
+// Any file: whatever curves are in it, they compute a table and are stored and read back as the
+// same bits.
+
+#include "settings/Settings.h"
+
+#include "Require.h"
+#include "model/KVTableGammaCurve.h"
+#include "model/TQExtendedGammaCurve.h"
+#include "model/TableComputation.h"
+
+namespace {
+
+using namespace tonquil;
+
+void use(const PropertyValue& dictionary) {
+    const auto curve = TQExtendedGammaCurve::gammaCurveWithDictionary(dictionary);
+    require(curve->blendingMode() == 0 || curve->blendingMode() == 1);
+    GammaTable table;
+    curve->flatGammaCurve()->_applyGammaValues(table, 256);
+    const auto again =
+        TQExtendedGammaCurve::gammaCurveWithDictionary(curve->gammaCurveDictionary());
+    require(again->gammaCurveCompactArray().dump() == curve->gammaCurveCompactArray().dump());
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const Settings settings = readSettings({data, data + size});
+    if (const auto* single = std::get_if<SingleDisplaySettings>(&settings)) {
+        use(single->curve);
+    } else if (const auto* multi = std::get_if<MultiDisplaySettings>(&settings)) {
+        for (const auto& screen : multi->screens) {
+            use(screen);
+        }
+    } else {
+        const auto& raw = std::get<RawTableSettings>(settings);
+        require(raw.bytes.size() == size);
+        require((KVTableGammaCurve::tableGammaCurveWithData(raw.bytes) != nullptr) ==
+                (size >= KVTableGammaCurve::dataSize));
+    }
+    return 0;
+}
