@@ -25,18 +25,18 @@ int main(int argc, char** argv) {
         say(arguments.error().sentence + " Try \"tonquilctl --help\".");
         return wrongUsage;
     }
-    // A failure is explained in one line, so what the service logs becomes part of it.
+    // A failure is explained in one line, so what the service logs becomes part of it. Without a
+    // failure it is about displays that nothing was asked of.
     std::string logged;
     const auto log = [&](std::string_view line) { logged = line; };
     const auto openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); };
     const auto result = tonquil::runCommand(*arguments, openDisplays, std::cout, std::cerr);
     if (!result) {
-        const std::string& detail = result.error().detail.empty() ? logged : result.error().detail;
-        say(result.error().sentence + (detail.empty() ? "" : " (" + detail + ")"));
+        const auto& [sentence, ownDetail] = result.error();
+        const std::string& detail = ownDetail.empty() ? logged : ownDetail;
+        const bool isSaid = sentence.find(detail) != std::string::npos;
+        say(isSaid ? sentence : sentence + " (" + detail + ")");
         return failed;
-    }
-    if (!logged.empty()) {
-        say(logged);
     }
     if (!std::cout.flush()) {
         say("The output could not be written.");

@@ -22,8 +22,8 @@ class X11Connection {
     [[nodiscard]] xcb_window_t root() const { return _root; }
     /// The first event number of the RandR extension.
     [[nodiscard]] std::uint8_t randrFirstEvent() const { return _randrFirstEvent; }
-    /// True where the server only draws into a Wayland compositor: its gamma calls succeed, read
-    /// back what was written, and change nothing.
+    /// True where the server says that it only draws into a Wayland compositor: its gamma calls
+    /// succeed, read back what was written, and change nothing. Old releases do not say so.
     [[nodiscard]] bool isXwayland() const { return _isXwayland; }
     /// True once the server has gone; every request is then in vain.
     [[nodiscard]] bool isLost() const { return xcb_connection_has_error(get()) != 0; }

@@ -57,7 +57,6 @@ void X11CrtcRamps::release(xcb_randr_crtc_t crtc) {
     const CrtcRamp& state = _crtcs[crtc];
     if (state.history.isCorrection(state.present.fingerprint())) {
         setSystemRamp(crtc, state.history.uncorrected(state.present));
-        static_cast<void>(finish());
     }
     _crtcs.erase(crtc);
 }

@@ -31,7 +31,7 @@ class X11CrtcRamps {
     /// have size 0 from then on.
     void load(const std::vector<xcb_randr_crtc_t>& crtcs);
     [[nodiscard]] bool isLoaded(xcb_randr_crtc_t crtc) const { return _crtcs.contains(crtc); }
-    /// Gives a CRTC back its system ramp if a correction is on it, and forgets it.
+    /// Sends a CRTC its system ramp if a correction is on it, and forgets it.
     void release(xcb_randr_crtc_t crtc);
     /// Entries per channel; 0 when there is no gamma.
     [[nodiscard]] std::uint32_t size(xcb_randr_crtc_t crtc) const;

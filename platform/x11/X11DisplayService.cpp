@@ -65,6 +65,9 @@ void X11DisplayService::readLayout() {
             _ramps.release(display.crtc);
         }
     }
+    if (!_isInBatch) {
+        static_cast<void>(_ramps.finish());
+    }
 }
 
 const X11Display* X11DisplayService::find(DisplayID display) {
@@ -75,13 +78,18 @@ const X11Display* X11DisplayService::find(DisplayID display) {
     return found == displays.end() ? nullptr : &*found;
 }
 
+bool X11DisplayService::isXwayland(const X11Display& display) const {
+    // Releases before 23.1 have no extension to say so, but name their outputs XWAYLAND0, 1, ….
+    return _connection->isXwayland() || display.connector.starts_with("XWAYLAND");
+}
+
 const X11Display* X11DisplayService::correctable(DisplayID display) {
     const X11Display* found = find(display);
     if (found == nullptr) {
         report(display, "Display " + std::to_string(display) + " is gone.");
         return nullptr;
     }
-    if (_connection->isXwayland() ||
+    if (isXwayland(*found) ||
         (_ramps.isLoaded(found->crtc) && _ramps.size(found->crtc) == 0)) {
         report(display, found->connector + ": " + description(display).obstacle);
         return nullptr;
@@ -125,7 +133,7 @@ DisplayDescription X11DisplayService::description(DisplayID display) {
                                    .productName = found->productName,
                                    .rampSize = _ramps.size(found->crtc),
                                    .obstacle = {}};
-    if (_connection->isXwayland()) {
+    if (isXwayland(*found)) {
         description.obstacle =
             "This X server only draws into a Wayland desktop: setting its gamma ramps changes "
             "nothing.";

@@ -51,6 +51,8 @@ class X11DisplayService : public DisplayService {
 
     [[nodiscard]] const std::vector<X11Display>& layout();
     void readLayout();
+    /// Whether the server only draws into a Wayland compositor, which takes no gamma ramp from it.
+    [[nodiscard]] bool isXwayland(const X11Display& display) const;
     /// Null when there is none with this ID; 0 means the main display.
     [[nodiscard]] const X11Display* find(DisplayID display);
     /// The same, but only if it has a ramp to correct; otherwise the log says once why not.
