@@ -14,6 +14,12 @@ namespace tonquil {
 
 namespace {
 
+std::string quoted(std::string_view text) {
+    std::string result = "\"";
+    result.append(text).append("\"");
+    return result;
+}
+
 struct CommandForm {
     std::string_view name;
     Arguments::Command command;
@@ -45,8 +51,7 @@ Result<std::uint32_t> sampleCount(std::string_view text) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), count);
     if (error != std::errc() || end != text.data() + text.size() || count < 1 ||
         count > GammaTable::capacity) {
-        return problem("--samples takes a whole number from 1 to 256, not \"" + std::string(text) +
-                       "\".");
+        return problem("--samples takes a whole number from 1 to 256, not " + quoted(text) + ".");
     }
     return count;
 }
@@ -55,11 +60,11 @@ Result<std::uint32_t> sampleCount(std::string_view text) {
 std::optional<Problem> take(int letter, const CommandForm& form, Arguments& arguments) {
     if (letter != 'h' && letter != 'V' &&
         form.options.find(static_cast<char>(letter)) == std::string_view::npos) {
-        const auto* const known = std::find_if(options.begin(), options.end(),
-                                        [=](const option& each) { return each.val == letter; });
-        return Problem{"--" + std::string(known->name) + " is not an option of \"" +
-                           std::string(form.name) + "\".",
-                       {}};
+        const auto* const known = std::find_if(
+            options.begin(), options.end(), [=](const option& each) { return each.val == letter; });
+        return Problem{
+            "--" + std::string(known->name) + " is not an option of " + quoted(form.name) + ".",
+            {}};
     }
     switch (letter) {
         case 'j':
@@ -99,15 +104,14 @@ std::optional<Problem> takeFile(const CommandForm& form, int argc, char* const* 
                                 Arguments& arguments) {
     const int files = argc - optind;
     if (files > (form.takesFile ? 1 : 0)) {
-        return Problem{"\"" + std::string(argv[optind + (form.takesFile ? 1 : 0)]) +
-                           "\" is one argument too many.",
-                       {}};
+        return Problem{
+            quoted(argv[optind + (form.takesFile ? 1 : 0)]) + " is one argument too many.", {}};
     }
     if (files == 1) {
         arguments.file = argv[optind];
     }
     if (form.takesFile && arguments.file.has_value() == arguments.curve.has_value()) {
-        return Problem{"\"" + std::string(form.name) + "\" takes either a file or --curve.", {}};
+        return Problem{quoted(form.name) + " takes either a file or --curve.", {}};
     }
     return std::nullopt;
 }
@@ -131,7 +135,7 @@ Result<Arguments> parseArguments(int argc, char* const* argv) {
         std::find_if(commandForms.begin(), commandForms.end(),
                      [=](const CommandForm& each) { return each.name == name; });
     if (form == commandForms.end()) {
-        return problem("\"" + std::string(name) + "\" is not a command.");
+        return problem(quoted(name) + " is not a command.");
     }
     arguments.command = form->command;
     opterr = 0;
@@ -139,7 +143,7 @@ Result<Arguments> parseArguments(int argc, char* const* argv) {
     for (int letter = 0; (letter = getopt_long(argc, argv, ":h", options.data(), nullptr)) != -1;) {
         if (letter == '?' || letter == ':') {
             const std::string culprit = argv[optind - 1];
-            return problem(letter == '?' ? "\"" + culprit + "\" is not an option."
+            return problem(letter == '?' ? quoted(culprit) + " is not an option."
                                          : culprit + " needs a value.");
         }
         if (auto wrong = take(letter, *form, arguments)) {

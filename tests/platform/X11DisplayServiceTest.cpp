@@ -52,7 +52,13 @@ TEST(X11DisplayService, KnowsDisplaysByTheirEdidOrTheirSize) {
     EXPECT_EQ(found, (std::vector<std::string>{"DUMMY2  2680 1166364645-42-4268",
                                                "DUMMY0 Left 0 77-41-4268",
                                                "DUMMY1  1400 600.000000x340.000000-0-0"}));
-    EXPECT_EQ(service->description(registry.screens()[0]->directDisplayID()).rampSize, 256U);
+    EXPECT_EQ(service->description(0).rampSize, 256U);
+
+    // Without a primary output the main display is the one at the origin.
+    mustSucceed(server->xrandr({"--noprimary", "--output", "DUMMY0", "--pos", "3000x0", "--output",
+                                "DUMMY1", "--pos", "0x0"}));
+    ASSERT_EQ(service->onlineDisplays(25).size(), 3U);
+    EXPECT_EQ(service->description(0).connector, "DUMMY1");
 }
 
 TEST(X11DisplayService, SurvivesTheServersDeath) {

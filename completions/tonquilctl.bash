@@ -1,0 +1,93 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+# Completion for tonquilctl. It needs nothing but bash, and is loaded by bash-completion or by
+# sourcing it.
+
+# Adds the reference IDs of the attached displays that begin as the word does.
+_tonquilctl_displays() {
+    local id
+    while IFS=$'\t' read -r _ id _; do
+        # An ID may come twice, when displays of one model have no serial numbers.
+        if [[ $id == "$1"* && " ${COMPREPLY[*]} " != *" $id "* ]]; then
+            COMPREPLY+=("$id")
+        fi
+    done < <("${COMP_WORDS[0]}" displays 2> /dev/null)
+}
+
+_tonquilctl_files() {
+    local file
+    while IFS= read -r file; do
+        COMPREPLY+=("$file")
+    done < <(compgen -f -- "$1")
+    # Makes a folder end in a slash and quotes what needs it; only there while completing.
+    compopt -o filenames 2> /dev/null
+}
+
+_tonquilctl_words() {
+    local word
+    while IFS= read -r word; do
+        COMPREPLY+=("$word")
+    done < <(compgen -W "$2" -- "$1")
+}
+
+# Whether the words before the one being completed hold a file or a --curve already.
+_tonquilctl_has_curve() {
+    local i
+    for ((i = 2; i < COMP_CWORD; ++i)); do
+        case ${COMP_WORDS[i]} in
+            --curve | --curve=*) return 0 ;;
+            --display | --samples | --base)
+                # A value may follow its option as a word of its own or, as bash splits words,
+                # behind a word "=".
+                if [[ ${COMP_WORDS[i + 1]} == = ]]; then
+                    i=$((i + 1))
+                fi
+                i=$((i + 1))
+                ;;
+            -*) ;;
+            *) return 0 ;;
+        esac
+    done
+    return 1
+}
+
+_tonquilctl() {
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} options
+    COMPREPLY=()
+    if ((COMP_CWORD == 1)); then
+        _tonquilctl_words "$word" "displays apply restore read table --help --version"
+        return
+    fi
+    # Bash makes a word of its own of the "=" in --display=ID.
+    if [[ $word == = ]]; then
+        word=""
+    elif [[ $before == = ]]; then
+        before=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
+    case ${COMP_WORDS[1]} in
+        displays) options="--json" ;;
+        apply) options="--display --curve" ;;
+        restore) options="--display" ;;
+        read) options="--display --hardware" ;;
+        table) options="--display --curve --samples --base" ;;
+        *) return ;;
+    esac
+    case $before in
+        --display)
+            _tonquilctl_displays "$word"
+            return
+            ;;
+        --base)
+            _tonquilctl_files "$word"
+            return
+            ;;
+        --curve | --samples) return ;;
+    esac
+    if [[ $word == -* ]]; then
+        _tonquilctl_words "$word" "$options --help"
+    elif [[ ${COMP_WORDS[1]} == @(apply|table) ]] && ! _tonquilctl_has_curve; then
+        _tonquilctl_files "$word"
+    fi
+}
+
+complete -F _tonquilctl tonquilctl
