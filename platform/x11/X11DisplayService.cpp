@@ -89,8 +89,7 @@ const X11Display* X11DisplayService::correctable(DisplayID display) {
         report(display, "Display " + std::to_string(display) + " is gone.");
         return nullptr;
     }
-    if (isXwayland(*found) ||
-        (_ramps.isLoaded(found->crtc) && _ramps.size(found->crtc) == 0)) {
+    if (isXwayland(*found) || (_ramps.isLoaded(found->crtc) && _ramps.size(found->crtc) == 0)) {
         report(display, found->connector + ": " + description(display).obstacle);
         return nullptr;
     }

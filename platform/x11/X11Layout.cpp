@@ -94,6 +94,7 @@ void describeAll(const X11Connection& connection, xcb_timestamp_t timestamp,
         xcb_randr_get_output_property_cookie_t edid;
     };
     std::vector<Cookies> cookies;
+    cookies.reserve(displays.size());
     for (const X11Display& display : displays) {
         cookies.push_back(
             {xcb_randr_get_output_info(c, display.output, timestamp),

@@ -9,6 +9,7 @@ namespace {
 Result<Arguments> parsed(std::vector<std::string> words) {
     words.insert(words.begin(), "tonquilctl");
     std::vector<char*> argv;
+    argv.reserve(words.size() + 1);
     for (std::string& word : words) {
         argv.push_back(word.data());
     }

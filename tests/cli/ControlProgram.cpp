@@ -29,7 +29,7 @@ ProcessResult tonquilctl(const std::string& display, const std::vector<std::stri
 std::string fileWith(const std::string& contents) {
     static const ScratchFolder folder;
     static int count = 0;
-    const std::string path = folder.path() / ("file" + std::to_string(++count));
+    std::string path = folder.path() / ("file" + std::to_string(++count));
     std::ofstream(path, std::ios::binary) << contents;
     return path;
 }

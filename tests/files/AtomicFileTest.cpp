@@ -24,8 +24,8 @@ using testing::HasSubstr;
 /// The sentence of the problem, or "saved".
 std::string save(const std::filesystem::path& target, std::string_view text,
                  const AtomicFileOptions& options = {}) {
-    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-    const auto saved = writeFileAtomically(target, {bytes, text.size()}, options);
+    const std::vector<std::uint8_t> bytes(text.begin(), text.end());
+    const auto saved = writeFileAtomically(target, bytes, options);
     return saved ? "saved" : saved.error().sentence;
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,10 @@ struct Kind {
     std::string name;
     std::function<std::unique_ptr<ServiceBench>()> make;
 };
+
+void PrintTo(const Kind& kind, std::ostream* out) {
+    *out << kind.name;
+}
 
 /// What every display service owes.
 class DisplayServiceContract : public testing::TestWithParam<Kind> {

@@ -10,27 +10,27 @@ namespace tonquil {
 /// An open descriptor, closed with this object; -1 stands for none.
 class FileDescriptor {
  public:
-    explicit FileDescriptor(int descriptor = -1) : m_descriptor(descriptor) {}
+    explicit FileDescriptor(int descriptor = -1) : _descriptor(descriptor) {}
     ~FileDescriptor() { close(); }
     FileDescriptor(FileDescriptor&& other) noexcept
-        : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
+        : _descriptor(std::exchange(other._descriptor, -1)) {}
     FileDescriptor& operator=(FileDescriptor&& other) noexcept {
         if (this != &other) {
             close();
-            m_descriptor = std::exchange(other.m_descriptor, -1);
+            _descriptor = std::exchange(other._descriptor, -1);
         }
         return *this;
     }
 
-    [[nodiscard]] int get() const { return m_descriptor; }
+    [[nodiscard]] int get() const { return _descriptor; }
     void close() {
-        if (m_descriptor >= 0) {
-            ::close(std::exchange(m_descriptor, -1));
+        if (_descriptor >= 0) {
+            ::close(std::exchange(_descriptor, -1));
         }
     }
 
  private:
-    int m_descriptor;
+    int _descriptor;
 };
 
 }  // namespace tonquil

@@ -23,25 +23,25 @@ struct ManualRunLoop::Entry {
 
 class ManualRunLoop::EntryHandle final : public Handle {
  public:
-    explicit EntryHandle(std::shared_ptr<Entry> entry) : m_entry(std::move(entry)) {}
+    explicit EntryHandle(std::shared_ptr<Entry> entry) : _entry(std::move(entry)) {}
     EntryHandle(const EntryHandle&) = delete;
     EntryHandle& operator=(const EntryHandle&) = delete;
 
     ~EntryHandle() override {
-        m_entry->active = false;
+        _entry->active = false;
         // A function that is running must not be destroyed under itself; `call` does it after.
-        if (!m_entry->running) {
-            m_entry->call = nullptr;
+        if (!_entry->running) {
+            _entry->call = nullptr;
         }
     }
 
  private:
-    std::shared_ptr<Entry> m_entry;
+    std::shared_ptr<Entry> _entry;
 };
 
 std::unique_ptr<RunLoop::Handle> ManualRunLoop::add(Entries& entries,
                                                     std::shared_ptr<Entry> entry) {
-    entry->order = m_order++;
+    entry->order = _order++;
     entries.push_back(entry);
     return std::make_unique<EntryHandle>(std::move(entry));
 }
@@ -50,8 +50,8 @@ std::unique_ptr<RunLoop::Handle> ManualRunLoop::callOnce(std::chrono::millisecon
                                                          Call call) {
     auto entry = std::make_shared<Entry>();
     entry->call = std::move(call);
-    entry->due = m_now + std::max(delay, std::chrono::milliseconds::zero());
-    return add(m_timers, std::move(entry));
+    entry->due = _now + std::max(delay, std::chrono::milliseconds::zero());
+    return add(_timers, std::move(entry));
 }
 
 std::unique_ptr<RunLoop::Handle> ManualRunLoop::callRepeatedly(std::chrono::milliseconds interval,
@@ -59,43 +59,43 @@ std::unique_ptr<RunLoop::Handle> ManualRunLoop::callRepeatedly(std::chrono::mill
     auto entry = std::make_shared<Entry>();
     entry->call = std::move(call);
     entry->interval = std::max(interval, std::chrono::milliseconds(1));
-    entry->due = m_now + entry->interval;
-    return add(m_timers, std::move(entry));
+    entry->due = _now + entry->interval;
+    return add(_timers, std::move(entry));
 }
 
 std::unique_ptr<RunLoop::Handle> ManualRunLoop::watchReadable(int descriptor, Call call) {
     auto entry = std::make_shared<Entry>();
     entry->call = std::move(call);
     entry->descriptor = descriptor;
-    return add(m_watches, std::move(entry));
+    return add(_watches, std::move(entry));
 }
 
 void ManualRunLoop::post(Call call) {
-    m_posted.push_back(std::move(call));
+    _posted.push_back(std::move(call));
 }
 
 void ManualRunLoop::advance(std::chrono::milliseconds duration) {
-    const Clock::time_point end = m_now + duration;
+    const Clock::time_point end = _now + duration;
     runPosted();
     while (const auto timer = nextTimer(end)) {
-        m_now = std::max(m_now, timer->due);
+        _now = std::max(_now, timer->due);
         if (timer->interval == std::chrono::milliseconds::zero()) {
             timer->active = false;
         } else {
             timer->due += timer->interval;
-            timer->order = m_order++;
+            timer->order = _order++;
         }
         call(*timer);
         runPosted();
     }
-    m_now = std::max(m_now, end);
+    _now = std::max(_now, end);
 }
 
 std::size_t ManualRunLoop::runPosted() {
     std::size_t count = 0;
-    while (!m_posted.empty()) {
-        const Call call = std::move(m_posted.front());
-        m_posted.pop_front();
+    while (!_posted.empty()) {
+        const Call call = std::move(_posted.front());
+        _posted.pop_front();
         call();
         ++count;
     }
@@ -103,8 +103,8 @@ std::size_t ManualRunLoop::runPosted() {
 }
 
 std::size_t ManualRunLoop::pollReadable(std::chrono::milliseconds timeout) {
-    removeEnded(m_watches);
-    const Entries watches = m_watches;
+    removeEnded(_watches);
+    const Entries watches = _watches;
     std::vector<pollfd> polled;
     polled.reserve(watches.size());
     for (const auto& watch : watches) {
@@ -128,12 +128,12 @@ std::size_t ManualRunLoop::pollReadable(std::chrono::milliseconds timeout) {
 }
 
 std::shared_ptr<ManualRunLoop::Entry> ManualRunLoop::nextTimer(Clock::time_point end) {
-    removeEnded(m_timers);
+    removeEnded(_timers);
     const auto next =
-        std::min_element(m_timers.begin(), m_timers.end(), [](const auto& left, const auto& right) {
+        std::min_element(_timers.begin(), _timers.end(), [](const auto& left, const auto& right) {
             return std::tie(left->due, left->order) < std::tie(right->due, right->order);
         });
-    return next == m_timers.end() || (*next)->due > end ? nullptr : *next;
+    return next == _timers.end() || (*next)->due > end ? nullptr : *next;
 }
 
 void ManualRunLoop::call(Entry& entry) {

@@ -20,7 +20,7 @@ class ManualRunLoop final : public RunLoop {
  public:
     ManualRunLoop() = default;
 
-    [[nodiscard]] Clock::time_point now() const override { return m_now; }
+    [[nodiscard]] Clock::time_point now() const override { return _now; }
     [[nodiscard]] std::unique_ptr<Handle> callOnce(std::chrono::milliseconds delay,
                                                    Call call) override;
     /// An interval below one millisecond counts as one.
@@ -55,11 +55,11 @@ class ManualRunLoop final : public RunLoop {
     static void call(Entry& entry);
     static void removeEnded(Entries& entries);
 
-    Clock::time_point m_now{};
-    std::uint64_t m_order = 0;
-    Entries m_timers;
-    Entries m_watches;
-    std::deque<Call> m_posted;
+    Clock::time_point _now{};
+    std::uint64_t _order = 0;
+    Entries _timers;
+    Entries _watches;
+    std::deque<Call> _posted;
 };
 
 }  // namespace tonquil

@@ -131,10 +131,7 @@ int reasonFrom(const FileDescriptor& report) {
 
 BackgroundProcess::BackgroundProcess(pid_t pid, FileDescriptor handle, FileDescriptor output,
                                      FileDescriptor error)
-    : m_pid(pid),
-      m_handle(std::move(handle)),
-      m_output(std::move(output)),
-      m_error(std::move(error)) {}
+    : _pid(pid), _handle(std::move(handle)), _output(std::move(output)), _error(std::move(error)) {}
 
 BackgroundProcess::~BackgroundProcess() {
     kill();
@@ -177,7 +174,7 @@ Result<std::unique_ptr<BackgroundProcess>> BackgroundProcess::start(const Proces
     if (const int reason = reasonFrom(report); reason != 0) {
         return problem(failure, std::strerror(reason));
     }
-    if (process->m_handle.get() < 0) {
+    if (process->_handle.get() < 0) {
         return problem(failure, "The system gives no handle of the process.");
     }
     return process;
@@ -189,28 +186,28 @@ bool BackgroundProcess::isRunning() {
 }
 
 std::string BackgroundProcess::standardOutput() const {
-    return contentOf(m_output);
+    return contentOf(_output);
 }
 
 std::string BackgroundProcess::standardError() const {
-    return contentOf(m_error);
+    return contentOf(_error);
 }
 
 void BackgroundProcess::send(int signal) {
     // Until it has been waited for, its number cannot pass to another process.
-    if (!m_status) {
-        ::kill(m_pid, signal);
+    if (!_status) {
+        ::kill(_pid, signal);
     }
 }
 
 ProcessResult BackgroundProcess::kill() {
     send(SIGKILL);
     int status = 0;
-    while (!m_status) {
-        if (waitpid(m_pid, &status, 0) == m_pid) {
-            m_status = status;
+    while (!_status) {
+        if (waitpid(_pid, &status, 0) == _pid) {
+            _status = status;
         } else if (errno != EINTR) {
-            m_status = 0;
+            _status = 0;
         }
     }
     return result();
@@ -218,17 +215,17 @@ ProcessResult BackgroundProcess::kill() {
 
 std::optional<ProcessResult> BackgroundProcess::wait(std::chrono::milliseconds limit) {
     const auto deadline = SteadyClock::now() + limit;
-    while (!m_status) {
+    while (!_status) {
         int status = 0;
-        if (waitpid(m_pid, &status, WNOHANG) == m_pid) {
-            m_status = status;
+        if (waitpid(_pid, &status, WNOHANG) == _pid) {
+            _status = status;
             break;
         }
         const auto rest = remaining(deadline);
         if (rest == std::chrono::milliseconds::zero()) {
             return std::nullopt;
         }
-        pollfd ended{m_handle.get(), POLLIN, 0};
+        pollfd ended{_handle.get(), POLLIN, 0};
         poll(&ended, 1, static_cast<int>(rest.count()));
     }
     return result();
@@ -253,7 +250,7 @@ ProcessResult BackgroundProcess::result() const {
     ProcessResult result;
     result.standardOutput = standardOutput();
     result.standardError = standardError();
-    const int status = m_status.value_or(0);
+    const int status = _status.value_or(0);
     if (WIFSIGNALED(status)) {
         result.signal = WTERMSIG(status);
     } else {

@@ -54,7 +54,7 @@ class BackgroundProcess {
     BackgroundProcess(const BackgroundProcess&) = delete;
     BackgroundProcess& operator=(const BackgroundProcess&) = delete;
 
-    [[nodiscard]] pid_t pid() const { return m_pid; }
+    [[nodiscard]] pid_t pid() const { return _pid; }
     [[nodiscard]] bool isRunning();
     /// What it has written so far.
     [[nodiscard]] std::string standardOutput() const;
@@ -74,11 +74,11 @@ class BackgroundProcess {
                       FileDescriptor error);
     [[nodiscard]] ProcessResult result() const;
 
-    pid_t m_pid;
-    FileDescriptor m_handle;
-    FileDescriptor m_output;
-    FileDescriptor m_error;
-    std::optional<int> m_status;
+    pid_t _pid;
+    FileDescriptor _handle;
+    FileDescriptor _output;
+    FileDescriptor _error;
+    std::optional<int> _status;
 };
 
 /// Runs a program to its end; one that outlives the limit is killed, which `signal` tells.

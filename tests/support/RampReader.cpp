@@ -7,7 +7,7 @@
 
 namespace tonquil {
 
-RampReader::RampReader(XcbOutputs outputs) : m_outputs(std::move(outputs)) {}
+RampReader::RampReader(XcbOutputs outputs) : _outputs(std::move(outputs)) {}
 
 Result<RampReader> RampReader::connect(const std::string& display) {
     auto outputs = XcbOutputs::connect(display);
@@ -18,7 +18,7 @@ Result<RampReader> RampReader::connect(const std::string& display) {
 }
 
 Result<std::vector<OutputState>> RampReader::litOutputs() const {
-    auto outputs = m_outputs.all();
+    auto outputs = _outputs.all();
     if (outputs) {
         std::erase_if(*outputs, [](const OutputState& output) { return output.crtc == XCB_NONE; });
     }
@@ -26,7 +26,7 @@ Result<std::vector<OutputState>> RampReader::litOutputs() const {
 }
 
 Result<OutputState> RampReader::litOutput(const std::string& connector) const {
-    auto output = m_outputs.find(connector);
+    auto output = _outputs.find(connector);
     if (output && output->crtc == XCB_NONE) {
         return problem("The output " + connector + " is dark and has no ramp.");
     }
@@ -38,7 +38,7 @@ Result<Ramp> RampReader::read(const std::string& connector) const {
     if (!output) {
         return tl::unexpected(output.error());
     }
-    auto* connection = m_outputs.connection();
+    auto* connection = _outputs.connection();
     const XcbReply<xcb_randr_get_crtc_gamma_reply_t> reply(xcb_randr_get_crtc_gamma_reply(
         connection, xcb_randr_get_crtc_gamma(connection, output->crtc), nullptr));
     if (!reply) {
@@ -62,11 +62,10 @@ Result<void> RampReader::write(const std::string& connector, const Ramp& ramp) c
     if (ramp.green.size() != size || ramp.blue.size() != size || size > UINT16_MAX) {
         return problem("The three tables of a ramp must have the same size.");
     }
-    return m_outputs.check(
-        xcb_randr_set_crtc_gamma_checked(m_outputs.connection(), output->crtc,
-                                         static_cast<std::uint16_t>(size), ramp.red.data(),
-                                         ramp.green.data(), ramp.blue.data()),
-        "The ramp of " + connector + " cannot be written.");
+    return _outputs.check(xcb_randr_set_crtc_gamma_checked(
+                              _outputs.connection(), output->crtc, static_cast<std::uint16_t>(size),
+                              ramp.red.data(), ramp.green.data(), ramp.blue.data()),
+                          "The ramp of " + connector + " cannot be written.");
 }
 
 }  // namespace tonquil

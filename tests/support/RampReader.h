@@ -31,7 +31,7 @@ class RampReader {
     explicit RampReader(XcbOutputs outputs);
     [[nodiscard]] Result<OutputState> litOutput(const std::string& connector) const;
 
-    XcbOutputs m_outputs;
+    XcbOutputs _outputs;
 };
 
 }  // namespace tonquil

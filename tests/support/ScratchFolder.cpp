@@ -16,17 +16,17 @@ ScratchFolder::ScratchFolder() {
         std::perror("No scratch folder can be made");
         std::abort();
     }
-    m_path = pattern;
+    _path = pattern;
 }
 
 ScratchFolder::~ScratchFolder() {
-    if (!m_path.empty()) {
+    if (!_path.empty()) {
         std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
+        std::filesystem::remove_all(_path, ignored);
     }
 }
 
 ScratchFolder::ScratchFolder(ScratchFolder&& other) noexcept
-    : m_path(std::exchange(other.m_path, std::filesystem::path())) {}
+    : _path(std::exchange(other._path, std::filesystem::path())) {}
 
 }  // namespace tonquil

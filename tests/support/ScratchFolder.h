@@ -14,10 +14,10 @@ class ScratchFolder {
     ScratchFolder(ScratchFolder&& other) noexcept;
     ScratchFolder& operator=(ScratchFolder&& other) = delete;
 
-    [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
+    [[nodiscard]] const std::filesystem::path& path() const { return _path; }
 
  private:
-    std::filesystem::path m_path;
+    std::filesystem::path _path;
 };
 
 }  // namespace tonquil

@@ -107,12 +107,12 @@ bool answers(const std::string& display) {
 
 XServer::XServer(ScratchFolder folder, std::unique_ptr<BackgroundProcess> process,
                  std::string display)
-    : m_folder(std::move(folder)), m_process(std::move(process)), m_display(std::move(display)) {}
+    : _folder(std::move(folder)), _process(std::move(process)), _display(std::move(display)) {}
 
 XServer::~XServer() {
-    m_process->send(SIGTERM);
-    if (!m_process->wait(stopLimit)) {
-        m_process->kill();
+    _process->send(SIGTERM);
+    if (!_process->wait(stopLimit)) {
+        _process->kill();
     }
     removeLeftovers();
 }
@@ -154,54 +154,57 @@ Result<std::unique_ptr<XServer>> XServer::startOnce(const Options& options) {
 
 Result<void> XServer::plug(const std::string& connector, const std::string& mode) {
     std::vector<std::string> arguments{"--output", connector, "--mode", mode};
-    const bool isNew = std::find(m_plugged.begin(), m_plugged.end(), connector) == m_plugged.end();
+    const bool isNew = std::find(_plugged.begin(), _plugged.end(), connector) == _plugged.end();
     if (isNew) {
         if (auto added = xrandr({"--addmode", connector, mode}); !added) {
             return tl::unexpected(added.error());
         }
-        if (!m_plugged.empty()) {
-            arguments.insert(arguments.end(), {"--right-of", m_plugged.back()});
+        if (!_plugged.empty()) {
+            arguments.insert(arguments.end(), {"--right-of", _plugged.back()});
         }
     }
     const auto lit = xrandr(arguments);
     if (lit && isNew) {
-        m_plugged.push_back(connector);
+        _plugged.push_back(connector);
     }
     return lit.map([](const std::string&) {});
 }
 
 Result<void> XServer::unplug(const std::string& connector) {
-    if (std::erase(m_plugged, connector) == 0) {
+    if (std::erase(_plugged, connector) == 0) {
         return problem("The output " + connector + " is not plugged in.");
     }
     if (auto dark = xrandr({"--output", connector, "--off"}); !dark) {
         return tl::unexpected(dark.error());
     }
-    const auto outputs = XcbOutputs::connect(m_display);
+    const auto outputs = XcbOutputs::connect(_display);
     return outputs ? outputs->removeAddedModes(connector) : tl::unexpected(outputs.error());
 }
 
 Result<void> XServer::setPhysicalSize(const std::string& connector, int widthMillimetres,
-                                      int heightMillimetres) {
-    return xrandr({"--output", connector, "--set", "WIDTH_MM", std::to_string(widthMillimetres),
-                   "--output", connector, "--set", "HEIGHT_MM", std::to_string(heightMillimetres)})
-        // The server tells the new size only once it has probed its outputs again.
-        .and_then([this](const std::string&) { return xrandr({"--query"}); })
-        .map([](const std::string&) {});
+                                      int heightMillimetres) const {
+    const auto set =
+        xrandr({"--output", connector, "--set", "WIDTH_MM", std::to_string(widthMillimetres),
+                "--output", connector, "--set", "HEIGHT_MM", std::to_string(heightMillimetres)});
+    if (!set) {
+        return tl::unexpected(set.error());
+    }
+    // The driver takes up the size when it is asked what is connected.
+    return xrandr({"--query"}).map([](const std::string&) {});
 }
 
-Result<void> XServer::setPrimary(const std::string& connector) {
+Result<void> XServer::setPrimary(const std::string& connector) const {
     return xrandr({"--output", connector, "--primary"}).map([](const std::string&) {});
 }
 
 Result<void> XServer::setEdid(const std::string& connector, const std::vector<std::uint8_t>& edid) {
-    const auto outputs = XcbOutputs::connect(m_display);
+    const auto outputs = XcbOutputs::connect(_display);
     return outputs ? outputs->setEdid(connector, edid) : tl::unexpected(outputs.error());
 }
 
 Result<void> XServer::setRootProperty(const std::string& name,
                                       const std::vector<std::uint8_t>& bytes) {
-    const auto outputs = XcbOutputs::connect(m_display);
+    const auto outputs = XcbOutputs::connect(_display);
     if (!outputs) {
         return tl::unexpected(outputs.error());
     }
@@ -226,7 +229,7 @@ Result<std::string> XServer::xrandr(const std::vector<std::string>& arguments) c
     ProcessRequest request;
     request.command = {"xrandr"};
     request.command.insert(request.command.end(), arguments.begin(), arguments.end());
-    request.environment["DISPLAY"] = m_display;
+    request.environment["DISPLAY"] = _display;
     const auto result = run(request);
     if (!result) {
         return tl::unexpected(result.error());
@@ -243,16 +246,16 @@ Result<std::string> XServer::xrandr(const std::vector<std::string>& arguments) c
 }
 
 void XServer::kill() {
-    m_process->kill();
+    _process->kill();
     removeLeftovers();
 }
 
 // A server that was killed leaves its socket. Another may have taken the number since: then it
 // answers, and the socket is its own.
 void XServer::removeLeftovers() const {
-    if (!answers(m_display)) {
+    if (!answers(_display)) {
         std::error_code ignored;
-        std::filesystem::remove("/tmp/.X11-unix/X" + m_display.substr(1), ignored);
+        std::filesystem::remove("/tmp/.X11-unix/X" + _display.substr(1), ignored);
     }
 }
 

@@ -34,7 +34,7 @@ class XServer {
     XServer& operator=(const XServer&) = delete;
 
     /// What DISPLAY is to be, for example ":7".
-    [[nodiscard]] const std::string& display() const { return m_display; }
+    [[nodiscard]] const std::string& display() const { return _display; }
 
     /// Lights an output at one of the server's modes, right of the one plugged in before it.
     [[nodiscard]] Result<void> plug(const std::string& connector, const std::string& mode);
@@ -45,8 +45,8 @@ class XServer {
     [[nodiscard]] Result<void> unplug(const std::string& connector);
     /// Sets what the server tells of the size of the picture, in millimetres.
     [[nodiscard]] Result<void> setPhysicalSize(const std::string& connector, int widthMillimetres,
-                                               int heightMillimetres);
-    [[nodiscard]] Result<void> setPrimary(const std::string& connector);
+                                               int heightMillimetres) const;
+    [[nodiscard]] Result<void> setPrimary(const std::string& connector) const;
     /// Gives an output an identity; no bytes take it away.
     [[nodiscard]] Result<void> setEdid(const std::string& connector,
                                        const std::vector<std::uint8_t>& edid);
@@ -64,11 +64,11 @@ class XServer {
     static Result<std::unique_ptr<XServer>> startOnce(const Options& options);
     void removeLeftovers() const;
 
-    ScratchFolder m_folder;
-    std::unique_ptr<BackgroundProcess> m_process;
-    std::string m_display;
+    ScratchFolder _folder;
+    std::unique_ptr<BackgroundProcess> _process;
+    std::string _display;
     /// The lit connectors, in the order of plugging.
-    std::vector<std::string> m_plugged{"DUMMY0"};
+    std::vector<std::string> _plugged{"DUMMY0"};
 };
 
 }  // namespace tonquil

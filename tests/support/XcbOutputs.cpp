@@ -21,7 +21,7 @@ xcb_screen_t* screenAt(xcb_connection_t* connection, int number) {
 }  // namespace
 
 XcbOutputs::XcbOutputs(Connection connection, xcb_window_t root)
-    : m_connection(std::move(connection)), m_root(root) {}
+    : _connection(std::move(connection)), _root(root) {}
 
 Result<XcbOutputs> XcbOutputs::connect(const std::string& display) {
     int number = 0;
@@ -69,7 +69,7 @@ OutputState XcbOutputs::describe(xcb_randr_output_t output, xcb_timestamp_t time
 }
 
 Result<std::vector<OutputState>> XcbOutputs::all() const {
-    const auto cookie = xcb_randr_get_screen_resources_current(connection(), m_root);
+    const auto cookie = xcb_randr_get_screen_resources_current(connection(), _root);
     const XcbReply<xcb_randr_get_screen_resources_current_reply_t> resources(
         xcb_randr_get_screen_resources_current_reply(connection(), cookie, nullptr));
     if (!resources) {

@@ -51,8 +51,8 @@ class XcbOutputs {
     /// Turns the answer to a checked request into a result; `what` is a whole sentence.
     [[nodiscard]] Result<void> check(xcb_void_cookie_t cookie, const std::string& what) const;
 
-    [[nodiscard]] xcb_connection_t* connection() const { return m_connection.get(); }
-    [[nodiscard]] xcb_window_t root() const { return m_root; }
+    [[nodiscard]] xcb_connection_t* connection() const { return _connection.get(); }
+    [[nodiscard]] xcb_window_t root() const { return _root; }
 
  private:
     struct Disconnect {
@@ -63,8 +63,8 @@ class XcbOutputs {
     XcbOutputs(Connection connection, xcb_window_t root);
     [[nodiscard]] OutputState describe(xcb_randr_output_t output, xcb_timestamp_t time) const;
 
-    Connection m_connection;
-    xcb_window_t m_root;
+    Connection _connection;
+    xcb_window_t _root;
 };
 
 }  // namespace tonquil

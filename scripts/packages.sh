@@ -1,0 +1,48 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+# The Debian packages that the scripts need, and how they are installed. To be sourced.
+# shellcheck disable=SC2034  # The lists are read by the scripts that source this.
+
+packages_to_build=(
+    g++ cmake ninja-build pkg-config
+    libxcb1-dev libxcb-randr0-dev libexpat1-dev liblcms2-dev
+    nlohmann-json3-dev libexpected-dev
+)
+
+# A private X server whose displays exist only in memory.
+packages_for_x_server=(xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils)
+
+packages_to_check=(
+    git xvfb libgtest-dev libgmock-dev libbenchmark-dev
+    clang clang-format clang-tidy libclang-rt-14-dev python3 procps shellcheck
+)
+
+is_installed() {
+    dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
+}
+
+# install_packages PACKAGE...: installs what is missing; without anything missing it needs neither
+# the network nor any rights.
+install_packages() {
+    local package
+    local missing=()
+    if ! command -v dpkg-query >/dev/null; then
+        echo "This is not a Debian system; these packages, or what they are called here, must be" \
+            "installed: $*" >&2
+        return 0
+    fi
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    if ((${#missing[@]} == 0)); then
+        return 0
+    fi
+    echo "Installing with apt-get: ${missing[*]}"
+    local as_root=()
+    if ((EUID != 0)); then
+        as_root=(sudo)
+    fi
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq update &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get -qq install -y --no-install-recommends "${missing[@]}" >/dev/null
+}
