@@ -172,6 +172,13 @@ TEST_F(ProgramOnXServer, RestoresWhatAPublishedProfileAsksFor) {
     EXPECT_EQ(ramp(2), calibration);
     EXPECT_EQ(ramp(1), startRamp()) << "a broken profile counts as none";
     EXPECT_EQ(ramp(0), startRamp()) << "so does one without a calibration";
+    // The other form that profiles have it in: min 0, max 0.95, exponent 1.1.
+    mustSucceed(server->setRootProperty(
+        "_ICC_PROFILE", buildIccWithFormula({{{1.1, 0, 0.95}, {1, 0, 1}, {1, 0.5, 0.5}}})));
+    mustRun({"restore"});
+    EXPECT_NEAR(ramp(0).red[128], 65535 * 0.95 * std::pow(128 / 255.0, 1.1), 2);
+    EXPECT_NEAR(ramp(0).green[128], 65535 * 128 / 255.0, 2);
+    EXPECT_NEAR(ramp(0).blue[255], 65535 * 0.5, 2);
 }
 
 TEST_F(ProgramOnXServer, SurvivesDisplaysComingAndGoingWhileItApplies) {

@@ -79,6 +79,12 @@ void putDescriptor(Bytes& edid, std::size_t slot, std::uint8_t kind, std::string
     }
 }
 
+void repairEdidChecksum(std::vector<std::uint8_t>& edid) {
+    const auto last = edid.begin() + (blockSize - 1);
+    const auto sum = std::accumulate(edid.begin(), last, std::uint32_t{0});
+    *last = lowByte(0x100U - (sum & 0xFFU));
+}
+
 }  // namespace
 
 std::vector<std::uint8_t> buildEdid(const EdidDescription& description) {
@@ -100,12 +106,6 @@ std::vector<std::uint8_t> buildEdid(const EdidDescription& description) {
     }
     repairEdidChecksum(edid);
     return edid;
-}
-
-void repairEdidChecksum(std::vector<std::uint8_t>& edid) {
-    const auto last = edid.begin() + (blockSize - 1);
-    const auto sum = std::accumulate(edid.begin(), last, std::uint32_t{0});
-    *last = lowByte(0x100U - (sum & 0xFFU));
 }
 
 }  // namespace tonquil

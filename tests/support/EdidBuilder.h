@@ -24,7 +24,4 @@ struct EdidDescription {
 /// The 128 bytes of a valid EDID 1.4 base block, with its checksum.
 [[nodiscard]] std::vector<std::uint8_t> buildEdid(const EdidDescription& description);
 
-/// Makes the checksum of a base block right again, for tests that change some of its bytes.
-void repairEdidChecksum(std::vector<std::uint8_t>& edid);
-
 }  // namespace tonquil
