@@ -46,20 +46,19 @@ Result<std::vector<Assignment>> assign(const OneCurve& curve,
 
 }  // namespace
 
-Result<void> runApply(const Arguments& arguments, const OpenDisplays& openDisplays,
-                      std::ostream& notes) {
+Result<void> runApply(const Arguments& arguments, const CommandEnvironment& environment) {
     const auto curves = readCurves(arguments);
     if (!curves) {
         return tl::unexpected(curves.error());
     }
-    const auto service = openDisplays();
+    const auto service = environment.openDisplays();
     if (!service) {
         return tl::unexpected(service.error());
     }
     DisplayBatch batch(**service);
     ScreenRegistry registry(**service);
     registry.updateScreenList();
-    const auto screens = selectScreens(registry, **service, arguments.displays, notes);
+    const auto screens = selectScreens(registry, **service, arguments.displays, environment.notes);
     if (!screens) {
         return tl::unexpected(screens.error());
     }
@@ -73,7 +72,7 @@ Result<void> runApply(const Arguments& arguments, const OpenDisplays& openDispla
         screen->applyGammaCurve();
     }
     if (!batch.finish()) {
-        return problem("Not every display took the correction.");
+        return problem("Not every display took the correction.", environment.logged);
     }
     return {};
 }

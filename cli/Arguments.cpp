@@ -142,7 +142,11 @@ Result<Arguments> parseArguments(int argc, char* const* argv) {
     optind = 2;
     for (int letter = 0; (letter = getopt_long(argc, argv, ":h", options.data(), nullptr)) != -1;) {
         if (letter == '?' || letter == ':') {
-            const std::string culprit = argv[optind - 1];
+            // In a cluster of short options only the letter tells which one it was.
+            const std::string_view word = argv[optind - 1];
+            const std::string culprit = optopt != 0 && !word.starts_with("--")
+                                            ? std::string("-") + static_cast<char>(optopt)
+                                            : std::string(word);
             return problem(letter == '?' ? quoted(culprit) + " is not an option."
                                          : culprit + " needs a value.");
         }

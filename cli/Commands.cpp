@@ -7,33 +7,24 @@
 
 namespace tonquil {
 
-Result<void> runCommand(const Arguments& arguments, const OpenDisplays& openDisplays,
-                        std::ostream& out, std::ostream& notes) {
+Result<void> runCommand(const Arguments& arguments, const CommandEnvironment& environment) {
     switch (arguments.command) {
-        case Arguments::Command::help:
-            out << helpText;
-            return {};
         case Arguments::Command::version:
-            out << "tonquilctl " TONQUIL_VERSION "\n";
+            environment.out << "tonquilctl " TONQUIL_VERSION "\n";
             return {};
-        case Arguments::Command::table:
-            return runTable(arguments, out);
-        case Arguments::Command::apply:
-            return runApply(arguments, openDisplays, notes);
-        default:
-            break;
-    }
-    const auto service = openDisplays();
-    if (!service) {
-        return tl::unexpected(service.error());
-    }
-    switch (arguments.command) {
         case Arguments::Command::displays:
-            return runDisplays(arguments, **service, out);
+            return runDisplays(arguments, environment);
+        case Arguments::Command::apply:
+            return runApply(arguments, environment);
         case Arguments::Command::restore:
-            return runRestore(arguments, **service, notes);
+            return runRestore(arguments, environment);
+        case Arguments::Command::read:
+            return runRead(arguments, environment);
+        case Arguments::Command::table:
+            return runTable(arguments, environment);
         default:
-            return runRead(arguments, **service, out);
+            environment.out << helpText;
+            return {};
     }
 }
 

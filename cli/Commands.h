@@ -4,6 +4,7 @@
 #include <functional>
 #include <iosfwd>
 #include <memory>
+#include <string>
 
 #include "cli/Arguments.h"
 #include "foundation/Problem.h"
@@ -11,23 +12,30 @@
 
 namespace tonquil {
 
-/// Opens the display service of this desktop.
-using OpenDisplays = std::function<Result<std::unique_ptr<DisplayService>>()>;
+/// What a command works with.
+struct CommandEnvironment {
+    /// Opens the display service of this desktop.
+    std::function<Result<std::unique_ptr<DisplayService>>()> openDisplays;
+    /// What the service logged last.
+    const std::string& logged;
+    std::ostream& out;
+    /// Remarks that are of interest only if the command succeeds.
+    std::ostream& notes;
+};
 
-/// Carries out a command; what it has to say goes to `out`. Nothing has changed on any display
-/// when it fails before the first table is set, which is wherever the fault lies in what it was
-/// given.
-[[nodiscard]] Result<void> runCommand(const Arguments& arguments, const OpenDisplays& openDisplays,
-                                      std::ostream& out, std::ostream& notes);
+/// Carries out a command. A fault in what it was given is found before any display is changed.
+[[nodiscard]] Result<void> runCommand(const Arguments& arguments,
+                                      const CommandEnvironment& environment);
 
-[[nodiscard]] Result<void> runDisplays(const Arguments& arguments, DisplayService& service,
-                                       std::ostream& out);
-[[nodiscard]] Result<void> runApply(const Arguments& arguments, const OpenDisplays& openDisplays,
-                                    std::ostream& notes);
-[[nodiscard]] Result<void> runRestore(const Arguments& arguments, DisplayService& service,
-                                      std::ostream& notes);
-[[nodiscard]] Result<void> runRead(const Arguments& arguments, DisplayService& service,
-                                   std::ostream& out);
-[[nodiscard]] Result<void> runTable(const Arguments& arguments, std::ostream& out);
+[[nodiscard]] Result<void> runDisplays(const Arguments& arguments,
+                                       const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runApply(const Arguments& arguments,
+                                    const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runRestore(const Arguments& arguments,
+                                      const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runRead(const Arguments& arguments,
+                                   const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runTable(const Arguments& arguments,
+                                    const CommandEnvironment& environment);
 
 }  // namespace tonquil

@@ -54,7 +54,7 @@ Result<Curves> curvesFromFile(const std::string& file) {
         return OneCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(single->curve));
     }
     if (auto* multi = std::get_if<MultiDisplaySettings>(&*settings)) {
-        if (!multi->screens.is_object()) {
+        if (!multi->screens.is_object() || multi->screens.empty()) {
             return problem(file + " is for several displays but names none.");
         }
         return CurvesByDisplay{std::move(multi->screens)};

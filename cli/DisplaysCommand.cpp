@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <ostream>
+#include <string>
+#include <vector>
 
 #include "cli/Commands.h"
 #include "screens/ScreenRegistry.h"
@@ -12,9 +16,14 @@ namespace {
 
 struct Line {
     std::size_t number;
-    const KVScreen& screen;
+    std::string referenceID;
+    std::string oldReferenceID;
+    bool isLocal;
     DisplayDescription description;
-    std::int64_t x, y, width, height;
+    std::int64_t x;
+    std::int64_t y;
+    std::int64_t width;
+    std::int64_t height;
     bool isMain;
 };
 
@@ -22,7 +31,9 @@ Line describe(std::size_t number, const KVScreen& screen, DisplayService& servic
     const DisplayID display = screen.directDisplayID();
     const Rectangle bounds = service.bounds(display);
     return {.number = number,
-            .screen = screen,
+            .referenceID = screen.referenceID(),
+            .oldReferenceID = screen.oldReferenceID(),
+            .isLocal = screen.isReferenceIDLocallyUnique(),
             .description = service.description(display),
             .x = static_cast<std::int64_t>(bounds.x),
             .y = static_cast<std::int64_t>(bounds.y),
@@ -32,10 +43,9 @@ Line describe(std::size_t number, const KVScreen& screen, DisplayService& servic
 }
 
 void printText(const Line& line, std::ostream& out) {
-    out << line.number << '\t' << line.screen.referenceID() << '\t' << line.description.connector
-        << '\t' << line.width << 'x' << line.height << '+' << line.x << '+' << line.y << '\t'
-        << line.description.rampSize << '\t'
-        << (line.screen.isReferenceIDLocallyUnique() ? "local" : "unique");
+    out << line.number << '\t' << line.referenceID << '\t' << line.description.connector << '\t'
+        << line.width << 'x' << line.height << '+' << line.x << '+' << line.y << '\t'
+        << line.description.rampSize << '\t' << (line.isLocal ? "local" : "unique");
     if (!line.description.obstacle.empty()) {
         out << '\t' << line.description.obstacle;
     }
@@ -44,12 +54,12 @@ void printText(const Line& line, std::ostream& out) {
 
 PropertyValue json(const Line& line) {
     PropertyValue object = {{"number", line.number},
-                            {"referenceID", line.screen.referenceID()},
-                            {"oldReferenceID", line.screen.oldReferenceID()},
+                            {"referenceID", line.referenceID},
+                            {"oldReferenceID", line.oldReferenceID},
                             {"name", line.description.connector},
                             {"bounds", {line.x, line.y, line.width, line.height}},
                             {"rampSize", line.description.rampSize},
-                            {"local", line.screen.isReferenceIDLocallyUnique()},
+                            {"local", line.isLocal},
                             {"main", line.isMain}};
     if (!line.description.obstacle.empty()) {
         object["obstacle"] = line.description.obstacle;
@@ -59,22 +69,31 @@ PropertyValue json(const Line& line) {
 
 }  // namespace
 
-Result<void> runDisplays(const Arguments& arguments, DisplayService& service, std::ostream& out) {
-    const DisplayBatch batch(service);
-    ScreenRegistry registry(service);
-    PropertyValue list = PropertyValue::array();
-    std::size_t number = 0;
-    for (const auto& screen : registry.screens()) {
-        const Line line = describe(++number, *screen, service);
-        if (arguments.json) {
-            list.push_back(json(line));
-        } else {
-            printText(line, out);
-        }
+Result<void> runDisplays(const Arguments& arguments, const CommandEnvironment& environment) {
+    const auto service = environment.openDisplays();
+    if (!service) {
+        return tl::unexpected(service.error());
     }
-    if (arguments.json) {
+    DisplayBatch batch(**service);
+    ScreenRegistry registry(**service);
+    std::vector<Line> lines;
+    for (const auto& screen : registry.screens()) {
+        lines.push_back(describe(lines.size() + 1, *screen, **service));
+    }
+    // Nothing was set, but the server may have gone meanwhile.
+    if (!batch.finish()) {
+        return problem("The displays could not be listed.", environment.logged);
+    }
+    if (!arguments.json) {
+        for (const Line& line : lines) {
+            printText(line, environment.out);
+        }
+    } else {
+        PropertyValue list = PropertyValue::array();
+        std::ranges::transform(lines, std::back_inserter(list), json);
         // A connector's name is whatever bytes its driver chose.
-        out << list.dump(2, ' ', false, PropertyValue::error_handler_t::replace) << '\n';
+        environment.out << list.dump(2, ' ', false, PropertyValue::error_handler_t::replace)
+                        << '\n';
     }
     return {};
 }

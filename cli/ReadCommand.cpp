@@ -5,9 +5,13 @@
 
 namespace tonquil {
 
-Result<void> runRead(const Arguments& arguments, DisplayService& service, std::ostream& out) {
-    const DisplayBatch batch(service);
-    ScreenRegistry registry(service);
+Result<void> runRead(const Arguments& arguments, const CommandEnvironment& environment) {
+    const auto service = environment.openDisplays();
+    if (!service) {
+        return tl::unexpected(service.error());
+    }
+    const DisplayBatch batch(**service);
+    ScreenRegistry registry(**service);
     registry.updateScreenList();
     const auto& screens = registry.screens();
     if (screens.empty()) {
@@ -23,13 +27,12 @@ Result<void> runRead(const Arguments& arguments, DisplayService& service, std::o
     }
     GammaTable table;
     const std::uint32_t sampleCount =
-        arguments.hardware ? service.getHardwareTable(screen->directDisplayID(), table)
+        arguments.hardware ? (*service)->getHardwareTable(screen->directDisplayID(), table)
                            : screen->getBaseGamma(table);
     if (sampleCount == 0) {
-        return problem(service.description(screen->directDisplayID()).connector +
-                       " has no table that could be read.");
+        return problem("The display has no table that could be read.", environment.logged);
     }
-    printTable(table, sampleCount, out);
+    printTable(table, sampleCount, environment.out);
     return {};
 }
 

@@ -6,11 +6,15 @@
 
 namespace tonquil {
 
-Result<void> runRestore(const Arguments& arguments, DisplayService& service, std::ostream& notes) {
-    DisplayBatch batch(service);
-    ScreenRegistry registry(service);
+Result<void> runRestore(const Arguments& arguments, const CommandEnvironment& environment) {
+    const auto service = environment.openDisplays();
+    if (!service) {
+        return tl::unexpected(service.error());
+    }
+    DisplayBatch batch(**service);
+    ScreenRegistry registry(**service);
     registry.updateScreenList();
-    const auto screens = selectScreens(registry, service, arguments.displays, notes);
+    const auto screens = selectScreens(registry, **service, arguments.displays, environment.notes);
     if (!screens) {
         return tl::unexpected(screens.error());
     }
@@ -18,9 +22,9 @@ Result<void> runRestore(const Arguments& arguments, DisplayService& service, std
     for (const auto& screen : *screens) {
         displays.push_back(screen->directDisplayID());
     }
-    service.restoreSystemCalibration(displays);
+    (*service)->restoreSystemCalibration(displays);
     if (!batch.finish()) {
-        return problem("Not every display went back to its calibration.");
+        return problem("Not every display went back to its calibration.", environment.logged);
     }
     return {};
 }

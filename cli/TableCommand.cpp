@@ -63,25 +63,27 @@ Result<OneCurve> theCurve(const Arguments& arguments) {
         return tl::unexpected(std::move(curves.error()));
     }
     if (auto* curve = std::get_if<OneCurve>(&*curves)) {
+        if (!arguments.displays.empty()) {
+            return problem("There is one curve only, so --display has nothing to choose from.");
+        }
         return std::move(*curve);
     }
     const PropertyValue& screens = std::get<CurvesByDisplay>(*curves).screens;
-    if (arguments.displays.empty() && screens.size() == 1) {
-        return OneCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(*screens.begin()));
-    }
-    if (arguments.displays.size() != 1) {
+    const bool isOnlyOne = arguments.displays.empty() && screens.size() == 1;
+    if (!isOnlyOne && arguments.displays.size() != 1) {
         return problem(*arguments.file + " is for several displays; say which one by --display.");
     }
-    const PropertyValue* dictionary = entry(screens, arguments.displays.front());
-    if (dictionary == nullptr) {
-        return problem(*arguments.file + " has no curve for " + arguments.displays.front() + ".");
+    const std::string& display = isOnlyOne ? screens.begin().key() : arguments.displays.front();
+    const PropertyValue* dictionary = entry(screens, display);
+    if (dictionary == nullptr || !dictionary->is_object()) {
+        return problem(*arguments.file + " has no curve for " + display + ".");
     }
     return OneCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(*dictionary));
 }
 
 }  // namespace
 
-Result<void> runTable(const Arguments& arguments, std::ostream& out) {
+Result<void> runTable(const Arguments& arguments, const CommandEnvironment& environment) {
     const auto curve = theCurve(arguments);
     if (!curve) {
         return tl::unexpected(curve.error());
@@ -92,7 +94,7 @@ Result<void> runTable(const Arguments& arguments, std::ostream& out) {
     }
     TableScreen screen(*base);
     (*curve)->applyToScreen(screen);
-    printTable(screen.table(), arguments.samples, out);
+    printTable(screen.table(), arguments.samples, environment.out);
     return {};
 }
 

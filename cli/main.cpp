@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <cctype>
 #include <iostream>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -12,7 +15,10 @@ namespace {
 constexpr int failed = 1;
 constexpr int wrongUsage = 2;
 
-void say(std::string_view line) {
+/// One line, whatever the names of files and displays have in them.
+void say(std::string line) {
+    std::ranges::replace_if(
+        line, [](unsigned char c) { return std::iscntrl(c) != 0; }, '?');
     std::cerr << "tonquilctl: " << line << '\n';
 }
 
@@ -25,19 +31,20 @@ int main(int argc, char** argv) {
         say(arguments.error().sentence + " Try \"tonquilctl --help\".");
         return wrongUsage;
     }
-    // A failure is explained in one line, so what the service logs becomes part of it. Without a
-    // failure it is about displays that nothing was asked of.
     std::string logged;
+    std::ostringstream notes;
     const auto log = [&](std::string_view line) { logged = line; };
-    const auto openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); };
-    const auto result = tonquil::runCommand(*arguments, openDisplays, std::cout, std::cerr);
+    const auto result = tonquil::runCommand(
+        *arguments, {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
+                     .logged = logged,
+                     .out = std::cout,
+                     .notes = notes});
     if (!result) {
-        const auto& [sentence, ownDetail] = result.error();
-        const std::string& detail = ownDetail.empty() ? logged : ownDetail;
-        const bool isSaid = sentence.find(detail) != std::string::npos;
-        say(isSaid ? sentence : sentence + " (" + detail + ")");
+        const auto& [sentence, detail] = result.error();
+        say(detail.empty() ? sentence : sentence + " (" + detail + ")");
         return failed;
     }
+    std::cerr << notes.str();
     if (!std::cout.flush()) {
         say("The output could not be written.");
         return failed;

@@ -32,8 +32,9 @@ inline constexpr ReconfigurationFlags endConfiguration = 2;
 /// that cannot be corrected, do nothing; the log says so once.
 class DisplayService : public SystemCalibration {
  public:
-    /// Called with each affected display once before a change of the displays and once after it,
-    /// on the main thread.
+    /// Called on the main thread with each affected display, first for all of them with
+    /// `beginConfiguration`, then for all with another flag. A service that learns of changes only
+    /// afterwards makes both calls then.
     using ReconfigurationCallback = std::function<void(DisplayID, ReconfigurationFlags)>;
 
     /// Destroying it removes the callback.
@@ -98,8 +99,8 @@ class DisplayBatch {
     DisplayBatch& operator=(const DisplayBatch&) = delete;
     ~DisplayBatch() { static_cast<void>(finish()); }
 
-    /// Ends the batch now. False when something could not be set; the log says what. Inside
-    /// another batch nothing has been sent yet, and the answer is true.
+    /// Ends the batch now. False when something could not be set; the log says what. While another
+    /// batch is open nothing has been sent yet, and the answer is true.
     [[nodiscard]] bool finish();
 
  private:

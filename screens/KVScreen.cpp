@@ -32,7 +32,12 @@ std::shared_ptr<const PlatformScreen> KVScreen::nsscreen() {
 }
 
 void KVScreen::readBaseGamma() {
-    _baseGamma.sampleCount = _service.getTransferTable(_directDisplayID, _baseGamma.table);
+    BaseGamma base;
+    base.sampleCount = _service.getTransferTable(_directDisplayID, base.table);
+    // A display that vanishes at this moment must not lose the base that it had.
+    if (base.sampleCount > 0) {
+        _baseGamma = base;
+    }
 }
 
 std::uint32_t KVScreen::getBaseGamma(GammaTable& table) const {

@@ -43,7 +43,8 @@ class KVScreen : public CurveScreen {
     /// is kept.
     [[nodiscard]] std::shared_ptr<const PlatformScreen> nsscreen();
 
-    /// Reads the base anew, so that it becomes the system's present calibration.
+    /// Reads the base anew, so that it becomes the system's present calibration. A display that
+    /// cannot be read keeps the base that it had.
     void readBaseGamma();
     /// Copies all 256 slots of each channel and returns how many of them the display filled.
     std::uint32_t getBaseGamma(GammaTable& table) const;

@@ -18,6 +18,11 @@ void ScreenRegistry::updateScreenList() {
             _sightedScreens.end()) {
             _sightedScreens.push_back(screen);
         }
+        // Over a base of another length than its ramp, or of none, a curve would come out black.
+        const std::uint32_t rampSize = _service.description(display).rampSize;
+        if (std::min(rampSize, GammaTable::capacity) != screen->baseGamma().sampleCount) {
+            screen->readBaseGamma();
+        }
         online.push_back(std::move(screen));
     }
     _screens = std::move(online);
@@ -25,11 +30,8 @@ void ScreenRegistry::updateScreenList() {
 
 // Until the new list is complete, the reference IDs are looked up in the previous one.
 ScreenRegistry::ScreenPointer ScreenRegistry::screenForOnlineDisplay(DisplayID display) {
-    const auto sighted =
-        std::find_if(_sightedScreens.begin(), _sightedScreens.end(),
-                     [=](const auto& screen) { return screen->directDisplayID() == display; });
-    if (sighted != _sightedScreens.end()) {
-        return *sighted;
+    if (auto sighted = _sightedScreenWithDirectDisplayID(display)) {
+        return sighted;
     }
     if (auto known = screenWithReferenceID(referenceIDFor(_service.identity(display)).text)) {
         known->_setDirectDisplayID(display);

@@ -42,7 +42,7 @@ Result<std::unique_ptr<DisplayService>> openSimulated(const Log& log) {
     }
     auto desk = readSimulatedDesk(std::string(bytes->begin(), bytes->end()));
     if (!desk) {
-        return tl::unexpected(std::move(desk.error()));
+        return problem(std::string(file) + " holds no simulated desk. " + desk.error().sentence);
     }
     return std::make_unique<OwnDeskService>(std::move(*desk), log);
 }

@@ -10,12 +10,10 @@ bool RampHistory::isCorrection(std::uint64_t fingerprint) const {
            _corrections.rend();
 }
 
-bool RampHistory::isNewestCorrection(std::uint64_t fingerprint) const {
-    return !_corrections.empty() && _corrections.back() == fingerprint;
-}
-
 void RampHistory::addCorrection(std::uint64_t fingerprint) {
-    if (isNewestCorrection(fingerprint)) {
+    const auto known = std::find(_corrections.begin(), _corrections.end(), fingerprint);
+    if (known != _corrections.end()) {
+        std::rotate(known, known + 1, _corrections.end());
         return;
     }
     if (_corrections.size() == mostCorrections) {

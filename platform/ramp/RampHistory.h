@@ -21,7 +21,7 @@ class RampHistory {
     static constexpr std::size_t mostCorrections = 32;
 
     [[nodiscard]] bool isCorrection(std::uint64_t fingerprint) const;
-    [[nodiscard]] bool isNewestCorrection(std::uint64_t fingerprint) const;
+    /// Makes it the newest.
     void addCorrection(std::uint64_t fingerprint);
     /// Oldest first.
     [[nodiscard]] const std::vector<std::uint64_t>& corrections() const { return _corrections; }

@@ -15,7 +15,7 @@ SimulatedDisplay* SimulatedDesk::find(DisplayID display) {
 
 void SimulatedDesk::plug(SimulatedDisplay display) {
     const DisplayID id = display.id;
-    tell(id, beginConfiguration);
+    observers.call(id, beginConfiguration);
     _histories.erase(id);
     const auto same = std::find_if(_displays.begin(), _displays.end(),
                                    [=](const auto& each) { return each.id == id; });
@@ -24,28 +24,18 @@ void SimulatedDesk::plug(SimulatedDisplay display) {
     } else {
         *same = std::move(display);
     }
-    tell(id, endConfiguration);
+    observers.call(id, endConfiguration);
 }
 
 void SimulatedDesk::unplug(DisplayID display) {
-    tell(display, beginConfiguration);
+    observers.call(display, beginConfiguration);
     std::erase_if(_displays, [=](const auto& each) { return each.id == display; });
-    tell(display, endConfiguration);
+    observers.call(display, endConfiguration);
 }
 
 void SimulatedDesk::setForeignRamp(DisplayID display, HardwareRamp ramp) {
     if (SimulatedDisplay* found = find(display)) {
         found->ramp = std::move(ramp);
-    }
-}
-
-std::list<SimulatedDesk::Observer>::iterator SimulatedDesk::addObserver(Observer observer) {
-    return _observers.insert(_observers.end(), std::move(observer));
-}
-
-void SimulatedDesk::tell(DisplayID display, ReconfigurationFlags flags) {
-    for (const Observer& observer : _observers) {
-        observer(display, flags);
     }
 }
 

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
-#include <list>
 #include <map>
 #include <string>
 #include <vector>
 
 #include "platform/ramp/RampHistory.h"
 #include "screens/DisplayService.h"
+#include "screens/ReconfigurationCallbacks.h"
 
 namespace tonquil {
 
@@ -30,8 +29,6 @@ struct SimulatedDisplay {
 /// one after the other or at once.
 class SimulatedDesk {
  public:
-    using Observer = std::function<void(DisplayID, ReconfigurationFlags)>;
-
     /// The first display is the main one.
     [[nodiscard]] const std::vector<SimulatedDisplay>& displays() const { return _displays; }
     /// Null when there is none with this ID; 0 means the main display.
@@ -50,19 +47,15 @@ class SimulatedDesk {
     /// Where the pointer was moved to last.
     Point pointer;
 
-    /// The observer is removed with the iterator that is returned.
-    std::list<Observer>::iterator addObserver(Observer observer);
-    void removeObserver(std::list<Observer>::iterator observer) { _observers.erase(observer); }
+    /// Who is told of changes.
+    ReconfigurationCallbacks observers;
 
     /// How many times a ramp was set by a service: what a test asks to see that nothing was sent.
     std::size_t rampWrites = 0;
 
  private:
-    void tell(DisplayID display, ReconfigurationFlags flags);
-
     std::vector<SimulatedDisplay> _displays;
     std::map<DisplayID, RampHistory> _histories;
-    std::list<Observer> _observers;
 };
 
 }  // namespace tonquil

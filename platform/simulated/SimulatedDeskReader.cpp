@@ -34,7 +34,8 @@ std::array<double, count> numbersEntry(const PropertyValue& object, std::string_
     }
     std::array<double, count> numbers{};
     for (std::size_t i = 0; i < count; ++i) {
-        numbers[i] = static_cast<double>(floatValue((*value)[i]).value_or(0));
+        const PropertyValue& number = (*value)[i];
+        numbers[i] = number.is_number() ? number.get<double>() : 0;
     }
     return numbers;
 }

@@ -1,27 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/simulated/SimulatedDisplayService.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace tonquil {
-
-namespace {
-
-class Observation : public DisplayService::Subscription {
- public:
-    Observation(SimulatedDesk& desk, SimulatedDesk::Observer observer)
-        : _desk(desk), _position(desk.addObserver(std::move(observer))) {}
-    Observation(const Observation&) = delete;
-    Observation& operator=(const Observation&) = delete;
-    ~Observation() override { _desk.removeObserver(_position); }
-
- private:
-    SimulatedDesk& _desk;
-    std::list<SimulatedDesk::Observer>::iterator _position;
-};
-
-}  // namespace
 
 std::vector<DisplayID> SimulatedDisplayService::onlineDisplays(std::size_t most) {
     std::vector<DisplayID> online;
@@ -74,6 +56,7 @@ SimulatedDisplay* SimulatedDisplayService::correctable(DisplayID display) {
 }
 
 void SimulatedDisplayService::setTransferTable(DisplayID display, const GammaTable& table) {
+    const DisplayBatch batch(*this);
     SimulatedDisplay* found = correctable(display);
     if (found == nullptr) {
         _allReached = false;
@@ -99,20 +82,23 @@ std::uint32_t SimulatedDisplayService::getHardwareTable(DisplayID display, Gamma
 }
 
 void SimulatedDisplayService::restoreSystemCalibration(std::span<const DisplayID> displays) {
+    const DisplayBatch batch(*this);
     for (const DisplayID display : displays) {
-        if (SimulatedDisplay* found = correctable(display)) {
-            RampHistory& history = _desk.history(found->id);
-            found->ramp =
-                found->profileRamp ? *found->profileRamp : history.uncorrected(found->ramp);
-            history.setSystemRamp(found->ramp);
-            ++_desk.rampWrites;
+        SimulatedDisplay* found = correctable(display);
+        if (found == nullptr) {
+            _allReached = false;
+            continue;
         }
+        RampHistory& history = _desk.history(found->id);
+        found->ramp = found->profileRamp ? *found->profileRamp : history.uncorrected(found->ramp);
+        history.setSystemRamp(found->ramp);
+        ++_desk.rampWrites;
     }
 }
 
 std::unique_ptr<DisplayService::Subscription>
 SimulatedDisplayService::registerReconfigurationCallback(ReconfigurationCallback callback) {
-    return std::make_unique<Observation>(_desk, std::move(callback));
+    return _desk.observers.add(std::move(callback));
 }
 
 }  // namespace tonquil

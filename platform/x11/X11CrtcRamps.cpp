@@ -53,9 +53,11 @@ void X11CrtcRamps::load(const std::vector<xcb_randr_crtc_t>& crtcs) {
 }
 
 void X11CrtcRamps::release(xcb_randr_crtc_t crtc) {
+    // What another process of ours has set since is for that display which has come there.
+    const RampHistory ours = _crtcs[crtc].history;
     load({crtc});
     const CrtcRamp& state = _crtcs[crtc];
-    if (state.history.isCorrection(state.present.fingerprint())) {
+    if (state.present.size() > 0 && ours.isCorrection(state.present.fingerprint())) {
         setSystemRamp(crtc, state.history.uncorrected(state.present));
     }
     _crtcs.erase(crtc);
@@ -93,10 +95,10 @@ void X11CrtcRamps::setCorrection(xcb_randr_crtc_t crtc, const GammaTable& table)
     if (std::exchange(state.isSystemRampUnsaved, false)) {
         _journal.appendSystemRamp(crtc, *state.history.systemRamp());
     }
-    if (!state.history.isNewestCorrection(state.correctionFingerprint)) {
-        _journal.appendCorrection(crtc, state.correctionFingerprint);
-        state.history.addCorrection(state.correctionFingerprint);
-    }
+    // Also when it is the same as before: other processes may have set so many since that it is no
+    // longer remembered.
+    _journal.appendCorrection(crtc, state.correctionFingerprint);
+    state.history.addCorrection(state.correctionFingerprint);
     send(crtc, state, state.correction);
 }
 
@@ -140,10 +142,6 @@ void X11CrtcRamps::examineReplaced(xcb_randr_crtc_t crtc,
     // Another process of ours may have set it.
     _journal.ask();
     state.history = std::move(_journal.receive()[crtc]);
-    if (!state.history.isCorrection(state.correctionFingerprint)) {
-        _journal.appendCorrection(crtc, state.correctionFingerprint);
-        state.history.addCorrection(state.correctionFingerprint);
-    }
     if (!state.history.isCorrection(fingerprint) && ramp != state.history.systemRamp()) {
         _journal.appendSystemRamp(crtc, ramp);
         state.history.setSystemRamp(ramp);
@@ -156,7 +154,7 @@ std::vector<xcb_randr_crtc_t> X11CrtcRamps::finish() {
         return refused;
     }
     xcb_connection_t* const connection = _connection.get();
-    // The answer to this comes last, and once it is here nothing below waits again.
+    // The answer to this comes last: once it is here, those to all that was sent are.
     const auto last = xcb_get_input_focus(connection);
     const XcbPointer<xcb_get_input_focus_reply_t> lastReply(
         xcb_get_input_focus_reply(connection, last, nullptr));
@@ -166,6 +164,8 @@ std::vector<xcb_randr_crtc_t> X11CrtcRamps::finish() {
         const XcbPointer<xcb_generic_error_t> error(xcb_request_check(connection, set));
         if (!replaced || error) {
             refused.push_back(crtc);
+            // Whatever was known of it is in doubt.
+            _crtcs.erase(crtc);
             continue;
         }
         examineReplaced(crtc, *replaced);

@@ -2,7 +2,7 @@
 #include "platform/x11/X11DisplayService.h"
 
 #include <algorithm>
-#include <list>
+#include <cmath>
 #include <utility>
 
 #include "platform/icc/CalibrationRamp.h"
@@ -20,10 +20,6 @@ bool isIn(const std::vector<X11Display>& displays, const X11Display& display) {
 
 }  // namespace
 
-struct X11DisplayService::Callbacks {
-    std::list<std::shared_ptr<ReconfigurationCallback>> all;
-};
-
 Result<std::unique_ptr<X11DisplayService>> X11DisplayService::open(const char* display,
                                                                    RunLoop* runLoop, Log log) {
     auto connection = X11Connection::open(display);
@@ -39,8 +35,7 @@ X11DisplayService::X11DisplayService(std::unique_ptr<X11Connection> connection, 
     : _connection(std::move(connection)),
       _runLoop(runLoop),
       _log(std::move(log)),
-      _ramps(*_connection),
-      _callbacks(std::make_shared<Callbacks>()) {}
+      _ramps(*_connection) {}
 
 X11DisplayService::~X11DisplayService() = default;
 
@@ -53,6 +48,9 @@ const std::vector<X11Display>& X11DisplayService::layout() {
 
 void X11DisplayService::readLayout() {
     const auto previous = std::exchange(_layout, readX11Layout(*_connection));
+    for (X11Display& display : *_layout) {
+        display.id = idFor(display);
+    }
     _isLayoutOfBatch = true;
     _areRampsOfBatch = false;
     for (const X11Display& display : previous.value_or(std::vector<X11Display>{})) {
@@ -70,10 +68,28 @@ void X11DisplayService::readLayout() {
     }
 }
 
+DisplayID X11DisplayService::idFor(const X11Display& display) {
+    // IDs of the server's own resources have the three highest bits clear.
+    constexpr DisplayID firstBeyondOutputs = 0x80000000U;
+    const auto known = std::find_if(_known.begin(), _known.end(), [&](const KnownDisplay& each) {
+        return each.output == display.output && each.identity == display.identity;
+    });
+    if (known != _known.end()) {
+        return known->id;
+    }
+    const bool isFirstThere =
+        std::none_of(_known.begin(), _known.end(),
+                     [&](const KnownDisplay& each) { return each.output == display.output; });
+    const DisplayID id =
+        isFirstThere ? display.output : firstBeyondOutputs + static_cast<DisplayID>(_known.size());
+    _known.push_back({.output = display.output, .identity = display.identity, .id = id});
+    return id;
+}
+
 const X11Display* X11DisplayService::find(DisplayID display) {
     const auto& displays = layout();
     const auto found = std::find_if(displays.begin(), displays.end(), [=](const auto& each) {
-        return display == 0 || each.output == display;
+        return display == 0 || each.id == display;
     });
     return found == displays.end() ? nullptr : &*found;
 }
@@ -89,11 +105,22 @@ const X11Display* X11DisplayService::correctable(DisplayID display) {
         report(display, "Display " + std::to_string(display) + " is gone.");
         return nullptr;
     }
-    if (isXwayland(*found) || (_ramps.isLoaded(found->crtc) && _ramps.size(found->crtc) == 0)) {
-        report(display, found->connector + ": " + description(display).obstacle);
+    if (!_ramps.isLoaded(found->crtc)) {
+        lookAtRamp(*found);
+    }
+    if (const std::string reason = obstacle(*found); !reason.empty()) {
+        report(display, found->connector + ": " + reason);
         return nullptr;
     }
     return found;
+}
+
+std::string X11DisplayService::obstacle(const X11Display& display) const {
+    if (isXwayland(display)) {
+        return "This X server only draws into a Wayland desktop: setting its gamma ramps changes "
+               "nothing.";
+    }
+    return _ramps.size(display.crtc) == 0 ? "This display has no gamma ramp." : "";
 }
 
 std::vector<DisplayID> X11DisplayService::onlineDisplays(std::size_t most) {
@@ -103,7 +130,7 @@ std::vector<DisplayID> X11DisplayService::onlineDisplays(std::size_t most) {
     std::vector<DisplayID> online;
     for (const X11Display& display : *_layout) {
         if (online.size() < most) {
-            online.push_back(display.output);
+            online.push_back(display.id);
         }
     }
     if (_reconfiguration) {
@@ -114,7 +141,7 @@ std::vector<DisplayID> X11DisplayService::onlineDisplays(std::size_t most) {
 
 DisplayID X11DisplayService::mainDisplay() {
     const X11Display* display = find(0);
-    return display == nullptr ? 0 : display->output;
+    return display == nullptr ? 0 : display->id;
 }
 
 DisplayIdentity X11DisplayService::identity(DisplayID display) {
@@ -128,18 +155,10 @@ DisplayDescription X11DisplayService::description(DisplayID display) {
         return {};
     }
     lookAtRamp(*found);
-    DisplayDescription description{.connector = found->connector,
-                                   .productName = found->productName,
-                                   .rampSize = _ramps.size(found->crtc),
-                                   .obstacle = {}};
-    if (isXwayland(*found)) {
-        description.obstacle =
-            "This X server only draws into a Wayland desktop: setting its gamma ramps changes "
-            "nothing.";
-    } else if (description.rampSize == 0) {
-        description.obstacle = "This display has no gamma ramp.";
-    }
-    return description;
+    return {.connector = found->connector,
+            .productName = found->productName,
+            .rampSize = _ramps.size(found->crtc),
+            .obstacle = obstacle(*found)};
 }
 
 Rectangle X11DisplayService::bounds(DisplayID display) {
@@ -166,10 +185,6 @@ void X11DisplayService::lookAtRamp(const X11Display& display) {
 void X11DisplayService::setTransferTable(DisplayID display, const GammaTable& table) {
     const DisplayBatch batch(*this);
     const X11Display* found = correctable(display);
-    if (found != nullptr && !_ramps.isLoaded(found->crtc)) {
-        lookAtRamp(*found);
-        found = correctable(display);
-    }
     if (found == nullptr) {
         _allReached = false;
         return;
@@ -210,14 +225,11 @@ void X11DisplayService::restoreSystemCalibration(std::span<const DisplayID> disp
     const DisplayBatch batch(*this);
     for (const DisplayID display : displays) {
         const X11Display* found = correctable(display);
-        if (found != nullptr) {
-            lookAtRamp(*found);
-            found = correctable(display);
-        }
         if (found == nullptr) {
             _allReached = false;
             continue;
         }
+        lookAtRamp(*found);
         auto ramp = profileRamp(*found);
         if (!ramp) {
             ramp = _ramps.uncorrected(found->crtc);
@@ -229,8 +241,13 @@ void X11DisplayService::restoreSystemCalibration(std::span<const DisplayID> disp
 }
 
 void X11DisplayService::warpPointer(const Point& point) {
+    // The protocol has 16 bits for a coordinate; a not-a-number ends at 0.
+    const auto coordinate = [](double value) {
+        return static_cast<std::int16_t>(std::isnan(value) ? 0
+                                                           : std::clamp(value, -32768.0, 32767.0));
+    };
     xcb_warp_pointer(_connection->get(), XCB_NONE, _connection->root(), 0, 0, 0, 0,
-                     static_cast<std::int16_t>(point.x), static_cast<std::int16_t>(point.y));
+                     coordinate(point.x), coordinate(point.y));
     xcb_flush(_connection->get());
 }
 
@@ -249,7 +266,7 @@ bool X11DisplayService::endBatch() {
             std::find_if(layout().begin(), layout().end(),
                          [=](const X11Display& display) { return display.crtc == crtc; });
         if (refused != layout().end()) {
-            report(refused->output, refused->connector + " did not take its gamma ramp.");
+            report(refused->id, refused->connector + " did not take its gamma ramp.");
         }
     }
     if (_connection->isLost()) {
@@ -270,29 +287,23 @@ void X11DisplayService::report(DisplayID display, const std::string& text) {
 
 std::unique_ptr<DisplayService::Subscription> X11DisplayService::registerReconfigurationCallback(
     ReconfigurationCallback callback) {
-    class Registration : public Subscription {
-     public:
-        Registration(std::shared_ptr<Callbacks> callbacks, ReconfigurationCallback callback)
-            : _callbacks(std::move(callbacks)),
-              _callback(std::make_shared<ReconfigurationCallback>(std::move(callback))) {
-            _callbacks->all.push_back(_callback);
-        }
-        Registration(const Registration&) = delete;
-        Registration& operator=(const Registration&) = delete;
-        ~Registration() override { _callbacks->all.remove(_callback); }
-
-     private:
-        std::shared_ptr<Callbacks> _callbacks;
-        std::shared_ptr<ReconfigurationCallback> _callback;
-    };
+    auto subscription = _callbacks.add(std::move(callback));
     if (!_reconfiguration && _runLoop != nullptr) {
-        // Selected first and read after, so that no change falls between the two.
+        // Selected first and read after, so that no change falls between the two. What has changed
+        // since the displays were listed is told like any other change.
         _reconfiguration = std::make_unique<X11Reconfiguration>(*_connection, *_runLoop, _log,
                                                                 [this] { displaysChanged(); });
-        readLayout();
+        const bool isListed = _layout.has_value();
         _announced = layout();
+        readLayout();
+        if (isListed && _announced != layout()) {
+            _reconfiguration->waitForQuiet();
+        } else {
+            _announced = layout();
+        }
+        _reconfiguration->takeQueuedEvents();
     }
-    return std::make_unique<Registration>(_callbacks, std::move(callback));
+    return subscription;
 }
 
 void X11DisplayService::displaysChanged() {
@@ -301,26 +312,19 @@ void X11DisplayService::displaysChanged() {
     std::vector<DisplayID> affected;
     for (const X11Display& display : before) {
         if (!isIn(_announced, display)) {
-            affected.push_back(display.output);
+            affected.push_back(display.id);
         }
     }
     for (const X11Display& display : _announced) {
         if (!isIn(before, display) &&
-            std::find(affected.begin(), affected.end(), display.output) == affected.end()) {
-            affected.push_back(display.output);
+            std::find(affected.begin(), affected.end(), display.id) == affected.end()) {
+            affected.push_back(display.id);
         }
     }
     _reported.clear();
-    // A callback may end its own registration or another's.
-    const auto callbacks = _callbacks->all;
     for (const ReconfigurationFlags flags : {beginConfiguration, endConfiguration}) {
         for (const DisplayID display : affected) {
-            for (const auto& callback : callbacks) {
-                if (std::find(_callbacks->all.begin(), _callbacks->all.end(), callback) !=
-                    _callbacks->all.end()) {
-                    (*callback)(display, flags);
-                }
-            }
+            _callbacks.call(display, flags);
         }
     }
     _reconfiguration->takeQueuedEvents();

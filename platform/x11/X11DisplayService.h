@@ -13,11 +13,14 @@
 #include "platform/x11/X11Layout.h"
 #include "platform/x11/X11Reconfiguration.h"
 #include "screens/DisplayService.h"
+#include "screens/ReconfigurationCallbacks.h"
 
 namespace tonquil {
 
-/// The displays of an X server, corrected through the gamma ramps of their CRTCs. A display's ID
-/// is its RandR output.
+/// The displays of an X server, corrected through the gamma ramps of their CRTCs.
+///
+/// A display's ID is its RandR output, until another monitor is found there: that one gets an ID
+/// that no output has. A monitor that comes back to its output gets its ID back.
 class X11DisplayService : public DisplayService {
  public:
     /// Connects to the server named as in DISPLAY (null takes the environment's). Without a run
@@ -45,21 +48,23 @@ class X11DisplayService : public DisplayService {
     bool endBatch() override;
 
  private:
-    struct Callbacks;
-
     X11DisplayService(std::unique_ptr<X11Connection> connection, RunLoop* runLoop, Log log);
 
     [[nodiscard]] const std::vector<X11Display>& layout();
     void readLayout();
+    [[nodiscard]] DisplayID idFor(const X11Display& display);
     /// Whether the server only draws into a Wayland compositor, which takes no gamma ramp from it.
     [[nodiscard]] bool isXwayland(const X11Display& display) const;
     /// Null when there is none with this ID; 0 means the main display.
     [[nodiscard]] const X11Display* find(DisplayID display);
-    /// The same, but only if it has a ramp to correct; otherwise the log says once why not.
+    /// The same, but only if it has a ramp to correct; otherwise the log says once why not. A ramp
+    /// that was never looked at is looked at.
     [[nodiscard]] const X11Display* correctable(DisplayID display);
-    /// Sees to it that the display's ramp has been looked at: once in a batch, all displays at
-    /// once; outside of a batch each time.
+    /// Looks at the display's ramp: in a batch at all displays' at once and only once, outside of
+    /// one each time.
     void lookAtRamp(const X11Display& display);
+    /// Why the display cannot be corrected; empty when it can.
+    [[nodiscard]] std::string obstacle(const X11Display& display) const;
     [[nodiscard]] std::optional<HardwareRamp> profileRamp(const X11Display& display);
     void displaysChanged();
     void report(DisplayID display, const std::string& text);
@@ -72,7 +77,13 @@ class X11DisplayService : public DisplayService {
     /// What the callbacks were told of last.
     std::vector<X11Display> _announced;
     std::unique_ptr<X11Reconfiguration> _reconfiguration;
-    std::shared_ptr<Callbacks> _callbacks;
+    ReconfigurationCallbacks _callbacks;
+    struct KnownDisplay {
+        xcb_randr_output_t output;
+        DisplayIdentity identity;
+        DisplayID id;
+    };
+    std::vector<KnownDisplay> _known;
     std::set<DisplayID> _reported;
     bool _isInBatch = false;
     bool _isLayoutOfBatch = false;

@@ -14,6 +14,8 @@ namespace tonquil {
 
 /// A display as RandR has it now.
 struct X11Display {
+    /// Given by the service.
+    DisplayID id = 0;
     /// The output; among clones that share one CRTC the primary one, else the first.
     xcb_randr_output_t output = XCB_NONE;
     /// What drives it, and what its ramp belongs to.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11RampJournal.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -11,8 +12,7 @@ namespace {
 constexpr std::size_t correctionUnits = 3;
 constexpr std::size_t systemRampHeaderUnits = 2;
 
-/// Long enough that compacting is rare even during a drag and never leaves a journal that is still
-/// long, short enough to be read at every start.
+/// Long enough that compacting is rare even during a drag, short enough to be read at every start.
 constexpr std::size_t longCorrections =
     std::size_t{50} * RampHistory::mostCorrections * correctionUnits;
 constexpr std::size_t longSystemRamps = 64 * std::size_t{1024};
@@ -112,7 +112,9 @@ void X11RampJournal::appendSystemRamp(xcb_randr_crtc_t crtc, const HardwareRamp&
 }
 
 void X11RampJournal::compactIfLong() {
-    if (_correctionUnits < longCorrections && _systemRampUnits < longSystemRamps) {
+    // A journal that is long when compact is left to double first.
+    if (_correctionUnits < std::max(longCorrections, 2 * _compactCorrectionUnits) &&
+        _systemRampUnits < std::max(longSystemRamps, 2 * _compactSystemRampUnits)) {
         return;
     }
     // Nobody may append between the reading and the writing.
@@ -136,8 +138,8 @@ void X11RampJournal::compactIfLong() {
     replace(_connection.systemRampsAtom(), systemRamps);
     xcb_ungrab_server(_connection.get());
     xcb_flush(_connection.get());
-    _correctionUnits = corrections.size();
-    _systemRampUnits = systemRamps.size();
+    _correctionUnits = _compactCorrectionUnits = corrections.size();
+    _systemRampUnits = _compactSystemRampUnits = systemRamps.size();
 }
 
 }  // namespace tonquil

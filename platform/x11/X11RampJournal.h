@@ -49,6 +49,8 @@ class X11RampJournal {
     xcb_get_property_cookie_t _systemRampsCookie{};
     std::size_t _correctionUnits = 0;
     std::size_t _systemRampUnits = 0;
+    std::size_t _compactCorrectionUnits = 0;
+    std::size_t _compactSystemRampUnits = 0;
 };
 
 }  // namespace tonquil

@@ -46,8 +46,12 @@ void X11Reconfiguration::take(const xcb_generic_event_t& event) {
     // Bit 7 says that another client sent the event.
     const int type = (event.response_type & 0x7F) - _connection.randrFirstEvent();
     if (type == XCB_RANDR_SCREEN_CHANGE_NOTIFY || type == XCB_RANDR_NOTIFY) {
-        _timer = _runLoop.callOnce(quietTime, [this] { _becameQuiet(); });
+        waitForQuiet();
     }
+}
+
+void X11Reconfiguration::waitForQuiet() {
+    _timer = _runLoop.callOnce(quietTime, [this] { _becameQuiet(); });
 }
 
 }  // namespace tonquil

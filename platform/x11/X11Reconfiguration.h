@@ -25,6 +25,8 @@ class X11Reconfiguration {
     /// Takes note of events that came along with replies: these never make the descriptor readable.
     /// To be called after each exchange with the server.
     void takeQueuedEvents();
+    /// Calls after the quiet time, as after an event.
+    void waitForQuiet();
 
  private:
     void takeEvents();

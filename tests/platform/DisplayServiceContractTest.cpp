@@ -162,7 +162,9 @@ TEST_P(DisplayServiceContract, LeavesADisplayThatIsGoneAloneAndSaysSoOnce) {
         service->setTransferTable(second, tableOf(1));
         EXPECT_EQ(service->getTransferTable(second, table), 0U);
     }
+    DisplayBatch inVain(*service);
     service->restoreSystemCalibration(std::vector{second});
+    EXPECT_FALSE(inVain.finish());
     EXPECT_TRUE(service->bounds(second).isEmpty());
     EXPECT_EQ(service->identity(second), DisplayIdentity{});
     EXPECT_EQ(log.size(), 1U);

@@ -17,7 +17,7 @@ TEST(X11RampJournal, KeepsTheLastSystemRampOfEachCrtc) {
     EXPECT_EQ(histories.at(62).systemRamp()->channel(0)[0], 7);
     EXPECT_EQ(histories.at(62).systemRamp()->channel(2)[1], 12);
     EXPECT_TRUE(histories.at(62).isCorrection(0x0000000100000002));
-    EXPECT_TRUE(histories.at(62).isNewestCorrection(0x0000000500000006));
+    EXPECT_EQ(histories.at(62).corrections().back(), 0x0000000500000006U);
     EXPECT_FALSE(histories.at(63).isCorrection(0x0000000100000002));
 }
 

@@ -72,18 +72,33 @@ TEST_F(X11Reconfigurations, OnePlugIsOneBeginAndOneEnd) {
     EXPECT_TRUE(calls.empty());
 }
 
-TEST_F(X11Reconfigurations, ACallbackMayEndItsOwnRegistration) {
-    watch();
-    int last = 0;
-    std::unique_ptr<DisplayService::Subscription> once;
-    once = service->registerReconfigurationCallback([&](DisplayID, ReconfigurationFlags) {
-        ++last;
-        once.reset();
-    });
+TEST_F(X11Reconfigurations, AChangeBeforeTheRegistrationIsToldToo) {
+    ASSERT_EQ(service->onlineDisplays(25).size(), 1U);
     mustSucceed(server->plug("DUMMY1", "1280x1024"));
+    watch();
     becomeQuiet();
-    EXPECT_EQ(last, 1);
     EXPECT_EQ(calls.size(), 2U);
+}
+
+TEST_F(X11Reconfigurations, AnotherMonitorOnTheSameConnectorIsAnotherDisplay) {
+    ScreenRegistry registry(*service);
+    watch();
+    const auto plugMonitor = [&](std::uint32_t serial) {
+        mustSucceed(server->setEdid("DUMMY1", buildEdid({.serial = serial})));
+        mustSucceed(server->plug("DUMMY1", "1280x1024"));
+        becomeQuiet();
+        registry.updateScreenList();
+        const auto screen = registry.screens().at(1);
+        mustSucceed(server->unplug("DUMMY1"));
+        becomeQuiet();
+        registry.updateScreenList();
+        return screen;
+    };
+    const auto first = plugMonitor(5);
+    const auto second = plugMonitor(6);
+    EXPECT_EQ(first->referenceID(), "5-1-21036");
+    EXPECT_EQ(second->referenceID(), "6-1-21036");
+    EXPECT_EQ(plugMonitor(5), first) << "and it is known when it comes back";
 }
 
 TEST_F(X11Reconfigurations, ACrtcThatADisplayLeftGetsItsSystemRampBack) {

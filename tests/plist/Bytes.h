@@ -2,10 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "plist/PropertyListReader.h"
 
 namespace tonquil {
 
@@ -14,49 +15,67 @@ namespace tonquil {
     return {text.begin(), text.end()};
 }
 
-/// UTF-16 of ASCII text.
-[[nodiscard]] inline std::string utf16(std::string_view ascii, bool bigEndian, bool mark) {
-    std::string text;
-    const auto append = [&](char high, char low) {
-        text += bigEndian ? high : low;
-        text += bigEndian ? low : high;
-    };
-    if (mark) {
-        append('\xFE', '\xFF');
+/// What the list says, as JSON, or "refused".
+[[nodiscard]] inline std::string read(std::string_view text) {
+    const auto value = readPropertyList(bytesOf(text));
+    return value ? value->dump() : "refused";
+}
+
+/// The pieces of a text between separators, empty ones included.
+[[nodiscard]] inline std::vector<std::string> split(std::string_view text,
+                                                    std::string_view separator) {
+    std::vector<std::string> pieces;
+    for (std::size_t end = text.find(separator); end != std::string_view::npos;
+         end = text.find(separator)) {
+        pieces.emplace_back(text.substr(0, end));
+        text.remove_prefix(end + separator.size());
     }
-    for (const char c : ascii) {
-        append('\0', c);
+    pieces.emplace_back(text);
+    return pieces;
+}
+
+/// The cells of a table, several of them in a line.
+[[nodiscard]] inline std::vector<std::string> cellsOf(std::string_view table) {
+    std::vector<std::string> cells;
+    for (const std::string& line : split(table, "\n")) {
+        const auto inLine = split(line, " | ");
+        cells.insert(cells.end(), inLine.begin(), inLine.end());
+    }
+    return cells;
+}
+
+/// A number as `size` bytes, the most significant first.
+[[nodiscard]] inline std::string bigEndianBytes(std::uint64_t value, std::size_t size) {
+    std::string text;
+    for (std::size_t i = size; i-- > 0;) {
+        text += static_cast<char>((value >> (8 * i)) & 0xFFU);
     }
     return text;
 }
 
-/// A binary property list under construction: what its fields say may well be untrue.
-struct BinaryList {
-    std::vector<std::string> objects;
-    std::size_t offsetSize = 1;
-    std::size_t referenceSize = 1;
-    std::uint64_t top = 0;
-
-    [[nodiscard]] static std::string number(std::uint64_t value, std::size_t size) {
-        std::string text;
-        for (std::size_t i = size; i-- > 0;) {
-            text += i < 8 ? static_cast<char>((value >> (8 * i)) & 0xFFU) : '\0';
-        }
-        return text;
+/// Bytes from two hexadecimal digits each.
+[[nodiscard]] inline std::string bytesFromHex(std::string_view hex) {
+    std::string bytes;
+    for (; !hex.empty(); hex.remove_prefix(2)) {
+        bytes += static_cast<char>(std::stoi(std::string(hex.substr(0, 2)), nullptr, 16));
     }
+    return bytes;
+}
 
-    [[nodiscard]] std::string bytes() const {
-        std::string out = "bplist00";
-        std::string table;
-        for (const std::string& object : objects) {
-            table += number(out.size(), offsetSize);
-            out += object;
-        }
-        const std::size_t tableOffset = out.size();
-        return out + table + std::string(6, '\0') + number(offsetSize, 1) +
-               number(referenceSize, 1) + number(objects.size(), 8) + number(top, 8) +
-               number(tableOffset, 8);
+/// A binary property list of objects in hexadecimal digits with a space between two objects; what
+/// its fields say may well be untrue.
+[[nodiscard]] inline std::string binaryList(const std::string& objects, std::size_t offsetSize = 1,
+                                            std::size_t referenceSize = 1, std::uint64_t top = 0) {
+    std::string out = "bplist00";
+    std::string table;
+    for (const std::string& object : split(objects, " ")) {
+        table += bigEndianBytes(out.size(), offsetSize);
+        out += bytesFromHex(object);
     }
-};
+    const std::string trailer = bigEndianBytes(offsetSize, 7) + bigEndianBytes(referenceSize, 1) +
+                                bigEndianBytes(table.size() / offsetSize, 8) +
+                                bigEndianBytes(top, 8);
+    return out + table + trailer + bigEndianBytes(out.size(), 8);
+}
 
 }  // namespace tonquil

@@ -8,84 +8,55 @@
 namespace tonquil {
 namespace {
 
-using namespace std::string_literals;
-
 TEST(PropertyListBudget, HoldsReadersAndWriterToTheSameLimits) {
     // Four values on three levels, with 1 + 3 + 2 bytes of key, text and data.
     const PropertyValue value = {{"k", {"☾", PropertyValue::binary({0, 0})}}};
-    const std::string xml =
-        "<plist><dict><key>k</key><array><string>☾</string><data>AAA=</data></array></dict></"
-        "plist>";
-    const std::string binary =
-        BinaryList{{"\xD1\x01\x02", "\x51k", "\xA2\x03\x04", "\x61\x26\x3E", "\x42\0\0"s}}.bytes();
-
-    struct Row {
-        const char* what;
-        PropertyListBudget budget;
-        bool fits;
-    };
-    constexpr std::size_t enough = 1000;
-    const std::vector<Row> rows = {
-        {"all at the limit", {enough, 3, 4, 6}, true},
-        {"a level less", {enough, 2, 4, 6}, false},
-        {"a value less", {enough, 3, 3, 6}, false},
-        {"a byte of text less", {enough, 3, 4, 5}, false},
-        {"a file of few bytes", {50, 3, 4, 6}, false},
-        {"nothing at all", {0, 0, 0, 0}, false},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
-        EXPECT_EQ(readPropertyList(bytesOf(xml), row.budget).has_value(), row.fits);
-        EXPECT_EQ(readPropertyList(bytesOf(binary), row.budget).has_value(), row.fits);
-        EXPECT_EQ(writePropertyList(value, row.budget).has_value(), row.fits);
+    const auto xml = bytesOf(
+        "<plist><dict><key>k</key><array><string>☾</string><data>AAA=</data></array></dict>"
+        "</plist>");
+    const auto binary = bytesOf(binaryList("D10102 516B A20304 61263E 420000"));
+    const std::vector<std::pair<PropertyListBudget, bool>> rows = {{{1000, 3, 4, 6}, true},
+                                                                   {{1000, 2, 4, 6}, false},
+                                                                   {{1000, 3, 3, 6}, false},
+                                                                   {{1000, 3, 4, 5}, false},
+                                                                   {{50, 3, 4, 6}, false}};
+    for (const auto& [budget, fits] : rows) {
+        SCOPED_TRACE(testing::PrintToString(budget));
+        EXPECT_EQ(readPropertyList(xml, budget).has_value(), fits);
+        EXPECT_EQ(readPropertyList(binary, budget).has_value(), fits);
+        EXPECT_EQ(writePropertyList(value, budget).has_value(), fits);
     }
-    for (const std::string& file : {xml, binary}) {
-        EXPECT_TRUE(readPropertyList(bytesOf(file), {file.size(), 3, 4, 6}));
-        EXPECT_FALSE(readPropertyList(bytesOf(file), {file.size() - 1, 3, 4, 6}));
-    }
+    EXPECT_TRUE(readPropertyList(xml, {xml.size(), 3, 4, 6}));
+    EXPECT_FALSE(readPropertyList(xml, {xml.size() - 1, 3, 4, 6}));
 }
 
 TEST(PropertyListBudget, RefusesNestingOfAnyDepthWithoutUsingTheStack) {
-    for (const char* const element : {"array", "dict><key/"}) {
-        std::string text = "<plist>";
-        while (text.size() < 1'000'000) {
-            text.append("<").append(element).append(">");
+    for (const char* const element : {"<array>", "<dict><key/>"}) {
+        std::string text = "<plist>\n";
+        for (int level = 0; level < 80'000; ++level) {
+            text += element;
         }
         const auto value = readPropertyList(bytesOf(text));
         ASSERT_FALSE(value);
-        EXPECT_EQ(value.error().detail, "more than 32 levels in line 1");
+        EXPECT_EQ(value.error().detail, "more than 32 levels in line 2");
     }
 }
 
 TEST(PropertyListBudget, CountsASharedObjectEachTimeItIsReferredTo) {
-    constexpr std::size_t times = 60'000;
-    const auto shared = [](std::size_t length) {
-        std::string references;
-        for (std::size_t i = 0; i < times; ++i) {
-            references += '\x01';
+    // Arrays of twice the next one, and at the end the leaf.
+    const auto doubled = [](std::uint64_t levels, const std::string& leaf) {
+        std::string objects;
+        for (std::uint64_t next = 1; next <= levels; ++next) {
+            const std::string digits = {"01"[next / 16], "0123456789ABCDEF"[next % 16]};
+            objects += "A2" + digits + digits + " ";
         }
-        const std::string text =
-            "\x5F\x11" + BinaryList::number(length, 2) + std::string(length, 'a');
-        return BinaryList{{"\xAF\x12" + BinaryList::number(times, 4) + references, text}, 4}
-            .bytes();
+        const auto value = readPropertyList(bytesOf(binaryList(objects + leaf, 2)));
+        return value ? "read" : value.error().detail;
     };
-    const auto small = readPropertyList(bytesOf(shared(16)));
-    ASSERT_TRUE(small) << small.error().detail;
-    EXPECT_EQ(small->size(), times);
-    const auto large = readPropertyList(bytesOf(shared(80)));
-    ASSERT_FALSE(large);
-    EXPECT_EQ(large.error().detail, "more than 4194304 bytes of text and data");
-}
-
-TEST(PropertyListBudget, RefusesArraysThatDoubleAtEveryLevel) {
-    BinaryList list;
-    for (char next = 1; next < 30; ++next) {
-        list.objects.push_back("\xA2"s + next + next);
-    }
-    list.objects.emplace_back("\x08");
-    const auto value = readPropertyList(bytesOf(list.bytes()));
-    ASSERT_FALSE(value);
-    EXPECT_EQ(value.error().detail, "more than 65536 values");
+    const std::string zeros(400, '0');
+    EXPECT_EQ(doubled(15, "4F10C8" + zeros), "more than 4194304 bytes of text and data");
+    EXPECT_EQ(doubled(14, "4F10C8" + zeros), "read");
+    EXPECT_EQ(doubled(30, "08"), "more than 65536 values");
 }
 
 }  // namespace

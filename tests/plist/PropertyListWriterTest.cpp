@@ -3,113 +3,129 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <bit>
+#include <cmath>
 #include <limits>
+#include <random>
 
+#include "../files/FolderContents.h"
 #include "Bytes.h"
-#include "RandomValue.h"
 #include "SameValue.h"
-#include "plist/PropertyListReader.h"
+#include "tests/support/ProcessRunner.h"
 
 namespace tonquil {
 namespace {
 
-TEST(PropertyListWriter, WritesTheUsualForm) {
-    const PropertyValue value = {{"b", {1, 1.0, 0.1, static_cast<double>(0.1F)}},
-                                 {"a&", PropertyValue::binary(std::vector<std::uint8_t>(58))},
-                                 {"c", {{"on", true}, {"none", PropertyValue::array()}}}};
-    EXPECT_EQ(writePropertyList(value).value_or("none"),
-              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-              "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-              "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-              "<plist version=\"1.0\">\n"
-              "<dict>\n"
-              "\t<key>a&amp;</key>\n"
-              "\t<data>\n"
-              "\t" +
-                  std::string(76, 'A') +
-                  "\n"
-                  "\tAA==\n"
-                  "\t</data>\n"
-                  "\t<key>b</key>\n"
-                  "\t<array>\n"
-                  "\t\t<integer>1</integer>\n"
-                  "\t\t<real>1</real>\n"
-                  "\t\t<real>0.1</real>\n"
-                  "\t\t<real>0.1</real>\n"
-                  "\t</array>\n"
-                  "\t<key>c</key>\n"
-                  "\t<dict>\n"
-                  "\t\t<key>none</key>\n"
-                  "\t\t<array/>\n"
-                  "\t\t<key>on</key>\n"
-                  "\t\t<true/>\n"
-                  "\t</dict>\n"
-                  "</dict>\n"
-                  "</plist>\n");
+PropertyValue randomValue(std::mt19937_64& random, int levels) {
+    const auto text = [&random] {
+        const auto pieces = split("a| |\t|&|<|>|]]>|\"|'|é|☾|🌙|\n|\x7F", "|");
+        std::string joined;
+        for (auto i = random() % 20; i > 0; --i) {
+            joined += pieces[random() % pieces.size()];
+        }
+        return joined;
+    };
+    if (levels == 0 || random() % 9 > 1) {
+        const auto single = std::bit_cast<float>(static_cast<std::uint32_t>(random()));
+        std::vector<std::uint8_t> data(random() % 300);
+        std::generate(data.begin(), data.end(), [&] { return random() & 0xFFU; });
+        const PropertyValue leaves = {random() % 2 == 0,
+                                      random() >> random() % 64,
+                                      static_cast<std::int64_t>(random()) >> random() % 63,
+                                      static_cast<double>(single),
+                                      std::bit_cast<double>(std::uint64_t{random()}),
+                                      text(),
+                                      PropertyValue::binary(data)};
+        return leaves[random() % leaves.size()];
+    }
+    PropertyValue container = random() % 2 == 0 ? PropertyValue::array() : PropertyValue::object();
+    for (auto i = random() % 20; i > 0; --i) {
+        auto& place = container.is_array() ? container.emplace_back() : container[text()];
+        place = randomValue(random, levels - 1);
+    }
+    return container;
 }
 
-TEST(PropertyListWriter, WritesWhatTheReaderReadsBack) {
-    std::vector<PropertyValue> values = {
-        "",
-        " a\r\n\rb\t",
-        "]]>&amp;<!-- -->",
-        "\uFFFD\U0010FFFF\u0085",
-        std::numeric_limits<double>::infinity(),
-        -std::numeric_limits<double>::infinity(),
-        std::numeric_limits<double>::quiet_NaN(),
-        -0.0,
-        std::numeric_limits<double>::max(),
-        std::numeric_limits<double>::denorm_min(),
-        // Its shortest digits lie above the middle of two singles, itself in the middle.
-        1.000000059604644775390625,
-        std::numeric_limits<std::uint64_t>::max(),
-        std::numeric_limits<std::int64_t>::min(),
-        PropertyValue::object(),
-        PropertyValue::binary({}),
-    };
-    RandomValue random;
-    for (int i = 0; i < 300; ++i) {
-        values.push_back(random.value(4));
-        values.emplace_back(random.middleOfTwoSingles());
-    }
+constexpr const char* script = R"(
+import datetime, plistlib, sys
+folder = sys.argv[1] + "/"
+own = {"when": [datetime.datetime(1, 1, 1), datetime.datetime(9999, 12, 31, 23, 59, 59)],
+       "moon": "\u263e\U0001f319", "range": [2**64 - 1, -2**63]}
+for name, value in {"own": own, "ours": plistlib.load(open(folder + "ours", "rb"))}.items():
+    plistlib.dump(value, open(folder + name + " xml", "wb"), fmt=plistlib.FMT_XML)
+    plistlib.dump(value, open(folder + name + " binary", "wb"), fmt=plistlib.FMT_BINARY)
+open(folder + "own utf16", "wb").write(
+    plistlib.dumps(own).decode().replace("UTF-8", "UTF-16").encode("utf-16"))
+)";
+
+// Python's plistlib knows nothing of our reader and writer, so what both agree on is right.
+TEST(PropertyListWriter, WritesWhatTheReaderAndAnIndependentPeerReadBack) {
     PropertyListBudget budget;
-    budget.mostBytes = std::size_t{1} << 30U;
-    for (const PropertyValue& value : values) {
-        const auto text = writePropertyList(value, budget);
-        ASSERT_TRUE(text) << text.error().sentence;
-        const auto again = readPropertyList(bytesOf(*text), budget);
-        ASSERT_TRUE(again) << again.error().detail << *text;
-        ASSERT_TRUE(isSameValue(value, *again)) << *text;
+    budget.mostBytes = std::size_t{1} << 28U;
+    std::mt19937_64 random(20260101);
+    PropertyValue values = PropertyValue::array();
+    while (values.size() < 200) {
+        values.push_back(randomValue(random, 3));
     }
+    const auto own = PropertyValue::parse(R"({"moon":"☾🌙",
+        "when":["0001-01-01T00:00:00Z","9999-12-31T23:59:59Z"],
+        "range":[18446744073709551615,-9223372036854775808]})");
+    const ScratchFolder folder;
+    putContents(folder / "ours", writePropertyList(values, budget).value_or("none"));
+    const auto python = run({.command = {"python3", "-c", script, folder.path().native()}});
+    ASSERT_TRUE(python && python->succeeded()) << (python ? python->standardError : "no Python");
+    for (const std::string name :
+         {"ours", "ours xml", "ours binary", "own xml", "own binary", "own utf16"}) {
+        const auto value = readPropertyList(bytesOf(contentsOf(folder / name)), budget);
+        ASSERT_TRUE(value) << name << value.error().detail;
+        EXPECT_TRUE(isSameValue(*value, name.starts_with("ours") ? values : own)) << name;
+    }
+}
+
+TEST(PropertyListWriter, WritesWhatBecomesTheSameSingleAgain) {
+    using Real = std::numeric_limits<double>;
+    // The last one's shortest digits lie above the middle of two singles, itself in the middle.
+    PropertyValue values = {
+        " a\r\n\rb\t",     "\uFFFD\U0010FFFF\u0085", Real::infinity(),
+        -Real::infinity(), Real::quiet_NaN(),        -0.0,
+        Real::max(),       Real::denorm_min(),       1.000000059604644775390625};
+    std::mt19937_64 random(20260101);
+    while (values.size() < 1000) {
+        // The middle of two singles, or a double beside it: where rounding twice goes wrong.
+        const auto odd = static_cast<double>((random() % (1U << 24U)) * 2 + 1);
+        const double middle = std::ldexp(odd, static_cast<int>(random() % 250) - 148);
+        values.push_back(std::nextafter(middle, middle * static_cast<double>(random() % 3)));
+    }
+    const auto text = writePropertyList(values);
+    ASSERT_TRUE(text) << text.error().sentence;
+    const auto again = readPropertyList(bytesOf(*text)).value_or(nullptr);
+    ASSERT_EQ(again.size(), values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        EXPECT_TRUE(isSameValue(again[i], values[i])) << values[i].dump();
+    }
+}
+
+TEST(PropertyListWriter, WritesTheUsualForm) {
+    const PropertyValue value = {{"a&", PropertyValue::binary(std::vector<std::uint8_t>(58))},
+                                 {"b", {1.0, 0.1, static_cast<double>(0.1F), {{"c", true}}}}};
+    EXPECT_EQ(writePropertyList(value).value_or("none"),
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE plist PUBLIC \"-//Apple//DTD "
+              "PLIST 1.0//EN\" \"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+              "<plist version=\"1.0\">\n<dict>\n\t<key>a&amp;</key>\n\t<data>\n\t" +
+                  std::string(76, 'A') +
+                  "\n\tAA==\n\t</data>\n\t<key>b</key>\n\t<array>\n\t\t<real>1</real>\n"
+                  "\t\t<real>0.1</real>\n\t\t<real>0.1</real>\n\t\t<dict>\n\t\t\t<key>c</key>\n"
+                  "\t\t\t<true/>\n\t\t</dict>\n\t</array>\n</dict>\n</plist>\n");
 }
 
 TEST(PropertyListWriter, RefusesWhatTheReaderCouldNotReadBack) {
-    const std::vector<PropertyValue> rows = {
-        nullptr,
-        PropertyValue::array({1, nullptr}),
-        PropertyValue(PropertyValue::value_t::discarded),
-        std::string("a\0b", 3),
-        "\x01",
-        "\x1F",
-        "\v",
-        "\uFFFE",
-        "\uFFFF",
-        "\x80",
-        "\xC3",
-        "\xC0\xAF",
-        "\xE0\x80\xAF",
-        "\xED\xA0\x80",
-        "\xF4\x90\x80\x80",
-        "\xF8\x88\x80\x80\x80",
-        {{"\x01", true}},
-        {{"\xFF", true}},
-        {{"k", {{"l", "\x02"}}}},
-    };
-    for (const PropertyValue& value : rows) {
-        const auto text = writePropertyList(value);
-        ASSERT_FALSE(text) << *text;
-        EXPECT_FALSE(text.error().sentence.empty());
+    for (const char* const hex :
+         {"610062", "1F", "EFBFBE", "80", "C3", "C0AF", "E080AF", "EDA080", "F4908080"}) {
+        EXPECT_FALSE(writePropertyList(bytesFromHex(hex))) << hex;
     }
+    EXPECT_FALSE(writePropertyList({{"\x01", true}}));
+    EXPECT_FALSE(writePropertyList(PropertyValue::array({1, nullptr})));
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -10,33 +9,25 @@
 
 namespace tonquil {
 
-/// Whether two reals have the same single-precision bits; one not-a-number is as good as another.
-[[nodiscard]] inline bool isSameSingle(double a, double b) {
-    const float first = toSinglePrecision(a);
-    const float second = toSinglePrecision(b);
-    return (std::isnan(first) && std::isnan(second)) ||
-           std::bit_cast<std::uint32_t>(first) == std::bit_cast<std::uint32_t>(second);
-}
-
 /// Equality as property lists have it: an integer is never equal to a real, which the library's
-/// own comparison would allow, and reals are equal by their single-precision bits.
+/// own comparison would allow, and reals are equal by their single-precision bits; one
+/// not-a-number is as good as another.
 [[nodiscard]] inline bool isSameValue(const PropertyValue& a, const PropertyValue& b) {
-    if (a.is_number_float() || b.is_number_float()) {
-        return a.is_number_float() && b.is_number_float() &&
-               isSameSingle(a.get<double>(), b.get<double>());
+    if (a.is_number_float() && b.is_number_float()) {
+        const float first = toSinglePrecision(a.get<double>());
+        const float second = toSinglePrecision(b.get<double>());
+        return (std::isnan(first) && std::isnan(second)) ||
+               std::bit_cast<std::uint32_t>(first) == std::bit_cast<std::uint32_t>(second);
     }
-    if (a.is_object() && b.is_object()) {
-        const auto& left = a.get_ref<const PropertyValue::object_t&>();
-        const auto& right = b.get_ref<const PropertyValue::object_t&>();
-        return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                          [](const auto& x, const auto& y) {
-                              return x.first == y.first && isSameValue(x.second, y.second);
-                          });
+    if (!a.is_structured() || a.type() != b.type() || a.size() != b.size()) {
+        return a.is_number_float() == b.is_number_float() && a == b;
     }
-    if (a.is_array() && b.is_array()) {
-        return std::equal(a.begin(), a.end(), b.begin(), b.end(), &isSameValue);
+    for (auto x = a.cbegin(), y = b.cbegin(); x != a.cend(); ++x, ++y) {
+        if ((a.is_object() && x.key() != y.key()) || !isSameValue(*x, *y)) {
+            return false;
+        }
     }
-    return a == b;
+    return true;
 }
 
 }  // namespace tonquil

@@ -65,7 +65,7 @@ TEST(Applying, LaysEveryCurveOverTheSameBase) {
     EXPECT_TRUE(haveSameBits(base, again)) << "a correction never becomes the base";
 }
 
-TEST(Applying, ToADisplayWithoutSamplesStillSetsATable) {
+TEST(Applying, ToAShortRampComputesForItsLength) {
     Desk desk(R"([{"rampSize": 64}])");
     KVScreen& screen = *desk.registry.screens()[0];
     EXPECT_EQ(screen.baseGamma().sampleCount, 64U);

@@ -149,6 +149,34 @@ TEST(ScreenRegistry, FindsTheScreenOfAPlatformScreen) {
     EXPECT_TRUE(gone.nsscreen()) << "it is looked for again";
 }
 
+TEST(ScreenRegistry, ReadsTheBaseOfADisplayThatCouldNotBeReadBefore) {
+    Desk desk(R"([{"id": 1}, {"id": 2, "rampSize": 0}])");
+    EXPECT_EQ(desk.registry.screens()[1]->baseGamma().sampleCount, 0U);
+    desk.desk.setForeignRamp(2, HardwareRamp::straight(256));
+    desk.registry.updateScreenList();
+    EXPECT_EQ(desk.registry.screens()[1]->baseGamma().sampleCount, 256U);
+    desk.desk.setForeignRamp(2, HardwareRamp(256));
+    desk.registry.updateScreenList();
+    EXPECT_EQ(desk.registry.screens()[1]->baseGamma().table.channel(0)[255], 1.0F)
+        << "a base that is there is read again only on request";
+}
+
+TEST(ReconfigurationCallbacks, MayEndTheirOwnRegistration) {
+    Desk desk(threeDisplays);
+    int calls = 0;
+    int others = 0;
+    std::unique_ptr<DisplayService::Subscription> own;
+    own = desk.service.registerReconfigurationCallback([&](DisplayID, ReconfigurationFlags) {
+        ++calls;
+        own.reset();
+    });
+    const auto other = desk.service.registerReconfigurationCallback(
+        [&](DisplayID, ReconfigurationFlags) { ++others; });
+    desk.desk.unplug(12);
+    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(others, 2);
+}
+
 TEST(ScreenRegistry, DoesNotKeepAScreenMadeForAnUnknownDisplay) {
     Desk desk(threeDisplays);
     const auto first = desk.registry.screens()[0];
