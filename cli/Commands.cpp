@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 
-#include <ostream>
-
 #include "cli/Help.h"
 
 namespace tonquil {
@@ -10,7 +8,7 @@ namespace tonquil {
 Result<void> runCommand(const Arguments& arguments, const CommandEnvironment& environment) {
     switch (arguments.command) {
         case Arguments::Command::version:
-            environment.out << "tonquilctl " TONQUIL_VERSION "\n";
+            environment.out += "tonquilctl " TONQUIL_VERSION "\n";
             return {};
         case Arguments::Command::displays:
             return runDisplays(arguments, environment);
@@ -23,7 +21,7 @@ Result<void> runCommand(const Arguments& arguments, const CommandEnvironment& en
         case Arguments::Command::table:
             return runTable(arguments, environment);
         default:
-            environment.out << helpText;
+            environment.out += helpText;
             return {};
     }
 }

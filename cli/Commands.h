@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <iosfwd>
 #include <memory>
 #include <string>
 
@@ -18,9 +17,10 @@ struct CommandEnvironment {
     std::function<Result<std::unique_ptr<DisplayService>>()> openDisplays;
     /// What the service logged last.
     const std::string& logged;
-    std::ostream& out;
+    /// What the command prints.
+    std::string& out;
     /// Remarks that are of interest only if the command succeeds.
-    std::ostream& notes;
+    std::string& notes;
 };
 
 /// Carries out a command. A fault in what it was given is found before any display is changed.

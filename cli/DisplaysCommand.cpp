@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -42,14 +41,16 @@ Line describe(std::size_t number, const KVScreen& screen, DisplayService& servic
             .isMain = display == service.mainDisplay()};
 }
 
-void printText(const Line& line, std::ostream& out) {
-    out << line.number << '\t' << line.referenceID << '\t' << line.description.connector << '\t'
-        << line.width << 'x' << line.height << '+' << line.x << '+' << line.y << '\t'
-        << line.description.rampSize << '\t' << (line.isLocal ? "local" : "unique");
+std::string text(const Line& line) {
+    std::string text = std::to_string(line.number) + '\t' + line.referenceID + '\t' +
+                       line.description.connector + '\t' + std::to_string(line.width) + 'x' +
+                       std::to_string(line.height) + '+' + std::to_string(line.x) + '+' +
+                       std::to_string(line.y) + '\t' + std::to_string(line.description.rampSize) +
+                       '\t' + (line.isLocal ? "local" : "unique");
     if (!line.description.obstacle.empty()) {
-        out << '\t' << line.description.obstacle;
+        text += '\t' + line.description.obstacle;
     }
-    out << '\n';
+    return text + '\n';
 }
 
 PropertyValue json(const Line& line) {
@@ -86,14 +87,13 @@ Result<void> runDisplays(const Arguments& arguments, const CommandEnvironment& e
     }
     if (!arguments.json) {
         for (const Line& line : lines) {
-            printText(line, environment.out);
+            environment.out += text(line);
         }
     } else {
         PropertyValue list = PropertyValue::array();
         std::ranges::transform(lines, std::back_inserter(list), json);
         // A connector's name is whatever bytes its driver chose.
-        environment.out << list.dump(2, ' ', false, PropertyValue::error_handler_t::replace)
-                        << '\n';
+        environment.out += list.dump(2, ' ', false, PropertyValue::error_handler_t::replace) + '\n';
     }
     return {};
 }

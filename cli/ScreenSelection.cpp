@@ -2,13 +2,12 @@
 #include "cli/ScreenSelection.h"
 
 #include <algorithm>
-#include <ostream>
 
 namespace tonquil {
 
 Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry, DisplayService& service,
                                               const std::vector<std::string>& referenceIDs,
-                                              std::ostream& notes) {
+                                              std::string& notes) {
     const auto isMeant = [&](const std::string& referenceID) {
         return referenceIDs.empty() || std::find(referenceIDs.begin(), referenceIDs.end(),
                                                  referenceID) != referenceIDs.end();
@@ -33,7 +32,7 @@ Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry, DisplayS
         if (!referenceIDs.empty() || registry.screens().size() == 1) {
             return problem(obstacle);
         }
-        notes << "tonquilctl: " << obstacle << '\n';
+        notes += "tonquilctl: " + obstacle + "\n";
     }
     if (selected.empty()) {
         return problem(registry.screens().empty() ? "No display is attached."

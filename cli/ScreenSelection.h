@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -17,6 +16,6 @@ namespace tonquil {
 /// or if no screen is left. A display that was not named and cannot be corrected is only noted.
 [[nodiscard]] Result<ScreenRegistry::Screens> selectScreens(
     ScreenRegistry& registry, DisplayService& service, const std::vector<std::string>& referenceIDs,
-    std::ostream& notes);
+    std::string& notes);
 
 }  // namespace tonquil

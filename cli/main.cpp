@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <cctype>
-#include <iostream>
-#include <sstream>
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -10,42 +9,50 @@
 #include "cli/Commands.h"
 #include "platform/choice/DisplayServiceChoice.h"
 
+// No iostreams here: setting up their locales takes longer than everything else a command does.
+
 namespace {
 
 constexpr int failed = 1;
 constexpr int wrongUsage = 2;
 
+[[nodiscard]] bool print(const std::string& text, FILE* stream) {
+    return std::fwrite(text.data(), 1, text.size(), stream) == text.size() &&
+           std::fflush(stream) == 0;
+}
+
 /// One line, whatever the names of files and displays have in them.
 void say(std::string line) {
     std::ranges::replace_if(
         line, [](unsigned char c) { return std::iscntrl(c) != 0; }, '?');
-    std::cerr << "tonquilctl: " << line << '\n';
+    // There is nowhere to say that this cannot be said.
+    static_cast<void>(print("tonquilctl: " + line + "\n", stderr));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::ios::sync_with_stdio(false);
     const auto arguments = tonquil::parseArguments(argc, argv);
     if (!arguments) {
         say(arguments.error().sentence + " Try \"tonquilctl --help\".");
         return wrongUsage;
     }
     std::string logged;
-    std::ostringstream notes;
+    std::string out;
+    std::string notes;
     const auto log = [&](std::string_view line) { logged = line; };
     const auto result = tonquil::runCommand(
         *arguments, {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
                      .logged = logged,
-                     .out = std::cout,
+                     .out = out,
                      .notes = notes});
     if (!result) {
         const auto& [sentence, detail] = result.error();
         say(detail.empty() ? sentence : sentence + " (" + detail + ")");
         return failed;
     }
-    std::cerr << notes.str();
-    if (!std::cout.flush()) {
+    static_cast<void>(print(notes, stderr));
+    if (!print(out, stdout)) {
         say("The output could not be written.");
         return failed;
     }
