@@ -88,7 +88,7 @@ TEST_F(X11Reconfigurations, AnotherMonitorOnTheSameConnectorIsAnotherDisplay) {
         mustSucceed(server->plug("DUMMY1", "1280x1024"));
         becomeQuiet();
         registry.updateScreenList();
-        const auto screen = registry.screens().at(1);
+        auto screen = registry.screens().at(1);
         mustSucceed(server->unplug("DUMMY1"));
         becomeQuiet();
         registry.updateScreenList();
