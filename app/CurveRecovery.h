@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "foundation/Problem.h"
+#include "values/PropertyValue.h"
+
+namespace tonquil {
+
+/// Keeps the curves of a running program where a crash cannot take them.
+///
+/// What is kept is an all-screens dictionary: reference IDs of displays, each with its curve.
+class CurveRecovery {
+ public:
+    virtual ~CurveRecovery() = default;
+
+    /// What a program that did not end in order has left; an empty dictionary when there is
+    /// nothing, or nothing that can be read.
+    [[nodiscard]] virtual PropertyValue leftCurves() = 0;
+    /// Replaces what is kept; on the disk when it returns.
+    [[nodiscard]] virtual Result<void> keep(const PropertyValue& curves) = 0;
+    /// Forgets what is kept.
+    virtual void forget() = 0;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "app/PreferencesStore.h"
+
+namespace tonquil {
+
+bool PreferencesStore::boolForKey(std::string_view key) const {
+    return floatForKey(key) != 0;
+}
+
+std::int64_t PreferencesStore::integerForKey(std::string_view key) const {
+    const PropertyValue* value = valueForKey(key);
+    return value == nullptr ? 0 : integerValue(*value);
+}
+
+float PreferencesStore::floatForKey(std::string_view key) const {
+    const PropertyValue* value = valueForKey(key);
+    return value == nullptr ? 0 : floatValue(*value).value_or(0);
+}
+
+PropertyValue PreferencesStore::dictionaryForKey(std::string_view key) const {
+    const PropertyValue* value = valueForKey(key);
+    return value != nullptr && value->is_object() ? *value : PropertyValue::object();
+}
+
+}  // namespace tonquil
