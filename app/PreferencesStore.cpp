@@ -17,6 +17,11 @@ float PreferencesStore::floatForKey(std::string_view key) const {
     return value == nullptr ? 0 : floatValue(*value).value_or(0);
 }
 
+std::string PreferencesStore::stringForKey(std::string_view key) const {
+    const PropertyValue* value = valueForKey(key);
+    return value != nullptr && value->is_string() ? value->get<std::string>() : std::string();
+}
+
 PropertyValue PreferencesStore::dictionaryForKey(std::string_view key) const {
     const PropertyValue* value = valueForKey(key);
     return value != nullptr && value->is_object() ? *value : PropertyValue::object();

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "values/PropertyValue.h"
@@ -27,6 +28,8 @@ class PreferencesStore {
     [[nodiscard]] bool boolForKey(std::string_view key) const;
     [[nodiscard]] std::int64_t integerForKey(std::string_view key) const;
     [[nodiscard]] float floatForKey(std::string_view key) const;
+    /// Empty where the value is missing or is no text.
+    [[nodiscard]] std::string stringForKey(std::string_view key) const;
     /// An empty dictionary where the value is missing or is none.
     [[nodiscard]] PropertyValue dictionaryForKey(std::string_view key) const;
 
@@ -35,8 +38,8 @@ class PreferencesStore {
     virtual void registerDefaults(PropertyValue defaults) = 0;
     /// Readable at once. What is set within one event is saved together after it.
     virtual void setValue(std::string_view key, PropertyValue value) = 0;
-    /// Saves now what still waits to be saved.
-    virtual void synchronize() = 0;
+    /// Saves now what still waits to be saved, and returns whether all that was set is saved.
+    virtual bool synchronize() = 0;
 
     /// Calls once after each event that set a value, or in which another program was seen to have
     /// changed one. Changes made before the subscription are not told.

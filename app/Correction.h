@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "app/PreferencesStore.h"
+#include "foundation/RunLoop.h"
+#include "screens/ScreenRegistry.h"
+
+namespace tonquil {
+
+/// Whether the displays are corrected, and what that means for all of them.
+class Correction {
+ public:
+    Correction(DisplayService& service, ScreenRegistry& registry, PreferencesStore& preferences)
+        : _service(service), _registry(registry), _preferences(preferences) {}
+
+    [[nodiscard]] bool applyCorrection() const;
+    /// On: every display takes its curve, now and whenever it is given one. Off: the displays are
+    /// given back to the system's calibration at once.
+    void setApplyCorrection(bool isOn);
+    /// Puts every display's curve on it, whatever is there now; does nothing while off.
+    void _applyCurvesToScreen();
+    /// Gives the displays back to the system's calibration, on or off.
+    void restoreAllGammaCurves();
+
+    /// Called with the new state by each `setApplyCorrection`, before it is stored.
+    std::function<void(bool)> show;
+
+ private:
+    DisplayService& _service;
+    ScreenRegistry& _registry;
+    PreferencesStore& _preferences;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "app/CurveStorage.h"
+
+#include <utility>
+
+#include "app/SettingsKeys.h"
+#include "values/PropertyValue.h"
+
+namespace tonquil {
+
+CurveStorage::CurveStorage(ScreenRegistry& registry, PreferencesStore& preferences,
+                           CurveRecovery& recovery, RunLoop& runLoop, Log log)
+    : _registry(registry),
+      _preferences(preferences),
+      _recovery(recovery),
+      _runLoop(runLoop),
+      _log(std::move(log)),
+      _kept(recovery.leftCurves()) {}
+
+PropertyValue CurveStorage::storedCurves() const {
+    PropertyValue curves = _preferences.dictionaryForKey(settingsKey::screens);
+    curves.update(_kept);
+    return curves;
+}
+
+void CurveStorage::_adoptDefaultCurves() {
+    const PropertyValue curves = storedCurves();
+    for (const auto& screen : _registry.screens()) {
+        screen->retriveExtendedGammaCurve();
+    }
+    _registry.adoptGammaCurveDictionary(curves, nullptr);
+}
+
+void CurveStorage::_updateDefaultCurves() {
+    _preferences.setValue(settingsKey::screens,
+                          _registry.gammaCurveDictionaryExtendingDictionary(storedCurves()));
+}
+
+void CurveStorage::curvesWereEdited() {
+    // Not put off by the edits of a long drag: the first one counts.
+    if (!_timer) {
+        _timer = _runLoop.callOnce(keepingDelay, [this] { keepCurves(); });
+    }
+}
+
+void CurveStorage::keepPendingEdits() {
+    if (_timer) {
+        keepCurves();
+    }
+}
+
+void CurveStorage::keepCurves() {
+    _timer.reset();
+    _kept = _registry.gammaCurveDictionaryExtendingDictionary(_kept);
+    const Result<void> kept = _recovery.keep(_kept);
+    if (!kept && !_hasFailed && _log) {
+        _log(kept.error().sentence);
+    }
+    _hasFailed = !kept;
+}
+
+void CurveStorage::close() {
+    keepPendingEdits();
+    _updateDefaultCurves();
+    // As long as the preferences cannot be saved, the other file is all there is.
+    if (_preferences.synchronize()) {
+        _recovery.forget();
+    }
+}
+
+}  // namespace tonquil

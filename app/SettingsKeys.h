@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string_view>
+
+#include "values/PropertyValue.h"
+
+namespace tonquil {
+
+/// The keys of the preferences store: what each means, its type, and its default where it has one.
+/// A key without a default starts as false, 0 or absent.
+namespace settingsKey {
+
+/// Boolean, true: the panel shows its sliders for the single channels.
+inline constexpr std::string_view advancedPanel = "AdvancedPanel";
+/// Boolean, true: the panel is dark.
+inline constexpr std::string_view darkTheme = "DarkTheme";
+/// Boolean, true: the curves are put on the displays again and again.
+inline constexpr std::string_view continuouslyApply = "ContinuouslyApply";
+/// Number, 3: seconds between two such re-applications.
+inline constexpr std::string_view continuouslyApplyInterval = "ContinuouslyApplyInterval";
+/// Boolean, true: the program shows its panel when it starts.
+inline constexpr std::string_view showAtLaunch = "ShowAtLaunch";
+/// Boolean, true: the correction is on when the program has started; otherwise it is off.
+inline constexpr std::string_view rememberSettings = "RememberSettings";
+/// Boolean, true: the correction is on now.
+inline constexpr std::string_view applyCorrection = "ApplyCorrection";
+/// Boolean, false: an edit goes to every display instead of the one under the panel.
+inline constexpr std::string_view affectAllScreens = "AffectAllScreens";
+/// Integer, 1: the panel's tab; 0 black, 1 middle, 2 white.
+inline constexpr std::string_view selectedTab = "SelectedTab";
+/// Dictionary, empty: the curves by reference ID of their display.
+inline constexpr std::string_view screens = "Screens";
+/// Boolean: starting the program while it runs toggles the correction instead of showing the panel.
+inline constexpr std::string_view toggleApply = "ToggleApply";
+/// Boolean: the panel shows the strip with the slider of the focused channel.
+inline constexpr std::string_view channelStrip = "ChannelStrip";
+/// Text "X Y WIDTH HEIGHT": where the panel was, in pixels of the desktop from its upper left.
+inline constexpr std::string_view controlWindowFrame = "Window Frame ControlWindow";
+
+}  // namespace settingsKey
+
+/// The defaults above, as a dictionary.
+[[nodiscard]] PropertyValue registeredDefaults();
+
+}  // namespace tonquil

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "app/TQController.h"
+
+#include <cstdint>
+#include <utility>
+
+#include "app/SettingsKeys.h"
+
+namespace tonquil {
+
+TQController::TQController(const ControllerSurroundings& surroundings)
+    : _service(surroundings.service),
+      _registry(surroundings.registry),
+      _preferences(surroundings.preferences),
+      _runLoop(surroundings.runLoop),
+      _controls(surroundings.controls),
+      _panel(surroundings.panel),
+      _sessionEvents(surroundings.sessionEvents),
+      _endProgram(surroundings.endProgram),
+      _currentScreens(_service, _registry, _preferences, _panel),
+      _currentCurve(_controls),
+      _correction(_service, _registry, _preferences),
+      _storage(_registry, _preferences, surroundings.recovery, _runLoop, surroundings.log),
+      _panelFrame(_service, _preferences, _panel),
+      _periodicUpdate(_runLoop, _preferences, [this] { _applyCurvesToScreen(); }),
+      _reconfigurations(surroundings.reconfigurations, surroundings.log,
+                        [this] { updateScreens(); }) {
+    _correction.show = [this](bool isOn) { _controls.showCorrection(isOn); };
+}
+
+// The curves come before anything that can be seen; what observes the surroundings comes last, so
+// that nothing is told of while it is being set up.
+void TQController::applicationDidFinishLaunching() {
+    _initDefaults();
+    _adoptDefaultCurves();
+    if (_preferences.boolForKey(settingsKey::continuouslyApply)) {
+        _periodicUpdate._startPeriodicUpdate();
+    }
+    _panelFrame.restore();
+    _panel._setAdvancedPanel(_preferences.boolForKey(settingsKey::advancedPanel));
+    _panel._setDarkTheme(_preferences.boolForKey(settingsKey::darkTheme));
+    _panel.showChannelStrip(_preferences.boolForKey(settingsKey::channelStrip));
+    setApplyCorrection(_preferences.boolForKey(settingsKey::rememberSettings));
+    _setControlsEnabled(false);
+    if (_preferences.boolForKey(settingsKey::showAtLaunch)) {
+        showPanel();
+    }
+    _panel.showTab(storedTab());
+    _runLoop.post([this] { finishPanelSetUp(); });
+    _panel.observeFirstResponder();
+    _preferencesSubscription = _preferences.subscribe([this] { _changedDefaults(); });
+    observeSession();
+    _reconfigurationSubscription =
+        _service.registerReconfigurationCallback([this](DisplayID, ReconfigurationFlags flags) {
+            _reconfigurations.displayReconfigured(flags);
+        });
+}
+
+void TQController::applicationWillTerminate() {
+    if (std::exchange(_hasTerminated, true)) {
+        return;
+    }
+    _reconfigurationSubscription.reset();
+    _periodicUpdate._stopPeriodicUpdate();
+    _panelFrame.save();
+    _storage.close();
+}
+
+void TQController::applicationShouldHandleReopen() {
+    if (_preferences.boolForKey(settingsKey::toggleApply)) {
+        toggleApplyCorrection();
+    } else if (applyCorrection()) {
+        showPanel();
+        _applyCurvesToScreen();
+    }
+}
+
+void TQController::_initDefaults() {
+    _preferences.registerDefaults(registeredDefaults());
+}
+
+void TQController::_adoptDefaultCurves() {
+    {
+        const DisplayBatch batch(_service);
+        _storage._adoptDefaultCurves();
+    }
+    _updateCurveInPanel();
+}
+
+int TQController::storedTab() const {
+    constexpr int middleTab = 1;
+    const std::int64_t stored = _preferences.integerForKey(settingsKey::selectedTab);
+    return stored >= 0 && stored <= 2 ? static_cast<int>(stored) : middleTab;
+}
+
+// The panel's place and the tab are only settled once the window is there.
+void TQController::finishPanelSetUp() {
+    _setControlsEnabled(true);
+    _panel.showTab(storedTab());
+    _panel.focusMasterOfSelectedTab();
+    _displayUnderPanel = _currentScreens.displayUnderPanel();
+    _updateCurveInPanel();
+}
+
+void TQController::observeSession() {
+    for (SessionEvents* events : _sessionEvents) {
+        events->start([this](SessionEvent) { _applyCurvesToScreen(); });
+    }
+}
+
+void TQController::_changedDefaults() {
+    _applyDefaultsToPanel();
+    // Another program may have changed which displays are edited.
+    _setControlsEnabled(_areControlsEnabled);
+}
+
+void TQController::_applyDefaultsToPanel() {
+    _panel._setAdvancedPanel(_preferences.boolForKey(settingsKey::advancedPanel));
+    _panel._setDarkTheme(_preferences.boolForKey(settingsKey::darkTheme));
+    _panel.showChannelStrip(_preferences.boolForKey(settingsKey::channelStrip));
+    if (_preferences.boolForKey(settingsKey::continuouslyApply) && applyCorrection()) {
+        _periodicUpdate._startPeriodicUpdate();
+    } else {
+        _periodicUpdate._stopPeriodicUpdate();
+    }
+}
+
+// A display that is new gets the curve that is stored for it; the others keep theirs, which the
+// system may have taken off them in the course of the change.
+void TQController::updateScreens() {
+    _storage.keepPendingEdits();
+    {
+        const DisplayBatch batch(_service);
+        _registry.updateScreenList();
+        const bool isOn = applyCorrection();
+        for (const auto& screen : _registry.screens()) {
+            if (!screen->gammaCurve()) {
+                screen->retriveExtendedGammaCurve();
+                screen->adoptGammaCurveDictionary(_storage.storedCurves(), nullptr);
+                screen->setAutoApplyGamma(isOn);
+            }
+        }
+        _applyCurvesToScreen();
+    }
+    _changeScreen();
+}
+
+}  // namespace tonquil

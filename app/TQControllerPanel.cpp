@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+// What people do in the panel.
+#include "app/SettingsKeys.h"
+#include "app/TQController.h"
+#include "app/TableCapture.h"
+
+namespace tonquil {
+
+namespace {
+
+// Each slider is a subject of its own to the edit history, and so are these.
+constexpr int blendingModeSubject = 100;
+constexpr int resetSubject = 101;
+
+constexpr std::chrono::milliseconds resetPause{500};
+
+}  // namespace
+
+void TQController::applyGamma(PanelSlider sender, bool isLinked) {
+    const DisplayBatch batch(_service);
+    if (isLinked) {
+        _currentCurve.moveLinkedSliders(sender);
+    }
+    _controls.updateTouchBarSlider();
+    const auto screens = _currentScreens._currentScreens();
+    _history.willEdit(screens, static_cast<int>(sender));
+    const auto curve = _currentCurve._currentGammaCurve();
+    for (const auto& screen : screens) {
+        screen->setGammaCurve(curve);
+    }
+    _updateCurveInPanel();
+    curvesWereEdited();
+}
+
+void TQController::changeBlendingMode() {
+    const DisplayBatch batch(_service);
+    const auto screens = _currentScreens._currentScreens();
+    _history.willEdit(screens, blendingModeSubject);
+    _history.endStep();
+    const auto curve = _currentCurve._currentGammaCurve();
+    _controls.selectBlendingMode(curve->blendingMode());
+    for (const auto& screen : screens) {
+        screen->setGammaCurve(curve);
+    }
+    curvesWereEdited();
+}
+
+// The pause gives the system time to put its calibration back before it is read as the new base.
+void TQController::resetGamma() {
+    _setControlsEnabled(false);
+    _correction.restoreAllGammaCurves();
+    _resetTimer = _runLoop.callOnce(resetPause, [this] { _doneReset(); });
+}
+
+void TQController::_doneReset() {
+    _resetTimer.reset();
+    const DisplayBatch batch(_service);
+    _history.willEdit(_registry.screens(), resetSubject);
+    _history.endStep();
+    for (const auto& screen : _registry.screens()) {
+        screen->readBaseGamma();
+    }
+    _setControlsEnabled(true);
+    _adoptCurrentCurves();
+    curvesWereEdited();
+}
+
+void TQController::_adoptCurrentCurves() {
+    for (const auto& screen : _registry.screens()) {
+        screen->retriveExtendedGammaCurve();
+    }
+    _updateCurveInPanel();
+}
+
+void TQController::undo() {
+    const DisplayBatch batch(_service);
+    _history.undo();
+    _updateCurveInPanel();
+    curvesWereEdited();
+}
+
+void TQController::redo() {
+    const DisplayBatch batch(_service);
+    _history.redo();
+    _updateCurveInPanel();
+    curvesWereEdited();
+}
+
+void TQController::setSelectedTab(int index) {
+    _history.endStep();
+    _panel.showTab(index);
+    _preferences.setValue(settingsKey::selectedTab, index);
+}
+
+void TQController::setAffectsAllScreens(bool affectsAll) {
+    _preferences.setValue(settingsKey::affectAllScreens, affectsAll);
+    _changeScreen();
+}
+
+void TQController::setAdvancedPanel(bool advanced) {
+    _preferences.setValue(settingsKey::advancedPanel, advanced);
+}
+
+void TQController::setDarkTheme(bool dark) {
+    _preferences.setValue(settingsKey::darkTheme, dark);
+}
+
+void TQController::setChannelStrip(bool isShown) {
+    _preferences.setValue(settingsKey::channelStrip, isShown);
+}
+
+void TQController::panelMoved() {
+    if (_currentScreens.displayUnderPanel() != _displayUnderPanel) {
+        _changeScreen();
+    }
+}
+
+void TQController::_changeScreen() {
+    _history.endStep();
+    _displayUnderPanel = _currentScreens.displayUnderPanel();
+    _setControlsEnabled(_areControlsEnabled);
+    _updateCurveInPanel();
+}
+
+void TQController::_setControlsEnabled(bool enabled) {
+    _areControlsEnabled = enabled;
+    const PanelSubject subject = _currentScreens.subject();
+    _controls.showSubject(subject);
+    _controls._setControlsEnabled(enabled && subject.obstacle.empty());
+}
+
+void TQController::_updateCurveInPanel() {
+    const auto screens = _currentScreens._currentScreens();
+    if (!screens.empty() && screens.front()->gammaCurve()) {
+        _currentCurve._setCurrentGammaCurve(*screens.front()->gammaCurve());
+    }
+    _controls.updatePlot();
+}
+
+void TQController::curvesWereEdited() {
+    _storage.curvesWereEdited();
+    _controls.showUndo(_history.canUndo(), _history.canRedo());
+}
+
+std::optional<PlottedCurves> TQController::plottedCurves() {
+    const auto screens = _currentScreens._currentScreens();
+    if (screens.empty() || !screens.front()->gammaCurve()) {
+        return std::nullopt;
+    }
+    const KVScreen& screen = *screens.front();
+    TableCapture capture(screen.baseGamma());
+    screen.gammaCurve()->applyToScreen(capture);
+    return PlottedCurves{capture.table(), screen.baseGamma().table, screen.baseGamma().sampleCount};
+}
+
+}  // namespace tonquil
