@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include <QPushButton>
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "tests/ui/Input.h"
+#include "ui/TQTabButtonCell.h"
+#include "ui/TQVibrantLabel.h"
+#include "ui/TQVibrantMatrix.h"
+#include "ui/Theme.h"
+
+namespace tonquil {
+namespace {
+
+using testing::ElementsAre;
+
+double luminance(const QColor& colour) {
+    const auto linear = [](float level) {
+        return level <= 0.04045F ? level / 12.92 : std::pow((level + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b) {
+    const double ratio = (luminance(a) + 0.05) / (luminance(b) + 0.05);
+    return std::max(ratio, 1 / ratio);
+}
+
+TEST(ThemeTest, HasTextThatCanBeReadOnEachOfItsBackgrounds) {
+    for (const bool isDark : {true, false}) {
+        for (const bool increaseContrast : {true, false}) {
+            SCOPED_TRACE(testing::Message() << isDark << increaseContrast);
+            const Theme& theme =
+                themeFor({.isDark = isDark, .options = {.increaseContrast = increaseContrast}});
+            std::vector<QColor> texts = {theme.text, theme.secondaryText};
+            for (const auto channel : {Channel::Red, Channel::Green, Channel::Blue}) {
+                texts.push_back(theme.channelText(channel));
+            }
+            for (const QColor& text : texts) {
+                EXPECT_GE(contrast(text, theme.panel), 4.5) << text.name().toStdString();
+                EXPECT_GE(contrast(text, theme.field), 4.5) << text.name().toStdString();
+            }
+            EXPECT_GE(contrast(theme.text, theme.button), 4.5);
+            EXPECT_GE(contrast(theme.text, theme.selection), 4.5);
+        }
+    }
+}
+
+TEST(AppearanceTest, IsThatOfTheNearestParentThatHasOne) {
+    QWidget window;
+    QWidget page(&window);
+    QWidget control(&page);
+    EXPECT_EQ(effectiveAppearance(control), Appearance{});
+    setAppearance(window, {.isDark = false});
+    EXPECT_FALSE(effectiveAppearance(control).isDark);
+    EXPECT_EQ(control.palette().color(QPalette::WindowText), themeFor({.isDark = false}).text);
+    setAppearance(page, {.isDark = true, .allowsVibrancy = false});
+    EXPECT_FALSE(effectiveAppearance(control).allowsVibrancy);
+    EXPECT_EQ(control.palette().color(QPalette::WindowText), themeFor({}).text);
+}
+
+TEST(VibrantLabelTest, DrawsItsTextLighterAndKeepsItsColour) {
+    struct Row {
+        Appearance appearance;
+        int grey;
+    };
+    const AccessibilityOptions opaque = {.reduceTransparency = true};
+    const std::vector<Row> rows = {
+        {{.isDark = true, .allowsVibrancy = true}, 64},
+        {{.isDark = true, .allowsVibrancy = true, .options = opaque}, 168},
+        {{.isDark = true, .allowsVibrancy = false, .options = opaque}, 168},
+        {{.isDark = true, .allowsVibrancy = false}, 0},
+        {{.isDark = false, .allowsVibrancy = true}, 0},
+        {{.isDark = false, .allowsVibrancy = true, .options = opaque}, 0},
+    };
+    // Blocks that are filled by the text's colour.
+    TQVibrantLabel label(QStringLiteral("█████"));
+    label.setAlignment(Qt::AlignCenter);
+    label.resize(60, 24);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.grey));
+        setAppearance(label, row.appearance);
+        QPalette palette = label.palette();
+        palette.setColor(QPalette::WindowText, Qt::black);
+        label.setPalette(palette);
+        for (int drawing = 0; drawing < 2; ++drawing) {
+            EXPECT_TRUE(
+                isNear(drawn(label).pixelColor(30, 12), QColor(row.grey, row.grey, row.grey)))
+                << drawn(label).pixelColor(30, 12).name().toStdString();
+        }
+        EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::black));
+    }
+}
+
+TEST(VibrantLabelTest, DrawsLighterTextWhereTheBaseDrawsIt) {
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        TQVibrantLabel label(QStringLiteral("Label of words that wrap"));
+        label.setWordWrap(true);
+        label.setMargin(3);
+        label.setLayoutDirection(direction);
+        label.resize(90, 60);
+        setAppearance(label, {.isDark = true, .allowsVibrancy = false});
+        const QImage ordinary = drawn(label);
+        setAppearance(label, {.isDark = true, .allowsVibrancy = true});
+        const QImage lighter = drawn(label);
+        EXPECT_NE(lighter, ordinary);
+        for (int y = 0; y < label.height(); ++y) {
+            for (int x = 0; x < label.width(); ++x) {
+                ASSERT_TRUE(isNear(lighter.pixelColor(x, y), ordinary.pixelColor(x, y), 8));
+            }
+        }
+    }
+}
+
+TEST(TabButtonTest, IsAFlatGreyOnTheDarkTheme) {
+    TQTabButtonCell tab{QString()};
+    tab.resize(80, 28);
+    setAppearance(tab, {});
+    struct Row {
+        bool isSelected;
+        bool isPressed;
+        int grey;
+    };
+    for (const Row& row :
+         {Row{true, false, 51}, {true, true, 51}, {false, true, 77}, {false, false, 26}}) {
+        SCOPED_TRACE(row.grey);
+        tab.setChecked(row.isSelected);
+        tab.setDown(row.isPressed);
+        const QImage picture = drawn(tab);
+        const QColor grey(row.grey, row.grey, row.grey);
+        for (const QPoint inside : {QPoint(40, 1), QPoint(40, 26), QPoint(1, 14), QPoint(78, 14)}) {
+            EXPECT_TRUE(isNear(picture.pixelColor(inside), grey));
+        }
+        for (const QPoint outside :
+             {QPoint(40, 0), QPoint(40, 27), QPoint(0, 14), QPoint(79, 14)}) {
+            EXPECT_EQ(picture.pixelColor(outside), themeFor({}).panel);
+        }
+    }
+}
+
+TEST(TabButtonTest, IsTheDesktopsButtonInTheLightThemeAndWithContrast) {
+    struct Row {
+        Appearance appearance;
+        bool isPlatform;
+        TQTabButtonCell::BackgroundStyle style;
+    };
+    const AccessibilityOptions contrasted = {.increaseContrast = true};
+    using Style = TQTabButtonCell::BackgroundStyle;
+    for (const Row& row : {Row{{.isDark = false}, true, Style::Light},
+                           {{.isDark = false, .options = contrasted}, true, Style::Light},
+                           {{.isDark = true, .options = contrasted}, true, Style::Dark},
+                           {{.isDark = true}, false, Style::Dark}}) {
+        for (const bool isDown : {false, true}) {
+            SCOPED_TRACE(testing::Message() << row.appearance.isDark << isDown);
+            TQTabButtonCell tab{QString()};
+            QPushButton button;
+            for (QAbstractButton* each :
+                 {static_cast<QAbstractButton*>(&tab), static_cast<QAbstractButton*>(&button)}) {
+                each->resize(80, 28);
+                each->setDown(isDown);
+                setAppearance(*each, row.appearance);
+            }
+            EXPECT_EQ(drawn(tab) == drawn(button), row.isPlatform);
+            EXPECT_EQ(tab.backgroundStyle(), row.style);
+        }
+    }
+}
+
+TEST(TabButtonTest, TellsTheSelectedTabApartInEveryAppearance) {
+    for (const bool isDark : {true, false}) {
+        for (const bool increaseContrast : {true, false}) {
+            TQTabButtonCell tab{QString()};
+            tab.resize(80, 28);
+            setAppearance(tab,
+                          {.isDark = isDark, .options = {.increaseContrast = increaseContrast}});
+            const QColor resting = drawn(tab).pixelColor(40, 14);
+            tab.setChecked(true);
+            EXPECT_FALSE(isNear(drawn(tab).pixelColor(40, 14), resting, 20));
+        }
+    }
+}
+
+class MatrixTest : public testing::Test {
+ protected:
+    MatrixTest() {
+        tabs.setAction([this](int column) { picked.push_back(column); });
+        present(tabs);
+        tabs.cell(0)->setFocus();
+    }
+
+    // Keys go to the button that has the focus.
+    void press(int key) { pressKey(*tabs.focusWidget(), key); }
+
+    TQVibrantMatrix tabs{{QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}};
+    std::vector<int> picked;
+};
+
+TEST_F(MatrixTest, HasOneSelectedColumnAndTellsWhenThePersonPicksAnother) {
+    tabs.cell(2)->click();
+    tabs.cell(2)->click();
+    EXPECT_TRUE(tabs.cell(2)->isChecked());
+    EXPECT_FALSE(tabs.cell(0)->isChecked());
+    tabs.setSelectedColumn(1);
+    tabs.setSelectedColumn(3);
+    tabs.setSelectedColumn(-1);
+    EXPECT_EQ(tabs.selectedColumn(), 1);
+    EXPECT_TRUE(tabs.cell(1)->isChecked());
+    EXPECT_THAT(picked, ElementsAre(2));
+}
+
+TEST_F(MatrixTest, MovesWithTheArrowKeysInReadingDirection) {
+    press(Qt::Key_Left);
+    press(Qt::Key_Right);
+    press(Qt::Key_Right);
+    press(Qt::Key_Right);
+    EXPECT_TRUE(tabs.cell(2)->hasFocus());
+    press(Qt::Key_Home);
+    tabs.setLayoutDirection(Qt::RightToLeft);
+    press(Qt::Key_Left);
+    press(Qt::Key_End);
+    press(Qt::Key_Right);
+    EXPECT_THAT(picked, ElementsAre(1, 2, 0, 1, 2, 1));
+}
+
+}  // namespace
+}  // namespace tonquil

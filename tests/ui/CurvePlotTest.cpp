@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <limits>
+#include <vector>
+
+#include "tests/ui/Input.h"
+#include "ui/CurvePlot.h"
+#include "ui/Theme.h"
+
+namespace tonquil {
+namespace {
+
+using Samples = std::vector<float>;
+
+class CurvePlotTest : public testing::Test {
+ protected:
+    CurvePlotTest() { plot.resize(240, 200); }
+
+    void setCurves(const Samples& red, const Samples& green, const Samples& blue) {
+        plot.setCurves({red, green, blue});
+    }
+    // Lines that rise a little cover some pixels entirely.
+    bool shows(const QColor& colour) {
+        const QImage picture = drawn(plot);
+        for (int pixel = 0; pixel < picture.width() * picture.height(); ++pixel) {
+            const QPoint position(pixel % picture.width(), pixel / picture.width());
+            if (isNear(picture.pixelColor(position), colour, 4)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    CurvePlot plot;
+};
+
+TEST_F(CurvePlotTest, DrawsEachChannelInItsColourAndEqualCurvesInWhiteOrBlack) {
+    for (const bool isDark : {true, false}) {
+        SCOPED_TRACE(isDark);
+        setAppearance(plot, {.isDark = isDark});
+        const Theme& theme = themeOf(plot);
+        const QColor meeting = isDark ? Qt::white : Qt::black;
+        setCurves({0.1F, 0.2F}, {0.4F, 0.5F}, {0.6F, 0.7F});
+        EXPECT_TRUE(shows(theme.red));
+        EXPECT_TRUE(shows(theme.green));
+        EXPECT_TRUE(shows(theme.blue));
+        EXPECT_FALSE(shows(meeting));
+        setCurves({0.4F, 0.5F}, {0.4F, 0.5F}, {0.4F, 0.5F});
+        EXPECT_TRUE(shows(meeting));
+        EXPECT_FALSE(shows(theme.red));
+    }
+}
+
+TEST_F(CurvePlotTest, LooksTheSameWhereStraightPartsHaveFewerSamples) {
+    Samples fine;
+    for (int sample = 0; sample <= 100; ++sample) {
+        fine.push_back(sample <= 50 ? 0.2F : 0.2F + 0.01F * static_cast<float>(sample - 50));
+    }
+    setCurves(fine, fine, fine);
+    const QImage picture = drawn(plot);
+    const Samples coarse = {0.2F, 0.2F, 0.7F};
+    setCurves(coarse, coarse, coarse);
+    EXPECT_EQ(drawn(plot), picture);
+    const Samples other = {0.2F, 0.25F, 0.7F};
+    setCurves(other, other, other);
+    EXPECT_NE(drawn(plot), picture);
+}
+
+TEST_F(CurvePlotTest, DrawsTheBaseDotted) {
+    const Samples level = {0.4F, 0.4F};
+    const QImage without = drawn(plot);
+    plot.setBase({level, level, level});
+    const QImage with = drawn(plot);
+    int row = 0;
+    while (row < with.height() && with.pixel(100, row) == without.pixel(100, row) &&
+           with.pixel(101, row) == without.pixel(101, row)) {
+        ++row;
+    }
+    ASSERT_LT(row, with.height());
+    int dots = 0;
+    for (int x = 80; x < 120; ++x) {
+        dots += with.pixel(x, row) != without.pixel(x, row) &&
+                        with.pixel(x - 1, row) == without.pixel(x - 1, row)
+                    ? 1
+                    : 0;
+    }
+    EXPECT_GE(dots, 5);
+}
+
+TEST_F(CurvePlotTest, ReadsOutWhatLiesUnderThePointer) {
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    EXPECT_EQ(plot.readoutAt(0.5), QString());
+    setCurves({0, 1}, {0, 0.5F, 0.6F}, {nan, 7, -7});
+    EXPECT_EQ(plot.readoutAt(0.25), QStringLiteral("0.25 → 0.25 0.25 0.50"));
+    EXPECT_EQ(plot.readoutAt(1), QStringLiteral("1.00 → 1.00 0.60 0.00"));
+    setCurves({0, 1}, {0.5F}, {0, 1});
+    EXPECT_EQ(plot.readoutAt(0.25), QString());
+
+    setCurves({0, 1}, {0, 1}, {0, 1});
+    const QImage resting = drawn(plot);
+    move(plot, {100, 100}, Qt::NoButton);
+    EXPECT_NE(drawn(plot), resting);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&plot, &leave);
+    EXPECT_EQ(drawn(plot), resting);
+}
+
+TEST_F(CurvePlotTest, MarksThePointOfASlider) {
+    setCurves({0.1F, 0.9F}, {0.2F, 0.8F}, {0.3F, 0.7F});
+    const QImage unmarked = drawn(plot);
+    std::vector<QImage> pictures = {unmarked};
+    for (const auto point : {CurvePlot::CurvePoint::Black, CurvePlot::CurvePoint::Middle,
+                             CurvePlot::CurvePoint::White}) {
+        for (const auto channel : {Channel::Master, Channel::Red, Channel::Blue}) {
+            plot.setMarkedPoint(CurvePlot::MarkedPoint{point, channel});
+            EXPECT_THAT(pictures, testing::Not(testing::Contains(drawn(plot))));
+            pictures.push_back(drawn(plot));
+        }
+    }
+    plot.setMarkedPoint(std::nullopt);
+    EXPECT_EQ(drawn(plot), unmarked);
+}
+
+TEST_F(CurvePlotTest, ShowsAMessageInPlaceOfThePlot) {
+    setCurves({0.4F, 0.5F}, {0.4F, 0.5F}, {0.4F, 0.5F});
+    plot.setMessage(QStringLiteral("No."));
+    EXPECT_FALSE(shows(Qt::white));
+    EXPECT_EQ(plot.spokenDescription(), QStringLiteral("No."));
+    plot.setMessage({});
+    EXPECT_TRUE(shows(Qt::white));
+    EXPECT_NE(plot.spokenDescription(), QString());
+}
+
+}  // namespace
+}  // namespace tonquil

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <memory>
+#include <vector>
+
+#include "tests/ui/Input.h"
+#include "ui/TQNumericTextField.h"
+#include "ui/TQNumericTextView.h"
+#include "ui/TQSlider.h"
+
+namespace tonquil {
+namespace {
+
+using testing::ElementsAre;
+
+class NumericFieldTest : public testing::Test {
+ protected:
+    NumericFieldTest() {
+        auto* row = new QHBoxLayout(&window);
+        row->addWidget(slider);
+        row->addWidget(field);
+        row->addWidget(other);
+        slider->setAuxiliary(field);
+        slider->setFloatValue(0.5F);
+        slider->setAction([this](TQSlider& sender) { sent.push_back(sender.floatValue()); });
+        keys.attach(*field);
+        present(window);
+        field->setFocus(Qt::TabFocusReason);
+    }
+
+    std::string shown() { return field->text().toStdString(); }
+
+    TQNumericTextView keys;
+    QWidget window;
+    TQSlider* slider = new TQSlider;
+    TQNumericTextField* field = new TQNumericTextField;
+    QLineEdit* other = new QLineEdit;
+    std::vector<float> sent;
+};
+
+TEST_F(NumericFieldTest, CommitsNumbersWithinTheRangeAndTakesTheRestBack) {
+    struct Row {
+        const char* typed;
+        int end;
+        float value;
+        bool isSent;
+        const char* shown;
+    };
+    constexpr int leave = 0;
+    const std::vector<Row> rows = {
+        {"0.25", Qt::Key_Return, 0.25F, true, "0.250"},
+        {"0,25", Qt::Key_Enter, 0.25F, true, "0.250"},
+        {" .1234567 ", Qt::Key_Return, 0.1234567F, true, "0.123"},
+        {"7", Qt::Key_Return, 1, true, "1.000"},
+        {"-7", leave, 0, true, "0.00"},
+        {"0.7", leave, 0.7F, true, "0.70"},
+        {"0.7", Qt::Key_Escape, 0.5F, false, "0.500"},
+        {"abc", Qt::Key_Return, 0.5F, false, "0.500"},
+        {"0.7x", leave, 0.5F, false, "0.50"},
+        {"", leave, 0.5F, false, "0.50"},
+        {"1,000.5", Qt::Key_Return, 0.5F, false, "0.500"},
+        {"nan", Qt::Key_Return, 0.5F, false, "0.500"},
+        {"inf", leave, 0.5F, false, "0.50"},
+        {"1e99", leave, 0.5F, false, "0.50"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.typed);
+        field->setFocus();
+        slider->setFloatValue(0.5F);
+        field->setFloatValue(0.5F);
+        sent.clear();
+        typeOver(*field, QString::fromUtf8(row.typed));
+        EXPECT_THAT(sent, ElementsAre());
+        if (row.end == leave) {
+            other->setFocus();
+        } else {
+            pressKey(*field, row.end);
+        }
+        EXPECT_EQ(slider->floatValue(), row.value);
+        EXPECT_EQ(field->floatValue(), row.value);
+        EXPECT_EQ(sent.size(), row.isSent ? 1U : 0U);
+        EXPECT_EQ(shown(), row.shown);
+    }
+}
+
+TEST_F(NumericFieldTest, NeverRoundsAValueThatNobodyChanged) {
+    const float exact = 0.123456F;
+    slider->setFloatValue(exact);
+    static_cast<void>(drawn(*slider));
+    EXPECT_EQ(shown(), "0.123");
+    typeOver(*field, QStringLiteral("0.123"));
+    pressKey(*field, Qt::Key_Return);
+    other->setFocus();
+    EXPECT_EQ(shown(), "0.12");
+    EXPECT_EQ(field->floatValue(), exact);
+    EXPECT_EQ(slider->floatValue(), exact);
+    EXPECT_THAT(sent, ElementsAre());
+}
+
+TEST_F(NumericFieldTest, KeepsWhatIsBeingTypedWhileTheSliderIsDrawn) {
+    typeOver(*field, QStringLiteral("0.7"));
+    slider->setFloatValue(0.2F);
+    static_cast<void>(drawn(*slider));
+    EXPECT_EQ(shown(), "0.7");
+    // A menu takes the focus for a while.
+    QFocusEvent popup(QEvent::FocusOut, Qt::PopupFocusReason);
+    QApplication::sendEvent(field, &popup);
+    EXPECT_EQ(shown(), "0.7");
+    pressKey(*field, Qt::Key_Return);
+    EXPECT_THAT(sent, ElementsAre(0.7F));
+}
+
+TEST_F(NumericFieldTest, StepsByTheArrowKeysAndShowsTheLimitWhenTheSliderIsDrawn) {
+    slider->setFloatValue(0.995F);
+    field->setFloatValue(0.995F);
+    pressKey(*field, Qt::Key_Up);
+    EXPECT_EQ(field->floatValue(), 1.005F);
+    EXPECT_EQ(slider->floatValue(), 1);
+    static_cast<void>(drawn(*slider));
+    EXPECT_EQ(field->floatValue(), 1);
+    EXPECT_EQ(shown(), "1.000");
+
+    typeOver(*field, QStringLiteral("0.5"));
+    pressKey(*field, Qt::Key_Down);
+    EXPECT_EQ(shown(), "0.490");
+    EXPECT_THAT(sent, ElementsAre(1, 0.49F));
+}
+
+TEST_F(NumericFieldTest, LeavesArrowKeysWithModifiersToTheEditing) {
+    for (const auto modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
+        pressKey(*field, Qt::Key_Up, modifier | Qt::ShiftModifier);
+    }
+    EXPECT_THAT(sent, ElementsAre());
+    pressKey(*field, Qt::Key_Up, Qt::ShiftModifier);
+    pressKey(*field, Qt::Key_Down, Qt::ShiftModifier | Qt::KeypadModifier);
+    EXPECT_THAT(sent, ElementsAre(0.51F, 0.5F));
+}
+
+TEST_F(NumericFieldTest, IsHeardByItsOwnSliderOnly) {
+    TQSlider stranger;
+    stranger.setAction([](TQSlider&) { FAIL() << "A stranger's field was heard."; });
+    stranger._updateToAuxiliaryValue(*field);
+    EXPECT_EQ(stranger.floatValue(), 0);
+
+    slider->setAuxiliary(nullptr);
+    pressKey(*field, Qt::Key_Up);
+    EXPECT_THAT(sent, ElementsAre());
+
+    // Either of a pair may go first.
+    auto next = std::make_unique<TQSlider>();
+    next->setAuxiliary(field);
+    next.reset();
+    pressKey(*field, Qt::Key_Up);
+    slider->setAuxiliary(field);
+    delete field;
+    static_cast<void>(drawn(*slider));
+    EXPECT_EQ(slider->auxiliary(), nullptr);
+}
+
+TEST_F(NumericFieldTest, LeavesUndoAndEscapeToTheWindowUnlessSomethingWasTyped) {
+    const auto isTaken = [this](int key, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent event(QEvent::ShortcutOverride, key, modifiers);
+        event.ignore();
+        QApplication::sendEvent(field, &event);
+        return event.isAccepted();
+    };
+    EXPECT_FALSE(isTaken(Qt::Key_Z, Qt::ControlModifier));
+    EXPECT_FALSE(isTaken(Qt::Key_Escape, Qt::NoModifier));
+    typeOver(*field, QStringLiteral("0.7"));
+    EXPECT_TRUE(isTaken(Qt::Key_Z, Qt::ControlModifier));
+    EXPECT_TRUE(isTaken(Qt::Key_Escape, Qt::NoModifier));
+}
+
+TEST_F(NumericFieldTest, ShowsNoSignOnAZero) {
+    field->setFloatValue(-0.0001F);
+    EXPECT_EQ(shown(), "0.000");
+    field->setFloatValue(-0.25F);
+    EXPECT_EQ(shown(), "-0.250");
+}
+
+}  // namespace
+}  // namespace tonquil

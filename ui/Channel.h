@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace tonquil {
+
+/// What a control corrects: all channels together (master) or one of them.
+///
+/// `None` is a control that belongs to no channel and keeps a colour of its own.
+enum class Channel { None = -1, Master = 0, Red, Green, Blue };
+
+}  // namespace tonquil

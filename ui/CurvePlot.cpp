@@ -1,0 +1,341 @@
+// SPDX-License-Identifier: MIT
+#include "ui/CurvePlot.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "ui/Accessibility.h"
+#include "ui/Drawing.h"
+#include "ui/MeetingCurves.h"
+#include "ui/Theme.h"
+
+namespace tonquil {
+
+namespace {
+
+constexpr std::array channels = {Channel::Red, Channel::Green, Channel::Blue};
+
+// In points.
+constexpr double padding = 8;
+constexpr double labelGap = 4;
+constexpr double curveWidth = 1.5;
+constexpr double baseWidth = 1;
+constexpr double markRadius = 4;
+constexpr int leastLabelSize = 11;
+constexpr int preferredWidth = 296;
+constexpr int preferredHeight = 232;
+constexpr int leastExtent = 120;
+
+constexpr double baseOpacity = 0.55;
+constexpr double plateOpacity = 0.85;
+
+double inputOf(CurvePlot::CurvePoint point) {
+    switch (point) {
+        case CurvePlot::CurvePoint::Black:
+            return 0;
+        case CurvePlot::CurvePoint::Middle:
+            return 0.5;
+        case CurvePlot::CurvePoint::White:
+            break;
+    }
+    return 1;
+}
+
+// The level at `input`, between two samples in a straight line.
+double levelAt(const std::vector<float>& levels, double input) {
+    const double position = input * static_cast<double>(levels.size() - 1);
+    const auto before = std::min(static_cast<std::size_t>(position), levels.size() - 2);
+    const double share = position - static_cast<double>(before);
+    return levels[before] * (1 - share) + levels[before + 1] * share;
+}
+
+QString twoDecimals(double value) {
+    return QString::number(value, 'f', 2);
+}
+
+}  // namespace
+
+CurvePlot::CurvePlot(QWidget* parent) : QWidget(parent) {
+    installAccessibleInterfaces();
+    setMouseTracking(true);
+}
+
+QSize CurvePlot::sizeHint() const {
+    return {preferredWidth, preferredHeight};
+}
+QSize CurvePlot::minimumSizeHint() const {
+    return {leastExtent, leastExtent};
+}
+
+bool CurvePlot::take(Curves& curves, const Levels& levels) {
+    Curves taken;
+    for (std::size_t channel = 0; channel < levels.size(); ++channel) {
+        taken.at(channel).reserve(levels.at(channel).size());
+        for (const float level : levels.at(channel)) {
+            taken.at(channel).push_back(std::isnan(level) ? 0 : std::clamp(level, 0.0F, 1.0F));
+        }
+    }
+    if (taken == curves) {
+        return false;
+    }
+    curves = std::move(taken);
+    update();
+    return true;
+}
+
+void CurvePlot::setCurves(const Levels& levels) {
+    _isCurvePictureStale = take(_curves, levels) || _isCurvePictureStale;
+}
+
+void CurvePlot::setBase(const Levels& levels) {
+    _isBackgroundStale = take(_base, levels) || _isBackgroundStale;
+}
+
+void CurvePlot::setMarkedPoint(std::optional<MarkedPoint> point) {
+    if (point != _markedPoint) {
+        _markedPoint = point;
+        update();
+    }
+}
+
+void CurvePlot::setMessage(const QString& message) {
+    if (message != _message) {
+        _message = message;
+        update();
+    }
+}
+
+QString CurvePlot::readoutAt(double input) const {
+    QString readout = twoDecimals(input);
+    readout += QStringLiteral(" →");
+    for (const auto& levels : _curves) {
+        if (levels.size() < 2) {
+            return {};
+        }
+        readout += u' ';
+        readout += twoDecimals(levelAt(levels, std::clamp(input, 0.0, 1.0)));
+    }
+    return readout;
+}
+
+QString CurvePlot::spokenDescription() const {
+    if (!_message.isEmpty()) {
+        return _message;
+    }
+    const std::array names = {QCoreApplication::translate("CurvePlot", "Red"),
+                              QCoreApplication::translate("CurvePlot", "Green"),
+                              QCoreApplication::translate("CurvePlot", "Blue")};
+    QString description = QCoreApplication::translate("CurvePlot", "Output at input 0, 0.5 and 1.");
+    for (std::size_t channel = 0; channel < _curves.size(); ++channel) {
+        const auto& levels = _curves.at(channel);
+        if (levels.size() < 2) {
+            return {};
+        }
+        description += QStringLiteral(" %1: %2, %3, %4.")
+                           .arg(names.at(channel), twoDecimals(levelAt(levels, 0)),
+                                twoDecimals(levelAt(levels, 0.5)), twoDecimals(levelAt(levels, 1)));
+    }
+    return description;
+}
+
+QFont CurvePlot::labelFont() const {
+    QFont font = this->font();
+    const int size = QFontInfo(font).pixelSize();
+    font.setPixelSize(std::max(leastLabelSize, size * 9 / 10));
+    return font;
+}
+
+// On whole points, so that the graph's outer lines are as sharp as the others.
+QRectF CurvePlot::graphRect() const {
+    const QFontMetrics metrics(labelFont());
+    const double left = padding + metrics.horizontalAdvance(QStringLiteral("0.5")) + labelGap;
+    const double bottom = padding / 2 + metrics.height() + labelGap / 2;
+    const double top = std::max<double>(padding, metrics.height() / 2.0);
+    return QRectF(rect()).adjusted(left, std::ceil(top), -padding - markRadius, -bottom);
+}
+
+QPointF CurvePlot::pointAt(std::size_t channel, double input) const {
+    const QRectF graph = graphRect();
+    return {graph.left() + input * graph.width(),
+            graph.bottom() - levelAt(_curves.at(channel), input) * graph.height()};
+}
+
+CurveLines CurvePlot::linesOf(const Curves& curves) const {
+    const QRectF graph = graphRect();
+    CurveLines lines;
+    for (std::size_t channel = 0; channel < curves.size(); ++channel) {
+        const auto& levels = curves.at(channel);
+        QPolygonF& line = lines.at(channel);
+        for (std::size_t sample = 0; levels.size() >= 2 && sample < levels.size(); ++sample) {
+            const double input =
+                static_cast<double>(sample) / static_cast<double>(levels.size() - 1);
+            line.append({graph.left() + input * graph.width(),
+                         graph.bottom() - levels[sample] * graph.height()});
+        }
+        line = withoutStraightParts(line);
+    }
+    return lines;
+}
+
+QImage CurvePlot::emptyPicture() const {
+    const double scale = devicePixelRatioF();
+    QImage picture((QSizeF(size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    return picture;
+}
+
+void CurvePlot::drawBackground() {
+    const Theme& theme = themeOf(*this);
+    const QRectF graph = graphRect();
+    QImage base = emptyPicture();
+    QPen dots(QBrush(), baseWidth, Qt::CustomDashLine, Qt::FlatCap);
+    dots.setDashPattern({1.5, 2.5});
+    drawMeetingCurves(base, linesOf(_base), dots, _key.appearance);
+
+    _background = emptyPicture();
+    QPainter painter(&_background);
+    fillRounded(painter, rect(), fieldRadius, theme.field);
+    for (int quarter = 0; quarter <= 4; ++quarter) {
+        const double share = quarter / 4.0;
+        drawHairline(painter, graph.left(), graph.bottom() - share * graph.height(), graph.width(),
+                     Qt::Horizontal, theme.grid);
+        drawHairline(painter, graph.left() + share * graph.width(), graph.top(), graph.height(),
+                     Qt::Vertical, theme.grid);
+    }
+    drawLabels(painter, graph);
+    painter.setOpacity(baseOpacity);
+    painter.drawImage(QPointF(0, 0), base);
+}
+
+void CurvePlot::drawLabels(QPainter& painter, const QRectF& graph) const {
+    painter.setFont(labelFont());
+    painter.setPen(themeOf(*this).secondaryText);
+    const double height = QFontMetrics(labelFont()).height();
+    for (const auto& [label, share] : {std::pair{QStringLiteral("0"), 0.0},
+                                       {QStringLiteral("0.5"), 0.5},
+                                       {QStringLiteral("1"), 1.0}}) {
+        const double y = graph.bottom() - share * graph.height();
+        painter.drawText(QRectF(0, y - height / 2, graph.left() - labelGap, height),
+                         Qt::AlignRight | Qt::AlignVCenter, label);
+        const double x = graph.left() + share * graph.width();
+        painter.drawText(QRectF(x - height, graph.bottom() + labelGap / 2, 2 * height, height),
+                         Qt::AlignHCenter | Qt::AlignTop, label);
+    }
+}
+
+void CurvePlot::updatePictures() {
+    const PictureKey key = {size(), devicePixelRatioF(), effectiveAppearance(*this), font()};
+    if (key != _key) {
+        _key = key;
+        _isBackgroundStale = true;
+        _isCurvePictureStale = true;
+        _curvePicture = emptyPicture();
+    }
+    if (_isBackgroundStale) {
+        drawBackground();
+        _isBackgroundStale = false;
+    }
+    if (_isCurvePictureStale) {
+        drawMeetingCurves(_curvePicture, linesOf(_curves),
+                          QPen(QBrush(), curveWidth, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin),
+                          _key.appearance);
+        _isCurvePictureStale = false;
+    }
+}
+
+void CurvePlot::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
+    if (!_message.isEmpty()) {
+        drawMessage(painter);
+        return;
+    }
+    updatePictures();
+    painter.drawImage(QPointF(0, 0), _background);
+    painter.drawImage(QPointF(0, 0), _curvePicture);
+    drawMark(painter);
+    if (isEnabled()) {
+        drawReadout(painter);
+    }
+}
+
+void CurvePlot::drawMessage(QPainter& painter) const {
+    const Theme& theme = themeOf(*this);
+    fillRounded(painter, rect(), fieldRadius, theme.field);
+    painter.setPen(theme.text);
+    const double inset = 2 * padding;
+    painter.drawText(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                     Qt::AlignCenter | Qt::TextWordWrap, _message);
+}
+
+void CurvePlot::drawMark(QPainter& painter) const {
+    if (!_markedPoint) {
+        return;
+    }
+    const Theme& theme = themeOf(*this);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (std::size_t channel = 0; channel < _curves.size(); ++channel) {
+        const bool isMarked = _markedPoint->channel == Channel::Master ||
+                              _markedPoint->channel == channels.at(channel);
+        if (isMarked && _curves.at(channel).size() >= 2) {
+            painter.setPen(QPen(theme.edge, curveWidth));
+            painter.setBrush(theme.channel(channels.at(channel)));
+            painter.drawEllipse(pointAt(channel, inputOf(_markedPoint->point)), markRadius,
+                                markRadius);
+        }
+    }
+    painter.restore();
+}
+
+void CurvePlot::drawReadout(QPainter& painter) const {
+    if (!_hoveredInput) {
+        return;
+    }
+    const QStringList words = readoutAt(*_hoveredInput).split(u' ');
+    if (words.size() < 2) {
+        return;
+    }
+    const Theme& theme = themeOf(*this);
+    const QRectF graph = graphRect();
+    drawHairline(painter, graph.left() + *_hoveredInput * graph.width(), graph.top(),
+                 graph.height(), Qt::Vertical, theme.secondaryText);
+    painter.setFont(labelFont());
+    const QFontMetrics metrics(painter.font());
+    const double height = metrics.height();
+    const double space = metrics.horizontalAdvance(u' ');
+    const double width = metrics.horizontalAdvance(words.join(u' ')) + space;
+    QColor plate = theme.field;
+    plate.setAlphaF(static_cast<float>(plateOpacity));
+    // Curves rise from the lower left: the upper left is free.
+    double x = graph.left() + labelGap;
+    const double y = graph.top() + labelGap;
+    painter.fillRect(QRectF(x, y, width + 2 * labelGap, height), plate);
+    x += labelGap;
+    for (qsizetype word = 0; word < words.size(); ++word) {
+        painter.setPen(word < 2
+                           ? theme.text
+                           : theme.channelText(channels.at(static_cast<std::size_t>(word - 2))));
+        painter.drawText(QPointF(x, y + metrics.ascent()), words.at(word));
+        x += metrics.horizontalAdvance(words.at(word)) + space;
+    }
+}
+
+void CurvePlot::mouseMoveEvent(QMouseEvent* event) {
+    const QRectF graph = graphRect();
+    const double input = (event->position().x() - graph.left()) / graph.width();
+    _hoveredInput = input >= 0 && input <= 1 ? std::optional(input) : std::nullopt;
+    update();
+}
+
+void CurvePlot::leaveEvent(QEvent* event) {
+    _hoveredInput.reset();
+    update();
+    QWidget::leaveEvent(event);
+}
+
+}  // namespace tonquil

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractButton>
+
+namespace tonquil {
+
+/// A flat button of a tab selector: checked when its tab is selected.
+///
+/// On the dark theme it is a grey area and nothing else. In the light theme, and with increased
+/// contrast, it is the desktop's own button.
+class TQTabButtonCell : public QAbstractButton {
+ public:
+    /// What a title or a picture on the button lies on.
+    enum class BackgroundStyle { Light = 0, Dark = 1 };
+
+    explicit TQTabButtonCell(const QString& title, QWidget* parent = nullptr);
+
+    /// As of the last drawing of the title.
+    [[nodiscard]] BackgroundStyle backgroundStyle() const { return _backgroundStyle; }
+    [[nodiscard]] BackgroundStyle interiorBackgroundStyle() const { return _backgroundStyle; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+    /// Leaves the arrow keys to the row that the button is in.
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+ private:
+    void drawBezelWithFrame(QPainter& painter, const QRect& frame) const;
+    /// Returns the rectangle that the title takes.
+    QRect drawTitle(QPainter& painter, const QString& title, const QRect& frame);
+
+    BackgroundStyle _backgroundStyle = BackgroundStyle::Light;
+    bool _showsFocusRing = false;
+};
+
+}  // namespace tonquil
