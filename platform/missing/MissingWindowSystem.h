@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/WindowSystem.h"
+
+namespace tonquil {
+
+/// Stands where nothing can be asked of the window system beyond what the toolkit offers.
+class MissingWindowSystem final : public WindowSystem {
+ public:
+    void keepOnAllWorkspaces(WindowID /*window*/) override {}
+    void skipTaskbar(WindowID /*window*/, bool /*skip*/) override {}
+    [[nodiscard]] bool isCompositing() const override { return false; }
+    [[nodiscard]] bool hasWindowManager() const override { return false; }
+};
+
+}  // namespace tonquil

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qt/QtRunLoop.h"
+
+#include <QMetaObject>
+#include <QPointer>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace tonquil {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds coarseFrom{20};
+
+void stop(QTimer& timer) {
+    timer.stop();
+}
+
+void stop(QSocketNotifier& notifier) {
+    notifier.setEnabled(false);
+}
+
+// The loop's context owns the source; this ends it, unless the loop went first.
+template <typename Source>
+class SourceHandle final : public RunLoop::Handle {
+ public:
+    explicit SourceHandle(Source* source) : _source(source) {}
+    ~SourceHandle() override {
+        if (_source) {
+            stop(*_source);
+            // Qt keeps what it is calling until that returns, but not an object whose event it is.
+            _source->disconnect();
+            _source->deleteLater();
+        }
+    }
+    SourceHandle(const SourceHandle&) = delete;
+    SourceHandle& operator=(const SourceHandle&) = delete;
+
+ private:
+    QPointer<Source> _source;
+};
+
+std::unique_ptr<RunLoop::Handle> startTimer(QObject& context, milliseconds time, bool isSingleShot,
+                                            RunLoop::Call call) {
+    auto* const timer = new QTimer(&context);
+    timer->setTimerType(time < coarseFrom ? Qt::PreciseTimer : Qt::CoarseTimer);
+    timer->setSingleShot(isSingleShot);
+    QObject::connect(timer, &QTimer::timeout, &context, std::move(call));
+    // Qt counts milliseconds as an int.
+    timer->start(std::min(time, milliseconds(std::numeric_limits<int>::max())));
+    return std::make_unique<SourceHandle<QTimer>>(timer);
+}
+
+}  // namespace
+
+std::unique_ptr<RunLoop::Handle> QtRunLoop::callOnce(milliseconds delay, Call call) {
+    return startTimer(_context, std::max(delay, milliseconds(0)), true, std::move(call));
+}
+
+std::unique_ptr<RunLoop::Handle> QtRunLoop::callRepeatedly(milliseconds interval, Call call) {
+    return startTimer(_context, std::max(interval, milliseconds(1)), false, std::move(call));
+}
+
+std::unique_ptr<RunLoop::Handle> QtRunLoop::watchReadable(int descriptor, Call call) {
+    auto* const notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, &_context);
+    QObject::connect(notifier, &QSocketNotifier::activated, &_context, std::move(call));
+    return std::make_unique<SourceHandle<QSocketNotifier>>(notifier);
+}
+
+void QtRunLoop::post(Call call) {
+    QMetaObject::invokeMethod(&_context, std::move(call), Qt::QueuedConnection);
+}
+
+}  // namespace tonquil

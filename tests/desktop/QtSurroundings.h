@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+namespace tonquil {
+
+/// Runs Qt's events until `condition` holds; false when it does not within 20 s.
+[[nodiscard]] bool processUntil(const std::function<bool()>& condition);
+/// Runs Qt's events for a moment in which something is not to happen.
+void processFor(std::chrono::milliseconds time);
+
+}  // namespace tonquil

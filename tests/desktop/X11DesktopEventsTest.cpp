@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/X11DesktopEvents.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/support/ManualRunLoop.h"
+#include "tests/support/Succeeded.h"
+#include "tests/support/XServer.h"
+
+namespace tonquil {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+
+class X11Desktops : public testing::Test {
+ protected:
+    void SetUp() override {
+        setWindows({1, 2, 3});
+        events->start([this](SessionEvent event) { told.push_back(event); });
+        loop.advance(0ms);
+    }
+    /// The lowest bytes of the windows' numbers, which are four bytes long.
+    void setWindows(const std::vector<std::uint8_t>& windows) {
+        std::vector<std::uint8_t> bytes;
+        for (const std::uint8_t window : windows) {
+            bytes.insert(bytes.end(), {window, 0, 0, 0});
+        }
+        mustSucceed(server->setRootProperty("_NET_CLIENT_LIST", bytes));
+    }
+    /// Takes in what the server has sent.
+    void poll() {
+        while (loop.pollReadable(50ms) != 0) {
+        }
+    }
+    void screenSaver(const char* command) {
+        EXPECT_TRUE(run({.command = {"xset", "-display", server->display(), "s", command}})
+                        .value()
+                        .succeeded());
+    }
+
+    ManualRunLoop loop;
+    std::unique_ptr<XServer> server = XServer::start().value();
+    std::vector<SessionEvent> told;
+    std::vector<std::string> log;
+    int losses = 0;
+    std::unique_ptr<X11DesktopEvents> events =
+        X11DesktopEvents::open(
+            server->display().c_str(), loop,
+            [this](std::string_view line) { log.emplace_back(line); }, [this] { ++losses; })
+            .value();
+};
+
+TEST_F(X11Desktops, WindowsThatGoWithinAMomentAreOneEventAndNewOnesNone) {
+    setWindows({1, 2, 3, 4, 5});
+    poll();
+    loop.advance(1s);
+    EXPECT_THAT(told, ElementsAre());
+    setWindows({5, 4, 3, 2});
+    setWindows({6, 5, 4, 2});
+    poll();
+    loop.advance(X11DesktopEvents::coalescingTime - 1ms);
+    EXPECT_THAT(told, ElementsAre());
+    loop.advance(1s);
+    EXPECT_THAT(told, ElementsAre(SessionEvent::ApplicationTerminated));
+    setWindows({});
+    poll();
+    loop.advance(1s);
+    EXPECT_EQ(told.size(), 2U);
+}
+
+TEST_F(X11Desktops, AProfileGivenToAnyDisplayIsAChangeOfColourSpace) {
+    struct Row {
+        const char* property;
+        bool isTold;
+    };
+    for (const Row& row :
+         {Row{"_ICC_PROFILE", true}, Row{"_ICC_PROFILE_1", true}, Row{"_ICC_PROFILE_23", true},
+          Row{"_ICC_PROFILE_IN_X_VERSION", false}, Row{"_NET_ACTIVE_WINDOW", false}}) {
+        SCOPED_TRACE(row.property);
+        told.clear();
+        mustSucceed(server->setRootProperty(row.property, {1, 2, 3, 4}));
+        mustSucceed(server->setRootProperty(row.property, {}));
+        poll();
+        loop.advance(1s);
+        EXPECT_THAT(told, testing::ElementsAreArray(std::vector<SessionEvent>(
+                              row.isTold ? 1U : 0U, SessionEvent::ColourSpaceChanged)));
+    }
+}
+
+TEST_F(X11Desktops, TheScreenSaversEndIsTold) {
+    screenSaver("activate");
+    poll();
+    EXPECT_THAT(told, ElementsAre());
+    screenSaver("reset");
+    poll();
+    EXPECT_THAT(told, ElementsAre(SessionEvent::ScreenSaverStopped));
+}
+
+TEST_F(X11Desktops, AServerThatGoesIsToldOnceAndNoLongerWatched) {
+    setWindows({});
+    poll();
+    server->kill();
+    EXPECT_EQ(loop.pollReadable(5s), 1U);
+    EXPECT_EQ(losses, 1);
+    EXPECT_EQ(log.size(), 1U);
+    EXPECT_EQ(loop.pollReadable(0ms), 0U);
+    loop.advance(1s);
+    EXPECT_THAT(told, ElementsAre());
+    EXPECT_EQ(losses, 1);
+}
+
+}  // namespace
+}  // namespace tonquil
