@@ -47,9 +47,13 @@ PanelSubject CurrentScreens::subject() {
     const auto screens = _currentScreens();
     if (screens.empty()) {
         subject.title = "No display";
-        subject.obstacle = _registry.screens().empty()
-                               ? "There is no display that could be corrected."
-                               : "The panel is on no display. Move it onto one.";
+        if (!_registry.screens().empty()) {
+            subject.obstacle = "The panel is on no display. Move it onto one.";
+        } else if (!_whyNoDisplays.empty()) {
+            subject.obstacle = _whyNoDisplays;
+        } else {
+            subject.obstacle = "There is no display that could be corrected.";
+        }
         return subject;
     }
     const DisplayDescription first = _service.description(screens.front()->directDisplayID());

@@ -3,6 +3,8 @@
 
 #include <memory>
 #include <optional>
+#include <string>
+#include <utility>
 
 #include "app/PanelControls.h"
 #include "app/PanelWindow.h"
@@ -15,8 +17,13 @@ namespace tonquil {
 class CurrentScreens {
  public:
     CurrentScreens(DisplayService& service, ScreenRegistry& registry,
-                   const PreferencesStore& preferences, const PanelWindow& panel)
-        : _service(service), _registry(registry), _preferences(preferences), _panel(panel) {}
+                   const PreferencesStore& preferences, const PanelWindow& panel,
+                   std::string whyNoDisplays)
+        : _service(service),
+          _registry(registry),
+          _preferences(preferences),
+          _panel(panel),
+          _whyNoDisplays(std::move(whyNoDisplays)) {}
 
     /// All of them, or those that lie exactly where the display under the panel does: more than
     /// one only for displays that show the same. Empty while the panel is on no display.
@@ -31,6 +38,7 @@ class CurrentScreens {
     ScreenRegistry& _registry;
     const PreferencesStore& _preferences;
     const PanelWindow& _panel;
+    std::string _whyNoDisplays;
 };
 
 }  // namespace tonquil

@@ -17,7 +17,7 @@ TQController::TQController(const ControllerSurroundings& surroundings)
       _panel(surroundings.panel),
       _sessionEvents(surroundings.sessionEvents),
       _endProgram(surroundings.endProgram),
-      _currentScreens(_service, _registry, _preferences, _panel),
+      _currentScreens(_service, _registry, _preferences, _panel, surroundings.whyNoDisplays),
       _currentCurve(_controls),
       _correction(_service, _registry, _preferences),
       _storage(_registry, _preferences, surroundings.recovery, _runLoop, surroundings.log),

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "app/Correction.h"
@@ -29,6 +30,8 @@ struct ControllerSurroundings {
     PanelWindow& panel;
     /// Where session events come from; may be empty.
     std::vector<SessionEvents*> sessionEvents;
+    /// Why there are no displays, where there never will be any; else empty.
+    std::string whyNoDisplays;
     /// Ends the program's run loop, after which `applicationWillTerminate` is due.
     std::function<void()> endProgram;
     Log log;

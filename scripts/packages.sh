@@ -5,16 +5,21 @@
 
 packages_to_build=(
     g++ cmake ninja-build pkg-config
-    libxcb1-dev libxcb-randr0-dev libexpat1-dev liblcms2-dev
-    nlohmann-json3-dev libexpected-dev
+    libxcb1-dev libxcb-randr0-dev libxcb-screensaver0-dev libexpat1-dev liblcms2-dev
+    nlohmann-json3-dev libexpected-dev qt6-base-dev
 )
 
 # A private X server whose displays exist only in memory.
 packages_for_x_server=(xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils)
 
+# What makes a desk of it: a window manager, a hand for the pointer, an eye for the screen.
+packages_for_desk=(openbox xdotool imagemagick fonts-dejavu-core)
+
 packages_to_check=(
-    git xvfb libgtest-dev libgmock-dev libbenchmark-dev
+    x11-utils
+    git xvfb libgtest-dev libgmock-dev libbenchmark-dev libxcb-xtest0-dev
     clang clang-format clang-tidy libclang-rt-14-dev python3 procps shellcheck
+    dbus
 )
 
 is_installed() {

@@ -22,12 +22,22 @@ declare -A arrows=(
     [platform/edid]=""
     [platform/icc]="platform/ramp"
     [platform/simulated]="foundation values screens platform/ramp"
-    [platform/x11]="foundation model screens platform/ramp platform/edid platform/icc"
+    [platform/x11]="foundation app model screens platform/ramp platform/edid platform/icc"
+    [platform/qt]="foundation"
+    [platform/posix]="foundation files"
+    [platform/dbus]="foundation files app"
+    [platform/xdg]="foundation values files plist app"
     [platform/choice]="foundation files screens platform/simulated platform/x11"
+    [platform/missing]="app screens"
+    [ui]=""
+    [app]="foundation values model screens"
+    [app/panel]="app model screens ui"
     [cli]="foundation values files model screens settings"
 )
-# Where programs are composed: the only files that may know which display service there is.
+# Where programs are composed: the only files that may know which platform is used.
 composers=" cli/main.cpp app/main.cpp "
+# Where windows and the toolkit's own services are.
+qt_folders=" ui app/panel platform/qt platform/dbus "
 
 breaches=0
 breach() {
@@ -39,7 +49,8 @@ breach() {
 check() {
     local folder=${1%/*} place=$1:$2 included=$3
     if [[ $included == "<"* ]]; then
-        if [[ $included =~ ^\<(Qt[A-Z][A-Za-z]*/|Q[A-Z]) ]]; then
+        if [[ $included =~ ^\<(Qt[A-Z][A-Za-z]*/|Qt\>|Q[A-Z]) && $qt_folders != *" $folder "* &&
+            $1 != app/main.cpp ]]; then
             breach "$place" "$included: nothing outside of the user interface may include Qt"
         fi
         return
@@ -52,6 +63,8 @@ check() {
         if [[ $composers != *" $1 "* ]]; then
             breach "$place" "\"$included\": only a program's main.cpp may include platform/choice"
         fi
+    elif [[ $1 == app/main.cpp && $target =~ ^(platform/|app/panel$|ui$) ]]; then
+        return
     elif [[ $target != "$folder" && " ${arrows[$folder]} " != *" $target "* ]]; then
         breach "$place" "\"$included\": $folder may include ${arrows[$folder]:-only itself}"
     fi

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "foundation/Problem.h"
+
+namespace tonquil {
+
+class TQController;
+
+/// What another start of the program may ask of the one that runs.
+enum class Request : std::uint8_t {
+    Reopen,  ///< It was started without anything to do.
+    Toggle,
+    On,
+    Off,
+    ShowPanel,
+    Quit,
+};
+
+/// What a command line asks for.
+struct CommandLine {
+    /// Never empty unless the help or the version is wanted.
+    std::vector<Request> requests;
+    bool wantsHelp = false;
+    bool wantsVersion = false;
+};
+
+/// Reads a command line without the program's name. The problem is one of usage.
+[[nodiscard]] Result<CommandLine> readCommandLine(std::span<const char* const> arguments);
+[[nodiscard]] std::string commandLineHelp();
+
+/// Requests as text, one a line, to hand them over to another process; and back.
+[[nodiscard]] std::string textFromRequests(const std::vector<Request>& requests);
+[[nodiscard]] Result<std::vector<Request>> requestsFromText(std::string_view text);
+
+/// Does what was asked.
+void carryOut(const std::vector<Request>& requests, TQController& controller);
+
+}  // namespace tonquil

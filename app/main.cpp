@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: MIT
+// Puts the program together: the only file that knows which platform is used.
+#include <QApplication>
+#include <QStyleHints>
+#include <cctype>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+#include "app/Requests.h"
+#include "app/TQController.h"
+#include "app/panel/ControlPanel.h"
+#include "app/panel/PanelIcons.h"
+#include "app/panel/QuietStyle.h"
+#include "platform/choice/DisplayServiceChoice.h"
+#include "platform/dbus/BusSessionEvents.h"
+#include "platform/dbus/DesktopAppearance.h"
+#include "platform/missing/MissingDisplayService.h"
+#include "platform/missing/MissingWindowSystem.h"
+#include "platform/posix/InstanceSocket.h"
+#include "platform/posix/TerminationSignals.h"
+#include "platform/qt/QtRunLoop.h"
+#include "platform/x11/X11DesktopEvents.h"
+#include "platform/x11/X11WindowSystem.h"
+#include "platform/xdg/CurveRecoveryFile.h"
+#include "platform/xdg/PropertyListPreferences.h"
+#include "platform/xdg/XdgFolders.h"
+
+namespace tonquil {
+
+namespace {
+
+void log(std::string_view line) {
+    std::fprintf(stderr, "tonquil: %.*s\n", static_cast<int>(line.size()), line.data());
+}
+
+void report(const Problem& problem) {
+    log(problem.sentence);
+    if (!problem.detail.empty()) {
+        log(problem.detail);
+    }
+}
+
+std::string environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string() : value;
+}
+
+/// The window toolkit aborts where it finds no display server, and says nothing of use.
+bool hasDesktop() {
+    if (!environment("QT_QPA_PLATFORM").empty() || !environment("WAYLAND_DISPLAY").empty()) {
+        return true;
+    }
+    const auto connection = X11Connection::open(nullptr);
+    if (!connection) {
+        report(connection.error());
+    }
+    return connection.has_value();
+}
+
+/// One instance runs for each desktop of a person.
+std::string instanceName() {
+    std::string name = "instance-";
+    const std::string display = environment("DISPLAY");
+    for (const char c : display.empty() ? environment("WAYLAND_DISPLAY") : display) {
+        name += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
+    }
+    return name;
+}
+
+/// What the toolkit's exit must still save: it ends the process itself when the display server
+/// goes, and then destroys nothing.
+TQController* controllerToSave = nullptr;
+
+void saveAtExit() {
+    if (controllerToSave != nullptr) {
+        controllerToSave->applicationWillTerminate();
+    }
+}
+
+/// Everything that the program is made of, each part before those that need it.
+class Program {
+ public:
+    explicit Program(const XdgFolders& folders)
+        : preferences(folders.config() / "preferences.plist", runLoop, log),
+          recovery(folders.state() / "recovery.plist", log),
+          busEvents(runLoop, log) {
+        openDisplays();
+        openWindowSystem();
+        panel = std::make_unique<ControlPanel>(*windowSystem);
+        registry = std::make_unique<ScreenRegistry>(*displays);
+        std::vector<SessionEvents*> events{&busEvents};
+        if (desktopEvents) {
+            events.push_back(desktopEvents.get());
+        }
+        controller = std::make_unique<TQController>(ControllerSurroundings{
+            *displays, *registry, reconfigurations, preferences, recovery, runLoop, *panel, *panel,
+            std::move(events), whyNoDisplays, &QCoreApplication::quit, log});
+        panel->setActions(*controller);
+    }
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+    ~Program() { controllerToSave = nullptr; }
+
+    int run(const std::vector<Request>& requests) {
+        controllerToSave = controller.get();
+        std::atexit(saveAtExit);
+        QObject::connect(qApp, &QCoreApplication::aboutToQuit,
+                         [this] { controller->applicationWillTerminate(); });
+        const auto signals =
+            TerminationSignals::watch(runLoop, [this](int) { controller->quit(); });
+        if (!signals) {
+            report(signals.error());
+        }
+        controller->applicationDidFinishLaunching();
+        desktopAppearance.start([this](const DesktopAppearance::Settings& settings) {
+            AccessibilityOptions options;
+            options.increaseContrast = settings.increaseContrast;
+            options.reduceMotion = settings.reduceMotion;
+            panel->setAccessibilityOptions(options);
+        });
+        // The start itself is what is asked of a program that was not running.
+        carryOutButReopen(requests);
+        return QCoreApplication::exec();
+    }
+
+    std::string answer(const std::string& text) {
+        const auto requests = requestsFromText(text);
+        if (!requests) {
+            return requests.error().sentence;
+        }
+        carryOut(*requests, *controller);
+        return {};
+    }
+
+ private:
+    void openDisplays() {
+        auto opened = chooseDisplayService(&runLoop, log);
+        if (opened) {
+            displays = std::move(*opened);
+            return;
+        }
+        report(opened.error());
+        whyNoDisplays = opened.error().sentence;
+        displays = std::make_unique<MissingDisplayService>();
+    }
+
+    void openWindowSystem() {
+        windowSystem = std::make_unique<MissingWindowSystem>();
+        if (QGuiApplication::platformName() != QStringLiteral("xcb")) {
+            return;
+        }
+        if (auto opened = X11WindowSystem::open(nullptr)) {
+            windowSystem = std::move(*opened);
+        }
+        auto events = X11DesktopEvents::open(nullptr, runLoop, log,
+                                             [this] { controller->applicationWillTerminate(); });
+        if (events) {
+            desktopEvents = std::move(*events);
+        }
+        if (!windowSystem->hasWindowManager()) {
+            log("There is no window manager; the panel is moved without one.");
+        }
+    }
+
+    void carryOutButReopen(std::vector<Request> requests) {
+        std::erase(requests, Request::Reopen);
+        carryOut(requests, *controller);
+    }
+
+    QtRunLoop runLoop;
+    PropertyListPreferences preferences;
+    CurveRecoveryFile recovery;
+    BusSessionEvents busEvents;
+    DesktopAppearance desktopAppearance;
+    std::unique_ptr<DisplayService> displays;
+    std::string whyNoDisplays;
+    std::unique_ptr<WindowSystem> windowSystem;
+    std::unique_ptr<X11DesktopEvents> desktopEvents;
+    std::unique_ptr<ScreenRegistry> registry;
+    ReconfigurationCounter reconfigurations;
+    std::unique_ptr<ControlPanel> panel;
+    std::unique_ptr<TQController> controller;
+};
+
+int handOver(const std::filesystem::path& socket, const std::vector<Request>& requests) {
+    const auto answer = InstanceSocket::handOver(socket, textFromRequests(requests));
+    if (!answer) {
+        report(answer.error());
+        return EXIT_FAILURE;
+    }
+    if (!answer->empty()) {
+        log(*answer);
+        return EXIT_FAILURE;
+    }
+    return EXIT_SUCCESS;
+}
+
+int runFirstOrHandOver(const std::vector<Request>& requests) {
+    const auto folders = XdgFolders::fromEnvironment();
+    const auto runtime = folders ? folders->makeRuntime() : tl::make_unexpected(folders.error());
+    if (!runtime) {
+        report(runtime.error());
+        return EXIT_FAILURE;
+    }
+    const std::filesystem::path socket = *runtime / instanceName();
+    QtRunLoop runLoop;
+    Program* program = nullptr;
+    const auto listener = InstanceSocket::claim(
+        socket, runLoop,
+        [&program](const std::string& text) {
+            return program == nullptr ? "Tonquil is still starting." : program->answer(text);
+        },
+        log);
+    if (!listener) {
+        report(listener.error());
+        return EXIT_FAILURE;
+    }
+    if (*listener == nullptr) {
+        return handOver(socket, requests);
+    }
+    if (std::ranges::find(requests, Request::Quit) != requests.end()) {
+        return EXIT_SUCCESS;
+    }
+    Program first(*folders);
+    program = &first;
+    return first.run(requests);
+}
+
+int start(int argc, char** argv) {
+    constexpr int wrongUsage = 2;
+    const auto line = readCommandLine(
+        std::span<const char* const>(argv, static_cast<std::size_t>(argc)).subspan(1));
+    if (!line) {
+        report(line.error());
+        return wrongUsage;
+    }
+    if (line->wantsHelp) {
+        std::fputs(commandLineHelp().c_str(), stdout);
+        return EXIT_SUCCESS;
+    }
+    if (line->wantsVersion) {
+        std::puts("tonquil " TONQUIL_VERSION);
+        return EXIT_SUCCESS;
+    }
+    if (!hasDesktop()) {
+        return EXIT_FAILURE;
+    }
+    QApplication::setStyle(new QuietStyle);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("tonquil"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tonquil"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tonquil"));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    // The panel may have the keyboard for hours, and a blinking cursor would wake it up twice a
+    // second for all that time.
+    QGuiApplication::styleHints()->setCursorFlashTime(0);
+    return runFirstOrHandOver(line->requests);
+}
+
+}  // namespace
+
+}  // namespace tonquil
+
+int main(int argc, char** argv) {
+    return tonquil::start(argc, argv);
+}

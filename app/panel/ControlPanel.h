@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QTimer>
+#include <QVariantAnimation>
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "app/PanelActions.h"
+#include "app/PanelControls.h"
+#include "app/PanelWindow.h"
+#include "app/WindowSystem.h"
+#include "app/panel/PanelContents.h"
+#include "app/panel/PanelMenu.h"
+#include "ui/Appearance.h"
+
+namespace tonquil {
+
+/// The control panel: a floating window of sliders that is used without taking the keyboard from
+/// the program in front of which it floats. Only a number field takes the keyboard, and only when
+/// it is clicked.
+class ControlPanel final : public QWidget, public PanelControls, public PanelWindow {
+ public:
+    /// The window system must outlive the panel.
+    explicit ControlPanel(WindowSystem& windowSystem);
+    ~ControlPanel() override;
+    Q_DISABLE_COPY_MOVE(ControlPanel)
+
+    /// Who is told of what the person does; must be set before anything is shown, and outlive the
+    /// panel's being used.
+    void setActions(PanelActions& actions);
+    /// What the person asked of the whole desktop.
+    void setAccessibilityOptions(const AccessibilityOptions& options);
+
+    [[nodiscard]] PanelValues values() const override;
+    void setValues(const PanelValues& values) override;
+    void setSlider(PanelSlider slider, float value) override;
+    void selectBlendingMode(std::int32_t blendingMode) override;
+    void updateTouchBarSlider() override;
+    void _setControlsEnabled(bool enabled) override;
+    void showCorrection(bool isOn) override;
+    void showSubject(const PanelSubject& subject) override;
+    void updatePlot() override;
+    void showUndo(bool canUndo, bool canRedo) override;
+
+    [[nodiscard]] Rectangle frame() const override;
+    void setFrameOrigin(const Point& origin) override;
+    void makeKeyAndOrderFront() override;
+    void _setAdvancedPanel(bool advanced) override;
+    [[nodiscard]] bool _advancedPanel() const { return _isAdvanced; }
+    void _setDarkTheme(bool dark) override;
+    void showChannelStrip(bool isShown) override;
+    void showTab(int index) override;
+    void focusMasterOfSelectedTab() override;
+    void observeFirstResponder() override;
+
+ protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+ private:
+    void connectControls();
+    void moved(PanelSlider slider);
+    void heldSlider(PanelSlider slider, bool isHeld);
+    void pickTab(int tab);
+    void makeFirstResponder(QWidget& control);
+    void firstResponderChanged(QWidget* control);
+    void takeKeyboard();
+    void setAcceptsKeyboard(bool accepts);
+    void setAppearances();
+    void fitForm(bool mayGlide);
+    void setHeight(int height);
+    void drawPlot();
+    [[nodiscard]] std::vector<QWidget*> vibrantViews() const;
+
+    WindowSystem& _windowSystem;
+    PanelActions* _actions = nullptr;
+    Appearance _appearance;
+    PanelMenu _menu;
+    /// Lies at the window's upper edge and is as high as the advanced form; the compact form cuts
+    /// it off.
+    PanelContents* _contents;
+    bool _isAdvanced = true;
+    int _selectedTab = 1;
+    std::int32_t _blendingMode = KVBlendingModeBaseTable;
+    bool _observesFirstResponder = false;
+    QPointer<QWidget> _firstResponder;
+    /// What had the focus when the controls were disabled.
+    QPointer<QWidget> _focusToReturn;
+    QTimer _plotTimer;
+    QVariantAnimation _glide;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "app/panel/DevicePixels.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace tonquil {
+
+namespace {
+
+const QScreen& screenOf(const QRect& points) {
+    if (const QScreen* screen = QGuiApplication::screenAt(points.center())) {
+        return *screen;
+    }
+    const QScreen* screen = QGuiApplication::screenAt(points.topLeft());
+    return screen != nullptr ? *screen : *QGuiApplication::primaryScreen();
+}
+
+Rectangle pixelsOf(const QScreen& screen) {
+    const QRect points = screen.geometry();
+    const double scale = screen.devicePixelRatio();
+    return {static_cast<double>(points.x()), static_cast<double>(points.y()),
+            points.width() * scale, points.height() * scale};
+}
+
+}  // namespace
+
+Rectangle devicePixelsFrom(const QRect& points) {
+    const QScreen& screen = screenOf(points);
+    const QPoint origin = screen.geometry().topLeft();
+    const double scale = screen.devicePixelRatio();
+    return {origin.x() + (points.x() - origin.x()) * scale,
+            origin.y() + (points.y() - origin.y()) * scale, points.width() * scale,
+            points.height() * scale};
+}
+
+QPoint pointsFrom(const Point& devicePixels) {
+    const QScreen* found = QGuiApplication::primaryScreen();
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        if (pixelsOf(*screen).contains(devicePixels)) {
+            found = screen;
+            break;
+        }
+    }
+    const QPoint origin = found->geometry().topLeft();
+    const double scale = found->devicePixelRatio();
+    return {qRound(origin.x() + (devicePixels.x - origin.x()) / scale),
+            qRound(origin.y() + (devicePixels.y - origin.y()) / scale)};
+}
+
+}  // namespace tonquil

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "app/panel/PanelMenu.h"
+
+#include <QCoreApplication>
+
+#include "app/PanelActions.h"
+
+namespace tonquil {
+
+PanelMenu::PanelMenu()
+    : _undo(addAction(QCoreApplication::translate("Panel", "Undo"))),
+      _redo(addAction(QCoreApplication::translate("Panel", "Redo"))),
+      _reset(nullptr),
+      _view(nullptr),
+      _advanced(nullptr),
+      _dark(nullptr),
+      _channelStrip(nullptr),
+      _quit(nullptr) {
+    _undo->setShortcut(QKeySequence::Undo);
+    _redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    addSeparator();
+    _reset = addAction(QCoreApplication::translate("Panel", "Reset to calibration"));
+    addSeparator();
+    _view = addMenu(QCoreApplication::translate("Panel", "View"));
+    _advanced = _view->addAction(QCoreApplication::translate("Panel", "Advanced panel"));
+    _dark = _view->addAction(QCoreApplication::translate("Panel", "Dark theme"));
+    _channelStrip = _view->addAction(QCoreApplication::translate("Panel", "Channel strip"));
+    for (QAction* action : {_advanced, _dark, _channelStrip}) {
+        action->setCheckable(true);
+    }
+    addSeparator();
+    _quit = addAction(QCoreApplication::translate("Panel", "Quit"));
+    _quit->setShortcut(QKeySequence::Quit);
+    showUndo(false, false);
+}
+
+void PanelMenu::setActions(PanelActions& actions, QWidget& panel) {
+    QObject::connect(_undo, &QAction::triggered, this, [&actions] { actions.undo(); });
+    QObject::connect(_redo, &QAction::triggered, this, [&actions] { actions.redo(); });
+    QObject::connect(_reset, &QAction::triggered, this, [&actions] { actions.resetGamma(); });
+    QObject::connect(_advanced, &QAction::triggered, this,
+                     [&actions](bool isOn) { actions.setAdvancedPanel(isOn); });
+    QObject::connect(_dark, &QAction::triggered, this,
+                     [&actions](bool isOn) { actions.setDarkTheme(isOn); });
+    QObject::connect(_channelStrip, &QAction::triggered, this,
+                     [&actions](bool isOn) { actions.setChannelStrip(isOn); });
+    QObject::connect(_quit, &QAction::triggered, this, [&actions] { actions.quit(); });
+    panel.addActions({_undo, _redo, _quit});
+}
+
+void PanelMenu::showUndo(bool canUndo, bool canRedo) {
+    _undo->setEnabled(canUndo);
+    _redo->setEnabled(canRedo);
+}
+
+void PanelMenu::showForm(bool isAdvanced, bool isDark, bool hasChannelStrip) {
+    _advanced->setChecked(isAdvanced);
+    _dark->setChecked(isDark);
+    _channelStrip->setChecked(hasChannelStrip);
+}
+
+}  // namespace tonquil

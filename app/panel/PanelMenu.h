@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMenu>
+
+namespace tonquil {
+
+class PanelActions;
+
+/// The panel's menu. Its actions' shortcuts work wherever the focus is in the panel.
+class PanelMenu : public QMenu {
+ public:
+    PanelMenu();
+
+    void setActions(PanelActions& actions, QWidget& panel);
+    void showUndo(bool canUndo, bool canRedo);
+    void showForm(bool isAdvanced, bool isDark, bool hasChannelStrip);
+    void setEditingEnabled(bool enabled) { _reset->setEnabled(enabled); }
+
+ private:
+    QAction* _undo;
+    QAction* _redo;
+    QAction* _reset;
+    QMenu* _view;
+    QAction* _advanced;
+    QAction* _dark;
+    QAction* _channelStrip;
+    QAction* _quit;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProxyStyle>
+
+namespace tonquil {
+
+/// The toolkit's plain style, whatever the desktop's own is: that would tint the greys.
+class QuietStyle : public QProxyStyle {
+ public:
+    QuietStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                QStyleHintReturn* data) const override {
+        // What is disabled is fainter, which a shadow below its text would undo.
+        return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+}  // namespace tonquil

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/SettingsKeys.h"
+#include "app/TQController.h"
+#include "platform/simulated/SimulatedDisplayService.h"
+#include "tests/support/ManualRunLoop.h"
+
+namespace tonquil {
+
+/// What happened, in order.
+using Journal = std::vector<std::string>;
+
+/// A panel without a window.
+class RecordedPanel final : public PanelControls, public PanelWindow {
+ public:
+    explicit RecordedPanel(Journal& journal) : _journal(journal) {}
+
+    [[nodiscard]] PanelValues values() const override { return shown; }
+    void setValues(const PanelValues& values) override { shown = values; }
+    void setSlider(PanelSlider slider, float value) override { shown[slider] = value; }
+    void selectBlendingMode(std::int32_t mode) override { shown.blendingMode = mode; }
+    void updateTouchBarSlider() override {}
+    void _setControlsEnabled(bool isEnabled) override {
+        enabled = isEnabled;
+        _journal.emplace_back(isEnabled ? "controls enabled" : "controls disabled");
+    }
+    void showCorrection(bool isOn) override { correction = isOn; }
+    void showSubject(const PanelSubject& now) override { subject = now; }
+    void updatePlot() override {}
+    void showUndo(bool undo, bool /*canRedo*/) override { canUndo = undo; }
+
+    [[nodiscard]] Rectangle frame() const override { return place; }
+    void setFrameOrigin(const Point& origin) override {
+        place.x = origin.x;
+        place.y = origin.y;
+        _journal.emplace_back("frame");
+    }
+    void makeKeyAndOrderFront() override { _journal.emplace_back("panel shown"); }
+    void _setAdvancedPanel(bool advanced) override {
+        _journal.emplace_back(advanced ? "advanced" : "compact");
+    }
+    void _setDarkTheme(bool dark) override { _journal.emplace_back(dark ? "dark" : "light"); }
+    void showChannelStrip(bool /*isShown*/) override {}
+    void showTab(int index) override { _journal.push_back("tab " + std::to_string(index)); }
+    void focusMasterOfSelectedTab() override { _journal.emplace_back("master focused"); }
+    void observeFirstResponder() override { _journal.emplace_back("focus observed"); }
+
+    PanelValues shown;
+    bool enabled = true;
+    bool correction = false;
+    bool canUndo = false;
+    PanelSubject subject;
+    Rectangle place{100, 100, 320, 470};
+
+ private:
+    Journal& _journal;
+};
+
+/// Preferences in memory, told of as the real ones tell.
+class MemoryPreferences final : public PreferencesStore {
+ public:
+    MemoryPreferences(RunLoop& runLoop, Journal& journal) : _runLoop(runLoop), _journal(journal) {}
+
+    void registerDefaults(PropertyValue defaults) override;
+    void setValue(std::string_view key, PropertyValue value) override;
+    bool synchronize() override { return isWritable; }
+    [[nodiscard]] std::unique_ptr<Subscription> subscribe(std::function<void()> changed) override;
+
+    PropertyValue stored = PropertyValue::object();
+    bool isWritable = true;
+
+ private:
+    [[nodiscard]] const PropertyValue* valueForKey(std::string_view key) const override;
+
+    RunLoop& _runLoop;
+    Journal& _journal;
+    PropertyValue _defaults = PropertyValue::object();
+    std::function<void()> _changed;
+};
+
+class MemoryRecovery final : public CurveRecovery {
+ public:
+    [[nodiscard]] PropertyValue leftCurves() override { return left; }
+    [[nodiscard]] Result<void> keep(const PropertyValue& curves) override {
+        left = curves;
+        return {};
+    }
+    void forget() override { left = PropertyValue::object(); }
+
+    PropertyValue left = PropertyValue::object();
+};
+
+/// Events that a test makes.
+class ScriptedEvents final : public SessionEvents {
+ public:
+    explicit ScriptedEvents(Journal& journal) : _journal(journal) {}
+    void start(Handler handler) override {
+        _journal.emplace_back("session observed");
+        tell = std::move(handler);
+    }
+    Handler tell;
+
+ private:
+    Journal& _journal;
+};
+
+/// Tells what is asked of a display service.
+class RecordedService final : public SimulatedDisplayService {
+ public:
+    RecordedService(SimulatedDesk& desk, Journal& journal)
+        : SimulatedDisplayService(desk), _journal(journal) {}
+    void setTransferTable(DisplayID display, const GammaTable& table) override;
+    [[nodiscard]] std::unique_ptr<Subscription> registerReconfigurationCallback(
+        ReconfigurationCallback callback) override;
+
+ private:
+    Journal& _journal;
+};
+
+/// Tells what is asked of a run loop.
+class RecordedLoop final : public RunLoop {
+ public:
+    RecordedLoop(ManualRunLoop& loop, Journal& journal) : _loop(loop), _journal(journal) {}
+    [[nodiscard]] Clock::time_point now() const override { return _loop.now(); }
+    [[nodiscard]] std::unique_ptr<Handle> callOnce(std::chrono::milliseconds delay,
+                                                   Call call) override {
+        return _loop.callOnce(delay, std::move(call));
+    }
+    [[nodiscard]] std::unique_ptr<Handle> callRepeatedly(std::chrono::milliseconds interval,
+                                                         Call call) override {
+        _journal.push_back("every " + std::to_string(interval.count()) + " ms");
+        return _loop.callRepeatedly(interval, std::move(call));
+    }
+    [[nodiscard]] std::unique_ptr<Handle> watchReadable(int descriptor, Call call) override {
+        return _loop.watchReadable(descriptor, std::move(call));
+    }
+    void post(Call call) override { _loop.post(std::move(call)); }
+
+ private:
+    ManualRunLoop& _loop;
+    Journal& _journal;
+};
+
+/// A desk of two displays side by side, 1000 by 800 each, and one program after the other at it.
+class ControllerBench {
+ public:
+    ControllerBench();
+
+    /// Starts a program, ending without order the one that runs: what was not saved is lost.
+    void launch();
+    /// The same, and lets it settle.
+    void launchAndSettle();
+    [[nodiscard]] TQController& controller() { return *_program->controller; }
+    /// Moves a slider as a person does.
+    void edit(PanelSlider slider, float value, bool isLinked = false);
+    /// The first level that a display's red hardware ramp has, in entries.
+    [[nodiscard]] int firstEntry(DisplayID display);
+    /// The curve that a display has been given.
+    [[nodiscard]] std::shared_ptr<KVGammaCurve> curve(DisplayID display);
+
+    static constexpr DisplayID left = 1;
+    static constexpr DisplayID right = 2;
+    static SimulatedDisplay makeDisplay(DisplayID display, double x);
+
+    Journal journal;
+    SimulatedDesk desk;
+    ManualRunLoop loop;
+    RecordedLoop recordedLoop{loop, journal};
+    MemoryPreferences preferences{loop, journal};
+    MemoryRecovery recovery;
+    RecordedPanel panel{journal};
+    std::vector<std::string> log;
+    bool hasEnded = false;
+
+ private:
+    struct Program {
+        std::unique_ptr<RecordedService> service;
+        std::unique_ptr<ScreenRegistry> registry;
+        ReconfigurationCounter counter;
+        std::unique_ptr<ScriptedEvents> events;
+        std::unique_ptr<TQController> controller;
+    };
+
+ public:
+    [[nodiscard]] ScriptedEvents& events() { return *_program->events; }
+
+ private:
+    std::optional<Program> _program;
+};
+
+}  // namespace tonquil
