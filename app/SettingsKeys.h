@@ -33,6 +33,23 @@ inline constexpr std::string_view selectedTab = "SelectedTab";
 inline constexpr std::string_view screens = "Screens";
 /// Boolean: starting the program while it runs toggles the correction instead of showing the panel.
 inline constexpr std::string_view toggleApply = "ToggleApply";
+/// Integer used as boolean: exactly 1 shows the status item and no task-bar entry.
+inline constexpr std::string_view showStatusItem = "ShowStatusItem";
+/// Boolean: companions on the local network may read and set the curves.
+inline constexpr std::string_view allowRemote = "AllowRemote";
+/// The hot key that toggles the correction: boolean, integer of which the low 16 bits count, and
+/// integer. Code and modifiers 0 together are none.
+inline constexpr std::string_view useHotKey = "UseHotKey";
+inline constexpr std::string_view useHotKeyCode = "UseHotKeyCode";
+inline constexpr std::string_view useHotKeyModifiers = "UseHotKeyModifiers";
+/// The same for the one that shows the panel under the pointer.
+inline constexpr std::string_view panelHotKey = "PanelHotKey";
+inline constexpr std::string_view panelHotKeyCode = "PanelHotKeyCode";
+inline constexpr std::string_view panelHotKeyModifiers = "PanelHotKeyModifiers";
+/// Integer: the format chosen last for a settings file; 0 one display, 1 several.
+inline constexpr std::string_view saveFormat = "SaveFormat";
+/// Boolean: the warning of a program that fights for the same tables was shown.
+inline constexpr std::string_view conflictWarned = "KVFluxWarned";
 /// Boolean: the panel shows the strip with the slider of the focused channel.
 inline constexpr std::string_view channelStrip = "ChannelStrip";
 /// Text "X Y WIDTH HEIGHT": where the panel was, in pixels of the desktop from its upper left.

@@ -75,6 +75,17 @@ void TQController::applicationShouldHandleReopen() {
     }
 }
 
+void TQController::showPanel() {
+    bringPanelBack();
+    _panel.makeKeyAndOrderFront();
+}
+
+void TQController::bringPanelBack() {
+    if (!_currentScreens.displayUnderPanel()) {
+        _panelFrame.restore();
+    }
+}
+
 void TQController::_initDefaults() {
     _preferences.registerDefaults(registeredDefaults());
 }
@@ -142,6 +153,7 @@ void TQController::updateScreens() {
         }
         _applyCurvesToScreen();
     }
+    bringPanelBack();
     _changeScreen();
 }
 

@@ -56,7 +56,7 @@ class TQController final : public PanelActions {
     [[nodiscard]] bool applyCorrection() const { return _correction.applyCorrection(); }
     void setApplyCorrection(bool isOn) { _correction.setApplyCorrection(isOn); }
     void toggleApplyCorrection() { setApplyCorrection(!applyCorrection()); }
-    void showPanel() { _panel.makeKeyAndOrderFront(); }
+    void showPanel();
     void _applyCurvesToScreen() { _correction._applyCurvesToScreen(); }
 
     void applyGamma(PanelSlider sender, bool isLinked) override;
@@ -90,6 +90,8 @@ class TQController final : public PanelActions {
     void finishPanelSetUp();
     void observeSession();
     void updateScreens();
+    /// Puts the panel back into view when the display that it was on has gone.
+    void bringPanelBack();
     /// Shows the edit that was made, and sees to it that it is kept.
     void curvesWereEdited();
 

@@ -28,7 +28,7 @@ TQTabButtonCell::TQTabButtonCell(const QString& title, QWidget* parent) : QAbstr
     installAccessibleInterfaces();
     setText(title);
     setCheckable(true);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

@@ -39,7 +39,7 @@ void TQVibrantMatrix::setSelectedColumn(int column) {
     for (TQTabButtonCell* each : _cells) {
         const bool isSelected = each == cell(column);
         each->setChecked(isSelected);
-        each->setFocusPolicy(isSelected ? Qt::StrongFocus : Qt::ClickFocus);
+        each->setFocusPolicy(isSelected ? Qt::TabFocus : Qt::NoFocus);
     }
 }
 

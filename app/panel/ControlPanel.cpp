@@ -30,6 +30,8 @@ constexpr double windowRadius = 10;
 constexpr int glideMilliseconds = 100;
 /// The plot is drawn at most once in this time, however fast a slider moves.
 constexpr int plotMilliseconds = 16;
+/// Steps that follow each other faster than this are undone together.
+constexpr int editEndMilliseconds = 800;
 
 }  // namespace
 
@@ -45,6 +47,9 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     _plotTimer.setSingleShot(true);
     _plotTimer.setInterval(plotMilliseconds);
     QObject::connect(&_plotTimer, &QTimer::timeout, this, [this] { drawPlot(); });
+    _editEndTimer.setSingleShot(true);
+    _editEndTimer.setInterval(editEndMilliseconds);
+    QObject::connect(&_editEndTimer, &QTimer::timeout, this, [this] { _actions->endEdit(); });
     _glide.setDuration(glideMilliseconds);
     QObject::connect(&_glide, &QVariantAnimation::valueChanged, this,
                      [this](const QVariant& height) { setHeight(height.toInt()); });
@@ -174,6 +179,9 @@ void ControlPanel::showUndo(bool canUndo, bool canRedo) {
 void ControlPanel::moved(PanelSlider slider) {
     const bool isLinked = QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
     _actions->applyGamma(slider, isLinked);
+    if (!_contents->sliders.slider(slider).isInteracting()) {
+        _editEndTimer.start();
+    }
 }
 
 void ControlPanel::heldSlider(PanelSlider slider, bool isHeld) {
@@ -255,8 +263,10 @@ std::vector<QWidget*> ControlPanel::vibrantViews() const {
 
 void ControlPanel::_setAdvancedPanel(bool advanced) {
     _isAdvanced = advanced;
-    _contents->setAdvanced(advanced);
     fitForm(true);
+    if (!advanced && focusWidget() != nullptr && isCutOff(*focusWidget())) {
+        focusMasterOfSelectedTab();
+    }
     _menu.showForm(advanced, _appearance.isDark, !_contents->channelStrip->isHidden());
 }
 

@@ -63,6 +63,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void moveEvent(QMoveEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
  private:
     void connectControls();
@@ -71,6 +72,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void pickTab(int tab);
     void makeFirstResponder(QWidget& control);
     void firstResponderChanged(QWidget* control);
+    [[nodiscard]] bool isCutOff(const QWidget& control) const;
     void takeKeyboard();
     void setAcceptsKeyboard(bool accepts);
     void setAppearances();
@@ -94,6 +96,8 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     /// What had the focus when the controls were disabled.
     QPointer<QWidget> _focusToReturn;
     QTimer _plotTimer;
+    /// Ends an edit that no button holds: a run of steps, or a typed number.
+    QTimer _editEndTimer;
     QVariantAnimation _glide;
 };
 

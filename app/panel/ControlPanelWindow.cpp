@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The panel as a window: where it stands, and when it takes the keyboard.
 #include <QApplication>
-#include <QKeyEvent>
 #include <QScreen>
 #include <QWindow>
 
@@ -45,6 +44,21 @@ void ControlPanel::setAcceptsKeyboard(bool accepts) {
     }
 }
 
+// The window's height, while it glides to it, is not yet what the form has.
+bool ControlPanel::isCutOff(const QWidget& control) const {
+    return !_isAdvanced && control.mapTo(this, QPoint()).y() >= minimumHeight();
+}
+
+bool ControlPanel::focusNextPrevChild(bool next) {
+    const QWidget* const start = focusWidget();
+    do {
+        if (!QWidget::focusNextPrevChild(next)) {
+            return false;
+        }
+    } while (focusWidget() != start && isCutOff(*focusWidget()));
+    return true;
+}
+
 bool ControlPanel::event(QEvent* event) {
     if (event->type() == QEvent::WindowDeactivate) {
         setAcceptsKeyboard(false);
@@ -57,13 +71,6 @@ bool ControlPanel::eventFilter(QObject* watched, QEvent* event) {
     if (field != nullptr && event->type() == QEvent::MouseButtonPress) {
         takeKeyboard();
         firstResponderChanged(field);
-    }
-    // A field undoes its own typing; without any, the keys are the panel's.
-    if (field != nullptr && event->type() == QEvent::ShortcutOverride && !field->isEditing()) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Z && key->modifiers().testFlag(Qt::ControlModifier)) {
-            return true;
-        }
     }
     return QWidget::eventFilter(watched, event);
 }

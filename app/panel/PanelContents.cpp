@@ -145,18 +145,6 @@ void PanelContents::fit() {
     layout()->activate();
 }
 
-void PanelContents::setAdvanced(bool advanced) {
-    for (QWidget* control : _advanced->findChildren<QWidget*>()) {
-        const QVariant kept = control->property("focusPolicyWhenShown");
-        if (!kept.isValid()) {
-            control->setProperty("focusPolicyWhenShown", static_cast<int>(control->focusPolicy()));
-        }
-        control->setFocusPolicy(advanced ? static_cast<Qt::FocusPolicy>(
-                                               control->property("focusPolicyWhenShown").toInt())
-                                         : Qt::NoFocus);
-    }
-}
-
 void PanelContents::showTab(int tab) {
     gammaTabSelector->setSelectedColumn(tab);
     gammaTabs->setCurrentIndex(tab);

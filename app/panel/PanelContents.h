@@ -29,8 +29,6 @@ class PanelContents : public QWidget {
     [[nodiscard]] int advancedHeight() const;
     /// Takes the height of the advanced form, and lays everything out anew.
     void fit();
-    /// Keeps what the compact form cuts off out of the reach of the Tab key.
-    void setAdvanced(bool advanced);
     void showTab(int tab);
 
     PanelSliders sliders;

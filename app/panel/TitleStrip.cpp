@@ -51,8 +51,6 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     setMinimumHeight(std::max(stripHeight, fontMetrics().height() + 8));
     _subjectButton->setAutoRaise(true);
     _subjectButton->setFocusPolicy(Qt::TabFocus);
-    _subjectButton->setToolTip(
-        QCoreApplication::translate("Panel", "Choose which displays are edited"));
     // Given to the buttons, the menus would bring an arrow of the style's own.
     openBelow(*_menuButton, menu);
     buildSubjectMenu();
@@ -94,6 +92,12 @@ void TitleStrip::buildSubjectMenu() {
 void TitleStrip::showSubject(const PanelSubject& subject) {
     _title = QString::fromStdString(subject.title);
     (subject.isAllDisplays ? _allDisplays : _thisDisplay)->setChecked(true);
+    // The compact form has no other place for the reason.
+    const QString hint = subject.obstacle.empty() ? QCoreApplication::translate(
+                                                        "Panel", "Choose which displays are edited")
+                                                  : QString::fromStdString(subject.obstacle);
+    _subjectButton->setToolTip(hint);
+    _subjectButton->setAccessibleDescription(hint);
     updateTitle();
 }
 

@@ -91,8 +91,9 @@ void BusProbe::ask(const QString& address) {
 }
 
 void BusProbe::finish(const std::string& obstacle) {
-    const Call call = std::move(_call);
-    call(obstacle);
+    if (const Call call = std::exchange(_call, nullptr)) {
+        call(obstacle);
+    }
 }
 
 }  // namespace tonquil

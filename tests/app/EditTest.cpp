@@ -108,6 +108,8 @@ TEST(Edit, OfADisplayThatIsUnpluggedIsNotLost) {
     bench.launchAndSettle();
     bench.edit(PanelSlider::BlackRed, 0.25F);
     bench.desk.unplug(left);
+    EXPECT_EQ(bench.panel.subject.title, "DP-2") << "The panel comes back into view.";
+    bench.desk.unplug(right);
     EXPECT_EQ(bench.panel.subject.title, "No display");
     EXPECT_FALSE(bench.panel.enabled);
     bench.controller().applicationWillTerminate();
