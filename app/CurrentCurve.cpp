@@ -65,8 +65,9 @@ void CurrentCurve::_setCurrentGammaCurve(const KVGammaCurve& curve) {
 }
 
 void CurrentCurve::moveLinkedSliders(PanelSlider sender) {
-    const auto found = std::find_if(colourSliders.begin(), colourSliders.end(),
-                                    [=](const auto& colour) { return colour.slider == sender; });
+    const auto* const found =
+        std::find_if(colourSliders.begin(), colourSliders.end(),
+                     [=](const auto& colour) { return colour.slider == sender; });
     if (found == colourSliders.end()) {
         return;
     }

@@ -247,7 +247,7 @@ int start(int argc, char** argv) {
     if (!hasDesktop()) {
         return EXIT_FAILURE;
     }
-    QApplication::setStyle(new QuietStyle);
+    QApplication::setStyle(std::make_unique<QuietStyle>().release());
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tonquil"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tonquil"));

@@ -145,7 +145,7 @@ void PanelContents::fit() {
     layout()->activate();
 }
 
-void PanelContents::showTab(int tab) {
+void PanelContents::showTab(int tab) const {
     gammaTabSelector->setSelectedColumn(tab);
     gammaTabs->setCurrentIndex(tab);
     gammaTabColours->setCurrentIndex(tab);

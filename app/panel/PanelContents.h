@@ -29,7 +29,7 @@ class PanelContents : public QWidget {
     [[nodiscard]] int advancedHeight() const;
     /// Takes the height of the advanced form, and lays everything out anew.
     void fit();
-    void showTab(int tab);
+    void showTab(int tab) const;
 
     PanelSliders sliders;
     TitleStrip* titleStrip;

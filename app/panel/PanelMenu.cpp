@@ -9,13 +9,7 @@ namespace tonquil {
 
 PanelMenu::PanelMenu()
     : _undo(addAction(QCoreApplication::translate("Panel", "Undo"))),
-      _redo(addAction(QCoreApplication::translate("Panel", "Redo"))),
-      _reset(nullptr),
-      _view(nullptr),
-      _advanced(nullptr),
-      _dark(nullptr),
-      _channelStrip(nullptr),
-      _quit(nullptr) {
+      _redo(addAction(QCoreApplication::translate("Panel", "Redo"))) {
     _undo->setShortcut(QKeySequence::Undo);
     _redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
     addSeparator();

@@ -20,12 +20,12 @@ class PanelMenu : public QMenu {
  private:
     QAction* _undo;
     QAction* _redo;
-    QAction* _reset;
-    QMenu* _view;
-    QAction* _advanced;
-    QAction* _dark;
-    QAction* _channelStrip;
-    QAction* _quit;
+    QAction* _reset = nullptr;
+    QMenu* _view = nullptr;
+    QAction* _advanced = nullptr;
+    QAction* _dark = nullptr;
+    QAction* _channelStrip = nullptr;
+    QAction* _quit = nullptr;
 };
 
 }  // namespace tonquil
