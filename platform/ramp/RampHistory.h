@@ -17,8 +17,9 @@ namespace tonquil {
 class RampHistory {
  public:
     /// Corrections set longer ago than this many others are no longer recognised. Generous: it has
-    /// to reach over what several of our processes may set while one of them looks.
-    static constexpr std::size_t mostCorrections = 32;
+    /// to reach over what several of our processes may set between two looks of one of them, which
+    /// may be seconds apart.
+    static constexpr std::size_t mostCorrections = 256;
 
     [[nodiscard]] bool isCorrection(std::uint64_t fingerprint) const;
     /// Makes it the newest.

@@ -89,16 +89,20 @@ void X11CrtcRamps::setCorrection(xcb_randr_crtc_t crtc, const GammaTable& table)
         state.correction.setTable(table);
         state.correctionFingerprint = state.correction.fingerprint();
         state.table = table;
+        state.wasInPlace = false;
     }
     // In this order, so that a kill between any two requests leaves a ramp that is recognised and
     // a system ramp to go back to.
     if (std::exchange(state.isSystemRampUnsaved, false)) {
         _journal.appendSystemRamp(crtc, *state.history.systemRamp());
     }
-    // Also when it is the same as before: other processes may have set so many since that it is no
-    // longer remembered.
-    _journal.appendCorrection(crtc, state.correctionFingerprint);
-    state.history.addCorrection(state.correctionFingerprint);
+    // Also when it is the same as before, if others set ramps as well: by then it may no longer be
+    // remembered. Alone on the display, the journal is left in peace: each change of it wakes up
+    // everybody who watches the root window.
+    if (!std::exchange(state.wasInPlace, false)) {
+        _journal.appendCorrection(crtc, state.correctionFingerprint);
+        state.history.addCorrection(state.correctionFingerprint);
+    }
     send(crtc, state, state.correction);
 }
 
@@ -131,6 +135,7 @@ void X11CrtcRamps::examineReplaced(xcb_randr_crtc_t crtc,
     CrtcRamp& state = found->second;
     // Re-applying an unchanged correction replaces that very correction.
     if (std::ranges::equal(entriesOf(replaced), state.present.entries())) {
+        state.wasInPlace = state.present == state.correction;
         return;
     }
     const HardwareRamp ramp = rampOf(&replaced);

@@ -54,6 +54,8 @@ class X11CrtcRamps {
         /// The present ramp is the system's, but the journal does not say so yet. It must before a
         /// correction replaces it.
         bool isSystemRampUnsaved = false;
+        /// The correction that was set last was still there when it was set again.
+        bool wasInPlace = false;
         /// The last table that was set and the ramp made of it.
         std::optional<GammaTable> table;
         HardwareRamp correction;
