@@ -14,7 +14,7 @@ constexpr std::size_t systemRampHeaderUnits = 2;
 
 /// Long enough that compacting is rare even during a drag, short enough to be read at every start.
 constexpr std::size_t longCorrections =
-    std::size_t{50} * RampHistory::mostCorrections * correctionUnits;
+    std::size_t{8} * correctionUnits * RampHistory::mostCorrections;
 constexpr std::size_t longSystemRamps = 64 * std::size_t{1024};
 /// In 32-bit units; nothing of ours comes near.
 constexpr std::uint32_t mostUnits = 1U << 20U;
