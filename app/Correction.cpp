@@ -11,12 +11,8 @@ bool Correction::applyCorrection() const {
 }
 
 void Correction::setApplyCorrection(bool isOn) {
-    {
-        const DisplayBatch batch(_service);
-        for (const auto& screen : _registry.screens()) {
-            screen->setAutoApplyGamma(isOn);
-        }
-    }
+    _isActive = isOn;
+    activateScreens();
     if (!isOn) {
         restoreAllGammaCurves();
     }
@@ -24,6 +20,13 @@ void Correction::setApplyCorrection(bool isOn) {
         show(isOn);
     }
     _preferences.setValue(settingsKey::applyCorrection, isOn);
+}
+
+void Correction::activateScreens() {
+    const DisplayBatch batch(_service);
+    for (const auto& screen : _registry.screens()) {
+        screen->setAutoApplyGamma(_isActive);
+    }
 }
 
 void Correction::_applyCurvesToScreen() {

@@ -26,6 +26,11 @@ class Correction {
     /// Gives the displays back to the system's calibration, on or off.
     void restoreAllGammaCurves();
 
+    /// Whether it was switched on last, by this program.
+    [[nodiscard]] bool isActive() const { return _isActive; }
+    /// Lets every listed display take part in what was switched on or off, new ones too.
+    void activateScreens();
+
     /// Called with the new state by each `setApplyCorrection`, before it is stored.
     std::function<void(bool)> show;
 
@@ -33,6 +38,7 @@ class Correction {
     DisplayService& _service;
     ScreenRegistry& _registry;
     PreferencesStore& _preferences;
+    bool _isActive = false;
 };
 
 }  // namespace tonquil

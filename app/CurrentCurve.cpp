@@ -38,7 +38,7 @@ std::shared_ptr<TQExtendedGammaCurve> CurrentCurve::_currentGammaCurve() {
         values.blendingMode);
 }
 
-void CurrentCurve::_setCurrentGammaCurve(const KVGammaCurve& curve) {
+PanelValues CurrentCurve::valuesOf(const KVGammaCurve& curve) {
     const KVGammaPoint& black = *curve.blackPoint();
     const KVGammaPoint& middle = *curve.middlePoint();
     const KVGammaPoint& white = *curve.whitePoint();
@@ -58,7 +58,11 @@ void CurrentCurve::_setCurrentGammaCurve(const KVGammaCurve& curve) {
         white.blueValue(),
     };
     values.blendingMode = curve.blendingMode();
-    _controls.setValues(values);
+    return values;
+}
+
+void CurrentCurve::_setCurrentGammaCurve(const KVGammaCurve& curve) {
+    _controls.setValues(valuesOf(curve));
     _controls.updateTouchBarSlider();
     // Only for the values that it remembers.
     static_cast<void>(_currentGammaCurve());

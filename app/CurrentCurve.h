@@ -17,6 +17,8 @@ class CurrentCurve {
     [[nodiscard]] std::shared_ptr<TQExtendedGammaCurve> _currentGammaCurve();
     /// Shows a curve in the controls.
     void _setCurrentGammaCurve(const KVGammaCurve& curve);
+    /// What the controls stand at when they show a curve.
+    [[nodiscard]] static PanelValues valuesOf(const KVGammaCurve& curve);
     /// Moves the other two colour sliders of the sender's point as far from their remembered
     /// values as the sender has come from its own. Master sliders are never linked.
     void moveLinkedSliders(PanelSlider sender);

@@ -15,20 +15,34 @@ CurveStorage::CurveStorage(ScreenRegistry& registry, PreferencesStore& preferenc
       _recovery(recovery),
       _runLoop(runLoop),
       _log(std::move(log)),
-      _kept(recovery.leftCurves()) {}
+      _left(recovery.leftCurves()) {}
 
 PropertyValue CurveStorage::storedCurves() const {
     PropertyValue curves = _preferences.dictionaryForKey(settingsKey::screens);
+    curves.update(_left);
     curves.update(_kept);
     return curves;
 }
 
 void CurveStorage::_adoptDefaultCurves() {
+    saveLeftCurves();
     const PropertyValue curves = storedCurves();
     for (const auto& screen : _registry.screens()) {
         screen->retriveExtendedGammaCurve();
     }
     _registry.adoptGammaCurveDictionary(curves, nullptr);
+}
+
+// They belong to the run that crashed, and once stored they are as old as the rest.
+void CurveStorage::saveLeftCurves() {
+    if (_left.empty()) {
+        return;
+    }
+    _preferences.setValue(settingsKey::screens, storedCurves());
+    if (_preferences.synchronize()) {
+        _recovery.forget();
+        _left = PropertyValue::object();
+    }
 }
 
 void CurveStorage::_updateDefaultCurves() {
@@ -52,7 +66,9 @@ void CurveStorage::keepPendingEdits() {
 void CurveStorage::keepCurves() {
     _timer.reset();
     _kept = _registry.gammaCurveDictionaryExtendingDictionary(_kept);
-    const Result<void> kept = _recovery.keep(_kept);
+    PropertyValue all = _left;
+    all.update(_kept);
+    const Result<void> kept = _recovery.keep(all);
     if (!kept && !_hasFailed && _log) {
         _log(kept.error().sentence);
     }
@@ -61,6 +77,8 @@ void CurveStorage::keepCurves() {
 
 void CurveStorage::close() {
     keepPendingEdits();
+    // Another program may have stored curves of other displays, unseen.
+    static_cast<void>(_preferences.synchronize());
     _updateDefaultCurves();
     // As long as the preferences cannot be saved, the other file is all there is.
     if (_preferences.synchronize()) {

@@ -38,6 +38,7 @@ class CurveStorage {
     void close();
 
  private:
+    void saveLeftCurves();
     void keepCurves();
 
     ScreenRegistry& _registry;
@@ -45,8 +46,10 @@ class CurveStorage {
     CurveRecovery& _recovery;
     RunLoop& _runLoop;
     Log _log;
-    /// Edited in this run, or in one that crashed.
-    PropertyValue _kept;
+    /// What a run that crashed has left, until it is stored.
+    PropertyValue _left;
+    /// Edited in this run.
+    PropertyValue _kept = PropertyValue::object();
     std::unique_ptr<RunLoop::Handle> _timer;
     bool _hasFailed = false;
 };

@@ -28,10 +28,10 @@ void EditHistory::willEdit(const ScreenRegistry::Screens& screens, int subject) 
     _isOpen = true;
 }
 
-void EditHistory::step(std::vector<Step>& from, std::vector<Step>& to) {
+bool EditHistory::step(std::vector<Step>& from, std::vector<Step>& to) {
     endStep();
     if (from.empty()) {
-        return;
+        return false;
     }
     Step step = std::move(from.back());
     from.pop_back();
@@ -41,6 +41,7 @@ void EditHistory::step(std::vector<Step>& from, std::vector<Step>& to) {
         screen->setGammaCurve(std::exchange(curve, std::move(present)));
     }
     to.push_back(std::move(step));
+    return true;
 }
 
 }  // namespace tonquil

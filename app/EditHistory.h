@@ -26,16 +26,17 @@ class EditHistory {
 
     [[nodiscard]] bool canUndo() const { return !_undone.empty(); }
     [[nodiscard]] bool canRedo() const { return !_redone.empty(); }
-    /// Gives the screens of the last step the curves back that they had before it.
-    void undo() { step(_undone, _redone); }
+    /// Gives the screens of the last step the curves back that they had before it; false when
+    /// there is none.
+    bool undo() { return step(_undone, _redone); }
     /// The reverse.
-    void redo() { step(_redone, _undone); }
+    bool redo() { return step(_redone, _undone); }
 
  private:
     using Step = std::vector<std::pair<ScreenRegistry::ScreenPointer, KVScreen::CurvePointer>>;
 
     [[nodiscard]] static bool isAbout(const Step& step, const ScreenRegistry::Screens& screens);
-    void step(std::vector<Step>& from, std::vector<Step>& to);
+    bool step(std::vector<Step>& from, std::vector<Step>& to);
 
     std::vector<Step> _undone;
     std::vector<Step> _redone;

@@ -28,6 +28,8 @@ class PanelControls {
     /// Sets sliders, number fields and blending mode. A slider whose range ends before its value
     /// is given the room.
     virtual void setValues(const PanelValues& values) = 0;
+    /// Takes back what was typed into a number field and not committed.
+    virtual void revertTyping() = 0;
     /// Moves one slider, which stays within its range.
     virtual void setSlider(PanelSlider slider, float value) = 0;
     /// Shows no mode where the panel does not know `blendingMode`.

@@ -47,6 +47,7 @@ void PanelFrame::restore() {
     constexpr double grip = 14;
     if (saved &&
         !_service.displaysWithPoint({saved->x + saved->width / 2, saved->y + grip}, 1).empty()) {
+        _isPlaced = true;
         _panel.setFrameOrigin({saved->x, saved->y});
         return;
     }
@@ -54,6 +55,7 @@ void PanelFrame::restore() {
     if (display.isEmpty()) {
         return;
     }
+    _isPlaced = true;
     constexpr double marginX = 32;
     constexpr double marginY = 64;
     const double width = _panel.frame().width;
@@ -62,6 +64,9 @@ void PanelFrame::restore() {
 }
 
 void PanelFrame::save() {
+    if (!_isPlaced) {
+        return;
+    }
     _preferences.setValue(settingsKey::controlWindowFrame, textFrom(_panel.frame()));
 }
 

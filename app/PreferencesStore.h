@@ -38,7 +38,8 @@ class PreferencesStore {
     virtual void registerDefaults(PropertyValue defaults) = 0;
     /// Readable at once. What is set within one event is saved together after it.
     virtual void setValue(std::string_view key, PropertyValue value) = 0;
-    /// Saves now what still waits to be saved, and returns whether all that was set is saved.
+    /// Saves now what still waits to be saved, reads what others have saved, and returns whether
+    /// all that was set is saved.
     virtual bool synchronize() = 0;
 
     /// Calls once after each event that set a value, or in which another program was seen to have

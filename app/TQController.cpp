@@ -121,11 +121,16 @@ void TQController::observeSession() {
 
 void TQController::_changedDefaults() {
     _applyDefaultsToPanel();
-    // Another program may have changed which displays are edited.
-    _setControlsEnabled(_areControlsEnabled);
+    if (_shownAffectsAllScreens != _preferences.boolForKey(settingsKey::affectAllScreens)) {
+        _changeScreen();
+    }
 }
 
+// The switch of the correction is a preference like the others: whoever turns it means it.
 void TQController::_applyDefaultsToPanel() {
+    if (applyCorrection() != _correction.isActive()) {
+        setApplyCorrection(applyCorrection());
+    }
     _panel._setAdvancedPanel(_preferences.boolForKey(settingsKey::advancedPanel));
     _panel._setDarkTheme(_preferences.boolForKey(settingsKey::darkTheme));
     _panel.showChannelStrip(_preferences.boolForKey(settingsKey::channelStrip));
@@ -143,15 +148,16 @@ void TQController::updateScreens() {
     {
         const DisplayBatch batch(_service);
         _registry.updateScreenList();
-        const bool isOn = applyCorrection();
         for (const auto& screen : _registry.screens()) {
             if (!screen->gammaCurve()) {
                 screen->retriveExtendedGammaCurve();
                 screen->adoptGammaCurveDictionary(_storage.storedCurves(), nullptr);
-                screen->setAutoApplyGamma(isOn);
             }
         }
-        _applyCurvesToScreen();
+        _correction.activateScreens();
+    }
+    if (!_panelFrame.isPlaced()) {
+        _panelFrame.restore();
     }
     bringPanelBack();
     _changeScreen();

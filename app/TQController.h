@@ -83,6 +83,10 @@ class TQController final : public PanelActions {
     void _adoptCurrentCurves();
     void _changeScreen();
     void _doneReset();
+    /// Whether each of the screens has a curve of these values already.
+    [[nodiscard]] static bool haveCurve(const ScreenRegistry::Screens& screens,
+                                        const KVGammaCurve& curve);
+    void replaceCurves(int subject);
     void _updateCurveInPanel();
     /// Enables the controls, except where there is nothing that they could change.
     void _setControlsEnabled(bool enabled);
@@ -114,6 +118,7 @@ class TQController final : public PanelActions {
     ReconfigurationObserver _reconfigurations;
 
     std::optional<DisplayID> _displayUnderPanel;
+    bool _shownAffectsAllScreens = false;
     bool _areControlsEnabled = false;
     bool _hasTerminated = false;
     std::unique_ptr<RunLoop::Handle> _resetTimer;

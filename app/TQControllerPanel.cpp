@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What people do in the panel.
+#include <algorithm>
+
 #include "app/SettingsKeys.h"
 #include "app/TQController.h"
 #include "app/TableCapture.h"
@@ -17,32 +19,44 @@ constexpr std::chrono::milliseconds resetPause{500};
 }  // namespace
 
 void TQController::applyGamma(PanelSlider sender, bool isLinked) {
+    // What is edited is what the panel names, whatever has happened to its frame since.
+    panelMoved();
     const DisplayBatch batch(_service);
     if (isLinked) {
         _currentCurve.moveLinkedSliders(sender);
     }
     _controls.updateTouchBarSlider();
-    const auto screens = _currentScreens._currentScreens();
-    _history.willEdit(screens, static_cast<int>(sender));
-    const auto curve = _currentCurve._currentGammaCurve();
-    for (const auto& screen : screens) {
-        screen->setGammaCurve(curve);
-    }
+    replaceCurves(static_cast<int>(sender));
     _updateCurveInPanel();
-    curvesWereEdited();
 }
 
 void TQController::changeBlendingMode() {
     const DisplayBatch batch(_service);
-    const auto screens = _currentScreens._currentScreens();
-    _history.willEdit(screens, blendingModeSubject);
     _history.endStep();
+    replaceCurves(blendingModeSubject);
+    _history.endStep();
+}
+
+void TQController::replaceCurves(int subject) {
+    const auto screens = _currentScreens._currentScreens();
     const auto curve = _currentCurve._currentGammaCurve();
     _controls.selectBlendingMode(curve->blendingMode());
+    // A wheel that turns on at the end of a slider edits nothing.
+    if (haveCurve(screens, *curve)) {
+        return;
+    }
+    _history.willEdit(screens, subject);
     for (const auto& screen : screens) {
         screen->setGammaCurve(curve);
     }
     curvesWereEdited();
+}
+
+bool TQController::haveCurve(const ScreenRegistry::Screens& screens, const KVGammaCurve& curve) {
+    return std::all_of(screens.begin(), screens.end(), [&curve](const auto& screen) {
+        return screen->gammaCurve() &&
+               CurrentCurve::valuesOf(*screen->gammaCurve()) == CurrentCurve::valuesOf(curve);
+    });
 }
 
 // The pause gives the system time to put its calibration back before it is read as the new base.
@@ -74,16 +88,18 @@ void TQController::_adoptCurrentCurves() {
 
 void TQController::undo() {
     const DisplayBatch batch(_service);
-    _history.undo();
-    _updateCurveInPanel();
-    curvesWereEdited();
+    if (_history.undo()) {
+        _updateCurveInPanel();
+        curvesWereEdited();
+    }
 }
 
 void TQController::redo() {
     const DisplayBatch batch(_service);
-    _history.redo();
-    _updateCurveInPanel();
-    curvesWereEdited();
+    if (_history.redo()) {
+        _updateCurveInPanel();
+        curvesWereEdited();
+    }
 }
 
 void TQController::setSelectedTab(int index) {
@@ -117,6 +133,8 @@ void TQController::panelMoved() {
 
 void TQController::_changeScreen() {
     _history.endStep();
+    // What somebody began to type was meant for the display before.
+    _controls.revertTyping();
     _displayUnderPanel = _currentScreens.displayUnderPanel();
     _setControlsEnabled(_areControlsEnabled);
     _updateCurveInPanel();
@@ -125,6 +143,7 @@ void TQController::_changeScreen() {
 void TQController::_setControlsEnabled(bool enabled) {
     _areControlsEnabled = enabled;
     const PanelSubject subject = _currentScreens.subject();
+    _shownAffectsAllScreens = subject.isAllDisplays;
     _controls.showSubject(subject);
     _controls._setControlsEnabled(enabled && subject.obstacle.empty());
 }
@@ -139,6 +158,7 @@ void TQController::_updateCurveInPanel() {
 
 void TQController::curvesWereEdited() {
     _storage.curvesWereEdited();
+    _controls.updatePlot();
     _controls.showUndo(_history.canUndo(), _history.canRedo());
 }
 

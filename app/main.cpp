@@ -2,6 +2,7 @@
 // Puts the program together: the only file that knows which platform is used.
 #include <QApplication>
 #include <QStyleHints>
+#include <algorithm>
 #include <cctype>
 #include <cstdio>
 #include <cstdlib>
@@ -23,6 +24,7 @@
 #include "platform/qt/QtRunLoop.h"
 #include "platform/x11/X11DesktopEvents.h"
 #include "platform/x11/X11WindowSystem.h"
+#include "platform/x11/XcbReply.h"
 #include "platform/xdg/CurveRecoveryFile.h"
 #include "platform/xdg/PropertyListPreferences.h"
 #include "platform/xdg/XdgFolders.h"
@@ -52,17 +54,24 @@ bool hasDesktop() {
     if (!environment("QT_QPA_PLATFORM").empty() || !environment("WAYLAND_DISPLAY").empty()) {
         return true;
     }
-    const auto connection = X11Connection::open(nullptr);
-    if (!connection) {
-        report(connection.error());
+    const std::unique_ptr<xcb_connection_t, DisconnectXcb> connection(
+        xcb_connect(nullptr, nullptr));
+    if (xcb_connection_has_error(connection.get()) == 0) {
+        return true;
     }
-    return connection.has_value();
+    std::string line = "There is no desktop here: no X server answers on \"";
+    line += environment("DISPLAY");
+    line += "\".";
+    log(line);
+    return false;
 }
 
 /// One instance runs for each desktop of a person.
 std::string instanceName() {
     std::string name = "instance-";
-    const std::string display = environment("DISPLAY");
+    std::string display = environment("DISPLAY");
+    // The screen behind the point is another face of the same display.
+    display.erase(std::min(display.find('.', display.rfind(':')), display.size()));
     for (const char c : display.empty() ? environment("WAYLAND_DISPLAY") : display) {
         name += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
     }
@@ -84,7 +93,7 @@ class Program {
  public:
     explicit Program(const XdgFolders& folders)
         : preferences(folders.config() / "preferences.plist", runLoop, log),
-          recovery(folders.state() / "recovery.plist", log),
+          recovery(folders.state() / ("recovery-" + instanceName() + ".plist"), log),
           busEvents(runLoop, log) {
         openDisplays();
         openWindowSystem();
@@ -101,7 +110,11 @@ class Program {
     }
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
-    ~Program() { controllerToSave = nullptr; }
+    /// The panel must not call what goes before it.
+    ~Program() {
+        controllerToSave = nullptr;
+        panel->hide();
+    }
 
     int run(const std::vector<Request>& requests) {
         controllerToSave = controller.get();

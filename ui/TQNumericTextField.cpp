@@ -81,7 +81,8 @@ bool TQNumericTextField::isEditing() const {
 
 void TQNumericTextField::showValue() {
     _shownText = textFor(_value, hasFocus() ? 3 : 2);
-    if (text() == _shownText) {
+    // A text that was typed has its own steps to undo, which setting it takes away.
+    if (text() == _shownText && !isModified()) {
         return;
     }
     // A number that changes while all of it is selected stays ready to be typed over.

@@ -76,6 +76,14 @@ ChannelStrip::ChannelStrip(const PanelSliders& sliders, QWidget* parent)
     // The strip follows the focus and never has it.
     _slider->setFocusPolicy(Qt::NoFocus);
     _slider->setAccessibleName(QCoreApplication::translate("Panel", "Focused value"));
+    setAccessibleName(QCoreApplication::translate("Panel", "Channel strip"));
+    setAccessibleDescription(QCoreApplication::translate(
+        "Panel", "Stands for the slider of the focused control; its picker moves the focus."));
+    _slider->setInteractionChanged([this](const TQSlider& slider) {
+        if (TQSlider* mirrored = mirroredSlider()) {
+            _interactionChanged(*mirrored, slider.isInteracting());
+        }
+    });
     _slider->setAction([this](TQSlider&) { touchBarSliderChanged(); });
     QObject::connect(_minimumValueAccessory, &QToolButton::clicked, this,
                      [this] { stepBy(-TQSlider::alternateIncrement); });

@@ -23,6 +23,10 @@ class ChannelStrip : public QWidget {
 
     /// Called with the slider of the panel that is to take a value of the strip's, after it has.
     void setAction(std::function<void(TQSlider&)> action) { _moved = std::move(action); }
+    /// Called with that slider when the strip's own is taken hold of and let go.
+    void setInteractionChanged(std::function<void(TQSlider&, bool)> changed) {
+        _interactionChanged = std::move(changed);
+    }
     /// Called with the control that is to have the focus.
     void setFocusAction(std::function<void(QWidget&)> action) { _focus = std::move(action); }
     /// Called with the tab that the person picks.
@@ -59,6 +63,7 @@ class ChannelStrip : public QWidget {
     int _tab = 1;
     bool _areControlsEnabled = true;
     std::function<void(TQSlider&)> _moved;
+    std::function<void(TQSlider&, bool)> _interactionChanged;
     std::function<void(QWidget&)> _focus;
     std::function<void(int)> _pickTab;
 };

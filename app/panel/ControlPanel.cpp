@@ -8,7 +8,9 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStackedWidget>
+#include <QStyleHints>
 #include <QToolButton>
+#include <QToolTip>
 #include <QWindow>
 
 #include "app/panel/ChannelStrip.h"
@@ -43,12 +45,12 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     setWindowIcon(programIcon());
     setAttribute(Qt::WA_QuitOnClose, false);
     _appearance.allowsVibrancy = windowSystem.isCompositing();
+    _appearance.options.reduceTransparency = !_appearance.allowsVibrancy;
     setAttribute(Qt::WA_TranslucentBackground, _appearance.allowsVibrancy);
     _plotTimer.setSingleShot(true);
     _plotTimer.setInterval(plotMilliseconds);
     QObject::connect(&_plotTimer, &QTimer::timeout, this, [this] { drawPlot(); });
     _editEndTimer.setSingleShot(true);
-    _editEndTimer.setInterval(editEndMilliseconds);
     QObject::connect(&_editEndTimer, &QTimer::timeout, this, [this] { _actions->endEdit(); });
     _glide.setDuration(glideMilliseconds);
     QObject::connect(&_glide, &QVariantAnimation::valueChanged, this,
@@ -77,6 +79,13 @@ void ControlPanel::connectControls() {
     contents.channelStrip->setTabAction([this](int tab) { pickTab(tab); });
     contents.channelStrip->setFocusAction([this](QWidget& field) { makeFirstResponder(field); });
     contents.channelStrip->setAction([](TQSlider& slider) { slider.sendAction(); });
+    contents.channelStrip->setInteractionChanged([this](TQSlider& slider, bool isHeld) {
+        for (std::size_t index = 0; index < panelSliderCount; ++index) {
+            if (&_contents->sliders.slider(static_cast<PanelSlider>(index)) == &slider) {
+                heldSlider(static_cast<PanelSlider>(index), isHeld);
+            }
+        }
+    });
     contents.titleStrip->setCloseAction([this] { close(); });
     contents.titleStrip->setSubjectAction(
         [this](bool isAll) { _actions->setAffectsAllScreens(isAll); });
@@ -97,6 +106,7 @@ void ControlPanel::connectControls() {
 
 void ControlPanel::setAccessibilityOptions(const AccessibilityOptions& options) {
     _appearance.options = options;
+    _appearance.options.reduceTransparency |= !_appearance.allowsVibrancy;
     setAppearances();
 }
 
@@ -127,7 +137,8 @@ void ControlPanel::updateTouchBarSlider() {
 }
 
 void ControlPanel::_setControlsEnabled(bool enabled) {
-    if (!enabled && focusWidget() != nullptr) {
+    const bool wasEnabled = _contents->blendingModePopUp->isEnabled();
+    if (wasEnabled && !enabled) {
         _focusToReturn = focusWidget();
     }
     _contents->sliders.setEnabled(enabled);
@@ -135,7 +146,7 @@ void ControlPanel::_setControlsEnabled(bool enabled) {
     _contents->blendingModePopUp->setEnabled(enabled);
     _contents->resetButton->setEnabled(enabled);
     _menu.setEditingEnabled(enabled);
-    if (enabled && _focusToReturn) {
+    if (enabled && !wasEnabled && _focusToReturn) {
         _focusToReturn->setFocus();
         _focusToReturn = nullptr;
     }
@@ -178,24 +189,34 @@ void ControlPanel::showUndo(bool canUndo, bool canRedo) {
 
 void ControlPanel::moved(PanelSlider slider) {
     const bool isLinked = QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+    _wasLastEditHeld = _isSliderHeld;
     _actions->applyGamma(slider, isLinked);
-    if (!_contents->sliders.slider(slider).isInteracting()) {
-        _editEndTimer.start();
+    if (!_wasLastEditHeld) {
+        _editEndTimer.start(editEndMilliseconds);
     }
 }
 
 void ControlPanel::heldSlider(PanelSlider slider, bool isHeld) {
+    _isSliderHeld = isHeld;
     if (!isHeld) {
         _contents->plot->setMarkedPoint(std::nullopt);
-        _actions->endEdit();
+        // A second click may make a double-click of it, which is undone as one.
+        _editEndTimer.start(QGuiApplication::styleHints()->mouseDoubleClickInterval());
         return;
+    }
+    _editEndTimer.stop();
+    if (!_wasLastEditHeld) {
+        _actions->endEdit();
     }
     const SliderPlace place = placeOf(slider);
     constexpr std::array points{CurvePlot::CurvePoint::Black, CurvePlot::CurvePoint::Middle,
                                 CurvePlot::CurvePoint::White};
     _contents->plot->setMarkedPoint(
         CurvePlot::MarkedPoint{points.at(static_cast<std::size_t>(place.tab)), place.channel});
-    firstResponderChanged(&_contents->sliders.slider(slider));
+    // Held through the strip, it has the focus already, and so its channel.
+    if (_contents->sliders.slider(slider).isInteracting()) {
+        firstResponderChanged(&_contents->sliders.slider(slider));
+    }
 }
 
 void ControlPanel::pickTab(int tab) {
@@ -244,7 +265,10 @@ void ControlPanel::_setDarkTheme(bool dark) {
     _menu.showForm(_isAdvanced, dark, !_contents->channelStrip->isHidden());
 }
 
+// Lists, tool tips and context menus are windows that only the program's palette reaches.
 void ControlPanel::setAppearances() {
+    QApplication::setPalette(paletteFor(_appearance));
+    QToolTip::setPalette(paletteFor(_appearance));
     setAppearance(*this, _appearance);
     for (QWidget* view : vibrantViews()) {
         setAppearance(*view, _appearance);

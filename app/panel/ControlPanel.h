@@ -36,6 +36,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
 
     [[nodiscard]] PanelValues values() const override;
     void setValues(const PanelValues& values) override;
+    void revertTyping() override { _contents->sliders.revertTyping(); }
     void setSlider(PanelSlider slider, float value) override;
     void selectBlendingMode(std::int32_t blendingMode) override;
     void updateTouchBarSlider() override;
@@ -61,6 +62,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool focusNextPrevChild(bool next) override;
@@ -98,6 +100,9 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     QTimer _plotTimer;
     /// Ends an edit that no button holds: a run of steps, or a typed number.
     QTimer _editEndTimer;
+    /// A slider is held by the pointer, and was at the last edit.
+    bool _isSliderHeld = false;
+    bool _wasLastEditHeld = false;
     QVariantAnimation _glide;
 };
 

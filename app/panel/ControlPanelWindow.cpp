@@ -24,7 +24,7 @@ void ControlPanel::setFrameOrigin(const Point& origin) {
 }
 
 void ControlPanel::makeKeyAndOrderFront() {
-    winId();  // The window must exist to be told what follows.
+    // Asking for the number makes the window, which must exist to be told anything.
     _windowSystem.keepOnAllWorkspaces(winId());
     setAcceptsKeyboard(true);
     show();
@@ -60,8 +60,11 @@ bool ControlPanel::focusNextPrevChild(bool next) {
 }
 
 bool ControlPanel::event(QEvent* event) {
-    if (event->type() == QEvent::WindowDeactivate) {
-        setAcceptsKeyboard(false);
+    // Only while the pointer is on it does the panel refuse the keyboard: a click then leaves it
+    // where it is, and yet the panel can be reached by switching between windows.
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave ||
+        event->type() == QEvent::WindowDeactivate) {
+        setAcceptsKeyboard(isActiveWindow() || event->type() == QEvent::Leave || !underMouse());
     }
     return QWidget::event(event);
 }
@@ -77,6 +80,14 @@ bool ControlPanel::eventFilter(QObject* watched, QEvent* event) {
 
 void ControlPanel::moveEvent(QMoveEvent* event) {
     QWidget::moveEvent(event);
+    if (_actions != nullptr) {
+        _actions->panelMoved();
+    }
+}
+
+void ControlPanel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    // The greater part of it may lie on another display now.
     if (_actions != nullptr) {
         _actions->panelMoved();
     }

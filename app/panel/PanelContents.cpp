@@ -86,7 +86,17 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
     advanced->addWidget(makeBlendingRow());
 
     setFixedWidth(std::max(panelWidth, _compact->minimumSizeHint().width()));
+    nameControls();
     updateIcons();
+}
+
+void PanelContents::nameControls() {
+    gammaTabSelector->setAccessibleName(QCoreApplication::translate("Panel", "Point"));
+    gammaTabSelector->setAccessibleDescription(
+        QCoreApplication::translate("Panel", "Which point of the curve the sliders move."));
+    plot->setAccessibleName(QCoreApplication::translate("Panel", "Transfer curves"));
+    applyCorrectionBox->setAccessibleDescription(QCoreApplication::translate(
+        "Panel", "Whether the displays show their curves or their own calibration."));
 }
 
 QWidget* PanelContents::makeApplyRow() {

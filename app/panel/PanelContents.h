@@ -50,6 +50,7 @@ class PanelContents : public QWidget {
  private:
     [[nodiscard]] QWidget* makeApplyRow();
     [[nodiscard]] QWidget* makeBlendingRow();
+    void nameControls();
     void updateIcons();
 
     QWidget* _compact;

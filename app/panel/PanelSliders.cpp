@@ -41,6 +41,17 @@ constexpr std::array<SliderRange, PanelSliders::tabCount> ranges{
     {{0, 1}, {0.1F, 1.9F}, {0, 1}},
 };
 
+/// While the person drags, the range stays: under the pointer it would run away.
+void fitRange(TQSlider& slider, const SliderRange& range, float value) {
+    float minimum = std::min(range.minimum, value);
+    float maximum = std::max(range.maximum, value);
+    if (slider.isInteracting()) {
+        minimum = std::min(minimum, slider.minValue());
+        maximum = std::max(maximum, slider.maxValue());
+    }
+    slider.setRange(minimum, maximum);
+}
+
 PanelSlider sliderAt(std::size_t index) {
     return static_cast<PanelSlider>(index);
 }
@@ -183,14 +194,22 @@ PanelValues PanelSliders::values() const {
 void PanelSliders::setValues(const PanelValues& values) {
     for (std::size_t index = 0; index < panelSliderCount; ++index) {
         const Row& row = _rows.at(index);
-        const float value = values.sliders.at(index);
-        if (!std::isfinite(value)) {
-            continue;
-        }
-        const SliderRange& range = ranges.at(static_cast<std::size_t>(places.at(index).tab));
-        row.slider->setRange(std::min(range.minimum, value), std::max(range.maximum, value));
+        const float wanted = values.sliders.at(index);
+        const float value = std::isfinite(wanted) ? wanted : row.slider->neutralValue();
+        const bool changes = value != row.slider->floatValue();
+        fitRange(*row.slider, ranges.at(static_cast<std::size_t>(places.at(index).tab)), value);
         row.slider->setFloatValue(value);
-        row.field->takeFloatValueFrom(*row.slider);
+        if (changes) {
+            row.field->setFloatValue(value);
+        } else {
+            row.field->takeFloatValueFrom(*row.slider);
+        }
+    }
+}
+
+void PanelSliders::revertTyping() {
+    for (const Row& row : _rows) {
+        row.field->revert();
     }
 }
 

@@ -50,8 +50,10 @@ class PanelSliders {
     [[nodiscard]] TQSlider* visibleSliderForChannel(Channel channel) const;
 
     [[nodiscard]] PanelValues values() const;
-    /// Sets sliders and fields. The range of a slider whose value lies beyond it grows to hold it.
+    /// Sets sliders and fields; what is being typed gives way where the value changes. The range
+    /// of a slider whose value lies beyond it grows to hold it. What is no number shows as neutral.
     void setValues(const PanelValues& values);
+    void revertTyping();
     void setEnabled(bool enabled);
     /// Called with the slider that the person moved.
     void setAction(const std::function<void(PanelSlider)>& action);

@@ -2,6 +2,10 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOption>
+
+#include "ui/Drawing.h"
+#include "ui/Theme.h"
 
 namespace tonquil {
 
@@ -14,6 +18,16 @@ class QuietStyle : public QProxyStyle {
                                 QStyleHintReturn* data) const override {
         // What is disabled is fainter, which a shadow below its text would undo.
         return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        if (element != PE_FrameFocusRect || widget == nullptr) {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+            return;
+        }
+        constexpr double ringWidth = 2;
+        drawRoundedFrame(*painter, option->rect, fieldRadius, ringWidth,
+                         themeOf(*widget).focusRing);
     }
 };
 

@@ -203,6 +203,9 @@ bool PropertyListPreferences::synchronize() {
         watchFolder();
         const auto held = lockWithinLimit();
         save();
+    } else {
+        // A network's file systems tell nothing of what others write.
+        take(_file.read());
     }
     return _unsaved.empty() && _refused.empty();
 }

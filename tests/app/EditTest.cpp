@@ -41,6 +41,12 @@ TEST(Edit, GoesToTheDisplayUnderThePanelOrToAll) {
     bench.edit(PanelSlider::MasterBlack, 0.125F);
     EXPECT_EQ(bench.panel.subject.title, "All displays");
     EXPECT_EQ(bench.firstEntry(left), bench.firstEntry(right));
+
+    // Another program takes it back: the panel shows what it edits from now on.
+    bench.panel.place.x = 900;
+    bench.preferences.setValue("AffectAllScreens", false);
+    bench.loop.runPosted();
+    EXPECT_EQ(bench.panel.subject.title, "DP-2");
 }
 
 TEST(Edit, LinksTheColoursOfAPointByTheDistanceTravelled) {
@@ -103,6 +109,27 @@ TEST(Edit, IsUndoneAndRedoneByDragAndByControl) {
     EXPECT_EQ(bench.firstEntry(left), first);
 }
 
+TEST(Edit, GoesWhereThePanelIsEvenIfNobodyToldThatItMoved) {
+    ControllerBench bench;
+    bench.launchAndSettle();
+    bench.edit(PanelSlider::BlackRed, 0.25F);
+    bench.panel.place.x = 1100;  // Grown over the edge, say.
+    bench.edit(PanelSlider::BlackGreen, 0.5F);
+    EXPECT_EQ(bench.panel.subject.title, "DP-2");
+    EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0) << "Not what the left display had.";
+}
+
+TEST(Edit, ThatChangesNothingIsNoStep) {
+    ControllerBench bench;
+    bench.launchAndSettle();
+    bench.edit(PanelSlider::BlackRed, 0.25F);
+    bench.controller().undo();
+    bench.edit(PanelSlider::WhiteRed, 1);
+    EXPECT_FALSE(bench.panel.canUndo);
+    bench.controller().redo();
+    EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.25F);
+}
+
 TEST(Edit, OfADisplayThatIsUnpluggedIsNotLost) {
     ControllerBench bench;
     bench.launchAndSettle();
@@ -139,6 +166,37 @@ TEST(Correction, OffGivesTheDisplaysBackAtOnceAndOnTakesThemAgain) {
     bench.loop.runPosted();
     EXPECT_EQ(bench.firstEntry(left), edited);
     EXPECT_THAT(bench.journal, Contains("every 3000 ms"));
+}
+
+TEST(Correction, TurnedByAnotherProgramIsTurnedHere) {
+    ControllerBench bench;
+    bench.launchAndSettle();
+    const int neutral = bench.firstEntry(left);
+    bench.edit(PanelSlider::BlackRed, 0.25F);
+    const int edited = bench.firstEntry(left);
+    bench.preferences.setValue("ApplyCorrection", false);
+    bench.loop.runPosted();
+    EXPECT_EQ(bench.firstEntry(left), neutral);
+    EXPECT_FALSE(bench.panel.correction);
+    bench.preferences.setValue("ApplyCorrection", true);
+    bench.loop.runPosted();
+    EXPECT_EQ(bench.firstEntry(left), edited);
+    EXPECT_TRUE(bench.panel.correction);
+}
+
+TEST(Correction, TurnedWhileADisplayIsAwayHoldsForItToo) {
+    ControllerBench bench;
+    bench.launchAndSettle();
+    bench.panel.place.x = 1100;
+    bench.controller().panelMoved();
+    bench.edit(PanelSlider::BlackRed, 0.25F);
+    bench.desk.unplug(right);
+    bench.controller().setApplyCorrection(false);
+    bench.desk.plug(ControllerBench::makeDisplay(right, 1000));
+    bench.panel.place.x = 1100;
+    const int neutral = bench.firstEntry(right);
+    bench.edit(PanelSlider::BlackRed, 0.5F);
+    EXPECT_EQ(bench.firstEntry(right), neutral);
 }
 
 TEST(Correction, IsPutBackAfterWhateverDisturbsIt) {

@@ -66,6 +66,19 @@ TEST(Launch, PutsThePanelBackWhereADisplayStillIs) {
     }
 }
 
+TEST(Launch, WithoutADisplayTheSavedPlaceIsKeptForTheFirstThatComes) {
+    ControllerBench bench;
+    bench.preferences.stored = {{"Window Frame ControlWindow", "1200 50 320 132"}};
+    bench.desk.unplug(ControllerBench::left);
+    bench.desk.unplug(ControllerBench::right);
+    bench.launchAndSettle();
+    bench.controller().applicationWillTerminate();
+    EXPECT_EQ(bench.preferences.stored["Window Frame ControlWindow"], "1200 50 320 132");
+    bench.launchAndSettle();
+    bench.desk.plug(ControllerBench::makeDisplay(ControllerBench::right, 1000));
+    EXPECT_EQ(bench.panel.place.x, 1200);
+}
+
 TEST(Launch, FindsTheCurvesOfTheRunBefore) {
     ControllerBench bench;
     bench.launchAndSettle();
@@ -92,6 +105,8 @@ TEST(Launch, AdoptsWhatACrashHasLeftOverWhatIsStored) {
     bench.loop.advance(std::chrono::seconds(1));
     bench.launchAndSettle();  // The program before ended without a word.
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.5F);
+    EXPECT_THAT(bench.recovery.left, IsEmpty()) << "It is stored now.";
+    bench.edit(PanelSlider::BlackRed, 0.75F);
     bench.preferences.isWritable = false;
     bench.controller().applicationWillTerminate();
     EXPECT_FALSE(bench.recovery.left.empty()) << "It was all there was.";

@@ -140,7 +140,9 @@ void Desk::drag(int row, double end) const {
     const int from = place.x + place.width * 2 / 5;
     const int to = place.x + static_cast<int>(place.width * end);
     const std::string y = std::to_string(place.y + row);
-    std::vector<std::string> moves{"mousemove", std::to_string(from), y, "mousedown", "1"};
+    // A hand takes a moment between coming to the panel and pressing.
+    std::vector<std::string> moves{"mousemove", std::to_string(from), y,  "sleep",
+                                   "0.1",       "mousedown",          "1"};
     for (int x = from; x != to; x += to > from ? 1 : -1) {
         moves.insert(moves.end(), {"mousemove", std::to_string(x), y});
     }
@@ -161,7 +163,8 @@ std::filesystem::path Desk::preferencesFile() const {
 }
 
 std::filesystem::path Desk::recoveryFile() const {
-    return _folder.path() / "state/tonquil/recovery.plist";
+    return _folder.path() /
+           ("state/tonquil/recovery-instance-_" + _server->display().substr(1) + ".plist");
 }
 
 PropertyValue Desk::preferences() const {
