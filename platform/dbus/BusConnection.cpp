@@ -56,7 +56,6 @@ void BusConnection::open(std::function<void()> opened) {
             std::string text = "cannot be reached, so what it tells is left out: ";
             report(text.append(obstacle).append("."));
         }
-        _probe.reset();
     });
 }
 

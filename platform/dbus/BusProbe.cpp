@@ -5,12 +5,12 @@
 #include <sys/un.h>
 
 #include <QStringList>
-#include <QTimer>
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -57,43 +57,47 @@ std::optional<SocketAddress> socketAddress(const QString& address) {
 }  // namespace
 
 BusProbe::BusProbe(const QString& address, Call call) : _call(std::move(call)) {
-    ask(address);
-    const bool isAsked = _answer != nullptr;
-    QTimer::singleShot(isAsked ? 5s : 0s, &_context, [this, isAsked, error = errno] {
-        finish(isAsked ? "it does not answer" : std::generic_category().message(error));
-    });
+    const bool isAsked = ask(address);
+    const std::string obstacle =
+        isAsked ? "it does not answer" : std::generic_category().message(errno);
+    _limit.setSingleShot(true);
+    QObject::connect(&_limit, &QTimer::timeout, &_limit, [this, obstacle] { finish(obstacle); });
+    _limit.start(isAsked ? 5s : 0s);
 }
 
-void BusProbe::ask(const QString& address) {
+bool BusProbe::ask(const QString& address) {
     const auto name = socketAddress(address);
     if (!name) {
         errno = EAFNOSUPPORT;
-        return;
+        return false;
     }
     _socket = FileHandle(socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    // The bus answers this with what kinds of authentication there are.
-    constexpr std::string_view question("\0AUTH\r\n", 7);
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what the system asks for.
-    if (connect(_socket.get(), reinterpret_cast<const sockaddr*>(&name->name), name->size) != 0 ||
+    const auto* const generic = reinterpret_cast<const sockaddr*>(&name->name);
+    // A bus answers this with the kinds of authentication it takes.
+    constexpr std::string_view question("\0AUTH\r\n", 7);
+    if (connect(_socket.get(), generic, name->size) != 0 ||
         send(_socket.get(), question.data(), question.size(), MSG_NOSIGNAL) < 0) {
-        return;
+        return false;
     }
     _answer = std::make_unique<QSocketNotifier>(_socket.get(), QSocketNotifier::Read);
-    QObject::connect(_answer.get(), &QSocketNotifier::activated, &_context, [this] {
-        char letter = 0;
-        const bool isAnswered = recv(_socket.get(), &letter, 1, 0) == 1;
-        _answer->setEnabled(false);
-        // Not from within the notifier's own event, which the call may destroy.
-        QTimer::singleShot(0, &_context, [this, isAnswered] {
-            finish(isAnswered ? std::string() : "it does not take connections");
-        });
-    });
+    QObject::connect(_answer.get(), &QSocketNotifier::activated, &_limit, [this] { takeAnswer(); });
+    return true;
+}
+
+void BusProbe::takeAnswer() {
+    char letter = 0;
+    const bool isAnswered = recv(_socket.get(), &letter, 1, 0) == 1;
+    finish(isAnswered ? "" : "it does not take connections");
 }
 
 void BusProbe::finish(const std::string& obstacle) {
-    if (const Call call = std::exchange(_call, nullptr)) {
-        call(obstacle);
+    _limit.stop();
+    if (_answer) {
+        _answer->setEnabled(false);
     }
+    _socket = FileHandle();
+    _call(obstacle);
 }
 
 }  // namespace tonquil

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
 #include <QSocketNotifier>
 #include <QString>
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <string>
@@ -20,19 +20,20 @@ class BusProbe {
     using Call = std::function<void(const std::string& obstacle)>;
 
     /// `address` as the bus library takes it; only those of UNIX sockets are understood. Calls
-    /// once, from Qt's event loop and within 5 s, unless it is destroyed first; the call may
+    /// once, from Qt's event loop and within 5 s, unless it is destroyed before; the call must not
     /// destroy it.
     BusProbe(const QString& address, Call call);
 
  private:
-    void ask(const QString& address);
+    /// False with the reason in errno.
+    [[nodiscard]] bool ask(const QString& address);
+    void takeAnswer();
     void finish(const std::string& obstacle);
 
     Call _call;
     FileHandle _socket;
+    QTimer _limit;
     std::unique_ptr<QSocketNotifier> _answer;
-    /// Receives what is posted and timed.
-    QObject _context;
 };
 
 }  // namespace tonquil

@@ -17,8 +17,7 @@ class BusSignalReceiver final : public QObject {
 
     BusSignalReceiver(Call call, QObject* owner) : QObject(owner), _call(std::move(call)) {}
 
- public Q_SLOTS:
-    void take(const QDBusMessage& message) { _call(message.arguments()); }
+    Q_SLOT void take(const QDBusMessage& message) { _call(message.arguments()); }
 
  private:
     Call _call;

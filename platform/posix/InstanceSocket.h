@@ -34,7 +34,6 @@ class InstanceSocket {
     using Handler = std::function<std::string(std::string request)>;
 
     /// The largest request and the largest answer, in bytes.
-    /// The largest request and the largest answer, in bytes.
     static constexpr std::size_t mostBytes = std::size_t{64} * 1024;
     /// How long a start waits for the answer of the instance that runs.
     static constexpr std::chrono::milliseconds answerTime = std::chrono::seconds(5);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QtRunLoop.h"
 
-#include <QMetaObject>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QPointer>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -56,24 +57,46 @@ std::unique_ptr<RunLoop::Handle> startTimer(QObject& context, milliseconds time,
     return std::make_unique<SourceHandle<QTimer>>(timer);
 }
 
+// Qt owns it, runs them in their order, and drops those of an object that has gone.
+class PostedCall final : public QEvent {
+ public:
+    explicit PostedCall(RunLoop::Call call) : QEvent(QEvent::User), _call(std::move(call)) {}
+    void run() const { _call(); }
+
+ private:
+    RunLoop::Call _call;
+};
+
+class Context final : public QObject {
+    bool event(QEvent* event) override {
+        if (const auto* const posted = dynamic_cast<PostedCall*>(event)) {
+            posted->run();
+            return true;
+        }
+        return QObject::event(event);
+    }
+};
+
 }  // namespace
 
+QtRunLoop::QtRunLoop() : _context(std::make_unique<Context>()) {}
+
 std::unique_ptr<RunLoop::Handle> QtRunLoop::callOnce(milliseconds delay, Call call) {
-    return startTimer(_context, std::max(delay, milliseconds(0)), true, std::move(call));
+    return startTimer(*_context, std::max(delay, milliseconds(0)), true, std::move(call));
 }
 
 std::unique_ptr<RunLoop::Handle> QtRunLoop::callRepeatedly(milliseconds interval, Call call) {
-    return startTimer(_context, std::max(interval, milliseconds(1)), false, std::move(call));
+    return startTimer(*_context, std::max(interval, milliseconds(1)), false, std::move(call));
 }
 
 std::unique_ptr<RunLoop::Handle> QtRunLoop::watchReadable(int descriptor, Call call) {
-    auto* const notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, &_context);
-    QObject::connect(notifier, &QSocketNotifier::activated, &_context, std::move(call));
+    auto* const notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, _context.get());
+    QObject::connect(notifier, &QSocketNotifier::activated, _context.get(), std::move(call));
     return std::make_unique<SourceHandle<QSocketNotifier>>(notifier);
 }
 
 void QtRunLoop::post(Call call) {
-    QMetaObject::invokeMethod(&_context, std::move(call), Qt::QueuedConnection);
+    QCoreApplication::postEvent(_context.get(), new PostedCall(std::move(call)));
 }
 
 }  // namespace tonquil

@@ -18,7 +18,7 @@ namespace tonquil {
 /// below 1 ms as 1 ms, and either beyond 24 days as 24 days.
 class QtRunLoop final : public RunLoop {
  public:
-    QtRunLoop() = default;
+    QtRunLoop();
 
     [[nodiscard]] Clock::time_point now() const override { return Clock::now(); }
     [[nodiscard]] std::unique_ptr<Handle> callOnce(std::chrono::milliseconds delay,
@@ -31,7 +31,7 @@ class QtRunLoop final : public RunLoop {
 
  private:
     /// Owns all timers and notifiers, and receives what is posted.
-    QObject _context;
+    std::unique_ptr<QObject> _context;
 };
 
 }  // namespace tonquil

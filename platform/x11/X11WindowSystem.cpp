@@ -27,9 +27,11 @@ std::string compositorName(const X11Connection& connection) {
 }  // namespace
 
 Result<std::unique_ptr<X11WindowSystem>> X11WindowSystem::open(const char* display) {
-    return X11Connection::open(display).map([](std::unique_ptr<X11Connection> connection) {
-        return std::unique_ptr<X11WindowSystem>(new X11WindowSystem(std::move(connection)));
-    });
+    auto connection = X11Connection::open(display);
+    if (!connection) {
+        return tl::unexpected(connection.error());
+    }
+    return std::unique_ptr<X11WindowSystem>(new X11WindowSystem(std::move(*connection)));
 }
 
 X11WindowSystem::X11WindowSystem(std::unique_ptr<X11Connection> connection)
@@ -38,7 +40,7 @@ X11WindowSystem::X11WindowSystem(std::unique_ptr<X11Connection> connection)
       _state(_connection->atom("_NET_WM_STATE")),
       _skipTaskbar(_connection->atom("_NET_WM_STATE_SKIP_TASKBAR")),
       _skipPager(_connection->atom("_NET_WM_STATE_SKIP_PAGER")),
-      _managed(_connection->atom("WM_STATE")),
+      _managerState(_connection->atom("WM_STATE")),
       _managerCheck(_connection->atom("_NET_SUPPORTING_WM_CHECK")),
       _compositor(_connection->atom(compositorName(*_connection))) {}
 
@@ -80,14 +82,9 @@ bool X11WindowSystem::hasWindowManager() const {
 }
 
 bool X11WindowSystem::isManaged(xcb_window_t window) const {
-    const XcbPointer<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
-        _connection->get(), xcb_get_window_attributes(_connection->get(), window), nullptr));
-    if (reply && reply->map_state != XCB_MAP_STATE_UNMAPPED) {
-        return true;
-    }
-    // A minimised window is unmapped, and yet the manager has not let go of it.
+    // The manager's own mark. A minimised window has it too, although it is unmapped.
     constexpr std::uint32_t withdrawn = 0;
-    const auto state = property(window, _managed);
+    const auto state = property(window, _managerState);
     return !state.empty() && state.front() != withdrawn;
 }
 

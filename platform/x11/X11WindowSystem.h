@@ -13,8 +13,8 @@ namespace tonquil {
 
 /// Asks an X11 window manager by the conventions that all of them share (EWMH).
 ///
-/// A window that is shown, or minimised, is changed by a message to the window manager; the
-/// properties of any other are set, for the window manager to read when it is shown.
+/// A window that a window manager looks after, shown or minimised, is changed by a message to it;
+/// the properties of any other are set, for a window manager to read when it takes the window on.
 class X11WindowSystem final : public WindowSystem {
  public:
     /// Connects to `display` as X11Connection::open does.
@@ -40,7 +40,7 @@ class X11WindowSystem final : public WindowSystem {
     xcb_atom_t _state;
     xcb_atom_t _skipTaskbar;
     xcb_atom_t _skipPager;
-    xcb_atom_t _managed;
+    xcb_atom_t _managerState;
     xcb_atom_t _managerCheck;
     xcb_atom_t _compositor;
 };

@@ -127,7 +127,8 @@ TEST_F(BusEvents, EveryDesktopsScreenSaverAndEverySignalOfTheColourServiceIsTold
 
 TEST_F(BusEvents, NamesThatLeaveTheBusWithinAMomentAreOneEvent) {
     start();
-    // A client without a name of its own comes and goes.
+    // A name appears; a client without a name of its own comes and goes.
+    session->serve("org.example.New", "/new", {});
     EXPECT_TRUE(run({.command = {"dbus-send", "--session", "/a", "a.b.c"}}).value().succeeded());
     markSession();
     loop.advance(1s);

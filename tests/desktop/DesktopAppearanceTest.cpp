@@ -24,7 +24,8 @@ TEST(DesktopAppearances, WhatThePortalSaysIsToldOnceAndFollowed) {
         {QStringLiteral("org.freedesktop.appearance"),
          {{QStringLiteral("contrast"), 1U}, {QStringLiteral("color-scheme"), 2U}}},
         {QStringLiteral("org.gnome.desktop.interface"),
-         {{QStringLiteral("enable-animations"), false}, {QStringLiteral("contrast"), 0U}}}};
+         {{QStringLiteral("enable-animations"), false}, {QStringLiteral("contrast"), 0U}}},
+        {QStringLiteral("org.gnome.other"), {{QStringLiteral("enable-animations"), true}}}};
     session.serve("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
                   {{QStringLiteral("ReadAll"),
                     [&](const QVariantList&) { return QVariant::fromValue(groups); }}});

@@ -26,6 +26,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
+const std::string wholeRequest = std::string("TQL1show").append(1, '\0');
 constexpr int ownerStatus = 10;
 constexpr int handedOverStatus = 20;
 
@@ -125,7 +126,7 @@ TEST_F(InstanceSockets, TheSocketOfAKilledInstanceIsTakenOver) {
         alarm(30);
         const auto first = claim();
         raise(SIGSTOP);
-        _exit(1);
+        _exit(first ? 1 : 2);
     }
     ASSERT_EQ(waitpid(child, nullptr, WUNTRACED), child);
     EXPECT_EQ(claim().value(), nullptr);
@@ -150,7 +151,7 @@ TEST_F(InstanceSockets, WhatIsNoRequestIsRefused) {
     const std::map<std::string, std::string> rows{
         {"garbage", "GET / HTTP/1.0\r\n\r\n"},
         {"too much", std::string("TQL1").append(InstanceSocket::mostBytes + 1, 'x')},
-        {"two requests", std::string("TQL1show\0TQL1show", 17)},
+        {"two requests", wholeRequest + "TQL1"},
         {"half a request", "TQL1sh"},
         {"nothing", ""}};
     for (const auto& [what, bytes] : rows) {
@@ -179,7 +180,7 @@ TEST_F(InstanceSockets, SilentClientsHoldNothingUpAndAreDropped) {
     EXPECT_EQ(handOver("one more").value(), "heard one more");
     silent.push_back(sendRaw(""));
     // With eight at once, the ninth waits its turn.
-    const auto waiting = sendRaw(std::string("TQL1show", 9));
+    const auto waiting = sendRaw(wholeRequest);
     pollAll();
     EXPECT_EQ(requests.size(), 1U);
     loop.advance(InstanceSocket::requestTime);
@@ -211,7 +212,7 @@ TEST_F(InstanceSockets, AnotherUsersProgramIsRefused) {
     }
     const pid_t child = fork();
     if (child == 0) {
-        _exit(setuid(65534) == 0 && sendRaw(std::string("TQL1show", 9)).get() >= 0 ? 0 : 1);
+        _exit(setuid(65534) == 0 && sendRaw(wholeRequest).get() >= 0 ? 0 : 1);
     }
     int status = -1;
     ASSERT_EQ(waitpid(child, &status, 0), child);

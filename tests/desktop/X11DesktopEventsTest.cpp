@@ -61,10 +61,13 @@ TEST_F(X11Desktops, WindowsThatGoWithinAMomentAreOneEventAndNewOnesNone) {
     loop.advance(1s);
     EXPECT_THAT(told, ElementsAre());
     setWindows({5, 4, 3, 2});
-    setWindows({6, 5, 4, 2});
     poll();
     loop.advance(X11DesktopEvents::coalescingTime - 1ms);
     EXPECT_THAT(told, ElementsAre());
+    setWindows({6, 5, 4, 2});
+    poll();
+    loop.advance(1ms);
+    EXPECT_EQ(told.size(), 1U) << "however often the list changes";
     loop.advance(1s);
     EXPECT_THAT(told, ElementsAre(SessionEvent::ApplicationTerminated));
     setWindows({});
