@@ -30,14 +30,15 @@ declare -A arrows=(
     [platform/choice]="foundation files screens platform/simulated platform/x11"
     [platform/missing]="app screens"
     [ui]=""
-    [app]="foundation values model screens"
+    [targets]="ui"
+    [app]="foundation values files plist model screens settings"
     [app/panel]="app model screens ui"
     [cli]="foundation values files model screens settings"
 )
 # Where programs are composed: the only files that may know which platform is used.
 composers=" cli/main.cpp app/main.cpp "
 # Where windows and the toolkit's own services are.
-qt_folders=" ui app/panel platform/qt platform/dbus "
+qt_folders=" ui targets app/panel platform/qt platform/dbus "
 
 breaches=0
 breach() {
