@@ -50,6 +50,17 @@ void CurveStorage::_updateDefaultCurves() {
                           _registry.gammaCurveDictionaryExtendingDictionary(storedCurves()));
 }
 
+// What is kept beside would otherwise have the last word.
+void CurveStorage::storeCurves(const PropertyValue& curves) {
+    PropertyValue all = storedCurves();
+    all.update(curves);
+    for (const auto& [key, curve] : curves.items()) {
+        _left.erase(key);
+        _kept.erase(key);
+    }
+    _preferences.setValue(settingsKey::screens, std::move(all));
+}
+
 void CurveStorage::curvesWereEdited() {
     // Not put off by the edits of a long drag: the first one counts.
     if (!_timer) {

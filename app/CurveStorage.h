@@ -30,6 +30,8 @@ class CurveStorage {
     /// Writes the displays' curves into the preferences. Those stored for displays that are not
     /// attached now stay.
     void _updateDefaultCurves();
+    /// Lays the curves of an opened file over those that are stored.
+    void storeCurves(const PropertyValue& curves);
     /// To be called after each edit.
     void curvesWereEdited();
     /// Puts edits on the disk that wait for it. To be called before displays may leave the list.

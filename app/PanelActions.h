@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
+#include <vector>
 
 #include "app/PanelValues.h"
 #include "model/GammaTable.h"
@@ -44,6 +46,11 @@ class PanelActions {
     virtual void panelMoved() = 0;
     /// Nothing where there is no display to show.
     [[nodiscard]] virtual std::optional<PlottedCurves> plottedCurves() = 0;
+    virtual void loadGamma() = 0;
+    virtual void saveGamma() = 0;
+    virtual void openFile(const std::filesystem::path& file) = 0;
+    /// The settings files to offer, newest first.
+    [[nodiscard]] virtual std::vector<std::filesystem::path> recentFiles() const = 0;
     virtual void quit() = 0;
 };
 

@@ -22,6 +22,19 @@ std::string PreferencesStore::stringForKey(std::string_view key) const {
     return value != nullptr && value->is_string() ? value->get<std::string>() : std::string();
 }
 
+std::vector<std::string> PreferencesStore::stringsForKey(std::string_view key) const {
+    std::vector<std::string> strings;
+    const PropertyValue* value = valueForKey(key);
+    if (value != nullptr && value->is_array()) {
+        for (const PropertyValue& each : *value) {
+            if (each.is_string()) {
+                strings.push_back(each.get<std::string>());
+            }
+        }
+    }
+    return strings;
+}
+
 PropertyValue PreferencesStore::dictionaryForKey(std::string_view key) const {
     const PropertyValue* value = valueForKey(key);
     return value != nullptr && value->is_object() ? *value : PropertyValue::object();

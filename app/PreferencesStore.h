@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "values/PropertyValue.h"
 
@@ -30,6 +31,8 @@ class PreferencesStore {
     [[nodiscard]] float floatForKey(std::string_view key) const;
     /// Empty where the value is missing or is no text.
     [[nodiscard]] std::string stringForKey(std::string_view key) const;
+    /// The strings of an array; empty where the value is missing or is none.
+    [[nodiscard]] std::vector<std::string> stringsForKey(std::string_view key) const;
     /// An empty dictionary where the value is missing or is none.
     [[nodiscard]] PropertyValue dictionaryForKey(std::string_view key) const;
 

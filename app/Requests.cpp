@@ -11,20 +11,22 @@ namespace tonquil {
 namespace {
 
 struct RequestName {
-    Request request;
+    Request::Kind kind;
     /// As an option; between processes without the dashes.
     std::string_view option;
     std::string_view help;
 };
 
 constexpr std::array<RequestName, 6> requestNames{{
-    {Request::Reopen, "--reopen", ""},
-    {Request::Toggle, "--toggle", "switch the correction on or off"},
-    {Request::On, "--on", "switch the correction on"},
-    {Request::Off, "--off", "switch it off: the displays' own calibration returns"},
-    {Request::ShowPanel, "--show-panel", "show the panel"},
-    {Request::Quit, "--quit", "end the program that runs; the correction stays"},
+    {Request::Kind::Reopen, "--reopen", ""},
+    {Request::Kind::Toggle, "--toggle", "switch the correction on or off"},
+    {Request::Kind::On, "--on", "switch the correction on"},
+    {Request::Kind::Off, "--off", "switch it off: the displays' own calibration returns"},
+    {Request::Kind::ShowPanel, "--show-panel", "show the panel"},
+    {Request::Kind::Quit, "--quit", "end the program that runs; the correction stays"},
 }};
+/// Followed by the name of a file.
+constexpr std::string_view openWord = "open ";
 
 std::string_view withoutDashes(const RequestName& name) {
     return name.option.substr(2);
@@ -34,6 +36,43 @@ const RequestName* findName(std::string_view word) {
     const auto* found = std::find_if(requestNames.begin(), requestNames.end(),
                                      [=](const auto& name) { return withoutDashes(name) == word; });
     return found == requestNames.end() ? nullptr : found;
+}
+
+constexpr std::string_view escapedLineEnd = "%n";
+constexpr std::string_view escapedPercent = "%p";
+
+/// A file's name may hold what ends a request.
+std::string escaped(std::string_view name) {
+    std::string text;
+    for (const char c : name) {
+        if (c == '\n') {
+            text += escapedLineEnd;
+        } else if (c == '%') {
+            text += escapedPercent;
+        } else {
+            text += c;
+        }
+    }
+    return text;
+}
+
+std::string unescaped(std::string_view text) {
+    std::string name;
+    while (!text.empty()) {
+        if (text.starts_with(escapedLineEnd) || text.starts_with(escapedPercent)) {
+            name += text.starts_with(escapedLineEnd) ? '\n' : '%';
+            text.remove_prefix(escapedPercent.size());
+        } else {
+            name += text.front();
+            text.remove_prefix(1);
+        }
+    }
+    return name;
+}
+
+Request openRequest(std::string_view name) {
+    std::error_code unknown;
+    return {.kind = Request::Kind::Open, .file = std::filesystem::absolute(name, unknown)};
 }
 
 tl::unexpected<Problem> unknown(std::string_view what) {
@@ -56,24 +95,27 @@ Result<CommandLine> readCommandLine(std::span<const char* const> arguments) {
         } else if (argument == "-session") {
             // A session manager starts programs so, with its own name for them.
             ++index;
+        } else if (!argument.starts_with('-')) {
+            line.requests.push_back(openRequest(argument));
         } else if (const RequestName* name =
                        argument.starts_with("--") ? findName(argument.substr(2)) : nullptr) {
-            line.requests.push_back(name->request);
+            line.requests.push_back({.kind = name->kind});
         } else {
             return unknown(argument);
         }
     }
     if (line.requests.empty()) {
-        line.requests.push_back(Request::Reopen);
+        line.requests.emplace_back();
     }
     return line;
 }
 
 std::string commandLineHelp() {
     std::string text =
-        "Usage: tonquil [OPTION]...\n"
+        "Usage: tonquil [OPTION]... [FILE]...\n"
         "Correct the tone and colour of every display.\n\n"
-        "Started while it runs, the program passes the options on to the one that runs:\n\n";
+        "Files of settings are opened. Started while it runs, the program passes files and\n"
+        "options on to the one that runs:\n\n";
     constexpr std::size_t column = 16;
     const auto addOption = [&text](std::string_view option, std::string_view help) {
         text += "  ";
@@ -97,11 +139,16 @@ std::string commandLineHelp() {
 
 std::string textFromRequests(const std::vector<Request>& requests) {
     std::string text;
-    for (const Request request : requests) {
-        const auto* name =
-            std::find_if(requestNames.begin(), requestNames.end(),
-                         [=](const auto& candidate) { return candidate.request == request; });
-        text += withoutDashes(*name);
+    for (const Request& request : requests) {
+        if (request.kind == Request::Kind::Open) {
+            text += openWord;
+            text += escaped(request.file.native());
+        } else {
+            const auto* name =
+                std::find_if(requestNames.begin(), requestNames.end(),
+                             [&](const auto& candidate) { return candidate.kind == request.kind; });
+            text += withoutDashes(*name);
+        }
         text += '\n';
     }
     return text;
@@ -111,35 +158,40 @@ Result<std::vector<Request>> requestsFromText(std::string_view text) {
     std::vector<Request> requests;
     while (!text.empty()) {
         const std::string_view word = text.substr(0, text.find('\n'));
-        const RequestName* name = findName(word);
-        if (name == nullptr) {
+        if (word.starts_with(openWord)) {
+            requests.push_back(openRequest(unescaped(word.substr(openWord.size()))));
+        } else if (const RequestName* name = findName(word)) {
+            requests.push_back({.kind = name->kind});
+        } else {
             return unknown(word);
         }
-        requests.push_back(name->request);
         text.remove_prefix(std::min(word.size() + 1, text.size()));
     }
     return requests;
 }
 
 void carryOut(const std::vector<Request>& requests, TQController& controller) {
-    for (const Request request : requests) {
-        switch (request) {
-            case Request::Reopen:
+    for (const Request& request : requests) {
+        switch (request.kind) {
+            case Request::Kind::Reopen:
                 controller.applicationShouldHandleReopen();
                 break;
-            case Request::Toggle:
+            case Request::Kind::Toggle:
                 controller.toggleApplyCorrection();
                 break;
-            case Request::On:
+            case Request::Kind::On:
                 controller.setApplyCorrection(true);
                 break;
-            case Request::Off:
+            case Request::Kind::Off:
                 controller.setApplyCorrection(false);
                 break;
-            case Request::ShowPanel:
+            case Request::Kind::ShowPanel:
                 controller.showPanel();
                 break;
-            case Request::Quit:
+            case Request::Kind::Open:
+                controller.openFile(request.file);
+                break;
+            case Request::Kind::Quit:
                 controller.quit();
                 break;
         }

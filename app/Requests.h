@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <span>
 #include <string>
 #include <string_view>
@@ -14,13 +15,22 @@ namespace tonquil {
 class TQController;
 
 /// What another start of the program may ask of the one that runs.
-enum class Request : std::uint8_t {
-    Reopen,  ///< It was started without anything to do.
-    Toggle,
-    On,
-    Off,
-    ShowPanel,
-    Quit,
+struct Request {
+    enum class Kind : std::uint8_t {
+        Reopen,  ///< It was started without anything to do.
+        Toggle,
+        On,
+        Off,
+        ShowPanel,
+        Open,  ///< A settings file.
+        Quit,
+    };
+
+    Kind kind = Kind::Reopen;
+    /// Absolute; only of `Open`.
+    std::filesystem::path file = {};
+
+    bool operator==(const Request&) const = default;
 };
 
 /// What a command line asks for.
@@ -31,11 +41,13 @@ struct CommandLine {
     bool wantsVersion = false;
 };
 
-/// Reads a command line without the program's name. The problem is one of usage.
+/// Reads a command line without the program's name; what is no option is a file. The problem is
+/// one of usage.
 [[nodiscard]] Result<CommandLine> readCommandLine(std::span<const char* const> arguments);
 [[nodiscard]] std::string commandLineHelp();
 
-/// Requests as text, one a line, to hand them over to another process; and back.
+/// Requests as text, one a line, to hand them over to another process; and back. A file's name may hold any
+/// bytes.
 [[nodiscard]] std::string textFromRequests(const std::vector<Request>& requests);
 [[nodiscard]] Result<std::vector<Request>> requestsFromText(std::string_view text);
 

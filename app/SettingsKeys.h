@@ -48,6 +48,8 @@ inline constexpr std::string_view panelHotKeyCode = "PanelHotKeyCode";
 inline constexpr std::string_view panelHotKeyModifiers = "PanelHotKeyModifiers";
 /// Integer: the format chosen last for a settings file; 0 one display, 1 several.
 inline constexpr std::string_view saveFormat = "SaveFormat";
+/// Array of strings: the settings files opened or saved last, newest first.
+inline constexpr std::string_view recentFiles = "RecentFiles";
 /// Boolean: the warning of a program that fights for the same tables was shown.
 inline constexpr std::string_view conflictWarned = "KVFluxWarned";
 /// Boolean: the panel shows the strip with the slider of the focused channel.

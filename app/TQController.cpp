@@ -15,6 +15,8 @@ TQController::TQController(const ControllerSurroundings& surroundings)
       _runLoop(surroundings.runLoop),
       _controls(surroundings.controls),
       _panel(surroundings.panel),
+      _dialogs(surroundings.dialogs),
+      _log(surroundings.log),
       _sessionEvents(surroundings.sessionEvents),
       _endProgram(surroundings.endProgram),
       _currentScreens(_service, _registry, _preferences, _panel, surroundings.whyNoDisplays),
@@ -22,6 +24,7 @@ TQController::TQController(const ControllerSurroundings& surroundings)
       _correction(_service, _registry, _preferences),
       _storage(_registry, _preferences, surroundings.recovery, _runLoop, surroundings.log),
       _panelFrame(_service, _preferences, _panel),
+      _recentFiles(_preferences),
       _periodicUpdate(_runLoop, _preferences, [this] { _applyCurvesToScreen(); }),
       _reconfigurations(surroundings.reconfigurations, surroundings.log,
                         [this] { updateScreens(); }) {

@@ -10,11 +10,14 @@
 #include "app/CurrentScreens.h"
 #include "app/CurveStorage.h"
 #include "app/EditHistory.h"
+#include "app/FileDialogs.h"
 #include "app/PanelActions.h"
 #include "app/PanelFrame.h"
 #include "app/PeriodicUpdate.h"
+#include "app/RecentFiles.h"
 #include "app/ReconfigurationObserver.h"
 #include "app/SessionEvents.h"
+#include "settings/Settings.h"
 
 namespace tonquil {
 
@@ -28,6 +31,7 @@ struct ControllerSurroundings {
     RunLoop& runLoop;
     PanelControls& controls;
     PanelWindow& panel;
+    FileDialogs& dialogs;
     /// Where session events come from; may be empty.
     std::vector<SessionEvents*> sessionEvents;
     /// Why there are no displays, where there never will be any; else empty.
@@ -73,6 +77,13 @@ class TQController final : public PanelActions {
     void redo() override;
     void panelMoved() override;
     [[nodiscard]] std::optional<PlottedCurves> plottedCurves() override;
+    void loadGamma() override;
+    void saveGamma() override;
+    /// Opens a settings file after the event being handled.
+    void openFile(const std::filesystem::path& file) override;
+    [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const override {
+        return _recentFiles.files();
+    }
     void quit() override { _endProgram(); }
 
  private:
@@ -92,6 +103,14 @@ class TQController final : public PanelActions {
     void _setControlsEnabled(bool enabled);
     [[nodiscard]] int storedTab() const;
     void finishPanelSetUp();
+    /// Returns whether the file's settings are in force now.
+    bool _openFile(const std::filesystem::path& file);
+    bool openSettings(const SingleDisplaySettings& settings);
+    bool openSettings(const MultiDisplaySettings& settings);
+    bool openSettings(const RawTableSettings& settings);
+    bool refuseFile(const Problem& problem);
+    void savePanelDidEnd(const std::filesystem::path& file, SettingsFormat format);
+    [[nodiscard]] Result<void> saveCurrentCurve(const std::filesystem::path& file);
     void observeSession();
     void updateScreens();
     /// Puts the panel back into view when the display that it was on has gone.
@@ -105,6 +124,8 @@ class TQController final : public PanelActions {
     RunLoop& _runLoop;
     PanelControls& _controls;
     PanelWindow& _panel;
+    FileDialogs& _dialogs;
+    Log _log;
     std::vector<SessionEvents*> _sessionEvents;
     std::function<void()> _endProgram;
 
@@ -114,12 +135,15 @@ class TQController final : public PanelActions {
     CurveStorage _storage;
     EditHistory _history;
     PanelFrame _panelFrame;
+    RecentFiles _recentFiles;
     PeriodicUpdate _periodicUpdate;
     ReconfigurationObserver _reconfigurations;
 
     std::optional<DisplayID> _displayUnderPanel;
     bool _shownAffectsAllScreens = false;
     bool _areControlsEnabled = false;
+    /// A settings file has been opened in this run.
+    bool _openedFile = false;
     bool _hasTerminated = false;
     std::unique_ptr<RunLoop::Handle> _resetTimer;
     std::unique_ptr<PreferencesStore::Subscription> _preferencesSubscription;

@@ -12,6 +12,7 @@
 #include "app/Requests.h"
 #include "app/TQController.h"
 #include "app/panel/ControlPanel.h"
+#include "app/panel/PanelFileDialogs.h"
 #include "app/panel/PanelIcons.h"
 #include "app/panel/QuietStyle.h"
 #include "platform/choice/DisplayServiceChoice.h"
@@ -98,6 +99,7 @@ class Program {
         openDisplays();
         openWindowSystem();
         panel = std::make_unique<ControlPanel>(*windowSystem);
+        dialogs = std::make_unique<PanelFileDialogs>(*panel);
         registry = std::make_unique<ScreenRegistry>(*displays);
         std::vector<SessionEvents*> events{&busEvents};
         if (desktopEvents) {
@@ -105,7 +107,7 @@ class Program {
         }
         controller = std::make_unique<TQController>(ControllerSurroundings{
             *displays, *registry, reconfigurations, preferences, recovery, runLoop, *panel, *panel,
-            std::move(events), whyNoDisplays, &QCoreApplication::quit, log});
+            *dialogs, std::move(events), whyNoDisplays, &QCoreApplication::quit, log});
         panel->setActions(*controller);
     }
     Program(const Program&) = delete;
@@ -178,7 +180,7 @@ class Program {
     }
 
     void carryOutButReopen(std::vector<Request> requests) {
-        std::erase(requests, Request::Reopen);
+        std::erase(requests, Request{});
         carryOut(requests, *controller);
     }
 
@@ -194,6 +196,7 @@ class Program {
     std::unique_ptr<ScreenRegistry> registry;
     ReconfigurationCounter reconfigurations;
     std::unique_ptr<ControlPanel> panel;
+    std::unique_ptr<PanelFileDialogs> dialogs;
     std::unique_ptr<TQController> controller;
 };
 
@@ -233,7 +236,7 @@ int runFirstOrHandOver(const std::vector<Request>& requests) {
     if (*listener == nullptr) {
         return handOver(socket, requests);
     }
-    if (std::ranges::find(requests, Request::Quit) != requests.end()) {
+    if (std::ranges::find(requests, Request{.kind = Request::Kind::Quit}) != requests.end()) {
         return EXIT_SUCCESS;
     }
     Program first(*folders);

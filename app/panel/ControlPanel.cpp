@@ -44,6 +44,7 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     setWindowTitle(QCoreApplication::translate("Panel", "Tonquil"));
     setWindowIcon(programIcon());
     setAttribute(Qt::WA_QuitOnClose, false);
+    setAcceptDrops(true);
     _appearance.allowsVibrancy = windowSystem.isCompositing();
     _appearance.options.reduceTransparency = !_appearance.allowsVibrancy;
     setAttribute(Qt::WA_TranslucentBackground, _appearance.allowsVibrancy);

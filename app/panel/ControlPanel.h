@@ -66,6 +66,8 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool focusNextPrevChild(bool next) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
  private:
     void connectControls();

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The panel as a window: where it stands, and when it takes the keyboard.
 #include <QApplication>
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QMimeData>
 #include <QScreen>
+#include <QUrl>
 #include <QWindow>
 
 #include "app/panel/ControlPanel.h"
@@ -96,6 +100,19 @@ void ControlPanel::resizeEvent(QResizeEvent* event) {
 void ControlPanel::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     updatePlot();
+}
+
+void ControlPanel::dragEnterEvent(QDragEnterEvent* event) {
+    const auto urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.front().isLocalFile()) {
+        event->acceptProposedAction();
+    }
+}
+
+void ControlPanel::dropEvent(QDropEvent* event) {
+    const QString file = event->mimeData()->urls().front().toLocalFile();
+    _actions->openFile(QFile::encodeName(file).toStdString());
+    event->acceptProposedAction();
 }
 
 void ControlPanel::closeEvent(QCloseEvent* event) {

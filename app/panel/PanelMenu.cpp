@@ -2,6 +2,7 @@
 #include "app/panel/PanelMenu.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include "app/PanelActions.h"
 
@@ -12,6 +13,12 @@ PanelMenu::PanelMenu()
       _redo(addAction(QCoreApplication::translate("Panel", "Redo"))) {
     _undo->setShortcut(QKeySequence::Undo);
     _redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    addSeparator();
+    _open = addAction(QCoreApplication::translate("Panel", "Open settings\u2026"));
+    _open->setShortcut(QKeySequence::Open);
+    _recent = addMenu(QCoreApplication::translate("Panel", "Open recent"));
+    _save = addAction(QCoreApplication::translate("Panel", "Save settings\u2026"));
+    _save->setShortcut(QKeySequence::Save);
     addSeparator();
     _reset = addAction(QCoreApplication::translate("Panel", "Reset to calibration"));
     addSeparator();
@@ -31,6 +38,9 @@ PanelMenu::PanelMenu()
 void PanelMenu::setActions(PanelActions& actions, QWidget& panel) {
     QObject::connect(_undo, &QAction::triggered, this, [&actions] { actions.undo(); });
     QObject::connect(_redo, &QAction::triggered, this, [&actions] { actions.redo(); });
+    QObject::connect(_open, &QAction::triggered, this, [&actions] { actions.loadGamma(); });
+    QObject::connect(_save, &QAction::triggered, this, [&actions] { actions.saveGamma(); });
+    QObject::connect(this, &QMenu::aboutToShow, this, [this, &actions] { fillRecent(actions); });
     QObject::connect(_reset, &QAction::triggered, this, [&actions] { actions.resetGamma(); });
     QObject::connect(_advanced, &QAction::triggered, this,
                      [&actions](bool isOn) { actions.setAdvancedPanel(isOn); });
@@ -39,7 +49,20 @@ void PanelMenu::setActions(PanelActions& actions, QWidget& panel) {
     QObject::connect(_channelStrip, &QAction::triggered, this,
                      [&actions](bool isOn) { actions.setChannelStrip(isOn); });
     QObject::connect(_quit, &QAction::triggered, this, [&actions] { actions.quit(); });
-    panel.addActions({_undo, _redo, _quit});
+    panel.addActions({_undo, _redo, _open, _save, _quit});
+}
+
+void PanelMenu::fillRecent(PanelActions& actions) {
+    _recent->clear();
+    for (const std::filesystem::path& file : actions.recentFiles()) {
+        // An ampersand would underline what follows it.
+        QString name = QFile::decodeName(file.filename().c_str());
+        QAction* action = _recent->addAction(name.replace(QLatin1Char('&'), QStringLiteral("&&")));
+        action->setToolTip(QFile::decodeName(file.c_str()));
+        QObject::connect(action, &QAction::triggered, this,
+                         [&actions, file] { actions.openFile(file); });
+    }
+    _recent->setEnabled(!_recent->isEmpty());
 }
 
 void PanelMenu::showUndo(bool canUndo, bool canRedo) {

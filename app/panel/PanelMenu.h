@@ -13,6 +13,8 @@ class PanelMenu : public QMenu {
     PanelMenu();
 
     void setActions(PanelActions& actions, QWidget& panel);
+    /// Lists the files that were used last.
+    void fillRecent(PanelActions& actions);
     void showUndo(bool canUndo, bool canRedo);
     void showForm(bool isAdvanced, bool isDark, bool hasChannelStrip);
     void setEditingEnabled(bool enabled) { _reset->setEnabled(enabled); }
@@ -20,6 +22,9 @@ class PanelMenu : public QMenu {
  private:
     QAction* _undo;
     QAction* _redo;
+    QAction* _open = nullptr;
+    QMenu* _recent = nullptr;
+    QAction* _save = nullptr;
     QAction* _reset = nullptr;
     QMenu* _view = nullptr;
     QAction* _advanced = nullptr;

@@ -88,6 +88,7 @@ void ControllerBench::launch() {
                                recordedLoop,
                                panel,
                                panel,
+                               dialogs,
                                {program.events.get()},
                                "",
                                [this] { hasEnded = true; },

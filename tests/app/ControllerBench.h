@@ -98,6 +98,22 @@ class MemoryRecovery final : public CurveRecovery {
     PropertyValue left = PropertyValue::object();
 };
 
+/// Dialogs in which a test decides at once.
+class ScriptedDialogs final : public FileDialogs {
+ public:
+    void chooseFileToOpen(Chosen chosen) override { chosen(file); }
+    void chooseFileToSave(SettingsFormat proposed, ChosenWithFormat chosen) override {
+        chosen(file, format.value_or(proposed));
+    }
+    void alert(const std::string& title, const std::string& /*message*/) override {
+        alerts.push_back(title);
+    }
+
+    std::filesystem::path file;
+    std::optional<SettingsFormat> format;
+    std::vector<std::string> alerts;
+};
+
 /// Events that a test makes.
 class ScriptedEvents final : public SessionEvents {
  public:
@@ -177,6 +193,7 @@ class ControllerBench {
     MemoryPreferences preferences{loop, journal};
     MemoryRecovery recovery;
     RecordedPanel panel{journal};
+    ScriptedDialogs dialogs;
     std::vector<std::string> log;
     bool hasEnded = false;
 

@@ -51,6 +51,10 @@ class RecordedActions final : public PanelActions {
     void redo() override { calls.emplace_back("redo"); }
     void panelMoved() override {}
     [[nodiscard]] std::optional<PlottedCurves> plottedCurves() override { return std::nullopt; }
+    void loadGamma() override {}
+    void saveGamma() override {}
+    void openFile(const std::filesystem::path& /*file*/) override {}
+    [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const override { return {}; }
     void quit() override {}
 
     std::vector<std::string> calls;
