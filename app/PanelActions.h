@@ -46,6 +46,7 @@ class PanelActions {
     virtual void panelMoved() = 0;
     /// Nothing where there is no display to show.
     [[nodiscard]] virtual std::optional<PlottedCurves> plottedCurves() = 0;
+    virtual void openTargetWindow() = 0;
     virtual void loadGamma() = 0;
     virtual void saveGamma() = 0;
     virtual void openFile(const std::filesystem::path& file) = 0;

@@ -27,6 +27,16 @@ constexpr std::array<RequestName, 6> requestNames{{
 }};
 /// Followed by the name of a file.
 constexpr std::string_view openWord = "open ";
+/// Followed by a display's reference ID, or nothing.
+struct TargetWord {
+    std::optional<TargetKind> kind;
+    std::string_view option;
+};
+constexpr std::array<TargetWord, 3> targetWords{{
+    {std::nullopt, "--targets"},
+    {TargetKind::Color, "--targets=color"},
+    {TargetKind::Grayscale, "--targets=grayscale"},
+}};
 
 std::string_view withoutDashes(const RequestName& name) {
     return name.option.substr(2);
@@ -36,6 +46,14 @@ const RequestName* findName(std::string_view word) {
     const auto* found = std::find_if(requestNames.begin(), requestNames.end(),
                                      [=](const auto& name) { return withoutDashes(name) == word; });
     return found == requestNames.end() ? nullptr : found;
+}
+
+/// The words of an option for a target: with its dashes, or without as between processes.
+const TargetWord* findTarget(std::string_view word, std::size_t dashes) {
+    const auto* found =
+        std::find_if(targetWords.begin(), targetWords.end(),
+                     [=](const auto& target) { return target.option.substr(dashes) == word; });
+    return found == targetWords.end() ? nullptr : found;
 }
 
 constexpr std::string_view escapedLineEnd = "%n";
@@ -92,6 +110,12 @@ Result<CommandLine> readCommandLine(std::span<const char* const> arguments) {
             line.wantsHelp = true;
         } else if (argument == "--version") {
             line.wantsVersion = true;
+        } else if (const TargetWord* target = findTarget(argument, 0)) {
+            line.requests.push_back({.kind = Request::Kind::Targets, .target = target->kind});
+        } else if (argument == "--display" && index + 1 < arguments.size() &&
+                   !line.requests.empty() && line.requests.back().kind == Request::Kind::Targets) {
+            ++index;
+            line.requests.back().referenceID = arguments[index];
         } else if (argument == "-session") {
             // A session manager starts programs so, with its own name for them.
             ++index;
@@ -129,10 +153,12 @@ std::string commandLineHelp() {
             addOption(name.option, name.help);
         }
     }
+    addOption("--targets", "show test patterns; --targets=color or =grayscale chooses them,");
+    addOption("", "--display REFERENCE-ID after it covers that display with them");
     addOption("--help", "show this text");
     addOption("--version", "show the version");
     text +=
-        "\nWithout an option it shows its panel, or toggles the correction where the\n"
+        "\nWithout any it shows its panel if the correction is on, or toggles it where the\n"
         "preferences say so.\n";
     return text;
 }
@@ -143,6 +169,13 @@ std::string textFromRequests(const std::vector<Request>& requests) {
         if (request.kind == Request::Kind::Open) {
             text += openWord;
             text += escaped(request.file.native());
+        } else if (request.kind == Request::Kind::Targets) {
+            const auto* target = std::find_if(
+                targetWords.begin(), targetWords.end(),
+                [&](const auto& candidate) { return candidate.kind == request.target; });
+            text += target->option.substr(2);
+            text += ' ';
+            text += escaped(request.referenceID);
         } else {
             const auto* name =
                 std::find_if(requestNames.begin(), requestNames.end(),
@@ -160,6 +193,11 @@ Result<std::vector<Request>> requestsFromText(std::string_view text) {
         const std::string_view word = text.substr(0, text.find('\n'));
         if (word.starts_with(openWord)) {
             requests.push_back(openRequest(unescaped(word.substr(openWord.size()))));
+        } else if (const TargetWord* target = findTarget(word.substr(0, word.find(' ')), 2)) {
+            requests.push_back({.kind = Request::Kind::Targets,
+                                .target = target->kind,
+                                .referenceID = unescaped(word.substr(
+                                    std::min(word.size(), target->option.size() - 2 + 1)))});
         } else if (const RequestName* name = findName(word)) {
             requests.push_back({.kind = name->kind});
         } else {
@@ -190,6 +228,9 @@ void carryOut(const std::vector<Request>& requests, TQController& controller) {
                 break;
             case Request::Kind::Open:
                 controller.openFile(request.file);
+                break;
+            case Request::Kind::Targets:
+                controller.showTarget(request.target, request.referenceID);
                 break;
             case Request::Kind::Quit:
                 controller.quit();

@@ -3,11 +3,13 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/TargetWindows.h"
 #include "foundation/Problem.h"
 
 namespace tonquil {
@@ -22,13 +24,18 @@ struct Request {
         On,
         Off,
         ShowPanel,
-        Open,  ///< A settings file.
+        Open,     ///< A settings file.
+        Targets,  ///< Floating, or all over a display.
         Quit,
     };
 
     Kind kind = Kind::Reopen;
     /// Absolute; only of `Open`.
     std::filesystem::path file = {};
+
+    /// Only of `Targets`: without a kind the one shown last, without a display the floating window.
+    std::optional<TargetKind> target = {};
+    std::string referenceID = {};
 
     bool operator==(const Request&) const = default;
 };
@@ -46,8 +53,8 @@ struct CommandLine {
 [[nodiscard]] Result<CommandLine> readCommandLine(std::span<const char* const> arguments);
 [[nodiscard]] std::string commandLineHelp();
 
-/// Requests as text, one a line, to hand them over to another process; and back. A file's name may hold any
-/// bytes.
+/// Requests as text, one a line, to hand them over to another process; and back. A file's name may
+/// hold any bytes.
 [[nodiscard]] std::string textFromRequests(const std::vector<Request>& requests);
 [[nodiscard]] Result<std::vector<Request>> requestsFromText(std::string_view text);
 

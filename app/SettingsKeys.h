@@ -56,6 +56,10 @@ inline constexpr std::string_view conflictWarned = "KVFluxWarned";
 inline constexpr std::string_view channelStrip = "ChannelStrip";
 /// Text "X Y WIDTH HEIGHT": where the panel was, in pixels of the desktop from its upper left.
 inline constexpr std::string_view controlWindowFrame = "Window Frame ControlWindow";
+/// The same of the floating window of targets.
+inline constexpr std::string_view targetsFrame = "Window Frame Targets";
+/// Integer: the target that it shows; 0 colour, 1 grayscale.
+inline constexpr std::string_view targetKind = "TargetKind";
 
 }  // namespace settingsKey
 

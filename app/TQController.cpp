@@ -16,6 +16,7 @@ TQController::TQController(const ControllerSurroundings& surroundings)
       _controls(surroundings.controls),
       _panel(surroundings.panel),
       _dialogs(surroundings.dialogs),
+      _targets(surroundings.targets),
       _log(surroundings.log),
       _sessionEvents(surroundings.sessionEvents),
       _endProgram(surroundings.endProgram),
@@ -66,6 +67,7 @@ void TQController::applicationWillTerminate() {
     _reconfigurationSubscription.reset();
     _periodicUpdate._stopPeriodicUpdate();
     _panelFrame.save();
+    _targets.saveFrame();
     _storage.close();
 }
 
@@ -81,6 +83,22 @@ void TQController::applicationShouldHandleReopen() {
 void TQController::showPanel() {
     bringPanelBack();
     _panel.makeKeyAndOrderFront();
+}
+
+void TQController::showTarget(std::optional<TargetKind> kind, const std::string& referenceID) {
+    if (!referenceID.empty()) {
+        const auto screen = _registry.screenWithReferenceID(referenceID);
+        if (screen) {
+            _targets.coverDisplay(screen->directDisplayID(), kind.value_or(TargetKind::Color));
+        } else {
+            _dialogs.alert("No such display", "No display with the reference ID " + referenceID +
+                                                  " is attached. tonquilctl displays lists them.");
+        }
+    } else if (kind) {
+        _targets.openTargetWindow(*kind);
+    } else {
+        _targets.openTargetWindow();
+    }
 }
 
 void TQController::bringPanelBack() {
@@ -164,6 +182,7 @@ void TQController::updateScreens() {
     }
     bringPanelBack();
     _changeScreen();
+    _targets.displaysChanged();
 }
 
 }  // namespace tonquil

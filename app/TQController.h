@@ -17,6 +17,7 @@
 #include "app/RecentFiles.h"
 #include "app/ReconfigurationObserver.h"
 #include "app/SessionEvents.h"
+#include "app/TargetWindows.h"
 #include "settings/Settings.h"
 
 namespace tonquil {
@@ -32,6 +33,7 @@ struct ControllerSurroundings {
     PanelControls& controls;
     PanelWindow& panel;
     FileDialogs& dialogs;
+    TargetWindows& targets;
     /// Where session events come from; may be empty.
     std::vector<SessionEvents*> sessionEvents;
     /// Why there are no displays, where there never will be any; else empty.
@@ -77,6 +79,9 @@ class TQController final : public PanelActions {
     void redo() override;
     void panelMoved() override;
     [[nodiscard]] std::optional<PlottedCurves> plottedCurves() override;
+    void openTargetWindow() override { _targets.openTargetWindow(); }
+    /// Shows a target, floating or, where a display is named by its reference ID, all over it.
+    void showTarget(std::optional<TargetKind> kind, const std::string& referenceID);
     void loadGamma() override;
     void saveGamma() override;
     /// Opens a settings file after the event being handled.
@@ -125,6 +130,7 @@ class TQController final : public PanelActions {
     PanelControls& _controls;
     PanelWindow& _panel;
     FileDialogs& _dialogs;
+    TargetWindows& _targets;
     Log _log;
     std::vector<SessionEvents*> _sessionEvents;
     std::function<void()> _endProgram;

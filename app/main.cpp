@@ -15,6 +15,7 @@
 #include "app/panel/PanelFileDialogs.h"
 #include "app/panel/PanelIcons.h"
 #include "app/panel/QuietStyle.h"
+#include "app/targets/TargetPresenter.h"
 #include "platform/choice/DisplayServiceChoice.h"
 #include "platform/dbus/BusSessionEvents.h"
 #include "platform/dbus/DesktopAppearance.h"
@@ -52,13 +53,17 @@ std::string environment(const char* name) {
 
 /// The window toolkit aborts where it finds no display server, and says nothing of use.
 bool hasDesktop() {
-    if (!environment("QT_QPA_PLATFORM").empty() || !environment("WAYLAND_DISPLAY").empty()) {
+    if (!environment("QT_QPA_PLATFORM").empty()) {
         return true;
     }
     const std::unique_ptr<xcb_connection_t, DisconnectXcb> connection(
         xcb_connect(nullptr, nullptr));
     if (xcb_connection_has_error(connection.get()) == 0) {
         return true;
+    }
+    if (!environment("WAYLAND_DISPLAY").empty()) {
+        log("This is a Wayland session, whose displays cannot be corrected yet.");
+        return false;
     }
     std::string line = "There is no desktop here: no X server answers on \"";
     line += environment("DISPLAY");
@@ -100,6 +105,7 @@ class Program {
         openWindowSystem();
         panel = std::make_unique<ControlPanel>(*windowSystem);
         dialogs = std::make_unique<PanelFileDialogs>(*panel);
+        targets = std::make_unique<TargetPresenter>(*displays, preferences);
         registry = std::make_unique<ScreenRegistry>(*displays);
         std::vector<SessionEvents*> events{&busEvents};
         if (desktopEvents) {
@@ -107,7 +113,7 @@ class Program {
         }
         controller = std::make_unique<TQController>(ControllerSurroundings{
             *displays, *registry, reconfigurations, preferences, recovery, runLoop, *panel, *panel,
-            *dialogs, std::move(events), whyNoDisplays, &QCoreApplication::quit, log});
+            *dialogs, *targets, std::move(events), whyNoDisplays, &QCoreApplication::quit, log});
         panel->setActions(*controller);
     }
     Program(const Program&) = delete;
@@ -197,6 +203,7 @@ class Program {
     ReconfigurationCounter reconfigurations;
     std::unique_ptr<ControlPanel> panel;
     std::unique_ptr<PanelFileDialogs> dialogs;
+    std::unique_ptr<TargetPresenter> targets;
     std::unique_ptr<TQController> controller;
 };
 

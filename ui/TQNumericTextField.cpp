@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "ui/Drawing.h"
 #include "ui/TQSlider.h"
@@ -165,6 +166,18 @@ void TQNumericTextField::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
 }
 
+void TQNumericTextField::mousePressEvent(QMouseEvent* event) {
+    _isFirstClick = !hasFocus();
+    QLineEdit::mousePressEvent(event);
+}
+
+void TQNumericTextField::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(_isFirstClick, false) && !hasSelectedText()) {
+        selectAll();
+    }
+}
+
 void TQNumericTextField::keyPressEvent(QKeyEvent* event) {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isEscape = event->key() == Qt::Key_Escape;
@@ -190,8 +203,8 @@ void TQNumericTextField::focusInEvent(QFocusEvent* event) {
 
 void TQNumericTextField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    // A menu or another window takes the focus for a while and gives it back.
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason) {
+    // A menu takes the focus for a moment and gives it back.
+    if (event->reason() != Qt::PopupFocusReason) {
         commit();
     }
     if (!isEditing()) {

@@ -13,8 +13,9 @@ class TQSlider;
 /// the focus. The number itself is never rounded by being shown.
 ///
 /// The decimal separator is shown as a point; a comma is taken too. What was typed is committed by
-/// Return or when the focus leaves, and taken back by Escape. Text that is no number is taken back
-/// when it is committed. Set the number with `setFloatValue`, not with `setText`.
+/// Return or when the focus leaves, and taken back by Escape. The
+/// click that brings the focus selects all, ready to be typed over. Text that is no number is taken
+/// back when it is committed. Set the number with `setFloatValue`, not with `setText`.
 class TQNumericTextField : public QLineEdit {
  public:
     explicit TQNumericTextField(QWidget* parent = nullptr);
@@ -50,6 +51,8 @@ class TQNumericTextField : public QLineEdit {
  protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -62,6 +65,8 @@ class TQNumericTextField : public QLineEdit {
     /// The text that stands for `_value`, by which a change is told from none.
     QString _shownText;
     QPointer<TQSlider> _target;
+    /// The click under way is the one that brings the focus.
+    bool _isFirstClick = false;
 };
 
 }  // namespace tonquil

@@ -94,6 +94,8 @@ void ControlPanel::connectControls() {
                      [this](bool isOn) { _actions->changeApplyCorrection(isOn); });
     QObject::connect(contents.resetButton, &QToolButton::clicked, this,
                      [this] { _actions->resetGamma(); });
+    QObject::connect(contents.colorTargetButton, &QToolButton::clicked, this,
+                     [this] { _actions->openTargetWindow(); });
     QObject::connect(contents.blendingModePopUp, &QComboBox::activated, this, [this] {
         _blendingMode = _contents->blendingModePopUp->currentData().toInt();
         _actions->changeBlendingMode();
@@ -246,6 +248,9 @@ void ControlPanel::observeFirstResponder() {
 
 void ControlPanel::makeFirstResponder(QWidget& control) {
     control.setFocus(Qt::OtherFocusReason);
+    if (auto* field = dynamic_cast<TQNumericTextField*>(&control)) {
+        field->selectAll();
+    }
     firstResponderChanged(&control);
 }
 
@@ -283,7 +288,8 @@ void ControlPanel::setAppearances() {
 // The tabs stand in two places.
 std::vector<QWidget*> ControlPanel::vibrantViews() const {
     return {_contents->gammaTabs,          _contents->blendingModePopUp, _contents->gammaTabColours,
-            _contents->applyCorrectionBox, _contents->gammaTabSelector,  _contents};
+            _contents->applyCorrectionBox, _contents->gammaTabSelector,  _contents,
+            _contents->colorTargetButton};
 }
 
 void ControlPanel::_setAdvancedPanel(bool advanced) {

@@ -23,6 +23,15 @@ Rectangle pixelsOf(const QScreen& screen) {
             points.width() * scale, points.height() * scale};
 }
 
+const QScreen& screenAt(const Point& devicePixels) {
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        if (pixelsOf(*screen).contains(devicePixels)) {
+            return *screen;
+        }
+    }
+    return *QGuiApplication::primaryScreen();
+}
+
 }  // namespace
 
 Rectangle devicePixelsFrom(const QRect& points) {
@@ -35,17 +44,18 @@ Rectangle devicePixelsFrom(const QRect& points) {
 }
 
 QPoint pointsFrom(const Point& devicePixels) {
-    const QScreen* found = QGuiApplication::primaryScreen();
-    for (const QScreen* screen : QGuiApplication::screens()) {
-        if (pixelsOf(*screen).contains(devicePixels)) {
-            found = screen;
-            break;
-        }
-    }
-    const QPoint origin = found->geometry().topLeft();
-    const double scale = found->devicePixelRatio();
+    const QScreen& screen = screenAt(devicePixels);
+    const QPoint origin = screen.geometry().topLeft();
+    const double scale = screen.devicePixelRatio();
     return {qRound(origin.x() + (devicePixels.x - origin.x()) / scale),
             qRound(origin.y() + (devicePixels.y - origin.y()) / scale)};
+}
+
+QRect pointsFrom(const Rectangle& devicePixels) {
+    const Point corner{devicePixels.x, devicePixels.y};
+    const double scale = screenAt(corner).devicePixelRatio();
+    return {pointsFrom(corner),
+            QSize(qRound(devicePixels.width / scale), qRound(devicePixels.height / scale))};
 }
 
 }  // namespace tonquil

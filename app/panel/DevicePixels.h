@@ -11,5 +11,6 @@ namespace tonquil {
 /// from its upper left corner, whose place it takes as it is in pixels.
 [[nodiscard]] Rectangle devicePixelsFrom(const QRect& points);
 [[nodiscard]] QPoint pointsFrom(const Point& devicePixels);
+[[nodiscard]] QRect pointsFrom(const Rectangle& devicePixels);
 
 }  // namespace tonquil

@@ -15,14 +15,14 @@ void FlatPopUp::paintEvent(QPaintEvent* /*event*/) {
     painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
     drawField(painter, rect(), theme, hasFocus());
     const QRect inside = rect().adjusted(padding, 0, -padding, 0);
+    const auto draw = [&](Qt::Alignment side, const QString& text) {
+        const Qt::Alignment visual = QStyle::visualAlignment(layoutDirection(), side);
+        painter.drawText(inside, static_cast<int>((Qt::AlignVCenter | visual).toInt()), text);
+    };
     painter.setPen(theme.text);
-    painter.drawText(inside,
-                     Qt::AlignVCenter | QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft),
-                     currentText());
+    draw(Qt::AlignLeft, currentText());
     painter.setPen(theme.secondaryText);
-    painter.drawText(inside,
-                     Qt::AlignVCenter | QStyle::visualAlignment(layoutDirection(), Qt::AlignRight),
-                     QStringLiteral("\u25BE"));
+    draw(Qt::AlignRight, QStringLiteral("\u25BE"));
 }
 
 }  // namespace tonquil

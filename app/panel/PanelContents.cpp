@@ -56,6 +56,7 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
       gammaTabColours(makeTabs(sliders, {Channel::Red, Channel::Green, Channel::Blue})),
       applyCorrectionBox(new QCheckBox(QCoreApplication::translate("Panel", "Apply correction"))),
       resetButton(new QToolButton),
+      colorTargetButton(new QToolButton),
       channelStrip(new ChannelStrip(sliders)),
       plot(new CurvePlot),
       blendingModePopUp(new FlatPopUp),
@@ -114,7 +115,15 @@ QWidget* PanelContents::makeApplyRow() {
         "Panel", "Gives every display its own calibration back and makes the curves neutral."));
     layout->addWidget(applyCorrectionBox);
     layout->addStretch(1);
+    const QString targets = QCoreApplication::translate("Panel", "Show targets");
+    colorTargetButton->setAutoRaise(true);
+    colorTargetButton->setFixedSize(24, 24);
+    colorTargetButton->setToolTip(targets);
+    colorTargetButton->setAccessibleName(targets);
+    colorTargetButton->setAccessibleDescription(QCoreApplication::translate(
+        "Panel", "Opens the window of test patterns to look at while the sliders move."));
     layout->addWidget(resetButton);
+    layout->addWidget(colorTargetButton);
     return row;
 }
 
@@ -164,6 +173,7 @@ void PanelContents::showTab(int tab) const {
 
 void PanelContents::updateIcons() {
     resetButton->setIcon(panelIcon(PanelIcon::Reset, effectiveAppearance(*this)));
+    colorTargetButton->setIcon(panelIcon(PanelIcon::Targets, effectiveAppearance(*this)));
 }
 
 void PanelContents::paintEvent(QPaintEvent* /*event*/) {

@@ -39,6 +39,7 @@ class PanelContents : public QWidget {
     QStackedWidget* gammaTabColours;
     QCheckBox* applyCorrectionBox;
     QToolButton* resetButton;
+    QToolButton* colorTargetButton;
     ChannelStrip* channelStrip;
     CurvePlot* plot;
     QComboBox* blendingModePopUp;

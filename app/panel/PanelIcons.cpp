@@ -58,6 +58,15 @@ void drawReset(QPainter& painter) {
     painter.drawPath(head);
 }
 
+/// A square whose quarters alternate, as those of the targets do.
+void drawTargets(QPainter& painter) {
+    const QColor colour = painter.pen().color();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.drawRect(QRectF(3, 3, 10, 10));
+    painter.fillRect(QRectF(3, 3, 5, 5), colour);
+    painter.fillRect(QRectF(8, 8, 5, 5), colour);
+}
+
 /// The curve from black to white of the point's pictures; below 8 it is dark.
 QPointF curvePoint(double input) {
     return {2 + input * 12, 14 - input * input * 12};
@@ -88,6 +97,9 @@ QIcon panelIcon(PanelIcon icon, const Appearance& appearance) {
                 break;
             case PanelIcon::Reset:
                 drawReset(painter);
+                break;
+            case PanelIcon::Targets:
+                drawTargets(painter);
                 break;
         }
     });

@@ -9,7 +9,7 @@
 namespace tonquil {
 
 /// The pictures on the panel's buttons, drawn for an appearance.
-enum class PanelIcon { Close, Menu, Reset };
+enum class PanelIcon { Close, Menu, Reset, Targets };
 [[nodiscard]] QIcon panelIcon(PanelIcon icon, const Appearance& appearance);
 
 /// The channel strip's pictures for a tab (0 black, 2 white, anything else middle), in the order

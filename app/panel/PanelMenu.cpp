@@ -22,6 +22,7 @@ PanelMenu::PanelMenu()
     addSeparator();
     _reset = addAction(QCoreApplication::translate("Panel", "Reset to calibration"));
     addSeparator();
+    _targets = addAction(QCoreApplication::translate("Panel", "Show targets"));
     _view = addMenu(QCoreApplication::translate("Panel", "View"));
     _advanced = _view->addAction(QCoreApplication::translate("Panel", "Advanced panel"));
     _dark = _view->addAction(QCoreApplication::translate("Panel", "Dark theme"));
@@ -41,6 +42,8 @@ void PanelMenu::setActions(PanelActions& actions, QWidget& panel) {
     QObject::connect(_open, &QAction::triggered, this, [&actions] { actions.loadGamma(); });
     QObject::connect(_save, &QAction::triggered, this, [&actions] { actions.saveGamma(); });
     QObject::connect(this, &QMenu::aboutToShow, this, [this, &actions] { fillRecent(actions); });
+    QObject::connect(_targets, &QAction::triggered, this,
+                     [&actions] { actions.openTargetWindow(); });
     QObject::connect(_reset, &QAction::triggered, this, [&actions] { actions.resetGamma(); });
     QObject::connect(_advanced, &QAction::triggered, this,
                      [&actions](bool isOn) { actions.setAdvancedPanel(isOn); });

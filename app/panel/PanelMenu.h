@@ -25,6 +25,7 @@ class PanelMenu : public QMenu {
     QAction* _open = nullptr;
     QMenu* _recent = nullptr;
     QAction* _save = nullptr;
+    QAction* _targets = nullptr;
     QAction* _reset = nullptr;
     QMenu* _view = nullptr;
     QAction* _advanced = nullptr;

@@ -89,6 +89,7 @@ void ControllerBench::launch() {
                                panel,
                                panel,
                                dialogs,
+                               targets,
                                {program.events.get()},
                                "",
                                [this] { hasEnded = true; },

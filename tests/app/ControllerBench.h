@@ -114,6 +114,23 @@ class ScriptedDialogs final : public FileDialogs {
     std::vector<std::string> alerts;
 };
 
+/// Tells what targets are asked for.
+class RecordedTargets final : public TargetWindows {
+ public:
+    void openTargetWindow() override { shown.emplace_back("floating"); }
+    void openTargetWindow(TargetKind kind) override {
+        shown.push_back("floating " + std::to_string(static_cast<int>(kind)));
+    }
+    void coverDisplay(DisplayID display, TargetKind kind) override {
+        shown.push_back("display " + std::to_string(display) + " " +
+                        std::to_string(static_cast<int>(kind)));
+    }
+    void displaysChanged() override {}
+    void saveFrame() override {}
+
+    std::vector<std::string> shown;
+};
+
 /// Events that a test makes.
 class ScriptedEvents final : public SessionEvents {
  public:
@@ -194,6 +211,7 @@ class ControllerBench {
     MemoryRecovery recovery;
     RecordedPanel panel{journal};
     ScriptedDialogs dialogs;
+    RecordedTargets targets;
     std::vector<std::string> log;
     bool hasEnded = false;
 

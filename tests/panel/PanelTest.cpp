@@ -51,6 +51,7 @@ class RecordedActions final : public PanelActions {
     void redo() override { calls.emplace_back("redo"); }
     void panelMoved() override {}
     [[nodiscard]] std::optional<PlottedCurves> plottedCurves() override { return std::nullopt; }
+    void openTargetWindow() override { calls.emplace_back("targets"); }
     void loadGamma() override {}
     void saveGamma() override {}
     void openFile(const std::filesystem::path& /*file*/) override {}
