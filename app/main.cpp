@@ -270,8 +270,11 @@ int start(int argc, char** argv) {
     if (!hasDesktop()) {
         return EXIT_FAILURE;
     }
-    QApplication::setStyle(std::make_unique<QuietStyle>().release());
-    QApplication application(argc, argv);
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the toolkit takes it over.
+    QApplication::setStyle(new QuietStyle);
+    // The toolkit has options of its own, and would take some of ours for them.
+    int nameOnly = 1;
+    const QApplication application(nameOnly, argv);
     QApplication::setApplicationName(QStringLiteral("tonquil"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tonquil"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tonquil"));
