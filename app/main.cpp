@@ -251,6 +251,11 @@ int runFirstOrHandOver(const std::vector<Request>& requests) {
     return first.run(requests);
 }
 
+void setQuietStyle() {
+    auto* const style = new QuietStyle;
+    QApplication::setStyle(style);
+}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the toolkit has taken it over.
+
 int start(int argc, char** argv) {
     constexpr int wrongUsage = 2;
     const auto line = readCommandLine(
@@ -270,8 +275,7 @@ int start(int argc, char** argv) {
     if (!hasDesktop()) {
         return EXIT_FAILURE;
     }
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the toolkit takes it over.
-    QApplication::setStyle(new QuietStyle);
+    setQuietStyle();
     // The toolkit has options of its own, and would take some of ours for them.
     int nameOnly = 1;
     const QApplication application(nameOnly, argv);
