@@ -60,7 +60,11 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     fitForm(false);
 }
 
-ControlPanel::~ControlPanel() = default;
+// With the window the keyboard goes, which would commit what is being typed to a panel that is half
+// gone.
+ControlPanel::~ControlPanel() {
+    _contents->sliders.revertTyping();
+}
 
 void ControlPanel::setActions(PanelActions& actions) {
     _actions = &actions;

@@ -34,12 +34,13 @@ class NumericFieldTest : public testing::Test {
 
     std::string shown() { return field->text().toStdString(); }
 
+    /// Outlives the window, whose end commits what is being typed.
+    std::vector<float> sent;
     TQNumericTextView keys;
     QWidget window;
     TQSlider* slider = new TQSlider;
     TQNumericTextField* field = new TQNumericTextField;
     QLineEdit* other = new QLineEdit;
-    std::vector<float> sent;
 };
 
 TEST_F(NumericFieldTest, CommitsNumbersWithinTheRangeAndTakesTheRestBack) {
