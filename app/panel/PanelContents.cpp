@@ -91,7 +91,7 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
     updateIcons();
 }
 
-void PanelContents::nameControls() {
+void PanelContents::nameControls() const {
     gammaTabSelector->setAccessibleName(QCoreApplication::translate("Panel", "Point"));
     gammaTabSelector->setAccessibleDescription(
         QCoreApplication::translate("Panel", "Which point of the curve the sliders move."));

@@ -51,7 +51,7 @@ class PanelContents : public QWidget {
  private:
     [[nodiscard]] QWidget* makeApplyRow();
     [[nodiscard]] QWidget* makeBlendingRow();
-    void nameControls();
+    void nameControls() const;
     void updateIcons();
 
     QWidget* _compact;
