@@ -103,6 +103,7 @@ class ScriptedDialogs final : public FileDialogs {
  public:
     void chooseFileToOpen(Chosen chosen) override { chosen(file); }
     void chooseFileToSave(SettingsFormat proposed, ChosenWithFormat chosen) override {
+        whileUp();
         chosen(file, format.value_or(proposed));
     }
     void alert(const std::string& title, const std::string& /*message*/) override {
@@ -111,6 +112,8 @@ class ScriptedDialogs final : public FileDialogs {
 
     std::filesystem::path file;
     std::optional<SettingsFormat> format;
+    /// What happens before the person has chosen where to save.
+    std::function<void()> whileUp = [] {};
     std::vector<std::string> alerts;
 };
 

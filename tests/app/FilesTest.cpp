@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <fstream>
 #include <iterator>
 
@@ -11,6 +13,7 @@
 #include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
 #include "tests/app/ControllerBench.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/ProcessRunner.h"
 #include "tests/support/ScratchFolder.h"
 
@@ -22,6 +25,26 @@ using testing::IsEmpty;
 
 constexpr DisplayID left = ControllerBench::left;
 constexpr DisplayID right = ControllerBench::right;
+
+/// Lets no file grow beyond a few bytes, as a full disk does, for as long as it lives.
+class FullDisk {
+ public:
+    FullDisk() {
+        getrlimit(RLIMIT_FSIZE, &_former);
+        const rlimit few{10, _former.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &few);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &_former);
+        std::signal(SIGXFSZ, _formerHandler);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+    void (*_formerHandler)(int) = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit _former{};
+};
 
 class Files : public testing::Test {
  protected:
@@ -177,16 +200,53 @@ TEST_F(Files, AreSavedInTheChosenFormatAndReadElsewhere) {
     EXPECT_EQ(red(left), 0.25F);
 }
 
+TEST_F(Files, OpenedWhileADialogIsUpAreWhatTheDialogThenSaves) {
+    const auto file = fileWith(curve(0.25F));
+    bench.dialogs.file = folder.path() / "saved.tonquil";
+    bench.dialogs.whileUp = [&] { open(file); };
+    bench.controller().saveGamma();
+    EXPECT_EQ(red(left), 0.25F);
+    EXPECT_EQ(read(bench.dialogs.file), bench.curve(left)->gammaCurveDictionary());
+}
+
 TEST_F(Files, ThatCannotBeSavedAreReportedWhereNothingIsThere) {
-    bench.dialogs.file = folder.path() / "no/such/folder";
-    bench.controller().saveGamma();
-    EXPECT_THAT(bench.dialogs.alerts, ElementsAre("Saving failed"));
-    EXPECT_THAT(bench.log, testing::Not(IsEmpty()));
-    bench.dialogs.alerts.clear();
+    const auto older = fileWith(std::string("older"));
+    const auto readOnly = fileWith(std::string("read-only"));
+    chmod(readOnly.c_str(), 0444);
+    chmod(older.c_str(), 0666);
+    chmod(folder.path().c_str(), 0777);
     std::filesystem::create_directory(folder.path() / "folder");
-    bench.dialogs.file = folder.path() / "folder";
-    bench.controller().saveGamma();
-    EXPECT_THAT(bench.dialogs.alerts, IsEmpty()) << "What is there is still there.";
+    struct Row {
+        std::filesystem::path file;
+        bool isDiskFull;
+        bool isReported;
+        std::string kept;
+    };
+    // What is there is still there, and nobody need be told.
+    for (const Row& row :
+         {Row{folder.path() / "no/such/folder", false, true, ""},
+          Row{folder.path() / "folder", false, false, ""}, Row{readOnly, false, false, "read-only"},
+          Row{folder.path() / "new", true, true, ""}, Row{older, true, false, "older"}}) {
+        SCOPED_TRACE(row.file);
+        bench.dialogs.alerts.clear();
+        bench.log.clear();
+        bench.dialogs.file = row.file;
+        {
+            const OrdinaryUser user;
+            std::optional<FullDisk> disk;
+            if (row.isDiskFull) {
+                disk.emplace();
+            }
+            bench.controller().saveGamma();
+        }
+        EXPECT_EQ(bench.dialogs.alerts.size(), row.isReported ? 1U : 0U);
+        EXPECT_THAT(bench.log, testing::Not(IsEmpty()));
+        EXPECT_FALSE(std::filesystem::exists(folder.path() / "new"));
+        if (!row.kept.empty()) {
+            std::ifstream stream(row.file);
+            EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), row.kept);
+        }
+    }
 }
 
 }  // namespace

@@ -11,8 +11,8 @@
 #include <csignal>
 
 #include "FolderContents.h"
-#include "OrdinaryUser.h"
 #include "files/FileHandle.h"
+#include "tests/support/OrdinaryUser.h"
 
 namespace tonquil {
 namespace {

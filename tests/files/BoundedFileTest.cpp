@@ -5,7 +5,7 @@
 #include <sys/stat.h>
 
 #include "FolderContents.h"
-#include "OrdinaryUser.h"
+#include "tests/support/OrdinaryUser.h"
 
 namespace tonquil {
 namespace {

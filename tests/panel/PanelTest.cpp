@@ -5,12 +5,18 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMessageBox>
+#include <QMimeData>
 #include <QToolButton>
+#include <QUrl>
 #include <stdexcept>
 
 #include "app/panel/ChannelStrip.h"
 #include "app/panel/ControlPanel.h"
+#include "app/panel/PanelFileDialogs.h"
 #include "platform/missing/MissingWindowSystem.h"
 #include "ui/CurvePlot.h"
 #include "ui/TQNumericTextField.h"
@@ -54,7 +60,7 @@ class RecordedActions final : public PanelActions {
     void openTargetWindow() override { calls.emplace_back("targets"); }
     void loadGamma() override {}
     void saveGamma() override {}
-    void openFile(const std::filesystem::path& /*file*/) override {}
+    void openFile(const std::filesystem::path& file) override { calls.push_back(file); }
     [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const override { return {}; }
     void quit() override {}
 
@@ -222,6 +228,42 @@ TEST_F(Panel, TheStripStandsForTheChannelOfTheFocusedControl) {
     field(QStringLiteral("Blue, Middle point")).setFocus();
     EXPECT_TRUE(mirror.isVisible());
     EXPECT_TRUE(mirror.isEnabled());
+}
+
+TEST_F(Panel, TakesOneLocalFileThatIsDroppedOnIt) {
+    const QUrl local = QUrl::fromLocalFile(QStringLiteral("/a folder/b%20&c.tonquil"));
+    const QUrl remote(QStringLiteral("https://example.org/a.tonquil"));
+    for (const QList<QUrl>& urls : {QList<QUrl>{local}, {local, local}, {remote}, {}}) {
+        actions.calls.clear();
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(&panel, &enter);
+        const bool isTaken = urls == QList<QUrl>{local};
+        EXPECT_EQ(enter.isAccepted(), isTaken);
+        if (isTaken) {
+            QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&panel, &drop);
+            EXPECT_THAT(actions.calls, ElementsAre("/a folder/b%20&c.tonquil"));
+        }
+    }
+}
+
+TEST_F(Panel, HasOneFileDialogAtATimeButEveryAlert) {
+    PanelFileDialogs dialogs(panel);
+    const auto countOfDialogs = [this] { return panel.findChildren<QDialog*>().size(); };
+    dialogs.chooseFileToSave(SettingsFormat::MultiDisplay,
+                             [](const std::filesystem::path&, SettingsFormat) {});
+    EXPECT_EQ(countOfDialogs(), 1);
+    dialogs.chooseFileToOpen([](const std::filesystem::path&) {});
+    EXPECT_EQ(countOfDialogs(), 1);
+    dialogs.alert("Saving failed", "Could not save settings at this location.");
+    EXPECT_EQ(panel.findChildren<QMessageBox*>().size(), 1);
+    panel.findChild<QDialog*>()->reject();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    dialogs.chooseFileToOpen([](const std::filesystem::path&) {});
+    EXPECT_EQ(countOfDialogs(), 2) << "The alert, and the dialog that came after the first.";
 }
 
 TEST_F(Panel, SaysWhatIsEditedAndWhyItCannotBe) {

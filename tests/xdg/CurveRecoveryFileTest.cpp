@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "tests/files/FolderContents.h"
-#include "tests/files/OrdinaryUser.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/Succeeded.h"
 
 namespace tonquil {

@@ -2,7 +2,7 @@
 #include <sys/stat.h>
 
 #include "PreferencesBench.h"
-#include "tests/files/OrdinaryUser.h"
+#include "tests/support/OrdinaryUser.h"
 
 namespace tonquil {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "PreferencesBench.h"
 #include "files/FileHandle.h"
-#include "tests/files/OrdinaryUser.h"
+#include "tests/support/OrdinaryUser.h"
 
 namespace tonquil {
 namespace {
