@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "remote/AnswerQueue.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tonquil {
+
+namespace {
+
+// The time in which the rate for all grants one answer.
+constexpr std::chrono::milliseconds betweenAttempts{20};
+
+}  // namespace
+
+AnswerQueue::AnswerQueue(RunLoop& runLoop, Send send) : _runLoop(runLoop), _send(std::move(send)) {}
+
+bool AnswerQueue::admits(const SocketAddress& recipient) {
+    return _limits.take(recipient.host(), _runLoop.now());
+}
+
+void AnswerQueue::defer(const SocketAddress& recipient) {
+    std::erase_if(_waiting, [&](const Waiting& waiting) {
+        return waiting.recipient.host() == recipient.host();
+    });
+    if (_waiting.size() == mostWaiting) {
+        _waiting.erase(_waiting.begin());
+    }
+    _waiting.push_back({recipient, _runLoop.now()});
+    if (!_timer) {
+        startTimer();
+    }
+}
+
+void AnswerQueue::startTimer() {
+    _timer = _runLoop.callOnce(betweenAttempts, [this] { answerWaiting(); });
+}
+
+void AnswerQueue::answerWaiting() {
+    const auto now = _runLoop.now();
+    std::vector<SocketAddress> admitted;
+    std::erase_if(_waiting,
+                  [&](const Waiting& waiting) { return now - waiting.since > longestWait; });
+    // The newest is asked for first, so it gets the grant where there is only one.
+    for (auto waiting = _waiting.rbegin(); waiting != _waiting.rend(); ++waiting) {
+        if (_limits.take(waiting->recipient.host(), now)) {
+            admitted.push_back(waiting->recipient);
+        }
+    }
+    std::erase_if(_waiting, [&](const Waiting& waiting) {
+        return std::ranges::find(admitted, waiting.recipient) != admitted.end();
+    });
+    _timer.reset();
+    if (!_waiting.empty()) {
+        startTimer();
+    }
+    // Nothing of this object is touched from here on: an answer may end it.
+    const Send send = _send;
+    for (const SocketAddress& recipient : admitted) {
+        send(recipient);
+    }
+}
+
+}  // namespace tonquil

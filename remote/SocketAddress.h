@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <compare>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+
+namespace tonquil {
+
+/// An IPv4 address and port: where a datagram comes from or goes to.
+///
+/// It is kept as the 16 bytes of a socket address: its length 16, the family 2, the port and the
+/// address in network order, eight zeros. Two addresses are the same when all of these are.
+class SocketAddress {
+ public:
+    using Bytes = std::array<std::uint8_t, 16>;
+
+    /// 255.255.255.255, which reaches every machine on the network.
+    static constexpr std::uint32_t broadcastHost = 0xFFFFFFFF;
+
+    /// 0.0.0.0, port 0.
+    SocketAddress() : SocketAddress(0, 0) {}
+    /// `host` has the first of the dotted numbers in its highest byte.
+    SocketAddress(std::uint32_t host, std::uint16_t port);
+
+    [[nodiscard]] std::uint32_t host() const;
+    [[nodiscard]] std::uint16_t port() const;
+    [[nodiscard]] const Bytes& bytes() const { return _bytes; }
+
+    friend auto operator<=>(const SocketAddress&, const SocketAddress&) = default;
+
+ private:
+    Bytes _bytes;
+};
+
+}  // namespace tonquil
+
+template <>
+struct std::hash<tonquil::SocketAddress> {
+    std::size_t operator()(const tonquil::SocketAddress& address) const noexcept {
+        return std::hash<std::uint64_t>()(std::uint64_t{address.host()} << 16U | address.port());
+    }
+};
