@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hotkeys/HotKeyService.h"
+
+namespace tonquil {
+
+/// Stands where keys that go to other programs cannot be heard; refuses every combination.
+class MissingHotKeyService final : public HotKeyService {
+ public:
+    void setHandlers(Handler /*pressed*/, Handler /*released*/) override {}
+    [[nodiscard]] Result<HotKeyHandle> registerHotKey(std::uint16_t /*keyCode*/,
+                                                      HotKeyServiceMask /*modifiers*/,
+                                                      std::uint32_t /*id*/) override {
+        return problem("Key combinations for all programs are not available on this desktop.");
+    }
+    void unregisterHotKey(HotKeyHandle /*handle*/) override {}
+};
+
+}  // namespace tonquil
