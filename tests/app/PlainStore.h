@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/Alerts.h"
+#include "app/PreferencesStore.h"
+
+namespace tonquil {
+
+/// Settings in memory, of whose changes nobody is told before `tell`.
+class PlainStore final : public PreferencesStore {
+ public:
+    void registerDefaults(PropertyValue defaults) override { stored.update(defaults); }
+    void setValue(std::string_view key, PropertyValue value) override {
+        stored[std::string(key)] = std::move(value);
+        written.emplace_back(key);
+    }
+    bool synchronize() override {
+        saved = stored;
+        return true;
+    }
+    [[nodiscard]] std::unique_ptr<Subscription> subscribe(std::function<void()> changed) override {
+        _changed.push_back(std::move(changed));
+        return std::make_unique<Subscription>();
+    }
+    /// Ends an event in which something was changed.
+    void tell() const {
+        for (const auto& changed : _changed) {
+            changed();
+        }
+    }
+
+    PropertyValue stored = PropertyValue::object();
+    /// What the disk holds.
+    PropertyValue saved = PropertyValue::object();
+    /// The keys that were set, in order.
+    std::vector<std::string> written;
+
+ private:
+    [[nodiscard]] const PropertyValue* valueForKey(std::string_view key) const override {
+        return entry(stored, key);
+    }
+
+    std::vector<std::function<void()>> _changed;
+};
+
+/// The person in front of the alerts, who chooses `answer` each time.
+class ScriptedAlerts final : public Alerts {
+ public:
+    [[nodiscard]] std::size_t runModal(const Alert& alert) override {
+        shown.push_back(alert);
+        return answer;
+    }
+
+    std::size_t answer = 0;
+    std::vector<Alert> shown;
+};
+
+}  // namespace tonquil
