@@ -37,11 +37,13 @@ declare -A arrows=(
     [app/panel]="app model screens ui"
     [app/targets]="app app/panel screens targets"
     [cli]="foundation values files model screens settings remote"
+    [app/alerts]="app ui"
+    [launcher]=""
 )
 # Where programs are composed: the only files that may know which platform is used.
-composers=" cli/main.cpp app/main.cpp "
+composers=" cli/main.cpp app/main.cpp launcher/main.cpp "
 # Where windows and the toolkit's own services are.
-qt_folders=" ui targets app/panel app/targets platform/qt platform/dbus "
+qt_folders=" ui targets app/panel app/targets app/alerts platform/qt platform/dbus "
 
 breaches=0
 breach() {
@@ -67,7 +69,7 @@ check() {
         if [[ $composers != *" $1 "* ]]; then
             breach "$place" "\"$included\": only a program's main.cpp may include platform/choice"
         fi
-    elif [[ $1 == app/main.cpp && $target =~ ^(platform/|app/(panel|targets)$|ui$) ]]; then
+    elif [[ $1 == app/main.cpp && $target =~ ^(platform/|app/(panel|targets|alerts)$|ui$) ]]; then
         return
     elif [[ $target != "$folder" && " ${arrows[$folder]} " != *" $target "* ]]; then
         breach "$place" "\"$included\": $folder may include ${arrows[$folder]:-only itself}"

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// Starts the program at login, from wherever this launcher is by then.
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+namespace {
+
+/// The program in the launcher's own folder; empty where there is none.
+std::string programBesideUs() {
+    std::error_code error;
+    const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
+    const auto program = self.parent_path() / "tonquil";
+    return !error && ::access(program.c_str(), X_OK) == 0 ? program.native() : std::string();
+}
+
+}  // namespace
+
+int main() {
+    std::string name = "tonquil";
+    const std::array<char*, 2> arguments = {name.data(), nullptr};
+    if (const std::string program = programBesideUs(); !program.empty()) {
+        ::execv(program.c_str(), arguments.data());
+    }
+    ::execvp(name.c_str(), arguments.data());
+    std::fprintf(stderr,
+                 "tonquil-launcher: Tonquil could not be started: it is neither beside the "
+                 "launcher nor in PATH, or cannot be run (%s).\n",
+                 std::strerror(errno));
+    return EXIT_FAILURE;
+}

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "platform/xdg/AutostartLoginItem.h"
+
+#include <unistd.h>
+
+#include <cstdint>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "files/AtomicFile.h"
+#include "platform/xdg/DesktopEntry.h"
+#include "platform/xdg/Folder.h"
+
+namespace tonquil {
+
+bool AutostartLoginItem::isEnabled() const {
+    const auto entry = DesktopEntry::read(_file);
+    return entry && !entry->value("Exec").empty() && !entry->boolValue("Hidden", false) &&
+           entry->boolValue("X-GNOME-Autostart-enabled", true);
+}
+
+Result<void> AutostartLoginItem::setEnabled(bool isEnabled) {
+    if (isEnabled) {
+        return write();
+    }
+    std::error_code error;
+    std::filesystem::remove(_file, error);
+    if (error) {
+        return problem(_file.native() + " could not be removed: " + error.message() + ".");
+    }
+    return {};
+}
+
+Result<void> AutostartLoginItem::write() const {
+    if (::access(_launcher.c_str(), X_OK) != 0) {
+        return problem("Tonquil cannot be started at login, for its launcher " +
+                       _launcher.native() + " is missing.");
+    }
+    std::string text =
+        "[Desktop Entry]\n"
+        "Type=Application\n"
+        "Name=Tonquil\n"
+        "Comment=Correct the tone and colour of every display\n"
+        "Icon=tonquil\n"
+        "Terminal=false\n"
+        "NoDisplay=true\n"
+        "Exec=";
+    text += DesktopEntry::quotedArgument(_launcher.native());
+    text += '\n';
+    return makeFolder(_file.parent_path()).and_then([&] {
+        return writeFileAtomically(_file, std::vector<std::uint8_t>(text.begin(), text.end()),
+                                   AtomicFileOptions::document());
+    });
+}
+
+}  // namespace tonquil

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "platform/xdg/AutostartLoginItem.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+#include <vector>
+
+#include "platform/xdg/DesktopEntry.h"
+#include "tests/files/FolderContents.h"
+#include "tests/support/Succeeded.h"
+
+namespace tonquil {
+namespace {
+
+class AutostartLoginItemTest : public testing::Test {
+ protected:
+    void SetUp() override {
+        putContents(_launcher, "#!/bin/sh\n");
+        std::filesystem::permissions(_launcher, std::filesystem::perms{0755});
+    }
+
+    ScratchFolder _folder;
+    std::filesystem::path _launcher = _folder / "a launcher";
+    std::filesystem::path _file = _folder / "config/autostart/tonquil.desktop";
+    AutostartLoginItem _item{_file.parent_path(), _launcher};
+};
+
+TEST_F(AutostartLoginItemTest, WritesAndRemovesTheDesktopFile) {
+    EXPECT_FALSE(_item.isEnabled());
+    EXPECT_TRUE(succeeded(_item.setEnabled(false)));
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_TRUE(succeeded(_item.setEnabled(true)));
+        EXPECT_TRUE(_item.isEnabled());
+    }
+    const auto entry = DesktopEntry::read(_file);
+    ASSERT_TRUE(succeeded(entry));
+    EXPECT_EQ(entry->value("Type"), "Application");
+    EXPECT_EQ(entry->value("Exec"), "\"" + _launcher.native() + "\"");
+    EXPECT_TRUE(succeeded(_item.setEnabled(false)));
+    EXPECT_FALSE(_item.isEnabled());
+    EXPECT_FALSE(std::filesystem::exists(_file));
+}
+
+TEST_F(AutostartLoginItemTest, IsOffWhereTheDesktopSwitchedItOff) {
+    ASSERT_TRUE(succeeded(_item.setEnabled(true)));
+    const std::string written = contentsOf(_file);
+    for (const auto& [line, isEnabled] :
+         std::vector<std::pair<std::string, bool>>{{"Hidden=true\n", false},
+                                                   {"Hidden=false\n", true},
+                                                   {"X-GNOME-Autostart-enabled=false\n", false},
+                                                   {"X-GNOME-Autostart-enabled=true\n", true}}) {
+        SCOPED_TRACE(line);
+        putContents(_file, written + line);
+        EXPECT_EQ(_item.isEnabled(), isEnabled);
+    }
+    putContents(_file, written + "Hidden=true\n");
+    ASSERT_TRUE(succeeded(_item.setEnabled(true)));
+    EXPECT_TRUE(_item.isEnabled());
+}
+
+TEST_F(AutostartLoginItemTest, FailsWithASentenceAndStaysOff) {
+    AutostartLoginItem missing(_file.parent_path(), _folder / "nothing");
+    const auto refused = missing.setEnabled(true);
+    ASSERT_FALSE(refused);
+    EXPECT_NE(refused.error().sentence.find("launcher"), std::string::npos);
+    EXPECT_FALSE(missing.isEnabled());
+
+    putContents(_folder / "config", "a file where the folder would be");
+    EXPECT_FALSE(_item.setEnabled(true));
+    EXPECT_FALSE(_item.isEnabled());
+}
+
+TEST(DesktopEntry, QuotesAnArgumentTwiceOver) {
+    const std::vector<std::pair<std::string, std::string>> rows = {
+        {"/usr/bin/x", R"("/usr/bin/x")"},
+        {"/a b/100%/x", R"("/a b/100%%/x")"},
+        {R"(/"`$\)", R"("/\\"\\`\\$\\\\")"},
+        {"/line\nbreak", R"("/line\nbreak")"}};
+    for (const auto& [argument, quoted] : rows) {
+        SCOPED_TRACE(argument);
+        EXPECT_EQ(DesktopEntry::quotedArgument(argument), quoted);
+    }
+}
+
+}  // namespace
+}  // namespace tonquil
