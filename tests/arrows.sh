@@ -38,12 +38,13 @@ declare -A arrows=(
     [app/targets]="app app/panel screens targets"
     [cli]="foundation values files model screens settings remote"
     [app/alerts]="app ui"
+    [app/about]="app/alerts app/panel ui"
     [launcher]=""
 )
 # Where programs are composed: the only files that may know which platform is used.
 composers=" cli/main.cpp app/main.cpp launcher/main.cpp "
 # Where windows and the toolkit's own services are.
-qt_folders=" ui targets app/panel app/targets app/alerts platform/qt platform/dbus "
+qt_folders=" ui targets app/panel app/targets app/alerts app/about platform/qt platform/dbus "
 
 breaches=0
 breach() {
@@ -69,7 +70,7 @@ check() {
         if [[ $composers != *" $1 "* ]]; then
             breach "$place" "\"$included\": only a program's main.cpp may include platform/choice"
         fi
-    elif [[ $1 == app/main.cpp && $target =~ ^(platform/|app/(panel|targets|alerts)$|ui$) ]]; then
+    elif [[ $1 == app/main.cpp && $target =~ ^(platform/|app/(panel|targets|alerts|about)$|ui$) ]]; then
         return
     elif [[ $target != "$folder" && " ${arrows[$folder]} " != *" $target "* ]]; then
         breach "$place" "\"$included\": $folder may include ${arrows[$folder]:-only itself}"

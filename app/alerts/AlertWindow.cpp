@@ -118,7 +118,7 @@ AlertWindow::AlertWindow(const Alert& alert, const Appearance& appearance, QWidg
 void AlertWindow::addButtons(const Alert& alert, QBoxLayout& row) {
     for (const std::string_view title : alert.buttons) {
         const std::size_t index = _buttons.size();
-        auto* button = new QPushButton(localised(alert.table, title));
+        auto* button = new QPushButton(localised(alert.table, title), this);
         button->setMinimumWidth(leastButtonWidth);
         button->setAutoDefault(false);
         button->setDefault(index == 0);

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+namespace tonquil {
+
+class KVAboutBoxIconView;
+class KVAboutBoxScrollView;
+
+/// The about window as it is laid out, before the controller has filled it: the icon on the left,
+/// and the template of the text on the right of it. Escape closes it. It is light in every theme.
+class AboutWindow : public QWidget {
+ public:
+    AboutWindow();
+
+    [[nodiscard]] KVAboutBoxIconView* iconView() const { return _iconView; }
+    [[nodiscard]] KVAboutBoxScrollView* textView() const { return _textView; }
+
+ protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+    KVAboutBoxIconView* _iconView;
+    KVAboutBoxScrollView* _textView;
+};
+
+}  // namespace tonquil
