@@ -54,7 +54,7 @@ AboutWindow::AboutWindow() : _iconView(nullptr), _textView(nullptr) {
 
     _iconView = new KVAboutBoxIconView(background);
     _iconView->setGeometry(margin, margin, iconSize, iconSize);
-    _iconView->setIcon(programIcon());
+    _iconView->setPicture(drawProgramIcon);
     _textView = new KVAboutBoxScrollView(background);
     const int left = margin + iconSize + margin;
     _textView->setGeometry(left, margin, windowSize.width() - left - margin,

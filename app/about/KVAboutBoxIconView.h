@@ -1,32 +1,40 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QIcon>
 #include <QPainter>
 #include <QWidget>
+#include <functional>
+#include <utility>
 
 namespace tonquil {
 
-/// Shows an icon as large as itself. Presses go through to what is behind it, and so move the
+/// Shows a picture as large as itself. Presses go through to what is behind it, and so move the
 /// window.
 class KVAboutBoxIconView : public QWidget {
  public:
+    /// Draws in a square of 16 points at the painter's origin.
+    using Picture = std::function<void(QPainter&)>;
+
     using QWidget::QWidget;
 
-    void setIcon(const QIcon& icon) {
-        _icon = icon;
+    void setPicture(Picture picture) {
+        _picture = std::move(picture);
         update();
     }
     [[nodiscard]] static bool mouseDownCanMoveWindow() { return true; }
 
  protected:
     void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter painter(this);
-        _icon.paint(&painter, rect());
+        if (_picture) {
+            QPainter painter(this);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.scale(width() / 16.0, height() / 16.0);
+            _picture(painter);
+        }
     }
 
  private:
-    QIcon _icon;
+    Picture _picture;
 };
 
 }  // namespace tonquil

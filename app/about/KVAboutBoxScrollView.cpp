@@ -8,10 +8,24 @@
 
 namespace tonquil {
 
+namespace {
+
+/// A bar without arrows, on the background that the text has.
+constexpr const char* quietBar =
+    "QScrollBar { background: transparent; width: 12px; margin: 0; }"
+    "QScrollBar::handle { background: rgba(0, 0, 0, 72); border-radius: 3px; margin: 3px;"
+    " min-height: 24px; }"
+    "QScrollBar::handle:hover { background: rgba(0, 0, 0, 120); }"
+    "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
+    "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }";
+
+}  // namespace
+
 KVAboutBoxScrollView::KVAboutBoxScrollView(QWidget* parent) : QTextBrowser(parent) {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setOpenExternalLinks(true);
+    verticalScrollBar()->setStyleSheet(QString::fromLatin1(quietBar));
     viewport()->setAutoFillBackground(false);
     QPalette palette = this->palette();
     palette.setColor(QPalette::Base, Qt::transparent);

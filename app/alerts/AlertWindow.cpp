@@ -9,6 +9,7 @@
 #include <QPainterPath>
 #include <QPushButton>
 
+#include "app/alerts/FlatButton.h"
 #include "app/alerts/Localisation.h"
 #include "ui/Theme.h"
 
@@ -17,7 +18,7 @@ namespace tonquil {
 namespace {
 
 // In points.
-constexpr int margin = 20;
+constexpr int margin = 12;
 constexpr int spacing = 8;
 constexpr int iconSize = 48;
 constexpr int textWidth = 340;
@@ -99,7 +100,7 @@ AlertWindow::AlertWindow(const Alert& alert, const Appearance& appearance, QWidg
     icon->setPixmap(iconOf(alert, theme, devicePixelRatioF()));
     icon->setAlignment(Qt::AlignTop);
     auto* upper = new QHBoxLayout;
-    upper->setSpacing(2 * spacing);
+    upper->setSpacing(margin);
     upper->addWidget(icon);
     upper->addLayout(makeTexts(alert, theme), 1);
     auto* row = new QHBoxLayout;
@@ -118,7 +119,7 @@ AlertWindow::AlertWindow(const Alert& alert, const Appearance& appearance, QWidg
 void AlertWindow::addButtons(const Alert& alert, QBoxLayout& row) {
     for (const std::string_view title : alert.buttons) {
         const std::size_t index = _buttons.size();
-        auto* button = new QPushButton(localised(alert.table, title), this);
+        auto* button = new FlatButton(localised(alert.table, title), this);
         button->setMinimumWidth(leastButtonWidth);
         button->setAutoDefault(false);
         button->setDefault(index == 0);

@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::string_view interferenceKey = "[%1$@ installed, might interfer %2$@.]";
 constexpr std::string_view interference =
-    "%2$@ changes the same colour tables as %1$@, so each of them may overwrite what the other has "
-    "set. It is best to quit %2$@, or to switch it off, while you use %1$@.";
+    "%2$@ changes the same colour tables as %1$@, and each may overwrite what the other has set. "
+    "Quit %2$@, or switch it off, while you use %1$@.";
 
 }  // namespace
 

@@ -115,22 +115,23 @@ std::array<QIcon, 4> touchBarChannelImagesForTab(int tab, const Appearance& appe
             image(Channel::Blue)};
 }
 
+void drawProgramIcon(QPainter& painter) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x2A, 0x2A, 0x2A));
+    painter.drawRoundedRect(QRectF(0.5, 0.5, 15, 15), 3.5, 3.5);
+    painter.setPen(penOf(QColor(0x7A, 0x7A, 0x7A), 0.6));
+    painter.drawLine(QPointF(3, 13), QPointF(13, 3));
+    painter.setPen(penOf(Qt::white, 1.5));
+    painter.setBrush(Qt::NoBrush);
+    QPainterPath curve(QPointF(3, 13));
+    curve.quadTo(QPointF(8.5, 11.5), QPointF(13, 3));
+    painter.drawPath(curve);
+}
+
 QIcon programIcon() {
-    const auto draw = [](QPainter& painter) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0x2A, 0x2A, 0x2A));
-        painter.drawRoundedRect(QRectF(0.5, 0.5, 15, 15), 3.5, 3.5);
-        painter.setPen(penOf(QColor(0x7A, 0x7A, 0x7A), 0.6));
-        painter.drawLine(QPointF(3, 13), QPointF(13, 3));
-        painter.setPen(penOf(Qt::white, 1.5));
-        painter.setBrush(Qt::NoBrush);
-        QPainterPath curve(QPointF(3, 13));
-        curve.quadTo(QPointF(8.5, 11.5), QPointF(13, 3));
-        painter.drawPath(curve);
-    };
-    QIcon icon = iconFrom(draw, 32);
+    QIcon icon = iconFrom(drawProgramIcon, 32);
     for (const int points : {16, 48, 128}) {
-        icon.addPixmap(iconFrom(draw, points).pixmap(points));
+        icon.addPixmap(iconFrom(drawProgramIcon, points).pixmap(points));
     }
     return icon;
 }

@@ -6,6 +6,8 @@
 
 #include "ui/Appearance.h"
 
+class QPainter;
+
 namespace tonquil {
 
 /// The pictures on the panel's buttons, drawn for an appearance.
@@ -19,5 +21,7 @@ enum class PanelIcon { Close, Menu, Reset, Targets };
 
 /// The program's own icon.
 [[nodiscard]] QIcon programIcon();
+/// Draws it in the square of 16 points at the painter's origin, for sizes beyond an icon's.
+void drawProgramIcon(QPainter& painter);
 
 }  // namespace tonquil
