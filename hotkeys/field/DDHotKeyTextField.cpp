@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+#include "hotkeys/field/DDHotKeyTextField.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <algorithm>
+#include <utility>
+
+#include "hotkeys/KeyCombinationString.h"
+#include "hotkeys/field/DDHotKeyTextFieldEditor.h"
+#include "hotkeys/field/HotKeyClearButton.h"
+#include "ui/Drawing.h"
+#include "ui/Theme.h"
+
+namespace tonquil {
+
+namespace {
+
+// In points.
+constexpr int padding = 4;
+constexpr int leastHeight = 24;
+constexpr int clearButtonSpace = 20;
+
+}  // namespace
+
+DDHotKeyTextField::DDHotKeyTextField(const KeyboardLayout& layout, QWidget* parent)
+    : QLineEdit(parent), _layout(layout), _clearButton(new HotKeyClearButton(this)) {
+    setFrame(false);
+    // The same on both sides, so that the text stays in the middle.
+    setTextMargins(clearButtonSpace, 0, clearButtonSpace, 0);
+    setAlignment(Qt::AlignCenter);
+    // Keys are recorded, never typed: no cursor, no input method, no menu.
+    setReadOnly(true);
+    setAcceptDrops(false);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::ArrowCursor);
+    // The background is drawn here.
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::transparent);
+    setPalette(palette);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    _clearButton->hide();
+    connect(_clearButton, &QAbstractButton::clicked, this, &DDHotKeyTextField::clearHotKey);
+}
+
+DDHotKeyTextField::~DDHotKeyTextField() {
+    // Nobody is told any more, but the keys must be let go.
+    const QSignalBlocker silence(this);
+    endRecording();
+}
+
+void DDHotKeyTextField::setHotKey(std::shared_ptr<DDHotKey> hotKey) {
+    if (hotKey == _hotKey) {
+        return;
+    }
+    _hotKey = std::move(hotKey);
+    _clearButton->setVisible(_hotKey != nullptr);
+    showCombination(_hotKey ? _hotKey->keyCode() : std::uint16_t{0},
+                    _hotKey ? _hotKey->modifierFlags() : ModifierFlags{0});
+}
+
+QString DDHotKeyTextField::stringValue() const {
+    qWarning(
+        "-[DDHotKeyTextField stringValue] is not what you want. Use -[DDHotKeyTextField hotKey] "
+        "instead.");
+    return text();
+}
+
+void DDHotKeyTextField::setStringValue(const QString& text) {
+    qWarning(
+        "-[DDHotKeyTextField setStringValue:] is not what you want. Use -[DDHotKeyTextField "
+        "setHotKey:] instead.");
+    setText(text);
+}
+
+void DDHotKeyTextField::showCombination(std::uint16_t keyCode, ModifierFlags modifierFlags) {
+    const std::string combination = keyCombinationString(keyCode, modifierFlags, _layout);
+    setText(QString::fromStdString(combination).toUpper());
+}
+
+QSize DDHotKeyTextField::sizeHint() const {
+    const QFontMetrics metrics = fontMetrics();
+    const int width = metrics.horizontalAdvance(tr("Type a shortcut")) + 2 * clearButtonSpace;
+    return {(width + 3) / 4 * 4, std::max(leastHeight, metrics.height() + padding)};
+}
+
+QSize DDHotKeyTextField::minimumSizeHint() const {
+    return sizeHint();
+}
+
+void DDHotKeyTextField::beginRecording() {
+    if (_isRecording) {
+        return;
+    }
+    _editor = _cell.fieldEditorForView(this);
+    if (!_editor || !_editor->becomeFirstResponder()) {
+        return;
+    }
+    _isRecording = true;
+    update();
+    Q_EMIT recordingBegan();
+}
+
+void DDHotKeyTextField::endRecording() {
+    if (!_isRecording) {
+        return;
+    }
+    _isRecording = false;
+    if (_editor) {
+        _editor->resignFirstResponder();
+    }
+    update();
+    Q_EMIT recordingEnded();
+}
+
+void DDHotKeyTextField::clearHotKey() {
+    setHotKey(nullptr);
+    Q_EMIT hotKeyChanged();
+    if (_isRecording) {
+        clearFocus();
+    }
+}
+
+void DDHotKeyTextField::paintEvent(QPaintEvent* event) {
+    {
+        QPainter painter(this);
+        painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
+        drawField(painter, rect(), themeOf(*this), hasFocus());
+    }
+    if (_isRecording) {
+        paintPrompt();
+    } else {
+        QLineEdit::paintEvent(event);
+    }
+}
+
+void DDHotKeyTextField::paintPrompt() {
+    QPainter painter(this);
+    painter.setPen(themeOf(*this).secondaryText);
+    const QRect place = rect().adjusted(padding, 0, -padding, 0);
+    painter.drawText(
+        place, Qt::AlignCenter,
+        fontMetrics().elidedText(tr("Type a shortcut"), Qt::ElideRight, place.width()));
+}
+
+void DDHotKeyTextField::resizeEvent(QResizeEvent* event) {
+    QLineEdit::resizeEvent(event);
+    placeClearButton();
+}
+
+void DDHotKeyTextField::placeClearButton() {
+    const QSize size = _clearButton->sizeHint();
+    const QPoint corner(width() - size.width() - padding, (height() - size.height()) / 2);
+    _clearButton->setGeometry(QStyle::visualRect(layoutDirection(), rect(), QRect(corner, size)));
+}
+
+// There is nothing to select; the click itself brings the focus.
+void DDHotKeyTextField::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    if (event->button() == Qt::LeftButton && hasFocus()) {
+        beginRecording();
+    }
+}
+
+void DDHotKeyTextField::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void DDHotKeyTextField::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void DDHotKeyTextField::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void DDHotKeyTextField::keyPressEvent(QKeyEvent* event) {
+    // While a recording is under way, the editor has taken the key.
+    const bool isBegin = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+                         event->key() == Qt::Key_Enter;
+    if (isBegin && !event->isAutoRepeat()) {
+        beginRecording();
+    } else {
+        event->ignore();
+    }
+}
+
+void DDHotKeyTextField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    // A window that comes to the front brings the focus along; nobody meant to record by that.
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+        beginRecording();
+    }
+    deselect();
+}
+
+void DDHotKeyTextField::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    endRecording();
+}
+
+}  // namespace tonquil

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "hotkeys/field/DDHotKeyTextFieldEditor.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+#include "hotkeys/VirtualKeys.h"
+#include "hotkeys/field/DDHotKeyTextField.h"
+#include "hotkeys/field/QtKeys.h"
+
+namespace tonquil {
+
+namespace {
+
+// Any of them makes a combination of a key. Caps lock and the numeric pad do not.
+constexpr ModifierFlags combiningFlags = ModifierFlag::shift | ModifierFlag::control |
+                                         ModifierFlag::option | ModifierFlag::command |
+                                         ModifierFlag::function;
+
+bool isNewline(const QString& characters) {
+    if (characters.isEmpty()) {
+        return false;
+    }
+    const char16_t first = characters.front().unicode();
+    return (first >= u'\u000A' && first <= u'\u000D') || first == u'\u0085' || first == u'\u2028' ||
+           first == u'\u2029';
+}
+
+}  // namespace
+
+DDHotKeyTextFieldEditor::DDHotKeyTextFieldEditor(QObject* parent) : QObject(parent) {}
+
+DDHotKeyTextField* DDHotKeyTextFieldEditor::hotKeyField() const {
+    return _hotKeyField;
+}
+
+void DDHotKeyTextFieldEditor::setHotKeyField(DDHotKeyTextField* field) {
+    _hotKeyField = field;
+    _originalHotKey = field != nullptr ? field->hotKey() : nullptr;
+}
+
+bool DDHotKeyTextFieldEditor::becomeFirstResponder() {
+    if (!_hotKeyField) {
+        return false;
+    }
+    _hasSeenKeyDown = false;
+    _heldKey = 0;
+    _globalMonitor = true;
+    QCoreApplication::instance()->installEventFilter(this);
+    return true;
+}
+
+void DDHotKeyTextFieldEditor::resignFirstResponder() {
+    setHotKeyField(nullptr);
+    _globalMonitor = false;
+    if (_heldKey == 0) {
+        QCoreApplication::instance()->removeEventFilter(this);
+    }
+}
+
+bool DDHotKeyTextFieldEditor::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::ShortcutOverride:
+        case QEvent::KeyRelease:
+            break;
+        default:
+            return QObject::eventFilter(watched, event);
+    }
+    auto& key = static_cast<QKeyEvent&>(*event);
+    const bool isHeld = isHeldRepeat(key);
+    if (key.type() == QEvent::KeyRelease || (!_globalMonitor && !isHeld)) {
+        return QObject::eventFilter(watched, event);
+    }
+    if (_globalMonitor && key.type() == QEvent::KeyPress) {
+        processHotkeyEvent(key);
+    }
+    // An override that is accepted keeps shortcuts from running; the key follows by itself.
+    key.accept();
+    return true;
+}
+
+bool DDHotKeyTextFieldEditor::isHeldRepeat(const QKeyEvent& event) {
+    if (_heldKey == 0) {
+        return false;
+    }
+    if (event.isAutoRepeat() && event.nativeScanCode() == _heldKey) {
+        return true;
+    }
+    // It went up, or another key went down, after which it repeats no more.
+    if (!event.isAutoRepeat() &&
+        (event.nativeScanCode() == _heldKey || event.type() != QEvent::KeyRelease)) {
+        _heldKey = 0;
+        if (!_globalMonitor) {
+            QCoreApplication::instance()->removeEventFilter(this);
+        }
+    }
+    return false;
+}
+
+void DDHotKeyTextFieldEditor::processHotkeyEvent(const QKeyEvent& event) {
+    // A repeat is of a key that was held before: one that is ignored stays ignored, and the Tab
+    // that brought the focus here is no combination.
+    if (!_hotKeyField || event.isAutoRepeat() || isModifierEvent(event)) {
+        return;
+    }
+    _hasSeenKeyDown = true;
+    const auto keyCode = virtualKeyCode(event);
+    const ModifierFlags flags = modifierFlags(event);
+    if ((flags & combiningFlags) != 0) {
+        if (keyCode) {
+            _heldKey = event.nativeScanCode();
+            record(*keyCode, flags);
+        }
+        return;
+    }
+    // What the layout makes an Escape is one too.
+    const bool isEscape = keyCode == VirtualKey::escape || event.key() == Qt::Key_Escape;
+    if (isEscape || isNewline(event.text())) {
+        _heldKey = event.nativeScanCode();
+        if (isEscape) {
+            restoreOriginal();
+        }
+        endEditing();
+    }
+}
+
+void DDHotKeyTextFieldEditor::record(std::uint16_t keyCode, ModifierFlags modifierFlags) {
+    const QPointer<DDHotKeyTextField> field = _hotKeyField;
+    field->setHotKey(DDHotKey::hotKeyWithKeyCode(
+        keyCode, modifierFlags, _originalHotKey ? _originalHotKey->task() : DDHotKey::Task()));
+    Q_EMIT field->hotKeyChanged();
+    endEditing();
+}
+
+void DDHotKeyTextFieldEditor::restoreOriginal() {
+    const QPointer<DDHotKeyTextField> field = _hotKeyField;
+    const bool wasReplaced = field->hotKey() != _originalHotKey;
+    field->setHotKey(_originalHotKey);
+    if (_originalHotKey) {
+        field->showCombination(_originalHotKey->keyCode(), _originalHotKey->modifierFlags());
+    }
+    // Whoever set another during the recording hears that it is gone again.
+    if (wasReplaced) {
+        Q_EMIT field->hotKeyChanged();
+    }
+}
+
+void DDHotKeyTextFieldEditor::endEditing() {
+    if (_hotKeyField) {
+        _hotKeyField->clearFocus();
+    }
+}
+
+}  // namespace tonquil

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "hotkeys/field/HotKeyClearButton.h"
+
+#include <QEnterEvent>
+#include <QPainter>
+
+#include "ui/Drawing.h"
+#include "ui/Theme.h"
+
+namespace tonquil {
+
+namespace {
+
+// In points.
+constexpr int side = 16;
+constexpr double crossInset = 5;
+constexpr double crossWidth = 1.5;
+constexpr double ringWidth = 2;
+constexpr double ringRadius = 4;
+
+}  // namespace
+
+HotKeyClearButton::HotKeyClearButton(QWidget* parent) : QAbstractButton(parent) {
+    // Not by a click, which would end a recording before the button is let go.
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::ArrowCursor);
+    setAccessibleName(tr("Clear shortcut"));
+    setToolTip(tr("Clear shortcut"));
+    resize(sizeHint());
+}
+
+QSize HotKeyClearButton::sizeHint() const {
+    return {side, side};
+}
+
+void HotKeyClearButton::paintEvent(QPaintEvent* /*event*/) {
+    const Theme& theme = themeOf(*this);
+    QPainter painter(this);
+    painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool isLit = underMouse() || isDown();
+    painter.setPen(
+        QPen(isLit ? theme.text : theme.secondaryText, crossWidth, Qt::SolidLine, Qt::RoundCap));
+    const QRectF cross = QRectF(rect()).adjusted(crossInset, crossInset, -crossInset, -crossInset);
+    painter.drawLine(cross.topLeft(), cross.bottomRight());
+    painter.drawLine(cross.topRight(), cross.bottomLeft());
+    if (hasFocus()) {
+        drawRoundedFrame(painter, rect(), ringRadius, ringWidth, theme.focusRing);
+    }
+}
+
+void HotKeyClearButton::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void HotKeyClearButton::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+}  // namespace tonquil

@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <linux/input-event-codes.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QVBoxLayout>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "hotkeys/VirtualKeys.h"
+#include "hotkeys/field/DDHotKeyTextField.h"
+#include "hotkeys/field/DDHotKeyTextFieldEditor.h"
+#include "tests/hotkeys/TableLayout.h"
+
+namespace tonquil {
+namespace {
+
+using testing::ElementsAre;
+
+std::vector<std::string>& warnings() {
+    static std::vector<std::string> lines;
+    return lines;
+}
+
+void keepWarning(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& line) {
+    warnings().push_back(line.toStdString());
+}
+
+struct Key {
+    std::uint32_t evdevCode;
+    int key;
+    const char* text = "";
+};
+
+constexpr Key a{KEY_A, Qt::Key_A, "a"};
+constexpr Key q{KEY_Q, Qt::Key_Q, "q"};
+constexpr Key fiveF{KEY_F5, Qt::Key_F5};
+constexpr Key enter{KEY_ENTER, Qt::Key_Return, "\r"};
+constexpr Key keypadEnter{KEY_KPENTER, Qt::Key_Enter, "\r"};
+constexpr Key escape{KEY_ESC, Qt::Key_Escape, "\x1b"};
+constexpr Key tab{KEY_TAB, Qt::Key_Tab, "\t"};
+constexpr Key backspace{KEY_BACKSPACE, Qt::Key_Backspace, "\b"};
+constexpr Key del{KEY_DELETE, Qt::Key_Delete, "\x7f"};
+constexpr Key left{KEY_LEFT, Qt::Key_Left};
+constexpr Key shiftKey{KEY_LEFTSHIFT, Qt::Key_Shift};
+constexpr Key capsAsEscape{KEY_CAPSLOCK, Qt::Key_Escape, "\x1b"};
+constexpr Key printScreen{KEY_SYSRQ, Qt::Key_Print};
+
+class HotKeyTextFieldTest : public testing::Test {
+ protected:
+    void SetUp() override {
+        warnings().clear();
+        auto* const column = new QVBoxLayout(&window);
+        column->addWidget(other);
+        column->addWidget(field);
+        QObject::connect(field, &DDHotKeyTextField::hotKeyChanged,
+                         [this] { told.emplace_back("changed"); });
+        QObject::connect(field, &DDHotKeyTextField::recordingBegan,
+                         [this] { told.emplace_back("began"); });
+        QObject::connect(field, &DDHotKeyTextField::recordingEnded,
+                         [this] { told.emplace_back("ended"); });
+        window.show();
+        window.activateWindow();
+        QApplication::processEvents();
+        other->setFocus();
+    }
+    /// A key event as the platform makes it: what a shortcut might take is asked for first.
+    void send(QEvent::Type type, const Key& key, Qt::KeyboardModifiers held, bool isRepeat) {
+        QWidget* const receiver = window.focusWidget() != nullptr ? window.focusWidget() : &window;
+        const auto make = [&](QEvent::Type made) {
+            return QKeyEvent(made, key.key, held, key.evdevCode + 8, 0, 0,
+                             QString::fromLatin1(key.text), isRepeat);
+        };
+        if (type == QEvent::KeyPress) {
+            QKeyEvent asked = make(QEvent::ShortcutOverride);
+            asked.ignore();
+            QApplication::sendEvent(receiver, &asked);
+            wasOverridden = asked.isAccepted();
+        }
+        QKeyEvent event = make(type);
+        QApplication::sendEvent(receiver, &event);
+    }
+    void press(const Key& key, Qt::KeyboardModifiers held = Qt::NoModifier, bool isRepeat = false) {
+        send(QEvent::KeyPress, key, held, isRepeat);
+    }
+    void release(const Key& key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+        send(QEvent::KeyRelease, key, held, false);
+    }
+    void record() {
+        field->setFocus(Qt::MouseFocusReason);
+        ASSERT_TRUE(field->isRecording());
+        told.clear();
+    }
+    [[nodiscard]] std::string shown() const { return field->text().toStdString(); }
+    [[nodiscard]] QAbstractButton* clearButton() const {
+        return field->findChild<QAbstractButton*>();
+    }
+
+    std::vector<std::string> told;
+    TableLayout layout;
+    QWidget window;
+    QLineEdit* other = new QLineEdit;
+    DDHotKeyTextField* field = new DDHotKeyTextField(layout);
+    bool wasOverridden = false;
+};
+
+TEST_F(HotKeyTextFieldTest, RecordsACombinationAndThenEnds) {
+    struct Row {
+        Key key;
+        Qt::KeyboardModifiers held;
+        std::uint16_t keyCode;
+        ModifierFlags flags;
+        const char* shown;
+    };
+    const std::vector<Row> rows{
+        {a, Qt::MetaModifier, 0, ModifierFlag::command, "⌘A"},
+        {q, Qt::ControlModifier | Qt::AltModifier, 12, ModifierFlag::control | ModifierFlag::option,
+         "⌃⌥Q"},
+        {fiveF, Qt::NoModifier, 96, ModifierFlag::function, "F5"},
+        {left, Qt::ShiftModifier | Qt::KeypadModifier, 123,
+         ModifierFlag::function | ModifierFlag::shift | ModifierFlag::numericPad, "⇧←"},
+        {enter, Qt::ShiftModifier, 36, ModifierFlag::shift, "⇧↩"},
+        {escape, Qt::AltModifier, 53, ModifierFlag::option, "⌥⎋"},
+        {backspace, Qt::ControlModifier, 51, ModifierFlag::control, "⌃⌫"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.shown);
+        record();
+        press(row.key, row.held);
+        EXPECT_TRUE(wasOverridden) << "a shortcut of the window would have run";
+        ASSERT_NE(field->hotKey(), nullptr);
+        EXPECT_EQ(field->hotKey()->keyCode(), row.keyCode);
+        EXPECT_EQ(field->hotKey()->modifierFlags(), row.flags);
+        EXPECT_EQ(shown(), row.shown);
+        EXPECT_THAT(told, ElementsAre("changed", "ended"));
+        EXPECT_FALSE(field->hasFocus());
+        release(row.key, row.held);
+    }
+}
+
+TEST_F(HotKeyTextFieldTest, TakesOtherKeysWithoutAModifierAndGoesOn) {
+    field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, ModifierFlag::command, {}));
+    const auto former = field->hotKey();
+    record();
+    for (const Key& key : {a, tab, backspace, del, printScreen, shiftKey}) {
+        SCOPED_TRACE(key.key);
+        press(key, key.key == Qt::Key_Shift ? Qt::ShiftModifier : Qt::NoModifier);
+        EXPECT_TRUE(wasOverridden);
+        EXPECT_TRUE(field->isRecording());
+    }
+    press(printScreen, Qt::ControlModifier);
+    press(a, Qt::KeypadModifier);
+    press(a, Qt::ControlModifier, true);
+    EXPECT_TRUE(field->isRecording()) << "neither a key unknown to hot keys nor a repeat";
+    EXPECT_EQ(field->hotKey(), former);
+    EXPECT_THAT(told, ElementsAre());
+    EXPECT_EQ(shown(), "⌘A");
+}
+
+TEST_F(HotKeyTextFieldTest, EndsWithoutAChangeByReturnAndByALossOfTheFocus) {
+    field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, ModifierFlag::command, {}));
+    const auto former = field->hotKey();
+    for (const Key& key : {enter, keypadEnter, escape, capsAsEscape}) {
+        SCOPED_TRACE(key.evdevCode);
+        record();
+        press(key);
+        release(key);
+        EXPECT_FALSE(field->hasFocus());
+        EXPECT_THAT(told, ElementsAre("ended"));
+    }
+    record();
+    other->setFocus();
+    EXPECT_THAT(told, ElementsAre("ended"));
+    EXPECT_EQ(field->hotKey(), former);
+    press(a);
+    EXPECT_EQ(other->text(), QStringLiteral("a")) << "keys are let go of";
+}
+
+TEST_F(HotKeyTextFieldTest, EscapePutsBackWhatTheRecordingBeganWith) {
+    const auto former = DDHotKey::hotKeyWithKeyCode(0, ModifierFlag::command, {});
+    field->setHotKey(former);
+    record();
+    field->setHotKey(DDHotKey::hotKeyWithKeyCode(12, ModifierFlag::shift, {}));
+    EXPECT_EQ(shown(), "⇧Q");
+    press(escape);
+    EXPECT_EQ(field->hotKey(), former);
+    EXPECT_EQ(shown(), "⌘A");
+    EXPECT_THAT(told, ElementsAre("changed", "ended"));
+}
+
+TEST_F(HotKeyTextFieldTest, ARecordedHotKeyKeepsTheTaskOfTheOneBefore) {
+    int calls = 0;
+    field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, 0, [&](const HotKeyEvent&) { ++calls; }));
+    record();
+    press(q, Qt::AltModifier);
+    field->hotKey()->invokeWithEvent({});
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(HotKeyTextFieldTest, AKeyThatIsStillHeldAfterTheRecordingRunsNoShortcut) {
+    QShortcut quit(QKeySequence(Qt::CTRL | Qt::Key_Q), &window);
+    int quits = 0;
+    QObject::connect(&quit, &QShortcut::activated, [&] { ++quits; });
+    record();
+    press(q, Qt::ControlModifier);
+    EXPECT_EQ(quits, 0) << 1;
+    other->setFocus();
+    press(q, Qt::ControlModifier, true);
+    EXPECT_EQ(quits, 0) << 2;
+    EXPECT_TRUE(wasOverridden);
+    press(a);
+    EXPECT_EQ(other->text(), QStringLiteral("a")) << "another key is let through";
+    release(q, Qt::ControlModifier);
+    press(q);
+    EXPECT_EQ(other->text(), QStringLiteral("aq"));
+    EXPECT_EQ(quits, 0);
+}
+
+TEST_F(HotKeyTextFieldTest, DoesNotRecordBecauseItsWindowComesToTheFront) {
+    field->setFocus(Qt::ActiveWindowFocusReason);
+    EXPECT_TRUE(field->hasFocus());
+    EXPECT_FALSE(field->isRecording());
+    press({KEY_SPACE, Qt::Key_Space, " "});
+    EXPECT_TRUE(field->isRecording());
+    EXPECT_THAT(told, ElementsAre("began"));
+}
+
+TEST_F(HotKeyTextFieldTest, RewritesItsTextForAnotherObjectOnly) {
+    const auto hotKey = DDHotKey::hotKeyWithKeyCode(0, ModifierFlag::command, {});
+    field->setHotKey(hotKey);
+    field->setStringValue(QStringLiteral("something"));
+    field->setHotKey(hotKey);
+    EXPECT_EQ(field->stringValue(), QStringLiteral("something"));
+    field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, ModifierFlag::command, {}));
+    EXPECT_EQ(shown(), "⌘A");
+    field->setHotKey(nullptr);
+    EXPECT_EQ(shown(), "A");
+    EXPECT_THAT(told, ElementsAre()) << "what the program sets it knows";
+}
+
+TEST_F(HotKeyTextFieldTest, WarnsOfItsTextBeingTakenForItsValue) {
+    auto* const former = qInstallMessageHandler(keepWarning);
+    field->setStringValue(QStringLiteral("x"));
+    EXPECT_EQ(field->stringValue(), QStringLiteral("x"));
+    field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, 0, {}));
+    qInstallMessageHandler(former);
+    EXPECT_THAT(warnings(),
+                ElementsAre("-[DDHotKeyTextField setStringValue:] is not what you want. Use "
+                            "-[DDHotKeyTextField setHotKey:] instead.",
+                            "-[DDHotKeyTextField stringValue] is not what you want. Use "
+                            "-[DDHotKeyTextField hotKey] instead."));
+}
+
+TEST_F(HotKeyTextFieldTest, TheCrossTakesTheHotKeyAway) {
+    EXPECT_FALSE(clearButton()->isVisible());
+    field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, ModifierFlag::command, {}));
+    EXPECT_TRUE(clearButton()->isVisible());
+    record();
+    clearButton()->click();
+    EXPECT_EQ(field->hotKey(), nullptr);
+    EXPECT_THAT(told, ElementsAre("changed", "ended"));
+    EXPECT_FALSE(clearButton()->isVisible());
+}
+
+TEST_F(HotKeyTextFieldTest, AllFieldsShareOneEditorAndOtherWidgetsGetNone) {
+    DDHotKeyTextField second(layout);
+    auto* const editor = field->cell().fieldEditorForView(field);
+    EXPECT_EQ(second.cell().fieldEditorForView(&second), editor);
+    EXPECT_EQ(editor->hotKeyField(), &second);
+    EXPECT_EQ(field->cell().fieldEditorForView(other), nullptr);
+    editor->setHotKeyField(nullptr);
+}
+
+TEST_F(HotKeyTextFieldTest, AFieldThatGoesWhileItRecordsLetsTheKeysGo) {
+    record();
+    delete field;
+    other->setFocus();
+    press(a);
+    EXPECT_EQ(other->text(), QStringLiteral("a"));
+}
+
+}  // namespace
+}  // namespace tonquil
