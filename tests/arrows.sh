@@ -33,6 +33,7 @@ declare -A arrows=(
     [ui]=""
     [targets]="ui"
     [hotkeys]="foundation"
+    [hotkeys/field]="hotkeys ui"
     [app]="foundation values files plist model screens settings"
     [app/panel]="app model screens ui"
     [app/targets]="app app/panel screens targets"
@@ -44,7 +45,7 @@ declare -A arrows=(
 # Where programs are composed: the only files that may know which platform is used.
 composers=" cli/main.cpp app/main.cpp launcher/main.cpp "
 # Where windows and the toolkit's own services are.
-qt_folders=" ui targets app/panel app/targets app/alerts app/about platform/qt platform/dbus "
+qt_folders=" ui targets app/panel app/targets app/alerts app/about platform/qt platform/dbus hotkeys/field "
 
 breaches=0
 breach() {

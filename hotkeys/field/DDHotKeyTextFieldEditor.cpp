@@ -44,7 +44,7 @@ bool DDHotKeyTextFieldEditor::becomeFirstResponder() {
         return false;
     }
     _hasSeenKeyDown = false;
-    _heldKey = 0;
+    _heldKey.reset();
     _globalMonitor = true;
     QCoreApplication::instance()->installEventFilter(this);
     return true;
@@ -53,7 +53,7 @@ bool DDHotKeyTextFieldEditor::becomeFirstResponder() {
 void DDHotKeyTextFieldEditor::resignFirstResponder() {
     setHotKeyField(nullptr);
     _globalMonitor = false;
-    if (_heldKey == 0) {
+    if (!_heldKey) {
         QCoreApplication::instance()->removeEventFilter(this);
     }
 }
@@ -80,20 +80,31 @@ bool DDHotKeyTextFieldEditor::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
+void DDHotKeyTextFieldEditor::hold(const QKeyEvent& event) {
+    _heldKey = Key{event.nativeScanCode(), event.key()};
+}
+
+void DDHotKeyTextFieldEditor::letHeldKeyGo() {
+    _heldKey.reset();
+    if (!_globalMonitor) {
+        QCoreApplication::instance()->removeEventFilter(this);
+    }
+}
+
 bool DDHotKeyTextFieldEditor::isHeldRepeat(const QKeyEvent& event) {
-    if (_heldKey == 0) {
+    if (!_heldKey) {
         return false;
     }
-    if (event.isAutoRepeat() && event.nativeScanCode() == _heldKey) {
-        return true;
+    // The toolkit makes some events without a scan code; names change with the modifiers.
+    const bool isHeldKey = event.nativeScanCode() != 0
+                               ? event.nativeScanCode() == _heldKey->scanCode
+                               : event.key() == _heldKey->name;
+    if (event.isAutoRepeat()) {
+        return isHeldKey;
     }
     // It went up, or another key went down, after which it repeats no more.
-    if (!event.isAutoRepeat() &&
-        (event.nativeScanCode() == _heldKey || event.type() != QEvent::KeyRelease)) {
-        _heldKey = 0;
-        if (!_globalMonitor) {
-            QCoreApplication::instance()->removeEventFilter(this);
-        }
+    if (isHeldKey || event.type() != QEvent::KeyRelease) {
+        letHeldKeyGo();
     }
     return false;
 }
@@ -109,7 +120,7 @@ void DDHotKeyTextFieldEditor::processHotkeyEvent(const QKeyEvent& event) {
     const ModifierFlags flags = modifierFlags(event);
     if ((flags & combiningFlags) != 0) {
         if (keyCode) {
-            _heldKey = event.nativeScanCode();
+            hold(event);
             record(*keyCode, flags);
         }
         return;
@@ -117,7 +128,7 @@ void DDHotKeyTextFieldEditor::processHotkeyEvent(const QKeyEvent& event) {
     // What the layout makes an Escape is one too.
     const bool isEscape = keyCode == VirtualKey::escape || event.key() == Qt::Key_Escape;
     if (isEscape || isNewline(event.text())) {
-        _heldKey = event.nativeScanCode();
+        hold(event);
         if (isEscape) {
             restoreOriginal();
         }

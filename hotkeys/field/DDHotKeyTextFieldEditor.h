@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "hotkeys/DDHotKey.h"
 
@@ -43,9 +44,17 @@ class DDHotKeyTextFieldEditor : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+    /// A key as the keyboard numbers it and as the layout names it.
+    struct Key {
+        std::uint32_t scanCode;
+        int name;
+    };
+
     void record(std::uint16_t keyCode, ModifierFlags modifierFlags);
     void restoreOriginal();
     void endEditing();
+    void hold(const QKeyEvent& event);
+    void letHeldKeyGo();
     [[nodiscard]] bool isHeldRepeat(const QKeyEvent& event);
 
     QPointer<DDHotKeyTextField> _hotKeyField;
@@ -53,8 +62,8 @@ class DDHotKeyTextFieldEditor : public QObject {
     bool _hasSeenKeyDown = false;
     /// Whether keys are being caught.
     bool _globalMonitor = false;
-    /// The scan code of the key that ended the last recording, until it goes up; 0 for none.
-    std::uint32_t _heldKey = 0;
+    /// What ended the last recording, until it goes up.
+    std::optional<Key> _heldKey;
 };
 
 }  // namespace tonquil
