@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "remote/LocalHost.h"
+
+namespace tonquil {
+
+/// The indices of the interfaces that are up, have an IPv4 address and can broadcast.
+[[nodiscard]] std::vector<int> broadcastInterfaces();
+
+/// Whether an IPv4 address (first number in the highest byte) is one of this computer's; all of
+/// 127.0.0.0/8 is.
+[[nodiscard]] bool isOwnAddress(std::uint32_t host);
+
+/// The hardware address of the first interface by number that is up and of the Ethernet kind,
+/// which wireless ones are too; nothing where there is none.
+[[nodiscard]] std::optional<LocalHost::HardwareAddress> mainHardwareAddress();
+
+}  // namespace tonquil

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/UdpSocket.h"
+
+#include <arpa/inet.h>
+#include <sys/socket.h>
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "platform/posix/NetworkInterfaces.h"
+
+namespace tonquil {
+
+namespace {
+
+// No UDP datagram over IPv4 is larger.
+constexpr std::size_t mostBytes = 65535;
+
+sockaddr_in systemAddress(const SocketAddress& address) {
+    sockaddr_in result{};
+    result.sin_family = AF_INET;
+    result.sin_port = htons(address.port());
+    result.sin_addr.s_addr = htonl(address.host());
+    return result;
+}
+
+SocketAddress ourAddress(const sockaddr_in& address) {
+    return {ntohl(address.sin_addr.s_addr), ntohs(address.sin_port)};
+}
+
+/// Sends through the given interface, or the one that the routes say for 0.
+int sendThrough(int interface, int socket, std::string_view bytes, const SocketAddress& recipient) {
+    sockaddr_in address = systemAddress(recipient);
+    // The system takes bytes that it does not change by a pointer that would let it.
+    iovec part{const_cast<char*>(bytes.data()), bytes.size()};  // NOLINT(*-const-cast)
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(in_pktinfo))> control{};
+    msghdr message{};
+    message.msg_name = &address;
+    message.msg_namelen = sizeof address;
+    message.msg_iov = &part;
+    message.msg_iovlen = 1;
+    if (interface != 0) {
+        message.msg_control = control.data();
+        message.msg_controllen = control.size();
+        cmsghdr* const header = CMSG_FIRSTHDR(&message);
+        header->cmsg_level = IPPROTO_IP;
+        header->cmsg_type = IP_PKTINFO;
+        header->cmsg_len = CMSG_LEN(sizeof(in_pktinfo));
+        in_pktinfo information{};
+        information.ipi_ifindex = interface;
+        std::memcpy(CMSG_DATA(header), &information, sizeof information);
+    }
+    // What is refused may be what an earlier datagram came to; this one has then not been tried.
+    for (int attempt = 0;; ++attempt) {
+        if (sendmsg(socket, &message, MSG_DONTWAIT | MSG_NOSIGNAL) >= 0) {
+            return 0;
+        }
+        if (errno != EINTR && (errno != ECONNREFUSED || attempt > 0)) {
+            return errno;
+        }
+    }
+}
+
+}  // namespace
+
+/// One watch of a socket; it outlives its own end for as long as it is being called.
+class UdpSocket::Reception {
+ public:
+    Reception(std::shared_ptr<FileHandle> socket, Receiver receiver)
+        : _socket(std::move(socket)), _receiver(std::move(receiver)), _buffer(mostBytes) {}
+
+    void end() { _isEnded = true; }
+
+    void receive() {
+        const auto end = std::chrono::steady_clock::now() + longestTurn;
+        for (int count = 0; count < mostDatagrams; ++count) {
+            if (_isEnded || !_socket->isOpen() || !receiveOne() ||
+                std::chrono::steady_clock::now() >= end) {
+                return;
+            }
+        }
+    }
+
+ private:
+    /// False when nothing is left.
+    bool receiveOne() {
+        sockaddr_in source{};
+        iovec part{_buffer.data(), _buffer.size()};
+        msghdr message{};
+        message.msg_name = &source;
+        message.msg_namelen = sizeof source;
+        message.msg_iov = &part;
+        message.msg_iovlen = 1;
+        const auto size = recvmsg(_socket->get(), &message, MSG_DONTWAIT);
+        if (size < 0) {
+            // Any other error tells of an earlier datagram or of an interface that went; the next
+            // datagram may be a good one.
+            return errno != EAGAIN;
+        }
+        const bool isWhole = (message.msg_flags & MSG_TRUNC) == 0;
+        if (isWhole && message.msg_namelen == sizeof source && source.sin_family == AF_INET) {
+            _receiver({_buffer.data(), static_cast<std::size_t>(size)}, ourAddress(source));
+        }
+        return true;
+    }
+
+    std::shared_ptr<FileHandle> _socket;
+    Receiver _receiver;
+    std::vector<char> _buffer;
+    bool _isEnded = false;
+};
+
+Result<std::unique_ptr<UdpSocket>> UdpSocket::open() {
+    FileHandle socket(::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, IPPROTO_UDP));
+    if (!socket.isOpen()) {
+        return problem("No network socket can be opened.", std::generic_category().message(errno));
+    }
+    return std::unique_ptr<UdpSocket>(new UdpSocket(std::move(socket)));
+}
+
+UdpSocket::UdpSocket(FileHandle socket)
+    : _socket(std::make_shared<FileHandle>(std::move(socket))) {}
+
+UdpSocket::~UdpSocket() {
+    // Now, and not when a reception that is under way has returned: the port becomes free.
+    static_cast<void>(_socket->close());
+}
+
+int UdpSocket::enableBroadcast() {
+    const int enabled = 1;
+    return setsockopt(_socket->get(), SOL_SOCKET, SO_BROADCAST, &enabled, sizeof enabled);
+}
+
+int UdpSocket::bind(const SocketAddress& address) {
+    const sockaddr_in name = systemAddress(address);
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what the system asks for.
+    const auto* const generic = reinterpret_cast<const sockaddr*>(&name);
+    return ::bind(_socket->get(), generic, sizeof name) == 0 ? 0 : errno;
+}
+
+std::unique_ptr<RunLoop::Handle> UdpSocket::receiveOn(RunLoop& runLoop, Receiver receiver) {
+    class Watch final : public RunLoop::Handle {
+     public:
+        Watch(std::shared_ptr<Reception> reception, std::unique_ptr<RunLoop::Handle> watch)
+            : _reception(std::move(reception)), _watch(std::move(watch)) {}
+        ~Watch() override { _reception->end(); }
+        Watch(const Watch&) = delete;
+        Watch& operator=(const Watch&) = delete;
+
+     private:
+        std::shared_ptr<Reception> _reception;
+        std::unique_ptr<RunLoop::Handle> _watch;
+    };
+    auto reception = std::make_shared<Reception>(_socket, std::move(receiver));
+    auto watch = runLoop.watchReadable(_socket->get(), [reception] {
+        // The run loop may drop this function while it runs, when the receiver ends the watch.
+        const auto kept = reception;
+        kept->receive();
+    });
+    return watch ? std::make_unique<Watch>(std::move(reception), std::move(watch)) : nullptr;
+}
+
+int UdpSocket::send(std::string_view bytes, const SocketAddress& recipient) {
+    const int error = sendThrough(0, _socket->get(), bytes, recipient);
+    if (error == ENETUNREACH && recipient.host() == SocketAddress::broadcastHost) {
+        return sendThroughEachInterface(bytes, recipient);
+    }
+    return error;
+}
+
+int UdpSocket::sendThroughEachInterface(std::string_view bytes,
+                                        const SocketAddress& recipient) const {
+    int result = ENETUNREACH;
+    for (const int interface : broadcastInterfaces()) {
+        const int error = sendThrough(interface, _socket->get(), bytes, recipient);
+        result = result == 0 ? 0 : error;
+    }
+    return result;
+}
+
+SocketAddress UdpSocket::localAddress() const {
+    sockaddr_in name{};
+    socklen_t size = sizeof name;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what the system asks for.
+    static_cast<void>(getsockname(_socket->get(), reinterpret_cast<sockaddr*>(&name), &size));
+    return ourAddress(name);
+}
+
+}  // namespace tonquil
