@@ -7,6 +7,7 @@
 #include <array>
 #include <charconv>
 #include <string_view>
+#include <utility>
 
 #include "model/GammaTable.h"
 
@@ -25,23 +26,32 @@ struct CommandForm {
     Arguments::Command command;
     /// The letters of the options that it takes; see `options`.
     std::string_view options;
-    bool takesFile;
+    /// What it takes besides, in order: h a host, i a reference ID, f a file. Capital letters may
+    /// be left out.
+    std::string_view operands;
 };
 
 constexpr std::array commandForms{
-    CommandForm{"displays", Arguments::Command::displays, "j", false},
-    CommandForm{"apply", Arguments::Command::apply, "dc", true},
-    CommandForm{"restore", Arguments::Command::restore, "d", false},
-    CommandForm{"read", Arguments::Command::read, "dw", false},
-    CommandForm{"table", Arguments::Command::table, "dcnb", true},
+    CommandForm{"displays", Arguments::Command::displays, "j", ""},
+    CommandForm{"apply", Arguments::Command::apply, "dc", "F"},
+    CommandForm{"restore", Arguments::Command::restore, "d", ""},
+    CommandForm{"read", Arguments::Command::read, "dw", ""},
+    CommandForm{"table", Arguments::Command::table, "dcnb", "F"},
+    CommandForm{"remote scan", Arguments::Command::remoteScan, "jta", ""},
+    CommandForm{"remote get", Arguments::Command::remoteGet, "", "hI"},
+    CommandForm{"remote set", Arguments::Command::remoteSet, "ck", "hiF"},
+    CommandForm{"remote watch", Arguments::Command::remoteWatch, "", "h"},
 };
 
-constexpr std::array<option, 10> options{{{"json", no_argument, nullptr, 'j'},
+constexpr std::array<option, 13> options{{{"json", no_argument, nullptr, 'j'},
                                           {"display", required_argument, nullptr, 'd'},
                                           {"curve", required_argument, nullptr, 'c'},
                                           {"hardware", no_argument, nullptr, 'w'},
                                           {"samples", required_argument, nullptr, 'n'},
                                           {"base", required_argument, nullptr, 'b'},
+                                          {"timeout", required_argument, nullptr, 't'},
+                                          {"address", required_argument, nullptr, 'a'},
+                                          {"content", required_argument, nullptr, 'k'},
                                           {"help", no_argument, nullptr, 'h'},
                                           {"version", no_argument, nullptr, 'V'},
                                           {nullptr, 0, nullptr, 0}}};
@@ -54,6 +64,42 @@ Result<std::uint32_t> sampleCount(std::string_view text) {
         return problem("--samples takes a whole number from 1 to 256, not " + quoted(text) + ".");
     }
     return count;
+}
+
+Result<std::chrono::milliseconds> timeoutFrom(std::string_view text) {
+    constexpr double longest = 3600;
+    double seconds = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+    if (error != std::errc() || end != text.data() + text.size() ||
+        !(seconds > 0 && seconds <= longest)) {
+        return problem("--timeout takes a number of seconds up to 3600, not " + quoted(text) + ".");
+    }
+    return std::chrono::ceil<std::chrono::milliseconds>(std::chrono::duration<double>(seconds));
+}
+
+bool isContent(std::string_view text) {
+    return text == "colorTargets" || text == "grayscaleTargets" || text == "transparent";
+}
+
+/// Notes one option of the remote commands.
+std::optional<Problem> takeRemote(int letter, Arguments& arguments) {
+    if (letter == 'a') {
+        arguments.host = optarg;
+    } else if (letter == 'k') {
+        if (!isContent(optarg)) {
+            return Problem{"--content is colorTargets, grayscaleTargets or transparent, not " +
+                               quoted(optarg) + ".",
+                           {}};
+        }
+        arguments.content = optarg;
+    } else {
+        const auto timeout = timeoutFrom(optarg);
+        if (!timeout) {
+            return timeout.error();
+        }
+        arguments.timeout = *timeout;
+    }
+    return std::nullopt;
 }
 
 /// Notes one option; the text of the problem if it has no sense here.
@@ -90,6 +136,10 @@ std::optional<Problem> take(int letter, const CommandForm& form, Arguments& argu
             arguments.samples = *count;
             break;
         }
+        case 'a':
+        case 'k':
+        case 't':
+            return takeRemote(letter, arguments);
         case 'V':
             arguments.command = Arguments::Command::version;
             break;
@@ -100,20 +150,57 @@ std::optional<Problem> take(int letter, const CommandForm& form, Arguments& argu
     return std::nullopt;
 }
 
-std::optional<Problem> takeFile(const CommandForm& form, int argc, char* const* argv,
-                                Arguments& arguments) {
-    const int files = argc - optind;
-    if (files > (form.takesFile ? 1 : 0)) {
-        return Problem{
-            quoted(argv[optind + (form.takesFile ? 1 : 0)]) + " is one argument too many.", {}};
+std::optional<Problem> takeOperands(const CommandForm& form, int argc, char* const* argv,
+                                    Arguments& arguments) {
+    for (const char operand : form.operands) {
+        if (optind >= argc) {
+            if (operand == 'h' || operand == 'i') {
+                return Problem{quoted(form.name) +
+                                   (operand == 'h' ? " needs a host." : " needs a reference ID."),
+                               {}};
+            }
+            break;
+        }
+        auto& taken = operand == 'h'   ? arguments.host
+                      : operand == 'F' ? arguments.file
+                                       : arguments.referenceID;
+        taken = argv[optind++];
     }
-    if (files == 1) {
-        arguments.file = argv[optind];
-    }
-    if (form.takesFile && arguments.file.has_value() == arguments.curve.has_value()) {
-        return Problem{quoted(form.name) + " takes either a file or --curve.", {}};
+    if (optind < argc) {
+        return Problem{quoted(argv[optind]) + " is one argument too many.", {}};
     }
     return std::nullopt;
+}
+
+/// Whether a curve is there where one is needed, and only one.
+std::optional<Problem> checkCurve(const CommandForm& form, const Arguments& arguments) {
+    if (form.operands.find('F') == std::string_view::npos) {
+        return std::nullopt;
+    }
+    const bool mayHaveNone =
+        form.command == Arguments::Command::remoteSet && arguments.content.has_value();
+    if (arguments.file && arguments.curve) {
+        return Problem{quoted(form.name) + " takes either a file or --curve.", {}};
+    }
+    if (!arguments.file && !arguments.curve && !mayHaveNone) {
+        return Problem{quoted(form.name) + (form.command == Arguments::Command::remoteSet
+                                                ? " needs a file, --curve or --content."
+                                                : " takes either a file or --curve."),
+                       {}};
+    }
+    return std::nullopt;
+}
+
+/// The form that the first words name, and how many words that are; null where they name none.
+std::pair<const CommandForm*, int> formFor(int argc, char* const* argv) {
+    std::string name = argv[1];
+    int words = 1;
+    if (name == "remote" && argc > 2) {
+        name.append(" ").append(argv[2]);
+        words = 2;
+    }
+    const auto* const form = std::ranges::find(commandForms, name, &CommandForm::name);
+    return {form == commandForms.end() ? nullptr : form, words};
 }
 
 }  // namespace
@@ -131,15 +218,16 @@ Result<Arguments> parseArguments(int argc, char* const* argv) {
         arguments.command = Arguments::Command::version;
         return arguments;
     }
-    const auto* const form =
-        std::find_if(commandForms.begin(), commandForms.end(),
-                     [=](const CommandForm& each) { return each.name == name; });
-    if (form == commandForms.end()) {
+    const auto [form, words] = formFor(argc, argv);
+    if (form == nullptr) {
+        if (name == "remote") {
+            return problem("\"remote\" is followed by scan, get, set or watch.");
+        }
         return problem(quoted(name) + " is not a command.");
     }
     arguments.command = form->command;
     opterr = 0;
-    optind = 2;
+    optind = words + 1;
     for (int letter = 0; (letter = getopt_long(argc, argv, ":h", options.data(), nullptr)) != -1;) {
         if (letter == '?' || letter == ':') {
             // In a cluster of short options only the letter tells which one it was.
@@ -157,7 +245,10 @@ Result<Arguments> parseArguments(int argc, char* const* argv) {
             return arguments;
         }
     }
-    if (auto wrong = takeFile(*form, argc, argv, arguments)) {
+    if (auto wrong = takeOperands(*form, argc, argv, arguments)) {
+        return tl::unexpected(std::move(*wrong));
+    }
+    if (auto wrong = checkCurve(*form, arguments)) {
         return tl::unexpected(std::move(*wrong));
     }
     return arguments;

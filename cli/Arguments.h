@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -12,7 +13,19 @@ namespace tonquil {
 
 /// A command line, taken apart. Which options a command takes is checked already.
 struct Arguments {
-    enum class Command { help, version, displays, apply, restore, read, table };
+    enum class Command {
+        help,
+        version,
+        displays,
+        apply,
+        restore,
+        read,
+        table,
+        remoteScan,
+        remoteGet,
+        remoteSet,
+        remoteWatch
+    };
 
     Command command = Command::help;
     bool json = false;
@@ -23,6 +36,13 @@ struct Arguments {
     std::optional<std::string> file;
     std::optional<std::string> base;
     std::uint32_t samples = 256;
+    /// The host that a remote command talks to; for a scan, none means the whole network.
+    std::optional<std::string> host;
+    /// The remote display that is meant.
+    std::optional<std::string> referenceID;
+    std::optional<std::string> content;
+    /// How long a scan listens.
+    std::chrono::milliseconds timeout{1000};
 };
 
 /// The problem of a command line that makes no sense says what is wrong with it.

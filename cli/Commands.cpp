@@ -20,6 +20,14 @@ Result<void> runCommand(const Arguments& arguments, const CommandEnvironment& en
             return runRead(arguments, environment);
         case Arguments::Command::table:
             return runTable(arguments, environment);
+        case Arguments::Command::remoteScan:
+            return runRemoteScan(arguments, environment);
+        case Arguments::Command::remoteGet:
+            return runRemoteGet(arguments, environment);
+        case Arguments::Command::remoteSet:
+            return runRemoteSet(arguments, environment);
+        case Arguments::Command::remoteWatch:
+            return runRemoteWatch(arguments, environment);
         default:
             environment.out += helpText;
             return {};

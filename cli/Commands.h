@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cli/Arguments.h"
+#include "cli/RemoteAccess.h"
 #include "foundation/Problem.h"
 #include "screens/DisplayService.h"
 
@@ -19,6 +20,8 @@ struct CommandEnvironment {
     const std::string& logged;
     /// What the command prints.
     std::string& out;
+    /// What the remote commands talk through.
+    const RemoteAccess& remote;
     /// Remarks that are of interest only if the command succeeds.
     std::string& notes;
 };
@@ -37,5 +40,14 @@ struct CommandEnvironment {
                                    const CommandEnvironment& environment);
 [[nodiscard]] Result<void> runTable(const Arguments& arguments,
                                     const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runRemoteScan(const Arguments& arguments,
+                                         const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runRemoteGet(const Arguments& arguments,
+                                        const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runRemoteSet(const Arguments& arguments,
+                                        const CommandEnvironment& environment);
+/// Ends when the access's `run` is stopped.
+[[nodiscard]] Result<void> runRemoteWatch(const Arguments& arguments,
+                                          const CommandEnvironment& environment);
 
 }  // namespace tonquil

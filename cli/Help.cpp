@@ -21,6 +21,15 @@ const std::string_view helpText =
   tonquilctl table (FILE | --curve '[13 numbers]') [--samples N] [--base FILE]
       computes a table without any display; of a file for several displays,
       --display REFERENCE-ID says which curve
+  tonquilctl remote scan [--timeout SECONDS] [--json] [--address HOST]
+      lists the computers on the network whose displays can be set from here
+  tonquilctl remote get HOST [REFERENCE-ID]
+      lists the displays of a computer, or prints the curve of one of them
+  tonquilctl remote set HOST REFERENCE-ID [FILE | --curve '[13 numbers]']
+        [--content colorTargets|grayscaleTargets|transparent]
+      sets the curve of a computer's display, or what is shown on it
+  tonquilctl remote watch HOST
+      prints what a computer announces, a line of JSON for each change
   tonquilctl --help | --version
 
 Without --display, apply and restore mean all displays, read the main one.

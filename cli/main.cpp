@@ -8,6 +8,10 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "platform/choice/DisplayServiceChoice.h"
+#include "platform/posix/PollRunLoop.h"
+#include "platform/posix/PosixLocalHost.h"
+#include "platform/posix/TerminationSignals.h"
+#include "platform/posix/UdpSocket.h"
 
 // No iostreams here: setting up their locales takes longer than everything else a command does.
 
@@ -29,6 +33,17 @@ void say(std::string line) {
     static_cast<void>(print("tonquilctl: " + line + "\n", stderr));
 }
 
+tonquil::RemoteAccess remoteAccess(tonquil::PollRunLoop& loop) {
+    return {.runLoop = loop,
+            .run = [&loop] { loop.run(); },
+            .stop = [&loop] { loop.stop(); },
+            .openSocket = []() -> tonquil::Result<std::unique_ptr<tonquil::DatagramSocket>> {
+                return tonquil::UdpSocket::open();
+            },
+            .lookUpHost = tonquil::lookUpHost,
+            .printNow = [](const std::string& text) { return print(text, stdout); }};
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -40,11 +55,22 @@ int main(int argc, char** argv) {
     std::string logged;
     std::string out;
     std::string notes;
+    tonquil::PollRunLoop loop;
+    const tonquil::RemoteAccess remote = remoteAccess(loop);
+    tonquil::Result<std::unique_ptr<tonquil::TerminationSignals>> signals;
+    if (arguments->command == tonquil::Arguments::Command::remoteWatch) {
+        signals = tonquil::TerminationSignals::watch(loop, [&](int) { loop.stop(); });
+        if (!signals) {
+            say(signals.error().sentence);
+            return failed;
+        }
+    }
     const auto log = [&](std::string_view line) { logged = line; };
     const auto result = tonquil::runCommand(
         *arguments, {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
                      .logged = logged,
                      .out = out,
+                     .remote = remote,
                      .notes = notes});
     if (!result) {
         const auto& [sentence, detail] = result.error();

@@ -22,16 +22,6 @@ struct Tag {
 constexpr std::array tags{Tag{scanTag, Kind::scan}, Tag{stateUpdateTag, Kind::stateUpdate},
                           Tag{announceTag, Kind::announce}, Tag{subscribeTag, Kind::subscribe}};
 
-/// The double that is nearest to the shortest text of a single: 0.1 and not 0.10000000149011612.
-/// It rounds to the same single.
-double withShortestText(float single) {
-    std::array<char, 32> text{};
-    const auto written = std::to_chars(text.data(), text.data() + text.size(), single);
-    double number = 0;
-    std::from_chars(text.data(), written.ptr, number);
-    return toSinglePrecision(number) == single ? number : static_cast<double>(single);
-}
-
 /// Prepares each member's "gamma"; false where a number is not finite.
 bool prepareCurves(PropertyValue& members) {
     for (auto& member : members) {
@@ -58,6 +48,14 @@ std::string message(std::string_view tag, const PropertyValue& object) {
 }
 
 }  // namespace
+
+double withShortestText(float single) {
+    std::array<char, 32> text{};
+    const auto written = std::to_chars(text.data(), text.data() + text.size(), single);
+    double number = 0;
+    std::from_chars(text.data(), written.ptr, number);
+    return toSinglePrecision(number) == single ? number : static_cast<double>(single);
+}
 
 Kind kindOf(std::string_view datagram) {
     for (const Tag& tag : tags) {

@@ -34,6 +34,10 @@ enum class Kind { scan, stateUpdate, announce, subscribe, unrecognised };
 [[nodiscard]] std::optional<PropertyValue> objectAfter(std::size_t tagLength,
                                                        std::string_view datagram);
 
+/// A finite single-precision number as JSON writes it shortest: 0.1 and not 0.10000000149011612.
+/// It reads back to the same single.
+[[nodiscard]] double withShortestText(float single);
+
 /// An announce. `screens` holds screen infos by reference ID; the numbers of each "gamma" are
 /// written with the shortest text of their single-precision value. The tag alone where a number
 /// is not finite, which JSON cannot say. Text that is not UTF-8 is mended.

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "cli/RemoteText.h"
+
+#include "remote/RemoteMessages.h"
+#include "remote/Unicode.h"
+
+namespace tonquil {
+
+namespace {
+
+constexpr std::size_t mostPrintedBytes = 256;
+
+PropertyValue curveArray(const std::vector<float>& curve) {
+    PropertyValue array = PropertyValue::array();
+    for (const float number : curve) {
+        array.push_back(remote::withShortestText(number));
+    }
+    return array;
+}
+
+}  // namespace
+
+std::string dotted(const SocketAddress& address) {
+    std::string text;
+    for (int shift = 24; shift >= 0; shift -= 8) {
+        text += std::to_string(address.host() >> static_cast<unsigned>(shift) & 0xFFU);
+        text += shift > 0 ? "." : "";
+    }
+    return text;
+}
+
+std::string curveText(const std::vector<float>& curve) {
+    return jsonText(curveArray(curve), -1);
+}
+
+std::string screenLine(const AnnouncedScreen& screen) {
+    std::string line = std::to_string(screen.number);
+    line.append("\t").append(remote::printable(screen.referenceID, mostPrintedBytes));
+    line.append(screen.isLocal ? "\tlocal\t" : "\tunique\t");
+    line.append(remote::printable(screen.content, mostPrintedBytes));
+    return line.append("\t").append(curveText(screen.gamma)).append("\n");
+}
+
+PropertyValue serverObject(const RemoteServer& server) {
+    PropertyValue screens = PropertyValue::array();
+    for (const AnnouncedScreen& screen : server.announce.screens) {
+        screens.push_back({{"referenceID", screen.referenceID},
+                           {"number", screen.number},
+                           {"local", screen.isLocal},
+                           {"content", screen.content},
+                           {"gamma", curveArray(screen.gamma)}});
+    }
+    return {{"address", dotted(server.address)},
+            {"name", server.announce.name},
+            {"guid", server.announce.guid},
+            {"screens", std::move(screens)}};
+}
+
+std::string jsonText(const PropertyValue& value, int indent) {
+    return value.dump(indent, ' ', true, PropertyValue::error_handler_t::replace);
+}
+
+}  // namespace tonquil

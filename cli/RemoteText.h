@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/RemoteClient.h"
+#include "values/PropertyValue.h"
+
+namespace tonquil {
+
+/// The address in dotted numbers.
+[[nodiscard]] std::string dotted(const SocketAddress& address);
+
+/// The numbers of a curve as a compact JSON array, each as short as its single precision allows.
+[[nodiscard]] std::string curveText(const std::vector<float>& curve);
+
+/// One line: number, reference ID, "unique" or "local", content and curve, separated by tabs. What
+/// comes from the network is made printable.
+[[nodiscard]] std::string screenLine(const AnnouncedScreen& screen);
+
+/// An object with the keys "address", "name", "guid" and "screens", an array by number.
+[[nodiscard]] PropertyValue serverObject(const RemoteServer& server);
+
+/// JSON of ASCII characters alone; `indent` of spaces, or -1 for one line.
+[[nodiscard]] std::string jsonText(const PropertyValue& value, int indent);
+
+}  // namespace tonquil
