@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "remote/TQPlayerServer.h"
+
+namespace tonquil {
+
+/// Displays that exist only in memory, as a server's data source.
+class RemoteDisplays final : public TQPlayerServerDataSource {
+ public:
+    struct Display {
+        std::string referenceID;
+        PropertyValue gamma = {1, 0, 1, 1, 0, 1, 1, 0, 1, 1, 0, 1, 1};
+        std::string content = "transparent";
+        bool isLocal = false;
+    };
+
+    explicit RemoteDisplays(std::vector<Display> list = {}) : displays(std::move(list)) {}
+
+    std::vector<std::string> screensForPlayerServer(TQPlayerServer&) override {
+        std::vector<std::string> ids;
+        ids.reserve(displays.size());
+        for (const Display& display : displays) {
+            ids.push_back(display.referenceID);
+        }
+        return ids;
+    }
+    PropertyValue playerServerInfoForScreen(TQPlayerServer&, const std::string& id) override {
+        ++infosAsked;
+        if (beforeInfo) {
+            beforeInfo();
+        }
+        for (std::size_t i = 0; i < displays.size(); ++i) {
+            if (displays[i].referenceID == id && id != unknown) {
+                return {{"number", i + 1},
+                        {"local", displays[i].isLocal},
+                        {"gamma", displays[i].gamma},
+                        {"content", displays[i].content}};
+            }
+        }
+        return nullptr;
+    }
+    PropertyValue playerServerStateForScreen(TQPlayerServer&, const std::string&) override {
+        return nullptr;
+    }
+    void playerServerSetStateForScreen(TQPlayerServer&, const PropertyValue& state,
+                                       const std::string& id) override {
+        statesSet.emplace_back(id, state);
+        for (Display& display : displays) {
+            if (display.referenceID == id && !isStubborn) {
+                display.gamma = state.value("gamma", PropertyValue::array());
+                if (state.contains("content") && state["content"].is_string()) {
+                    display.content = state["content"].get<std::string>();
+                }
+            }
+        }
+        if (afterSet) {
+            // What it does may be the end of this object.
+            const auto call = afterSet;
+            call();
+        }
+    }
+    void playerServerFailedBroadcastTest(TQPlayerServer&, std::uint64_t reason) override {
+        failures.push_back(reason);
+        if (afterFailure) {
+            afterFailure();
+        }
+    }
+
+    std::vector<Display> displays;
+    /// A listed display of which nothing is known.
+    std::string unknown = "none";
+    /// Takes what is set without doing it.
+    bool isStubborn = false;
+    std::function<void()> beforeInfo;
+    std::function<void()> afterSet;
+    std::function<void()> afterFailure;
+    int infosAsked = 0;
+    std::vector<std::pair<std::string, PropertyValue>> statesSet;
+    std::vector<std::uint64_t> failures;
+};
+
+}  // namespace tonquil

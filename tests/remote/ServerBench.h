@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "remote/TQPlayerServer.h"
+#include "tests/remote/RemoteDisplays.h"
+#include "tests/support/ManualRunLoop.h"
+
+namespace tonquil {
+
+/// What a socket was told, and what it answers.
+struct Wire {
+    struct Datagram {
+        std::string bytes;
+        SocketAddress recipient;
+    };
+    std::vector<Datagram> sent;
+    std::vector<std::string> steps;
+    DatagramSocket::Receiver receiver;
+    int broadcastResult = 0;
+    int bindResult = 0;
+    int sendResult = 0;
+    bool canBeWatched = true;
+};
+
+/// A socket without a network.
+class FakeSocket final : public DatagramSocket {
+ public:
+    explicit FakeSocket(Wire& wire) : _wire(wire) {}
+    ~FakeSocket() override { _wire.steps.emplace_back("socket released"); }
+
+    int enableBroadcast() override { return _wire.broadcastResult; }
+    int bind(const SocketAddress& address) override {
+        _wire.steps.push_back("bound to " + std::to_string(address.host()) + ":" +
+                              std::to_string(address.port()));
+        return _wire.bindResult;
+    }
+    std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop&, Receiver receiver) override {
+        struct Watch final : RunLoop::Handle {
+            explicit Watch(Wire& ended) : wire(ended) {}
+            ~Watch() override { wire.steps.emplace_back("watch ended"); }
+            Wire& wire;
+        };
+        _wire.receiver = std::move(receiver);
+        return _wire.canBeWatched ? std::make_unique<Watch>(_wire) : nullptr;
+    }
+    int send(std::string_view bytes, const SocketAddress& recipient) override {
+        _wire.sent.push_back({std::string(bytes), recipient});
+        return _wire.sendResult;
+    }
+
+ private:
+    Wire& _wire;
+};
+
+/// A computer whose answers a test chooses.
+class FakeHost final : public LocalHost {
+ public:
+    std::string localizedName() const override { return name; }
+    std::optional<HardwareAddress> hardwareAddress() const override { return hardware; }
+    bool hasAddress(std::uint32_t host) const override { return host == ownAddress; }
+
+    std::string name = "Desk";
+    std::optional<HardwareAddress> hardware = HardwareAddress{0x02, 0, 0xAB, 0xCD, 0x0E, 0xFF};
+    std::uint32_t ownAddress = 0x0A000001;
+};
+
+/// A server on a made-up network, at a time that stands still.
+class ServerBench {
+ public:
+    Result<std::unique_ptr<TQPlayerServer>> make(std::uint16_t port = 44188) {
+        auto made = TQPlayerServer::initWithUDPPort(
+            {.runLoop = loop,
+             .openSocket = [this]() -> Result<std::unique_ptr<DatagramSocket>> {
+                 return std::make_unique<FakeSocket>(wire);
+             },
+             .host = host,
+             .guid = guid,
+             .log = [this](std::string_view line) { log.emplace_back(line); }},
+            port);
+        if (made) {
+            (*made)->setDataSource(&displays);
+        }
+        return made;
+    }
+    /// Makes the server, with its self-test over and forgotten.
+    void start() {
+        server = make().value();
+        receive("Kantivel ann {\"name\":\"Desk\"}");
+        loop.advance(TQPlayerServer::selfTestTime);
+        forget();
+    }
+    void receive(std::string_view bytes,
+                 const SocketAddress& source = SocketAddress(0x0A000002, 50000)) {
+        wire.receiver(bytes, source);
+    }
+    void forget() {
+        wire.sent.clear();
+        log.clear();
+    }
+
+    ManualRunLoop loop;
+    Wire wire;
+    std::shared_ptr<FakeHost> host = std::make_shared<FakeHost>();
+    MachineGuid guid;
+    std::vector<std::string> log;
+    RemoteDisplays displays{{{.referenceID = "1-10-21036"}}};
+    std::unique_ptr<TQPlayerServer> server;
+};
+
+}  // namespace tonquil
