@@ -12,7 +12,8 @@ PropertyValue registeredDefaults() {
     };
     for (const std::string_view key :
          {settingsKey::advancedPanel, settingsKey::darkTheme, settingsKey::continuouslyApply,
-          settingsKey::showAtLaunch, settingsKey::rememberSettings, settingsKey::applyCorrection}) {
+          settingsKey::showAtLaunch, settingsKey::rememberSettings, settingsKey::applyCorrection,
+          settingsKey::showsTargetHints}) {
         set(key, true);
     }
     set(settingsKey::affectAllScreens, false);

@@ -54,12 +54,16 @@ inline constexpr std::string_view recentFiles = "RecentFiles";
 inline constexpr std::string_view conflictWarned = "KVFluxWarned";
 /// Boolean: the panel shows the strip with the slider of the focused channel.
 inline constexpr std::string_view channelStrip = "ChannelStrip";
+/// Boolean, true: windows of targets say below the pattern what to look for.
+inline constexpr std::string_view showsTargetHints = "ShowTargetHints";
 /// Text "X Y WIDTH HEIGHT": where the panel was, in pixels of the desktop from its upper left.
 inline constexpr std::string_view controlWindowFrame = "Window Frame ControlWindow";
 /// The same of the floating window of targets.
 inline constexpr std::string_view targetsFrame = "Window Frame Targets";
 /// Integer: the target that it shows; 0 colour, 1 grayscale.
 inline constexpr std::string_view targetKind = "TargetKind";
+/// The frame of the preferences window, as above.
+inline constexpr std::string_view preferencesFrame = "Window Frame Preferences";
 
 }  // namespace settingsKey
 

@@ -40,12 +40,13 @@ declare -A arrows=(
     [cli]="foundation values files model screens settings remote"
     [app/alerts]="app ui"
     [app/about]="app/alerts app/panel ui"
+    [app/preferences]="foundation app app/alerts app/panel hotkeys hotkeys/field ui"
     [launcher]=""
 )
 # Where programs are composed: the only files that may know which platform is used.
 composers=" cli/main.cpp app/main.cpp launcher/main.cpp "
 # Where windows and the toolkit's own services are.
-qt_folders=" ui targets app/panel app/targets app/alerts app/about platform/qt platform/dbus hotkeys/field "
+qt_folders=" ui targets app/panel app/targets app/alerts app/about platform/qt platform/dbus hotkeys/field app/preferences "
 
 breaches=0
 breach() {
@@ -71,7 +72,7 @@ check() {
         if [[ $composers != *" $1 "* ]]; then
             breach "$place" "\"$included\": only a program's main.cpp may include platform/choice"
         fi
-    elif [[ $1 == app/main.cpp && $target =~ ^(platform/|app/(panel|targets|alerts|about)$|ui$) ]]; then cli/main.cpp platform/posix
+    elif [[ $1 == app/main.cpp && $target =~ ^(platform/|app/(panel|targets|alerts|about)$|ui$) ]]; then cli/main.cpp platform/posix preferences
         return
         return
     elif [[ $target != "$folder" && " ${arrows[$folder]} " != *" $target "* ]]; then
