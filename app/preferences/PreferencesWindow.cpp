@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "app/preferences/PreferencesWindow.h"
 
-#include <QCheckBox>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <utility>
 
 #include "app/panel/PanelIcons.h"
+#include "app/preferences/FlatChoices.h"
 #include "app/preferences/RadioMatrix.h"
 #include "hotkeys/field/DDHotKeyTextField.h"
 #include "ui/Theme.h"
@@ -52,9 +53,9 @@ void addChecks(QVBoxLayout& column, std::initializer_list<QCheckBox*> boxes) {
 /// Labels stand level with the first button of their choice.
 void addChoice(QGridLayout& grid, QLabel* label, RadioMatrix* matrix) {
     const int row = grid.rowCount();
-    label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    label->setMinimumHeight(matrix->cellHeight());
     matrix->setAccessibleName(label->text());
-    grid.addWidget(label, row, 0);
+    grid.addWidget(label, row, 0, Qt::AlignTop);
     grid.addWidget(matrix, row, 1);
 }
 
@@ -63,6 +64,9 @@ void addHotKey(QGridLayout& grid, QCheckBox* box, DDHotKeyTextField* field, QLab
     field->setAccessibleName(box->text());
     problem->setTextFormat(Qt::PlainText);
     problem->setWordWrap(true);
+    const QStyle& style = *box->style();
+    problem->setIndent(style.pixelMetric(QStyle::PM_IndicatorWidth) +
+                       style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing));
     problem->hide();
     grid.addWidget(box, row, 0);
     grid.addWidget(field, row, 1);
@@ -81,29 +85,29 @@ QGridLayout* addGrid(QVBoxLayout& column, int verticalSpacing) {
 }  // namespace
 
 PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
-    : showAtLaunch(new QCheckBox(Texts::tr("Show the panel when Tonquil starts"))),
-      openAtLoginCheckbox(new QCheckBox(Texts::tr("Start Tonquil at login"))),
+    : showAtLaunch(new FlatCheckBox(Texts::tr("Show the panel when Tonquil starts"))),
+      openAtLoginCheckbox(new FlatCheckBox(Texts::tr("Start Tonquil at login"))),
       rememberWhenQuitting(
-          new QCheckBox(Texts::tr("Correct the displays as soon as Tonquil starts"))),
-      ContinuouslyApply(new QCheckBox(Texts::tr("Apply the curves again every few seconds"))),
-      advancedPanel(new QCheckBox(Texts::tr("Show sliders for the single channels"))),
-      channelStrip(new QCheckBox(Texts::tr("Show the channel strip"))),
-      showTargetHints(new QCheckBox(Texts::tr("Show hints under targets"))),
-      darkTheme(new QCheckBox(Texts::tr("Dark theme"))),
+          new FlatCheckBox(Texts::tr("Correct the displays as soon as Tonquil starts"))),
+      ContinuouslyApply(new FlatCheckBox(Texts::tr("Apply the curves again every few seconds"))),
+      advancedPanel(new FlatCheckBox(Texts::tr("Show sliders for the single channels"))),
+      channelStrip(new FlatCheckBox(Texts::tr("Show the channel strip"))),
+      showTargetHints(new FlatCheckBox(Texts::tr("Show hints under targets"))),
+      darkTheme(new FlatCheckBox(Texts::tr("Dark theme"))),
       affectAllScreens(
           new RadioMatrix({Texts::tr("The display under the panel"), Texts::tr("All displays")})),
       toggleApply(new RadioMatrix(
           {Texts::tr("Shows the panel"), Texts::tr("Switches the correction on or off")})),
       showStatusLabel(new QLabel(Texts::tr("Show Tonquil in:"))),
       showStatusItem(new RadioMatrix({Texts::tr("The task bar"), Texts::tr("The status area")})),
-      useHotKey(new QCheckBox(Texts::tr("Switch the correction on or off"))),
+      useHotKey(new FlatCheckBox(Texts::tr("Switch the correction on or off"))),
       hotKeyField(new DDHotKeyTextField(layout)),
       hotKeyProblem(new QLabel),
-      panelHotKey(new QCheckBox(Texts::tr("Show the panel under the pointer"))),
+      panelHotKey(new FlatCheckBox(Texts::tr("Show the panel under the pointer"))),
       panelHotKeyField(new DDHotKeyTextField(layout)),
       panelHotKeyProblem(new QLabel),
-      allowRemote(
-          new QCheckBox(Texts::tr("Let companions on the local network read and set the curves"))) {
+      allowRemote(new FlatCheckBox(
+          Texts::tr("Let companions on the local network read and set the curves"))) {
     setObjectName(QStringLiteral("Preferences"));
     setWindowTitle(Texts::tr("Preferences"));
     setWindowIcon(programIcon());
@@ -154,7 +158,7 @@ void PreferencesWindow::addGeneral(QVBoxLayout& column) {
     column.addSpacing(groupSpacing);
     QGridLayout& choices = *addGrid(column, spacing);
     addChoice(choices, new QLabel(Texts::tr("Edits change:")), affectAllScreens);
-    addChoice(choices, new QLabel(Texts::tr("Starting it again:")), toggleApply);
+    addChoice(choices, new QLabel(Texts::tr("Starting Tonquil again:")), toggleApply);
     addChoice(choices, showStatusLabel, showStatusItem);
 }
 

@@ -2,9 +2,10 @@
 #include "app/preferences/RadioMatrix.h"
 
 #include <QButtonGroup>
-#include <QRadioButton>
 #include <QVBoxLayout>
 #include <utility>
+
+#include "app/preferences/FlatChoices.h"
 
 namespace tonquil {
 
@@ -18,7 +19,7 @@ RadioMatrix::RadioMatrix(const QStringList& titles, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(spacing);
     for (const QString& title : titles) {
-        auto* cell = new QRadioButton(title);
+        auto* cell = new FlatRadioButton(title);
         cell->setChecked(_cells->buttons().isEmpty());
         _cells->addButton(cell, static_cast<int>(_cells->buttons().size()));
         column->addWidget(cell);
@@ -41,6 +42,10 @@ bool RadioMatrix::selectCellWithTag(int tag) {
     }
     cell->setChecked(true);
     return true;
+}
+
+int RadioMatrix::cellHeight() const {
+    return _cells->buttons().isEmpty() ? 0 : _cells->buttons().front()->sizeHint().height();
 }
 
 void RadioMatrix::setAction(std::function<void()> action) {

@@ -18,6 +18,8 @@ class RadioMatrix : public QWidget {
     [[nodiscard]] int selectedTag() const;
     /// Selects a cell without telling anybody. False, with nothing changed, where none has the tag.
     bool selectCellWithTag(int tag);
+    /// What a label beside the first cell is to be as high as, in points.
+    [[nodiscard]] int cellHeight() const;
     /// Called when the person picks a cell, be it the selected one.
     void setAction(std::function<void()> action);
 
