@@ -39,7 +39,7 @@ QString templateText(const Theme& theme) {
 
 }  // namespace
 
-AboutWindow::AboutWindow() : _iconView(nullptr), _textView(nullptr) {
+AboutWindow::AboutWindow() {
     const Appearance appearance{.isDark = false, .allowsVibrancy = false};
     setObjectName(QStringLiteral("KVAboutBox"));
     setWindowTitle(QCoreApplication::translate("KVAboutBox", "About Tonquil"));

@@ -21,8 +21,8 @@ class AboutWindow : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
  private:
-    KVAboutBoxIconView* _iconView;
-    KVAboutBoxScrollView* _textView;
+    KVAboutBoxIconView* _iconView = nullptr;
+    KVAboutBoxScrollView* _textView = nullptr;
 };
 
 }  // namespace tonquil

@@ -128,10 +128,8 @@ void AlertWindow::addButtons(const Alert& alert, QBoxLayout& row) {
             accept();
         });
         _buttons.push_back(button);
-    }
-    // Tab goes from the default button on, whatever the order that they are shown in.
-    for (auto button = _buttons.rbegin(); button != _buttons.rend(); ++button) {
-        row.addWidget(*button);
+        // From the outside in, behind the stretch; Tab goes the same way.
+        row.insertWidget(1, button);
     }
     for (std::size_t index = 1; index < _buttons.size(); ++index) {
         setTabOrder(_buttons[index - 1], _buttons[index]);

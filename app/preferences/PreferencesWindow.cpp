@@ -150,7 +150,7 @@ void PreferencesWindow::nameControls() {
     }
 }
 
-void PreferencesWindow::addGeneral(QVBoxLayout& column) {
+void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
     addHeading(column, Texts::tr("General"));
     addChecks(column, {showAtLaunch, openAtLoginCheckbox, rememberWhenQuitting, ContinuouslyApply});
     column.addSpacing(groupSpacing);
@@ -162,14 +162,14 @@ void PreferencesWindow::addGeneral(QVBoxLayout& column) {
     addChoice(choices, showStatusLabel, showStatusItem);
 }
 
-void PreferencesWindow::addHotKeys(QVBoxLayout& column) {
+void PreferencesWindow::addHotKeys(QVBoxLayout& column) const {
     addHeading(column, Texts::tr("Hot keys"));
     QGridLayout& grid = *addGrid(column, spacing);
     addHotKey(grid, useHotKey, hotKeyField, hotKeyProblem);
     addHotKey(grid, panelHotKey, panelHotKeyField, panelHotKeyProblem);
 }
 
-void PreferencesWindow::addRemote(QVBoxLayout& column) {
+void PreferencesWindow::addRemote(QVBoxLayout& column) const {
     addHeading(column, Texts::tr("Remote"));
     addChecks(column, {allowRemote});
 }

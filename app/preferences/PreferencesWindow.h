@@ -61,9 +61,9 @@ class PreferencesWindow : public QWidget {
 
  private:
     void nameControls();
-    void addGeneral(QVBoxLayout& column);
-    void addHotKeys(QVBoxLayout& column);
-    void addRemote(QVBoxLayout& column);
+    void addGeneral(QVBoxLayout& column) const;
+    void addHotKeys(QVBoxLayout& column) const;
+    void addRemote(QVBoxLayout& column) const;
 
     std::function<bool()> _shouldClose;
     std::function<void()> _closed;

@@ -5,8 +5,10 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QTextDocument>
+#include <memory>
 #include <tuple>
 
 #include "app/about/AboutTexts.h"
@@ -134,6 +136,7 @@ TEST_F(AboutBoxTest, OpensInTheMiddleAtTheBeginningAndClosesByEscape) {
     for (int line = 0; line < 200; ++line) {
         lines += "<p>A line</p>";
     }
+    const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("Windows")));
     KVAboutBoxController controller(ourselves(), credits(lines));
     AboutWindow& window = controller.window();
     controller.showWindow();
@@ -147,7 +150,7 @@ TEST_F(AboutBoxTest, OpensInTheMiddleAtTheBeginningAndClosesByEscape) {
     controller.showWindow();
     EXPECT_EQ(window.pos(), QPoint(5, 7));
     EXPECT_EQ(bar.value(), 90);
-    controller.textView()->setStyle(QStyleFactory::create(QStringLiteral("Windows")));
+    controller.textView()->setStyle(style.get());
     EXPECT_EQ(bar.value(), 90);
 
     pressKey(*controller.textView(), Qt::Key_Escape);
