@@ -46,11 +46,25 @@ void KVAboutBoxBackground::paintEvent(QPaintEvent* event) {
     painter.fillRect(rect(), gradient);
 }
 
-void KVAboutBoxBackground::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange) {
+// A view that has moved to another window is shown there before it can be seen.
+void KVAboutBoxBackground::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    viewWillMoveToWindow(window());
+}
+
+void KVAboutBoxBackground::viewWillMoveToWindow(QWidget* newWindow) {
+    if (_observedWindow) {
+        _observedWindow->removeEventFilter(this);
+    }
+    _observedWindow = newWindow;
+    newWindow->installEventFilter(this);
+}
+
+bool KVAboutBoxBackground::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
         needsRedraw();
     }
+    return QWidget::eventFilter(watched, event);
 }
 
 void KVAboutBoxBackground::mousePressEvent(QMouseEvent* event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPointer>
 #include <QWidget>
 
 namespace tonquil {
@@ -20,12 +21,17 @@ class KVAboutBoxBackground : public QWidget {
 
  protected:
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    /// Sees when the window becomes the active one, and when it no longer is.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     /// Also those on children that do nothing with them.
     void mousePressEvent(QMouseEvent* event) override;
 
  private:
+    void viewWillMoveToWindow(QWidget* newWindow);
     void needsRedraw() { update(); }
+
+    QPointer<QWidget> _observedWindow;
 };
 
 }  // namespace tonquil

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QPaintEvent>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTextDocument>
+#include <functional>
 #include <memory>
 #include <tuple>
 
@@ -176,6 +179,44 @@ TEST_F(AboutBoxTest, HasAGradientBehindItOnlyWhileItsWindowIsActive) {
     EXPECT_TRUE(isNear(at(50), QColor(252, 245, 227)));
     EXPECT_TRUE(isNear(at(100), QColor(248, 234, 198)));
     KVAboutBoxBackground::setBackgroundColor(former);
+}
+
+class CountedBackground final : public KVAboutBoxBackground {
+ public:
+    using KVAboutBoxBackground::KVAboutBoxBackground;
+    int redraws = 0;
+
+ protected:
+    void paintEvent(QPaintEvent* event) override {
+        KVAboutBoxBackground::paintEvent(event);
+        redraws += event->rect() == rect() ? 1 : 0;
+    }
+};
+
+TEST_F(AboutBoxTest, DrawsItsBackgroundAnewWhenItsWindowIsActiveAndWhenNoLonger) {
+    QWidget other;
+    QWidget former;
+    QWidget window;
+    window.resize(80, 60);
+    CountedBackground background(&former);
+    background.resize(80, 60);
+    present(former);
+    background.setParent(&window);
+    background.show();
+    const auto redrawsBy = [&background](const std::function<void()>& act) {
+        QApplication::processEvents();
+        const int before = background.redraws;
+        act();
+        // One round for the windows to learn of it, and one to draw.
+        QApplication::processEvents();
+        QApplication::processEvents();
+        return background.redraws - before;
+    };
+    present(window);
+    EXPECT_EQ(redrawsBy([&] { present(other); }), 1);
+    EXPECT_EQ(redrawsBy([&] { window.activateWindow(); }), 1);
+    EXPECT_EQ(redrawsBy([&] { other.activateWindow(); }), 1);
+    EXPECT_EQ(redrawsBy([&] { former.activateWindow(); }), 0);
 }
 
 }  // namespace
