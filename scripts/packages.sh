@@ -5,7 +5,8 @@
 
 packages_to_build=(
     g++ cmake ninja-build pkg-config
-    libxcb1-dev libxcb-randr0-dev libxcb-screensaver0-dev libexpat1-dev liblcms2-dev
+    libxcb1-dev libxcb-randr0-dev libxcb-screensaver0-dev libxcb-xkb-dev
+    libxkbcommon-dev libxkbcommon-x11-dev libexpat1-dev liblcms2-dev
     nlohmann-json3-dev libexpected-dev qt6-base-dev
 )
 
@@ -16,7 +17,7 @@ packages_for_x_server=(xserver-xorg-core xserver-xorg-video-dummy x11-xserver-ut
 packages_for_desk=(openbox xdotool imagemagick fonts-dejavu-core)
 
 packages_to_check=(
-    x11-utils
+    x11-utils x11-xkb-utils
     git xvfb libgtest-dev libgmock-dev libbenchmark-dev libxcb-xtest0-dev
     clang clang-format clang-tidy libclang-rt-14-dev python3 procps shellcheck
     dbus

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "foundation/Problem.h"
+#include "hotkeys/KeyboardLayout.h"
+#include "platform/xkb/XkbPointers.h"
+
+namespace tonquil {
+
+/// A layout that stays as it is, by the name that keyboard settings have for it.
+class NamedKeyboardLayout final : public KeyboardLayout {
+ public:
+    /// For example "us", or "us,de" of which the first counts. A Problem when there is none of that
+    /// name.
+    [[nodiscard]] static Result<std::unique_ptr<NamedKeyboardLayout>> open(const std::string& name);
+
+    [[nodiscard]] std::string character(std::uint16_t keyCode) const override;
+
+ private:
+    explicit NamedKeyboardLayout(XkbKeymap keymap) : _keymap(std::move(keymap)) {}
+
+    XkbKeymap _keymap;
+};
+
+}  // namespace tonquil

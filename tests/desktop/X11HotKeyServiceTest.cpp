@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/X11HotKeyService.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <linux/input-event-codes.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/support/ManualRunLoop.h"
+#include "tests/support/XKeyboard.h"
+#include "tests/support/XServer.h"
+
+namespace tonquil {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+
+constexpr std::uint16_t virtualA = 0;
+constexpr std::uint16_t virtualQ = 12;
+constexpr std::uint16_t virtualF5 = 96;
+constexpr HotKeyServiceMask control = HotKeyServiceModifier::control;
+constexpr HotKeyServiceMask option = HotKeyServiceModifier::option;
+constexpr HotKeyServiceMask command = HotKeyServiceModifier::command;
+
+class X11HotKeys : public testing::Test {
+ protected:
+    void SetUp() override {
+        service->setHandlers(
+            [this](const HotKeyServiceEvent& event) {
+                told.push_back("down " + std::to_string(event.id));
+                last = event;
+            },
+            [this](const HotKeyServiceEvent& event) {
+                told.push_back("up " + std::to_string(event.id));
+                last = event;
+            });
+    }
+    HotKeyHandle add(std::uint16_t keyCode, HotKeyServiceMask modifiers, std::uint32_t id) {
+        const auto handle = service->registerHotKey(keyCode, modifiers, id);
+        EXPECT_TRUE(handle) << handle.error().sentence;
+        return handle.value_or(0);
+    }
+    /// Takes in what the server has sent.
+    void poll() {
+        loop.advance(0ms);
+        // A key that is repeated keeps the server talking.
+        for (int i = 0; i < 10 && loop.pollReadable(50ms) != 0; ++i) {
+        }
+    }
+    void press(std::uint32_t key) {
+        keyboard.press(key);
+        poll();
+    }
+    void release(std::uint32_t key) {
+        keyboard.release(key);
+        poll();
+    }
+    void runProgram(const std::vector<std::string>& words) {
+        ProcessRequest request{.command = words};
+        request.environment["DISPLAY"] = server->display();
+        const auto result = run(request);
+        ASSERT_TRUE(result && result->succeeded()) << words.front();
+        poll();
+        loop.advance(X11HotKeyService::settlingTime);
+        poll();
+    }
+
+    ManualRunLoop loop;
+    // Its key codes are those of evdev, as on a desk, where those of the dummy driver are not.
+    std::unique_ptr<XServer> server =
+        XServer::start({.arguments = {}, .framebufferOnly = true}).value();
+    XKeyboard keyboard{server->display()};
+    std::vector<std::string> told;
+    std::vector<std::string> log;
+    HotKeyServiceEvent last;
+    std::unique_ptr<X11HotKeyService> service =
+        X11HotKeyService::open(server->display().c_str(), loop, [this](std::string_view line) {
+            log.emplace_back(line);
+        }).value();
+};
+
+TEST_F(X11HotKeys, TellsOfAPressAndAReleaseAndOfWhatIsHeld) {
+    add(virtualA, control | option, 7);
+    keyboard.movePointer(300, 200);
+    keyboard.press(KEY_LEFTCTRL);
+    press(KEY_A);
+    release(KEY_A);
+    EXPECT_THAT(told, ElementsAre()) << "with a modifier missing";
+    keyboard.press(KEY_LEFTALT);
+    press(KEY_A);
+    EXPECT_THAT(told, ElementsAre("down 7"));
+    EXPECT_EQ(last.modifierFlags, ModifierFlag::control | ModifierFlag::option);
+    EXPECT_EQ(last.x, 300);
+    EXPECT_EQ(last.y, 200);
+    const auto time = last.timestamp;
+    EXPECT_GT(time, 0ms);
+    release(KEY_A);
+    EXPECT_THAT(told, ElementsAre("down 7", "up 7"));
+    EXPECT_GE(last.timestamp, time);
+    keyboard.press(KEY_LEFTSHIFT);
+    press(KEY_A);
+    EXPECT_EQ(told.size(), 2U) << "with a modifier too many";
+}
+
+TEST_F(X11HotKeys, HearsThroughTheLocksAndOtherLayouts) {
+    runProgram({"setxkbmap", "-layout", "us,ru"});
+    add(virtualQ, command, 1);
+    const auto isHeard = [this] {
+        told.clear();
+        keyboard.press(KEY_LEFTMETA);
+        press(KEY_Q);
+        release(KEY_Q);
+        keyboard.release(KEY_LEFTMETA);
+        return told == std::vector<std::string>{"down 1", "up 1"};
+    };
+    EXPECT_TRUE(isHeard());
+    for (const std::uint32_t lock : {KEY_CAPSLOCK, KEY_NUMLOCK, KEY_SCROLLLOCK}) {
+        SCOPED_TRACE(lock);
+        keyboard.type(lock);
+        EXPECT_TRUE(isHeard());
+    }
+    EXPECT_NE(last.modifierFlags & ModifierFlag::capsLock, 0U);
+    keyboard.switchToLayout(1);
+    EXPECT_TRUE(isHeard());
+}
+
+TEST_F(X11HotKeys, AKeyThatIsHeldIsPressedOnceAndReleasedOnce) {
+    runProgram({"xset", "r", "rate", "50", "100"});
+    add(virtualF5, 0, 3);
+    press(KEY_F5);
+    // Real time, since it is the server that repeats.
+    std::size_t readings = 0;
+    for (int i = 0; i < 20; ++i) {
+        readings += loop.pollReadable(20ms);
+    }
+    EXPECT_GT(readings, 5U) << "the server does not repeat, so nothing is tested";
+    EXPECT_THAT(told, ElementsAre("down 3"));
+    release(KEY_F5);
+    EXPECT_THAT(told, ElementsAre("down 3", "up 3"));
+}
+
+TEST_F(X11HotKeys, IsReleasedWithItsKeyAlsoWhenTheModifierGoesUpFirst) {
+    add(virtualA, control, 1);
+    keyboard.press(KEY_LEFTCTRL);
+    press(KEY_A);
+    release(KEY_LEFTCTRL);
+    EXPECT_THAT(told, ElementsAre("down 1"));
+    keyboard.type(KEY_B);
+    poll();
+    EXPECT_THAT(told, ElementsAre("down 1")) << "other keys come here meanwhile";
+    release(KEY_A);
+    EXPECT_THAT(told, ElementsAre("down 1", "up 1"));
+    loop.advance(1s);
+    EXPECT_EQ(told.size(), 2U);
+}
+
+TEST_F(X11HotKeys, TwoThatOverlapAreBothReleased) {
+    add(virtualA, 0, 1);
+    add(virtualQ, 0, 2);
+    runProgram({"xset", "r", "off"});
+    press(KEY_A);
+    press(KEY_Q);
+    release(KEY_A);
+    EXPECT_THAT(told, ElementsAre("down 1", "down 2", "up 1"));
+    loop.advance(1s);
+    EXPECT_EQ(told.size(), 3U) << "as long as it is down";
+    const auto time = last.timestamp;
+    release(KEY_Q);
+    loop.advance(X11HotKeyService::releaseInterval);
+    EXPECT_THAT(told, ElementsAre("down 1", "down 2", "up 1", "up 2"));
+    EXPECT_GT(last.timestamp, time);
+    press(KEY_Q);
+    release(KEY_Q);
+    EXPECT_EQ(told.size(), 6U);
+}
+
+TEST_F(X11HotKeys, ACombinationThatIsTakenIsRefusedAndLeftAlone) {
+    // The other program holds it only with the caps lock on.
+    ASSERT_TRUE(keyboard.grab(KEY_A, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_LOCK));
+    const auto refused = service->registerHotKey(virtualA, control, 1);
+    ASSERT_FALSE(refused);
+    EXPECT_THAT(refused.error().sentence, testing::HasSubstr("Another program"));
+    EXPECT_TRUE(keyboard.grab(KEY_A, XCB_MOD_MASK_CONTROL)) << "something of it was kept";
+    keyboard.ungrab(KEY_A, XCB_MOD_MASK_CONTROL);
+    keyboard.ungrab(KEY_A, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_LOCK);
+
+    const auto handle = add(virtualA, control, 2);
+    EXPECT_FALSE(service->registerHotKey(virtualA, control, 3)) << "it is our own already";
+    EXPECT_FALSE(keyboard.grab(KEY_A, XCB_MOD_MASK_CONTROL));
+    service->unregisterHotKey(handle);
+    service->unregisterHotKey(handle);
+    poll();
+    // None, Lock, Mod2 where Num Lock is, both.
+    for (const int locks : {0, 2, 16, 18}) {
+        SCOPED_TRACE(locks);
+        EXPECT_TRUE(keyboard.grab(KEY_A, static_cast<std::uint16_t>(XCB_MOD_MASK_CONTROL | locks)));
+    }
+}
+
+TEST_F(X11HotKeys, KeysThatCannotBeCombinedAreRefused) {
+    EXPECT_FALSE(service->registerHotKey(63, control, 1)) << "the fn key";
+    EXPECT_FALSE(service->registerHotKey(999, control, 1));
+    runProgram({"xmodmap", "-e", "clear mod4"});
+    EXPECT_FALSE(service->registerHotKey(virtualA, command, 1)) << "there is no Super";
+    add(virtualA, option, 2);
+}
+
+TEST_F(X11HotKeys, AreHeardWhereTheModifierHasMovedTo) {
+    add(virtualA, command, 1);
+    runProgram({"xmodmap", "-e", "clear mod4"});
+    EXPECT_EQ(log.size(), 1U);
+    runProgram({"xmodmap", "-e", "add mod3 = Super_L"});
+    keyboard.press(KEY_LEFTMETA);
+    press(KEY_A);
+    EXPECT_THAT(told, ElementsAre("down 1"));
+    EXPECT_EQ(last.modifierFlags, ModifierFlag::command);
+    EXPECT_TRUE(keyboard.grab(KEY_A, XCB_MOD_MASK_4)) << "what it no longer is, is given up";
+}
+
+TEST_F(X11HotKeys, OneThatIsUnregisteredWhileItIsHeldIsToldOfNoMore) {
+    const auto handle = add(virtualA, 0, 1);
+    press(KEY_A);
+    service->unregisterHotKey(handle);
+    release(KEY_A);
+    loop.advance(1s);
+    EXPECT_THAT(told, ElementsAre("down 1"));
+}
+
+TEST_F(X11HotKeys, AKeyThatIsDownWhenItIsRegisteredMustBePressedAnew) {
+    runProgram({"xset", "r", "rate", "50", "100"});
+    press(KEY_F5);
+    add(virtualF5, 0, 1);
+    for (int i = 0; i < 10; ++i) {
+        loop.pollReadable(20ms);
+        loop.advance(X11HotKeyService::releaseInterval);
+    }
+    release(KEY_F5);
+    loop.advance(X11HotKeyService::releaseInterval);
+    EXPECT_THAT(told, ElementsAre());
+    press(KEY_F5);
+    release(KEY_F5);
+    EXPECT_THAT(told, ElementsAre("down 1", "up 1"));
+}
+
+TEST_F(X11HotKeys, AServerThatGoesIsNoLongerWatchedAndRefuses) {
+    const auto handle = add(virtualA, 0, 1);
+    press(KEY_A);
+    server->kill();
+    EXPECT_EQ(loop.pollReadable(5s), 1U);
+    EXPECT_EQ(log.size(), 1U);
+    EXPECT_EQ(loop.pollReadable(0ms), 0U);
+    loop.advance(1s);
+    EXPECT_FALSE(service->registerHotKey(virtualQ, 0, 2));
+    service->unregisterHotKey(handle);
+    EXPECT_THAT(told, ElementsAre("down 1"));
+}
+
+}  // namespace
+}  // namespace tonquil
