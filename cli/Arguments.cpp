@@ -200,7 +200,8 @@ std::pair<const CommandForm*, int> formFor(int argc, char* const* argv) {
         words = 2;
     }
     const auto* const form = std::ranges::find(commandForms, name, &CommandForm::name);
-    return {form == commandForms.end() ? nullptr : form, words};
+    const bool isQuoted = std::string_view(argv[1]).find(' ') != std::string_view::npos;
+    return {form == commandForms.end() || isQuoted ? nullptr : form, words};
 }
 
 }  // namespace

@@ -31,16 +31,16 @@ struct Arguments {
     bool json = false;
     bool hardware = false;
     /// Reference IDs of the displays that are meant; empty for all.
-    std::vector<std::string> displays;
-    std::optional<std::string> curve;
-    std::optional<std::string> file;
-    std::optional<std::string> base;
+    std::vector<std::string> displays = {};
+    std::optional<std::string> curve = {};
+    std::optional<std::string> file = {};
+    std::optional<std::string> base = {};
     std::uint32_t samples = 256;
     /// The host that a remote command talks to; for a scan, none means the whole network.
-    std::optional<std::string> host;
+    std::optional<std::string> host = {};
     /// The remote display that is meant.
-    std::optional<std::string> referenceID;
-    std::optional<std::string> content;
+    std::optional<std::string> referenceID = {};
+    std::optional<std::string> content = {};
     /// How long a scan listens.
     std::chrono::milliseconds timeout{1000};
 };

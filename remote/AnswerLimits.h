@@ -21,6 +21,9 @@ class AnswerLimits {
     static constexpr Rate forOneHost{.burst = 20, .perSecond = 5};
     /// For all together: what is left when source addresses are forged.
     static constexpr Rate forAll{.burst = 200, .perSecond = 50};
+    /// For pushes to all subscribers: a stranger can have targets shown and dismissed at will, and
+    /// each that closes is a push.
+    static constexpr Rate forPushes{.burst = 20, .perSecond = 5};
     /// Hosts whose askings are remembered. As grants for all come at 50 a second and a host is
     /// forgotten 4 s after its last, a full table is one that the rate for all has filled.
     static constexpr std::size_t mostHosts = 512;

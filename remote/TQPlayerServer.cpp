@@ -18,6 +18,8 @@ constexpr std::size_t mostNames = 64;
 constexpr std::size_t mostNameBytes = 256;
 // Far above the displays of any computer; a datagram has room for a thousand empty states.
 constexpr int mostStates = 256;
+// The time in which the rate of pushes grants one.
+constexpr std::chrono::milliseconds betweenPushes{200};
 // Of our own scans in one self-test, however many ways lead back to us.
 constexpr int mostOwnScans = 4;
 
@@ -217,6 +219,19 @@ void TQPlayerServer::sendAnnounceToRecipients(std::span<const SocketAddress> rec
 }
 
 void TQPlayerServer::sendStateToSubscribers() {
+    if (_stateSubscribers.isEmpty()) {
+        return;
+    }
+    if (!_pushes.take(_environment.runLoop.now())) {
+        // Nobody misses the last state, however many came before it.
+        if (!_latePush) {
+            _latePush = _environment.runLoop.callOnce(betweenPushes, [this] {
+                _latePush.reset();
+                sendStateToSubscribers();
+            });
+        }
+        return;
+    }
     _stateSubscribers.removeExpired(_environment.runLoop.now());
     if (!_stateSubscribers.isEmpty()) {
         sendAnnounceToRecipients(_stateSubscribers.addresses());

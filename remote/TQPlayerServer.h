@@ -73,7 +73,8 @@ class TQPlayerServer {
     void sendAnnounceToRecipient(const SocketAddress& recipient);
     /// Builds one announce and sends it to each, in order.
     void sendAnnounceToRecipients(std::span<const SocketAddress> recipients);
-    /// Drops the subscribers whose time is up and announces to the others.
+    /// Drops the subscribers whose time is up and announces to the others. More often than
+    /// `AnswerLimits::forPushes` says, several calls become one a little later.
     void sendStateToSubscribers();
 
     /// Handles one datagram, whatever it holds.
@@ -108,6 +109,8 @@ class TQPlayerServer {
     std::unique_ptr<RunLoop::Handle> _source;
     AnswerQueue _answers;
     Subscribers _stateSubscribers;
+    TokenBucket _pushes{AnswerLimits::forPushes};
+    std::unique_ptr<RunLoop::Handle> _latePush;
     /// There only while the self-test's window is open.
     std::optional<std::set<std::string>> _selfTestNames;
     std::unique_ptr<RunLoop::Handle> _selfTestTimer;

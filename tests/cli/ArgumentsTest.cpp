@@ -30,6 +30,15 @@ TEST(Arguments, AreUnderstoodInAnyOrder) {
     EXPECT_EQ(table->curve, "[0]");
     EXPECT_EQ(table->base, "b");
 
+    const auto set = parsed({"remote", "set", "--content", "transparent", "host", "1-2-3", "file"});
+    ASSERT_TRUE(set);
+    EXPECT_EQ(set->command, Arguments::Command::remoteSet);
+    EXPECT_EQ(set->host, "host");
+    EXPECT_EQ(set->referenceID, "1-2-3");
+    EXPECT_EQ(set->file, "file");
+    EXPECT_EQ(parsed({"remote", "get", "host"})->referenceID, std::nullopt);
+    EXPECT_EQ(parsed({"remote", "scan", "--timeout", "0.25"})->timeout.count(), 250);
+
     EXPECT_EQ(parsed({"apply", "--", "--file"})->file, "--file");
     EXPECT_EQ(parsed({"read", "--help"})->command, Arguments::Command::help);
     EXPECT_EQ(parsed({"--version"})->command, Arguments::Command::version);
@@ -51,7 +60,22 @@ TEST(Arguments, ThatMakeNoSenseAreRefused) {
         {"table", "--curve", "[0]", "--samples", "0"},
         {"table", "--curve", "[0]", "--samples", "257"},
         {"table", "--curve", "[0]", "--samples", "12x"},
-        {"table", "--curve", "[0]", "--samples", "-1"}};
+        {"table", "--curve", "[0]", "--samples", "-1"},
+        {"remote"},
+        {"remote", "frobnicate"},
+        {"remote scan"},
+        {"remote", "scan", "host"},
+        {"remote", "scan", "--timeout", "0"},
+        {"remote", "scan", "--timeout", "nan"},
+        {"remote", "scan", "--timeout", "3601"},
+        {"remote", "get"},
+        {"remote", "get", "host", "1-2-3", "more"},
+        {"remote", "set", "host", "--curve", "[0]"},
+        {"remote", "set", "host", "1-2-3"},
+        {"remote", "set", "host", "1-2-3", "file", "--curve", "[0]"},
+        {"remote", "set", "host", "1-2-3", "--content", "color"},
+        {"remote", "watch"},
+        {"remote", "watch", "host", "--json"}};
     for (const auto& words : refused) {
         SCOPED_TRACE(testing::PrintToString(words));
         EXPECT_FALSE(parsed(words));

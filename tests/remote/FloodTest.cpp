@@ -94,6 +94,19 @@ TEST_F(Flood, OfSubscriptionsLeavesTheSubscribersOfOtherHosts) {
     EXPECT_EQ(sentTo(honest), 1U) << "the newest has a place";
 }
 
+TEST_F(Flood, OfPushesEndsInOneThatTellsTheLastState) {
+    receive("Kantivel sub ");
+    forget();
+    for (int i = 0; i < 1000; ++i) {
+        displays.displays[0].gamma = {1, i};
+        server->sendStateToSubscribers();
+        loop.advance(1ms);
+    }
+    EXPECT_LE(wire.sent.size(), 20U + 5 + 1);
+    loop.advance(200ms);
+    EXPECT_NE(wire.sent.back().bytes.find("[1,999]"), std::string::npos);
+}
+
 TEST_F(Flood, OfNonsenseLeavesALineOnlyNowAndThen) {
     std::mt19937 random(1);
     for (int i = 0; i < 100'000; ++i) {

@@ -1,0 +1,131 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Two computers on a network of their own: servers, a companion, and a hostile neighbour.
+#
+#   tests/remote/network.sh REMOTE_HOST TONQUILCTL [DATAGRAMS]
+#
+# Needs network namespaces, and says so where there are none. DATAGRAMS is the size of the flood.
+set -euo pipefail
+remote_host=$1
+tonquilctl=$2
+datagrams=${3:-100000}
+here=$(cd "$(dirname "$0")" && pwd)
+left=tonquil-left-$$
+right=tonquil-right-$$
+alone=tonquil-alone-$$
+folder=$(mktemp -d)
+processes=()
+
+end() {
+    ((${#processes[@]} == 0)) || kill "${processes[@]}" 2> /dev/null || true
+    wait || true
+    for name in "$left" "$right" "$alone"; do
+        ip netns delete "$name" 2> /dev/null || true
+    done
+    rm -rf "$folder"
+}
+trap end EXIT
+
+if ! command -v ip > /dev/null || ! ip netns add "$left" 2> /dev/null; then
+    echo "Skipped: network namespaces cannot be made here."
+    exit 77
+fi
+ip netns add "$right"
+ip netns add "$alone"
+if ! ip link add tq0 netns "$left" type veth peer name tq0 netns "$right" 2> /dev/null; then
+    echo "Skipped: virtual network links cannot be made here."
+    exit 77
+fi
+ip -n "$left" address add 10.99.0.1/24 brd + dev tq0
+ip -n "$right" address add 10.99.0.2/24 brd + dev tq0
+for name in "$left" "$right"; do
+    ip -n "$name" link set tq0 up
+    ip -n "$name" link set lo up
+done
+ip -n "$alone" link set lo up
+
+failures=0
+# expect WHAT COMMAND...: the command has to succeed.
+expect() {
+    local what=$1
+    shift
+    if ! "$@"; then
+        echo "FAILED: $what"
+        failures=$((failures + 1))
+    fi
+}
+# refuse WHAT COMMAND...: the command has to fail with status 1 and one line.
+refuse() {
+    local what=$1 status=0
+    shift
+    "$@" > "$folder/refused" 2>&1 || status=$?
+    if ((status != 1)) || (($(wc -l < "$folder/refused") != 1)); then
+        echo "FAILED: $what (status $status): $(< "$folder/refused")"
+        failures=$((failures + 1))
+    fi
+}
+in_left() { ip netns exec "$left" "$@"; }
+in_right() { ip netns exec "$right" "$@"; }
+# serve NAMESPACE LOG [ARGUMENT...]
+serve() {
+    local name=$1 log=$2
+    shift 2
+    ip netns exec "$name" "$remote_host" "$@" > "$folder/$log" &
+    processes+=($!)
+}
+# await FILE TEXT: for up to 5 s.
+await() {
+    for _ in {1..50}; do
+        if grep -qF -- "$2" "$folder/$1"; then
+            return 0
+        fi
+        sleep 0.1
+    done
+    return 1
+}
+scan_finds() {
+    in_right "$tonquilctl" remote scan > "$folder/scan" && [[ $(grep -c $'^10\\.' "$folder/scan") == "$1" ]]
+}
+
+serve "$left" left.log
+server=${processes[0]}
+serve "$right" right.log 44188 7-7-7
+expect "the left one passes its self-test" await left.log "The self-test is over."
+expect "the right one passes its self-test" await right.log "The self-test is over."
+expect "a scan finds both" scan_finds 2
+cat "$folder/scan"
+
+refuse "a second server on one computer" in_left "$remote_host"
+expect "it says why" grep -qx "CFSocketSetAddress() failed 98" "$folder/refused"
+serve "$alone" alone.log
+expect "a server without a network fails its self-test" await alone.log "The self-test failed."
+expect "and says what failed" grep -qx "Unable to send data, 101" "$folder/alone.log"
+
+# A shell keeps SIGINT from what it starts in the background.
+ip netns exec "$right" env --default-signal=INT "$tonquilctl" remote watch 10.99.0.1 \
+    > "$folder/watch" &
+watch=$!
+processes+=("$watch")
+expect "a watch shows what there is" await watch transparent
+expect "a curve is set" in_right "$tonquilctl" remote set 10.99.0.1 1-10-21036 --curve '[1,0.1,1.3]'
+curve=$(in_right "$tonquilctl" remote get 10.99.0.1 1-10-21036)
+expect "and read" test "$curve" == "[1.0,0.1,1.3,1.0,0.0,1.0,1.0,0.0,1.0,1.0,0.0,1.0,1.0]"
+expect "a target is shown" in_right "$tonquilctl" remote set 10.99.0.1 1-10-21036 \
+    --content colorTargets
+expect "a watch shows each change" await watch colorTargets
+kill -INT "$watch"
+expect "a watch ends well" wait "$watch"
+expect "three lines were shown" test "$(wc -l < "$folder/watch")" == 3
+refuse "an unknown display" in_right "$tonquilctl" remote get 10.99.0.1 none
+refuse "a computer without a server" in_right "$tonquilctl" remote get 10.99.0.3
+
+ip -n "$left" link set tq0 down
+sleep 0.2
+refuse "a computer whose link is down" in_right "$tonquilctl" remote scan --address 10.99.0.1
+ip -n "$left" link set tq0 up
+expect "the link is up again" scan_finds 2
+
+expect "a flood leaves it well" in_right python3 "$here/flood.py" 10.99.0.1 44188 "$datagrams" \
+    "$server"
+expect "the server runs on" scan_finds 2
+((failures == 0))
