@@ -30,6 +30,33 @@ _tonquilctl_words() {
     done < <(compgen -W "$2" -- "$1")
 }
 
+# The contents that a remote display can be told to show, and the remote commands' options; hosts and
+# remote displays are not asked for, since that takes the network.
+_tonquilctl_remote() {
+    local word=$1 before=$2 options
+    if ((COMP_CWORD == 2)); then
+        _tonquilctl_words "$word" "scan get set watch"
+        return
+    fi
+    case ${COMP_WORDS[2]} in
+        scan) options="--timeout --json --address" ;;
+        set) options="--curve --content" ;;
+        get | watch) options="" ;;
+        *) return ;;
+    esac
+    case $before in
+        --content) _tonquilctl_words "$word" "colorTargets grayscaleTargets transparent" ;;
+        --timeout | --address | --curve) ;;
+        *)
+            if [[ $word == -* ]]; then
+                _tonquilctl_words "$word" "$options --help"
+            elif [[ ${COMP_WORDS[2]} == set ]] && ((COMP_CWORD > 4)); then
+                _tonquilctl_files "$word"
+            fi
+            ;;
+    esac
+}
+
 # Whether the words before the one being completed hold a file or a --curve already.
 _tonquilctl_has_curve() {
     local i
@@ -55,7 +82,7 @@ _tonquilctl() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} options
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        _tonquilctl_words "$word" "displays apply restore read table --help --version"
+        _tonquilctl_words "$word" "displays apply restore read table remote --help --version"
         return
     fi
     # Bash makes a word of its own of the "=" in --display=ID.
@@ -63,6 +90,10 @@ _tonquilctl() {
         word=""
     elif [[ $before == = ]]; then
         before=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
+    if [[ ${COMP_WORDS[1]} == remote ]]; then
+        _tonquilctl_remote "$word" "$before"
+        return
     fi
     case ${COMP_WORDS[1]} in
         displays) options="--json" ;;

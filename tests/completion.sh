@@ -37,7 +37,7 @@ if ((${#ids[@]} < 2)); then
     exit 1
 fi
 
-expect "restore|read" re
+expect "restore|read|remote" re
 expect "" nonsense ""
 # What is offered is what the command takes.
 expect "--display|--hardware|--help" read -
@@ -53,6 +53,14 @@ expect "other" table --curve "[]" --base oth
 expect "" apply --curve "[]" eve
 expect "" apply other eve
 expect "" read eve
+# The remote commands; a file only after the host and the display.
+expect "scan|set" remote s
+expect "--timeout|--json|--address|--help" remote scan -
+expect "grayscaleTargets" remote set host 1-2-3 --content g
+expect "grayscaleTargets" remote set --content = g
+expect "" remote set oth
+expect "other" remote set host 1-2-3 oth
+expect "" remote get host oth
 # Where displays cannot be asked for, nothing is offered and nothing is printed.
 TONQUIL_DISPLAY_SERVICE=nowhere expect "" apply --display "" 2> errors
 if [[ -s errors ]]; then

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+//
+// Any datagram from the network: to a server whose self-test runs, to one whose self-test is over,
+// and to a companion.
+
+#include <algorithm>
+#include <cctype>
+
+#include "Require.h"
+#include "remote/Announce.h"
+#include "remote/Unicode.h"
+#include "tests/remote/ServerBench.h"
+
+namespace {
+
+using namespace tonquil;
+
+const SocketAddress source(0x0A000002, 50000);
+
+void checkServer(std::string_view datagram, bool isTesting) {
+    ServerBench bench;
+    bench.start();
+    if (isTesting) {
+        bench.server = bench.make().value();
+        bench.forget();
+    }
+    bench.receive(datagram, source);
+    for (const auto& answer : bench.wire.sent) {
+        require(answer.recipient == source && readAnnounce(answer.bytes).has_value());
+    }
+    require(bench.wire.sent.size() <= 1 && bench.log.size() <= 1);
+    for (const std::string& line : bench.log) {
+        require(line.starts_with("ignored: ") && line.size() < 5 * 1024 && remote::isUtf8(line));
+        require(std::ranges::none_of(line, [](unsigned char c) { return c < 0x20 || c == 0x7F; }));
+    }
+    for (const auto& [id, state] : bench.displays.statesSet) {
+        require(remote::isUtf8(id) && state.is_object());
+    }
+    // What was set may be anything, but an announce of it is one again, or the tag alone.
+    bench.forget();
+    bench.server->broadcastAnnounce();
+    const std::string& announce = bench.wire.sent.front().bytes;
+    require(announce == remote::announceTag || remote::isUtf8(announce));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view datagram(reinterpret_cast<const char*>(data), size);  // NOLINT
+    checkServer(datagram, false);
+    checkServer(datagram, true);
+    if (const auto announce = readAnnounce(datagram)) {
+        const std::string name = remote::printable(announce->name, 64);
+        require(remote::isUtf8(name) && name.size() < 5 * 64);
+    }
+    return 0;
+}
