@@ -24,9 +24,9 @@ void AnswerQueue::defer(const SocketAddress& recipient) {
         return waiting.recipient.host() == recipient.host();
     });
     if (_waiting.size() == mostWaiting) {
-        _waiting.erase(_waiting.begin());
+        _waiting.pop_back();
     }
-    _waiting.push_back({recipient, _runLoop.now()});
+    _waiting.insert(_waiting.begin(), {recipient, _runLoop.now()});
     if (!_timer) {
         startTimer();
     }
@@ -42,9 +42,9 @@ void AnswerQueue::answerWaiting() {
     std::erase_if(_waiting,
                   [&](const Waiting& waiting) { return now - waiting.since > longestWait; });
     // The newest is asked for first, so it gets the grant where there is only one.
-    for (auto waiting = _waiting.rbegin(); waiting != _waiting.rend(); ++waiting) {
-        if (_limits.take(waiting->recipient.host(), now)) {
-            admitted.push_back(waiting->recipient);
+    for (const auto& [recipient, since] : _waiting) {
+        if (_limits.take(recipient.host(), now)) {
+            admitted.push_back(recipient);
         }
     }
     std::erase_if(_waiting, [&](const Waiting& waiting) {

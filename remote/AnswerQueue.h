@@ -48,7 +48,7 @@ class AnswerQueue {
     RunLoop& _runLoop;
     Send _send;
     AnswerLimits _limits;
-    /// The newest last.
+    /// The newest first.
     std::vector<Waiting> _waiting;
     std::unique_ptr<RunLoop::Handle> _timer;
 };

@@ -8,11 +8,9 @@
 
 #include "values/PropertyValue.h"
 
-namespace tonquil {
-
 /// The messages of the remote-configuration protocol as bytes: a tag, which ends in a space, and
 /// for some of them one JSON object.
-namespace remote {
+namespace tonquil::remote {
 
 /// Where servers listen.
 inline constexpr std::uint16_t serverPort = 44188;
@@ -47,6 +45,4 @@ enum class Kind { scan, stateUpdate, announce, subscribe, unrecognised };
 /// A state update. `states` holds states by reference ID; otherwise as `announceMessage`.
 [[nodiscard]] std::string stateUpdateMessage(PropertyValue states);
 
-}  // namespace remote
-
-}  // namespace tonquil
+}  // namespace tonquil::remote

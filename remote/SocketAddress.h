@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -29,7 +28,10 @@ class SocketAddress {
     [[nodiscard]] std::uint16_t port() const;
     [[nodiscard]] const Bytes& bytes() const { return _bytes; }
 
-    friend auto operator<=>(const SocketAddress&, const SocketAddress&) = default;
+    friend bool operator==(const SocketAddress&, const SocketAddress&) = default;
+    friend bool operator<(const SocketAddress& left, const SocketAddress& right) {
+        return left._bytes < right._bytes;
+    }
 
  private:
     Bytes _bytes;

@@ -27,7 +27,7 @@ constexpr int mostOwnScans = 4;
 
 TQPlayerServer::TQPlayerServer(Environment environment, std::uint16_t port)
     : _environment(std::move(environment)),
-      _UDPPort(port),
+      _udpPort(port),
       _ignoredLog(_environment.log, "further datagrams were ignored"),
       _sendFailureLog(_environment.log, "further datagrams could not be sent"),
       _answers(_environment.runLoop,
@@ -56,7 +56,7 @@ Result<std::unique_ptr<TQPlayerServer>> TQPlayerServer::initWithUDPPort(Environm
 std::optional<Problem> TQPlayerServer::setUp() {
     const auto fail = [this](std::string line) {
         log(line);
-        return Problem{"Remote configuration cannot use UDP port " + std::to_string(_UDPPort) + ".",
+        return Problem{"Remote configuration cannot use UDP port " + std::to_string(_udpPort) + ".",
                        std::move(line)};
     };
     auto socket = _environment.openSocket();
@@ -67,7 +67,7 @@ std::optional<Problem> TQPlayerServer::setUp() {
     if (const int result = _socket->enableBroadcast(); result != 0) {
         return fail("setsockopt() failed " + std::to_string(result));
     }
-    if (const int error = _socket->bind(SocketAddress(0, _UDPPort)); error != 0) {
+    if (const int error = _socket->bind(SocketAddress(0, _udpPort)); error != 0) {
         return fail("CFSocketSetAddress() failed " + std::to_string(error));
     }
     _source = _socket->receiveOn(_environment.runLoop,
@@ -77,7 +77,7 @@ std::optional<Problem> TQPlayerServer::setUp() {
     if (!_source) {
         return fail("CFSocketCreateRunLoopSource failed (nil)");
     }
-    log("Socket listening on port " + std::to_string(_UDPPort));
+    log("Socket listening on port " + std::to_string(_udpPort));
     return std::nullopt;
 }
 
@@ -137,7 +137,7 @@ void TQPlayerServer::answer(const SocketAddress& source) {
 // A flood at the wrong moment must not let the self-test fail. The system takes no datagram from
 // the network that claims to come from this computer, so nobody else can use this way in.
 bool TQPlayerServer::isOwnScan(const SocketAddress& source) {
-    if (!_selfTestNames || _ownScansLeft == 0 || source.port() != _UDPPort ||
+    if (!_selfTestNames || _ownScansLeft == 0 || source.port() != _udpPort ||
         !_environment.host->hasAddress(source.host())) {
         return false;
     }

@@ -61,9 +61,9 @@ class TQPlayerServer {
     TQPlayerServer(const TQPlayerServer&) = delete;
     TQPlayerServer& operator=(const TQPlayerServer&) = delete;
 
-    [[nodiscard]] std::uint16_t UDPPort() const { return _UDPPort; }
+    [[nodiscard]] std::uint16_t UDPPort() const { return _udpPort; }
     /// Only notes the number; the socket stays where it is.
-    void setUDPPort(std::uint16_t port) { _UDPPort = port; }
+    void setUDPPort(std::uint16_t port) { _udpPort = port; }
     [[nodiscard]] TQPlayerServerDataSource* dataSource() const { return _dataSource; }
     /// Not owned. Without one, the server has no displays and sets nothing.
     void setDataSource(TQPlayerServerDataSource* dataSource) { _dataSource = dataSource; }
@@ -101,7 +101,7 @@ class TQPlayerServer {
     /// Gone when the server is, for calls after which nobody knows.
     std::shared_ptr<bool> _isAlive = std::make_shared<bool>(true);
     Environment _environment;
-    std::uint16_t _UDPPort;
+    std::uint16_t _udpPort;
     TQPlayerServerDataSource* _dataSource = nullptr;
     LogLimiter _ignoredLog;
     LogLimiter _sendFailureLog;

@@ -75,10 +75,12 @@ class UdpSocket::Reception {
 
     void end() { _isEnded = true; }
 
-    void receive() {
+    /// One turn. The run loop may drop its own copy of the pointer meanwhile, when the receiver
+    /// ends the watch.
+    static void receive(const std::shared_ptr<Reception> reception) {  // NOLINT(*-value-param)
         const auto end = std::chrono::steady_clock::now() + longestTurn;
         for (int count = 0; count < mostDatagrams; ++count) {
-            if (_isEnded || !_socket->isOpen() || !receiveOne() ||
+            if (reception->_isEnded || !reception->_socket->isOpen() || !reception->receiveOne() ||
                 std::chrono::steady_clock::now() >= end) {
                 return;
             }
@@ -156,11 +158,8 @@ std::unique_ptr<RunLoop::Handle> UdpSocket::receiveOn(RunLoop& runLoop, Receiver
         std::unique_ptr<RunLoop::Handle> _watch;
     };
     auto reception = std::make_shared<Reception>(_socket, std::move(receiver));
-    auto watch = runLoop.watchReadable(_socket->get(), [reception] {
-        // The run loop may drop this function while it runs, when the receiver ends the watch.
-        const auto kept = reception;
-        kept->receive();
-    });
+    auto watch =
+        runLoop.watchReadable(_socket->get(), [reception] { Reception::receive(reception); });
     return watch ? std::make_unique<Watch>(std::move(reception), std::move(watch)) : nullptr;
 }
 

@@ -142,7 +142,7 @@ class RemoteCommands : public testing::Test {
             {.openDisplays = {}, .logged = notes, .out = out, .remote = access, .notes = notes});
         return result ? "" : result.error().sentence;
     }
-    Arguments set(const std::string& id) const {
+    [[nodiscard]] static Arguments set(const std::string& id) {
         return {.command = Arguments::Command::remoteSet, .host = "desk", .referenceID = id};
     }
 

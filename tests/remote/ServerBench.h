@@ -60,9 +60,11 @@ class FakeSocket final : public DatagramSocket {
 /// A computer whose answers a test chooses.
 class FakeHost final : public LocalHost {
  public:
-    std::string localizedName() const override { return name; }
-    std::optional<HardwareAddress> hardwareAddress() const override { return hardware; }
-    bool hasAddress(std::uint32_t host) const override { return host == ownAddress; }
+    [[nodiscard]] std::string localizedName() const override { return name; }
+    [[nodiscard]] std::optional<HardwareAddress> hardwareAddress() const override {
+        return hardware;
+    }
+    [[nodiscard]] bool hasAddress(std::uint32_t host) const override { return host == ownAddress; }
 
     std::string name = "Desk";
     std::optional<HardwareAddress> hardware = HardwareAddress{0x02, 0, 0xAB, 0xCD, 0x0E, 0xFF};
@@ -95,7 +97,7 @@ class ServerBench {
         forget();
     }
     void receive(std::string_view bytes,
-                 const SocketAddress& source = SocketAddress(0x0A000002, 50000)) {
+                 const SocketAddress& source = SocketAddress(0x0A000002, 50000)) const {
         wire.receiver(bytes, source);
     }
     void forget() {

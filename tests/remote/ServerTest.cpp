@@ -87,11 +87,12 @@ TEST_F(Server, FailsItsSelfTestUnlessAGoodAnnounceComesInTime) {
 
 TEST_F(Server, AnswersDropsOrLogsWhatComesByItsTag) {
     const std::string ann = R"(Kantivel ann {"name":"A"})";
-    const struct {
+    struct Row {
         std::string bytes;
         bool isAnswered;
         std::vector<std::string> log;
-    } rows[] = {
+    };
+    const std::vector<Row> rows{
         {"Kantivel scan ", true, {}},
         {"Kantivel scan and more", true, {}},
         {std::string("Kantivel scan \0\1", 16), true, {}},
@@ -108,9 +109,9 @@ TEST_F(Server, AnswersDropsOrLogsWhatComesByItsTag) {
         {"\xF4\x90\x80\x80", false, {"ignored: (null)"}},
         {"\xE2\x82", false, {"ignored: (null)"}},
         {"gr\xC3\xBC\xC3\x9F", false, {"ignored: gr\xC3\xBC\xC3\x9F"}},
-        {"a\r\nSocket \x1b[2J\xC2\x85\xE2\x80\xAE\x7F",
+        {"a\r\nSocket \x1b[2J\xC2\x85\xE2\x80\xA8\x7F",
          false,
-         {"ignored: a\\x0d\\x0aSocket \\x1b[2J\\x85\\u202e\\x7f"}},
+         {"ignored: a\\x0d\\x0aSocket \\x1b[2J\\x85\\u2028\\x7f"}},
         {std::string(1023, 'x') + "ü.", false, {"ignored: " + std::string(1023, 'x') + "…"}},
         {"Kantivel state-update [1]", false, {}},
         {"Kantivel state-update \"text\"", false, {}},
