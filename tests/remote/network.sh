@@ -76,7 +76,7 @@ serve() {
 # await FILE TEXT: for up to 5 s.
 await() {
     for _ in {1..50}; do
-        if grep -qF -- "$2" "$folder/$1"; then
+        if grep -qsF -- "$2" "$folder/$1"; then
             return 0
         fi
         sleep 0.1
