@@ -47,6 +47,10 @@ class PanelActions {
     /// Nothing where there is no display to show.
     [[nodiscard]] virtual std::optional<PlottedCurves> plottedCurves() = 0;
     virtual void openTargetWindow() = 0;
+    virtual void openPreferences() = 0;
+    virtual void openAboutBox() = 0;
+    virtual void openWebSite() = 0;
+    virtual void gammaBoardInfo() = 0;
     virtual void loadGamma() = 0;
     virtual void saveGamma() = 0;
     virtual void openFile(const std::filesystem::path& file) = 0;

@@ -17,12 +17,13 @@ struct RequestName {
     std::string_view help;
 };
 
-constexpr std::array<RequestName, 6> requestNames{{
+constexpr std::array<RequestName, 7> requestNames{{
     {Request::Kind::Reopen, "--reopen", ""},
     {Request::Kind::Toggle, "--toggle", "switch the correction on or off"},
     {Request::Kind::On, "--on", "switch the correction on"},
     {Request::Kind::Off, "--off", "switch it off: the displays' own calibration returns"},
     {Request::Kind::ShowPanel, "--show-panel", "show the panel"},
+    {Request::Kind::Preferences, "--preferences", "show the preferences"},
     {Request::Kind::Quit, "--quit", "end the program that runs; the correction stays"},
 }};
 /// Followed by the name of a file.
@@ -225,6 +226,9 @@ void carryOut(const std::vector<Request>& requests, TQController& controller) {
                 break;
             case Request::Kind::ShowPanel:
                 controller.showPanel();
+                break;
+            case Request::Kind::Preferences:
+                controller.openPreferences();
                 break;
             case Request::Kind::Open:
                 controller.openFile(request.file);

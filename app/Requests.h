@@ -24,6 +24,7 @@ struct Request {
         On,
         Off,
         ShowPanel,
+        Preferences,
         Open,     ///< A settings file.
         Targets,  ///< Floating, or all over a display.
         Quit,

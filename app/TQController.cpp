@@ -17,9 +17,14 @@ TQController::TQController(const ControllerSurroundings& surroundings)
       _panel(surroundings.panel),
       _dialogs(surroundings.dialogs),
       _targets(surroundings.targets),
+      _windows(surroundings.windows),
+      _alerts(surroundings.alerts),
+      _presence(surroundings.presence),
+      _programs(surroundings.programs),
       _log(surroundings.log),
       _sessionEvents(surroundings.sessionEvents),
       _endProgram(surroundings.endProgram),
+      _openServer(surroundings.openServer),
       _currentScreens(_service, _registry, _preferences, _panel, surroundings.whyNoDisplays),
       _currentCurve(_controls),
       _correction(_service, _registry, _preferences),
@@ -28,13 +33,22 @@ TQController::TQController(const ControllerSurroundings& surroundings)
       _recentFiles(_preferences),
       _periodicUpdate(_runLoop, _preferences, [this] { _applyCurvesToScreen(); }),
       _reconfigurations(surroundings.reconfigurations, surroundings.log,
-                        [this] { updateScreens(); }) {
-    _correction.show = [this](bool isOn) { _controls.showCorrection(isOn); };
+                        [this] { updateScreens(); }),
+      _statusItem(surroundings.presence, _preferences),
+      _hotKeys(surroundings.hotKeys, _preferences, hotKeyActions()),
+      _panelUnderMouse(panelUnderMouseSurroundings(surroundings)),
+      _remoteDisplays(_registry, _targets, surroundings.log, remoteReactions()) {
+    _correction.show = [this](bool isOn) { showCorrection(isOn); };
 }
 
 // The curves come before anything that can be seen; what observes the surroundings comes last, so
 // that nothing is told of while it is being set up.
 void TQController::applicationDidFinishLaunching() {
+    _windows.setAboutBackground(248.0 / 255, 234.0 / 255, 198.0 / 255);
+    if (!checkForConflict()) {
+        _hasTerminated = true;
+        return;
+    }
     _initDefaults();
     _adoptDefaultCurves();
     if (_preferences.boolForKey(settingsKey::continuouslyApply)) {
@@ -44,7 +58,11 @@ void TQController::applicationDidFinishLaunching() {
     _panel._setAdvancedPanel(_preferences.boolForKey(settingsKey::advancedPanel));
     _panel._setDarkTheme(_preferences.boolForKey(settingsKey::darkTheme));
     _panel.showChannelStrip(_preferences.boolForKey(settingsKey::channelStrip));
+    _targets.setHintsShown(_preferences.boolForKey(settingsKey::showsTargetHints));
     setApplyCorrection(_preferences.boolForKey(settingsKey::rememberSettings));
+    _statusItem.setReady();
+    updateStatusItem();
+    updateHotKey();
     _setControlsEnabled(false);
     if (_preferences.boolForKey(settingsKey::showAtLaunch)) {
         showPanel();
@@ -58,6 +76,7 @@ void TQController::applicationDidFinishLaunching() {
         _service.registerReconfigurationCallback([this](DisplayID, ReconfigurationFlags flags) {
             _reconfigurations.displayReconfigured(flags);
         });
+    _applyDefaultsToServer();
 }
 
 void TQController::applicationWillTerminate() {
@@ -68,6 +87,7 @@ void TQController::applicationWillTerminate() {
     _periodicUpdate._stopPeriodicUpdate();
     _panelFrame.save();
     _targets.saveFrame();
+    _windows.saveFrames();
     _storage.close();
 }
 
@@ -95,9 +115,10 @@ void TQController::showTarget(std::optional<TargetKind> kind, const std::string&
                                                   " is attached. tonquilctl displays lists them.");
         }
     } else if (kind) {
+        makeTargetWindowRestorable();
         _targets.openTargetWindow(*kind);
     } else {
-        _targets.openTargetWindow();
+        openTargetWindow();
     }
 }
 
@@ -142,6 +163,7 @@ void TQController::observeSession() {
 
 void TQController::_changedDefaults() {
     _applyDefaultsToPanel();
+    _applyDefaultsToServer();
     if (_shownAffectsAllScreens != _preferences.boolForKey(settingsKey::affectAllScreens)) {
         _changeScreen();
     }
@@ -155,11 +177,14 @@ void TQController::_applyDefaultsToPanel() {
     _panel._setAdvancedPanel(_preferences.boolForKey(settingsKey::advancedPanel));
     _panel._setDarkTheme(_preferences.boolForKey(settingsKey::darkTheme));
     _panel.showChannelStrip(_preferences.boolForKey(settingsKey::channelStrip));
+    _targets.setHintsShown(_preferences.boolForKey(settingsKey::showsTargetHints));
     if (_preferences.boolForKey(settingsKey::continuouslyApply) && applyCorrection()) {
         _periodicUpdate._startPeriodicUpdate();
     } else {
         _periodicUpdate._stopPeriodicUpdate();
     }
+    updateStatusItem();
+    updateHotKey();
 }
 
 // A display that is new gets the curve that is stored for it; the others keep theirs, which the

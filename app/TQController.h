@@ -5,43 +5,24 @@
 #include <string>
 #include <vector>
 
+#include "app/ControllerHotKeys.h"
+#include "app/ControllerSurroundings.h"
 #include "app/Correction.h"
 #include "app/CurrentCurve.h"
 #include "app/CurrentScreens.h"
 #include "app/CurveStorage.h"
 #include "app/EditHistory.h"
-#include "app/FileDialogs.h"
 #include "app/PanelActions.h"
 #include "app/PanelFrame.h"
+#include "app/PanelUnderMouse.h"
 #include "app/PeriodicUpdate.h"
 #include "app/RecentFiles.h"
 #include "app/ReconfigurationObserver.h"
-#include "app/SessionEvents.h"
-#include "app/TargetWindows.h"
+#include "app/RemoteDisplays.h"
+#include "app/StatusItem.h"
 #include "settings/Settings.h"
 
 namespace tonquil {
-
-/// What the controller works with. All of it must outlive the controller.
-struct ControllerSurroundings {
-    DisplayService& service;
-    ScreenRegistry& registry;
-    ReconfigurationCounter& reconfigurations;
-    PreferencesStore& preferences;
-    CurveRecovery& recovery;
-    RunLoop& runLoop;
-    PanelControls& controls;
-    PanelWindow& panel;
-    FileDialogs& dialogs;
-    TargetWindows& targets;
-    /// Where session events come from; may be empty.
-    std::vector<SessionEvents*> sessionEvents;
-    /// Why there are no displays, where there never will be any; else empty.
-    std::string whyNoDisplays;
-    /// Ends the program's run loop, after which `applicationWillTerminate` is due.
-    std::function<void()> endProgram;
-    Log log;
-};
 
 /// The program's coordinator: starts and ends it, joins the panel with the displays, and answers
 /// what happens around it. What takes rules of its own is in the classes that it is made of.
@@ -58,6 +39,9 @@ class TQController final : public PanelActions {
     void applicationWillTerminate();
     /// The program was started again while it runs.
     void applicationShouldHandleReopen();
+
+    /// Whether the program is to end, or has.
+    [[nodiscard]] bool hasTerminated() const { return _hasTerminated; }
 
     [[nodiscard]] bool applyCorrection() const { return _correction.applyCorrection(); }
     void setApplyCorrection(bool isOn) { _correction.setApplyCorrection(isOn); }
@@ -79,7 +63,11 @@ class TQController final : public PanelActions {
     void redo() override;
     void panelMoved() override;
     [[nodiscard]] std::optional<PlottedCurves> plottedCurves() override;
-    void openTargetWindow() override { _targets.openTargetWindow(); }
+    void openTargetWindow() override;
+    void openPreferences() override { _windows.openPreferences(); }
+    void openAboutBox() override { _windows.openAboutBox(); }
+    void openWebSite() override { _windows.openAddress("TQWebSite"); }
+    void gammaBoardInfo() override { _windows.openAddress("TQBoardWebSite"); }
     /// Shows a target, floating or, where a display is named by its reference ID, all over it.
     void showTarget(std::optional<TargetKind> kind, const std::string& referenceID);
     void loadGamma() override;
@@ -91,10 +79,40 @@ class TQController final : public PanelActions {
     }
     void quit() override { _endProgram(); }
 
+    /// Follows the two hot keys of the preferences.
+    void updateHotKey() { _hotKeys.updateHotKey(); }
+    /// Hot keys reach nobody while a combination is being recorded, so that it can be one of them.
+    void setHotKeysSuspended(bool areSuspended) { _hotKeys.setSuspended(areSuspended); }
+    void showPanelAndCenterMouse() { _panelUnderMouse.showPanelAndCenterMouse(); }
+    void showPanelAndCenterMouseRelease() { _panelUnderMouse.showPanelAndCenterMouseRelease(); }
+    /// Follows the preferences with the status item and the entries in the task bar.
+    void updateStatusItem() { _statusItem.updateStatusItem(applyCorrection()); }
+    /// What a session that ends is to bring back: a dictionary of the states of the windows that
+    /// are shown, by their identifiers.
+    [[nodiscard]] PropertyValue restorableWindows() const;
+    /// Shows a window as it was; false where there is none of this identifier.
+    bool restoreWindowWithIdentifier(std::string_view identifier, const PropertyValue& state);
+    /// Tells the companions that have subscribed how the displays are, after the current event.
+    void pushStateUpdate();
+
  private:
     void _initDefaults();
     void _changedDefaults();
     void _applyDefaultsToPanel();
+    /// Runs a server for companions, or none, as the preferences want it.
+    void _applyDefaultsToServer();
+    void broadcastTestFailed();
+    void showCorrection(bool isOn);
+    void makeTargetWindowRestorable();
+    void showHotKeyProblem(HotKeyRole role, const std::string& sentence);
+    /// Shows the curve of the display at a point of the desktop.
+    void showCurveAt(const Point& point);
+    [[nodiscard]] PanelUnderMouse::Surroundings panelUnderMouseSurroundings(
+        const ControllerSurroundings& surroundings);
+    [[nodiscard]] ControllerHotKeys::Actions hotKeyActions();
+    [[nodiscard]] RemoteDisplays::Reactions remoteReactions();
+    /// Warns of a program that fights for the displays; false where the person quits over it.
+    [[nodiscard]] bool checkForConflict();
     void _adoptDefaultCurves();
     void _adoptCurrentCurves();
     void _changeScreen();
@@ -131,9 +149,14 @@ class TQController final : public PanelActions {
     PanelWindow& _panel;
     FileDialogs& _dialogs;
     TargetWindows& _targets;
+    ProgramWindows& _windows;
+    Alerts& _alerts;
+    DesktopPresence& _presence;
+    const InstalledPrograms& _programs;
     Log _log;
     std::vector<SessionEvents*> _sessionEvents;
     std::function<void()> _endProgram;
+    std::function<std::unique_ptr<TQPlayerServer>()> _openServer;
 
     CurrentScreens _currentScreens;
     CurrentCurve _currentCurve;
@@ -144,6 +167,10 @@ class TQController final : public PanelActions {
     RecentFiles _recentFiles;
     PeriodicUpdate _periodicUpdate;
     ReconfigurationObserver _reconfigurations;
+    StatusItem _statusItem;
+    ControllerHotKeys _hotKeys;
+    PanelUnderMouse _panelUnderMouse;
+    RemoteDisplays _remoteDisplays;
 
     std::optional<DisplayID> _displayUnderPanel;
     bool _shownAffectsAllScreens = false;
@@ -151,7 +178,10 @@ class TQController final : public PanelActions {
     /// A settings file has been opened in this run.
     bool _openedFile = false;
     bool _hasTerminated = false;
+    /// Nothing before the floating window of targets is made.
+    std::optional<bool> _isTargetWindowRestorable;
     std::unique_ptr<RunLoop::Handle> _resetTimer;
+    std::unique_ptr<TQPlayerServer> _playerServer;
     std::unique_ptr<PreferencesStore::Subscription> _preferencesSubscription;
     std::unique_ptr<DisplayService::Subscription> _reconfigurationSubscription;
 };

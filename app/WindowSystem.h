@@ -2,6 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+
+#include "screens/Geometry.h"
 
 namespace tonquil {
 
@@ -23,6 +26,11 @@ class WindowSystem {
     virtual void keepOnAllWorkspaces(WindowID window) = 0;
     /// Leaves the window out of the task bar and of the overview of workspaces, or puts it back.
     virtual void skipTaskbar(WindowID window, bool skip) = 0;
+
+    /// False only where the window is known to be on another workspace.
+    [[nodiscard]] virtual bool isOnActiveWorkspace(WindowID window) const = 0;
+    /// In pixels of the top-down desktop space.
+    [[nodiscard]] virtual std::optional<Point> pointerLocation() const = 0;
 
     /// Whether translucent windows are blended with what lies below them at the moment.
     [[nodiscard]] virtual bool isCompositing() const = 0;

@@ -11,6 +11,10 @@
 
 #include "app/Requests.h"
 #include "app/TQController.h"
+#include "app/alerts/ModalAlerts.h"
+#include "app/desktop/OtherWindows.h"
+#include "app/desktop/SessionRestoration.h"
+#include "app/desktop/TrayPresence.h"
 #include "app/panel/ControlPanel.h"
 #include "app/panel/PanelFileDialogs.h"
 #include "app/panel/PanelIcons.h"
@@ -20,16 +24,26 @@
 #include "platform/dbus/BusSessionEvents.h"
 #include "platform/dbus/DesktopAppearance.h"
 #include "platform/missing/MissingDisplayService.h"
+#include "platform/missing/MissingHotKeyService.h"
+#include "platform/missing/MissingKeyboardLayout.h"
 #include "platform/missing/MissingWindowSystem.h"
 #include "platform/posix/InstanceSocket.h"
+#include "platform/posix/PosixLocalHost.h"
 #include "platform/posix/TerminationSignals.h"
+#include "platform/posix/UdpSocket.h"
 #include "platform/qt/QtRunLoop.h"
 #include "platform/x11/X11DesktopEvents.h"
+#include "platform/x11/X11HotKeyService.h"
 #include "platform/x11/X11WindowSystem.h"
 #include "platform/x11/XcbReply.h"
+#include "platform/xdg/AutostartLoginItem.h"
 #include "platform/xdg/CurveRecoveryFile.h"
+#include "platform/xdg/DesktopEntries.h"
+#include "platform/xdg/Folder.h"
+#include "platform/xdg/PropertyListFile.h"
 #include "platform/xdg/PropertyListPreferences.h"
 #include "platform/xdg/XdgFolders.h"
+#include "platform/xkb/XkbKeyboardLayout.h"
 
 namespace tonquil {
 
@@ -84,6 +98,12 @@ std::string instanceName() {
     return name;
 }
 
+/// The program's own file.
+std::filesystem::path programFile() {
+    std::error_code unknown;
+    return std::filesystem::read_symlink("/proc/self/exe", unknown);
+}
+
 /// What the toolkit's exit must still save: it ends the process itself when the display server
 /// goes, and then destroys nothing.
 TQController* controllerToSave = nullptr;
@@ -100,21 +120,40 @@ class Program {
     explicit Program(const XdgFolders& folders)
         : preferences(folders.config() / "preferences.plist", runLoop, log),
           recovery(folders.state() / ("recovery-" + instanceName() + ".plist"), log),
-          busEvents(runLoop, log) {
+          busEvents(runLoop, log),
+          loginItem(folders.config().parent_path() / "autostart",
+                    programFile().parent_path() / "tonquil-launcher"),
+          sessionWindows(folders.state() / ("windows-" + instanceName() + ".plist")) {
         openDisplays();
         openWindowSystem();
         panel = std::make_unique<ControlPanel>(*windowSystem);
         dialogs = std::make_unique<PanelFileDialogs>(*panel);
-        targets = std::make_unique<TargetPresenter>(*displays, preferences);
+        presence = std::make_unique<TrayPresence>(*windowSystem, log);
+        presence->watch(*panel);
+        const auto windowMade = [this](QWidget& window) { presence->watch(window); };
+        targets = std::make_unique<TargetPresenter>(*displays, preferences, windowMade);
+        windows = std::make_unique<OtherWindows>(
+            OtherWindows::Surroundings{.preferences = {.preferences = preferences,
+                                                       .loginItem = loginItem,
+                                                       .alerts = alerts,
+                                                       .layout = *keyboardLayout,
+                                                       .program = programFile(),
+                                                       .home = environment("HOME"),
+                                                       .log = log},
+                                       .service = *displays,
+                                       .bundle = {.path = programFile(),
+                                                  .name = "Tonquil",
+                                                  .shortVersion = TONQUIL_VERSION,
+                                                  .build = TONQUIL_VERSION,
+                                                  .copyright = TONQUIL_COPYRIGHT},
+                                       .windowMade = windowMade,
+                                       .suspendHotKeys = [this](bool areSuspended) {
+                                           controller->setHotKeysSuspended(areSuspended);
+                                       }});
         registry = std::make_unique<ScreenRegistry>(*displays);
-        std::vector<SessionEvents*> events{&busEvents};
-        if (desktopEvents) {
-            events.push_back(desktopEvents.get());
-        }
-        controller = std::make_unique<TQController>(ControllerSurroundings{
-            *displays, *registry, reconfigurations, preferences, recovery, runLoop, *panel, *panel,
-            *dialogs, *targets, std::move(events), whyNoDisplays, &QCoreApplication::quit, log});
-        panel->setActions(*controller);
+        hotKeys = std::make_unique<DDHotKeyCenter>(*hotKeyService, log);
+        DDHotKeyCenter::setSharedHotKeyCenter(hotKeys.get());
+        makeController();
     }
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -135,11 +174,17 @@ class Program {
             report(signals.error());
         }
         controller->applicationDidFinishLaunching();
+        if (controller->hasTerminated()) {
+            return EXIT_SUCCESS;
+        }
+        const SessionRestoration session(*controller, sessionStorage());
+        session.restore();
         desktopAppearance.start([this](const DesktopAppearance::Settings& settings) {
             AccessibilityOptions options;
             options.increaseContrast = settings.increaseContrast;
             options.reduceMotion = settings.reduceMotion;
             panel->setAccessibilityOptions(options);
+            windows->setAccessibilityOptions(options);
         });
         // The start itself is what is asked of a program that was not running.
         carryOutButReopen(requests);
@@ -156,6 +201,68 @@ class Program {
     }
 
  private:
+    void makeController() {
+        std::vector<SessionEvents*> events{&busEvents};
+        if (desktopEvents) {
+            events.push_back(desktopEvents.get());
+        }
+        controller = std::make_unique<TQController>(
+            ControllerSurroundings{.service = *displays,
+                                   .registry = *registry,
+                                   .reconfigurations = reconfigurations,
+                                   .preferences = preferences,
+                                   .recovery = recovery,
+                                   .runLoop = runLoop,
+                                   .controls = *panel,
+                                   .panel = *panel,
+                                   .dialogs = *dialogs,
+                                   .targets = *targets,
+                                   .windows = *windows,
+                                   .alerts = alerts,
+                                   .presence = *presence,
+                                   .windowSystem = *windowSystem,
+                                   .programs = installedPrograms,
+                                   .hotKeys = *hotKeys,
+                                   .openServer = [this] { return openServer(); },
+                                   .sessionEvents = std::move(events),
+                                   .whyNoDisplays = whyNoDisplays,
+                                   .endProgram = &QCoreApplication::quit,
+                                   .log = log});
+        panel->setActions(*controller);
+        presence->setActions(*controller, [this] { controller->showPanel(); });
+        const bool hasSite = OtherWindows::hasAddress("TQWebSite");
+        const bool hasBoardSite = OtherWindows::hasAddress("TQBoardWebSite");
+        panel->showWebSites(hasSite, hasBoardSite);
+        presence->showWebSites(hasSite, hasBoardSite);
+    }
+
+    std::unique_ptr<TQPlayerServer> openServer() {
+        auto server = TQPlayerServer::init(
+            {.runLoop = runLoop,
+             .openSocket = []() -> Result<std::unique_ptr<DatagramSocket>> {
+                 return UdpSocket::open().map(
+                     [](auto socket) -> std::unique_ptr<DatagramSocket> { return socket; });
+             },
+             .host = std::make_shared<PosixLocalHost>(),
+             .guid = guid,
+             .log = log});
+        return server ? std::move(*server) : nullptr;
+    }
+
+    SessionRestoration::Storage sessionStorage() {
+        return {.load = [this] { return sessionWindows.read().dictionary; },
+                .store =
+                    [this](const PropertyValue& shown) {
+                        const auto stored =
+                            makeFolder(sessionWindows.path().parent_path()).and_then([&] {
+                                return sessionWindows.write(shown);
+                            });
+                        if (!stored) {
+                            report(stored.error());
+                        }
+                    }};
+    }
+
     void openDisplays() {
         auto opened = chooseDisplayService(&runLoop, log);
         if (opened) {
@@ -169,11 +276,23 @@ class Program {
 
     void openWindowSystem() {
         windowSystem = std::make_unique<MissingWindowSystem>();
+        hotKeyService = std::make_unique<MissingHotKeyService>();
+        keyboardLayout = std::make_unique<MissingKeyboardLayout>();
         if (QGuiApplication::platformName() != QStringLiteral("xcb")) {
             return;
         }
         if (auto opened = X11WindowSystem::open(nullptr)) {
             windowSystem = std::move(*opened);
+        }
+        if (auto opened = X11HotKeyService::open(nullptr, runLoop, log)) {
+            hotKeyService = std::move(*opened);
+        } else {
+            report(opened.error());
+        }
+        if (auto opened = XkbKeyboardLayout::open(nullptr)) {
+            keyboardLayout = std::move(*opened);
+        } else {
+            report(opened.error());
         }
         auto events = X11DesktopEvents::open(nullptr, runLoop, log,
                                              [this] { controller->applicationWillTerminate(); });
@@ -195,15 +314,25 @@ class Program {
     CurveRecoveryFile recovery;
     BusSessionEvents busEvents;
     DesktopAppearance desktopAppearance;
+    AutostartLoginItem loginItem;
+    PropertyListFile sessionWindows;
+    DesktopEntries installedPrograms{DesktopEntries::fromEnvironment()};
+    MachineGuid guid;
+    ModalAlerts alerts{[this] { return panel ? effectiveAppearance(*panel) : Appearance{}; }};
     std::unique_ptr<DisplayService> displays;
     std::string whyNoDisplays;
     std::unique_ptr<WindowSystem> windowSystem;
+    std::unique_ptr<HotKeyService> hotKeyService;
+    std::unique_ptr<KeyboardLayout> keyboardLayout;
     std::unique_ptr<X11DesktopEvents> desktopEvents;
     std::unique_ptr<ScreenRegistry> registry;
     ReconfigurationCounter reconfigurations;
     std::unique_ptr<ControlPanel> panel;
     std::unique_ptr<PanelFileDialogs> dialogs;
+    std::unique_ptr<TrayPresence> presence;
     std::unique_ptr<TargetPresenter> targets;
+    std::unique_ptr<OtherWindows> windows;
+    std::unique_ptr<DDHotKeyCenter> hotKeys;
     std::unique_ptr<TQController> controller;
 };
 
@@ -276,9 +405,16 @@ int start(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     setQuietStyle();
-    // The toolkit has options of its own, and would take some of ours for them.
-    int nameOnly = 1;
-    const QApplication application(nameOnly, argv);
+    // The toolkit has options of its own, and would take some of ours for them. The session
+    // manager's is for it.
+    std::vector<char*> ours{argv[0]};
+    for (int index = 1; index + 1 < argc; ++index) {
+        if (std::string_view(argv[index]) == "-session") {
+            ours.insert(ours.end(), {argv[index], argv[index + 1]});
+        }
+    }
+    int count = static_cast<int>(ours.size());
+    const QApplication application(count, ours.data());
     QApplication::setApplicationName(QStringLiteral("tonquil"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tonquil"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tonquil"));

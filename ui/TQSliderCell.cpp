@@ -14,7 +14,7 @@ namespace tonquil {
 namespace {
 
 // All in points.
-constexpr double margin = 4;
+constexpr double margin = 7;
 constexpr double trackRadius = 3;
 constexpr double markWidth = 2;
 constexpr double edgeOverhang = 1;

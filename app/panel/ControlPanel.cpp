@@ -92,6 +92,7 @@ void ControlPanel::connectControls() {
         }
     });
     contents.titleStrip->setCloseAction([this] { close(); });
+    contents.titleStrip->setRemoteAction([this] { _actions->openPreferences(); });
     contents.titleStrip->setSubjectAction(
         [this](bool isAll) { _actions->setAffectsAllScreens(isAll); });
     QObject::connect(contents.applyCorrectionBox, &QCheckBox::clicked, this,

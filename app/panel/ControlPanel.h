@@ -31,6 +31,9 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     /// Who is told of what the person does; must be set before anything is shown, and outlive the
     /// panel's being used.
     void setActions(PanelActions& actions);
+    void showWebSites(bool hasSite, bool hasBoardSite) {
+        _menu.showWebSites(hasSite, hasBoardSite);
+    }
     /// What the person asked of the whole desktop.
     void setAccessibilityOptions(const AccessibilityOptions& options);
 
@@ -54,6 +57,11 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void _setDarkTheme(bool dark) override;
     void showChannelStrip(bool isShown) override;
     void showTab(int index) override;
+    void orderOut() override { hide(); }
+    [[nodiscard]] bool isOrderedIn() const override { return isVisible() && !isMinimized(); }
+    [[nodiscard]] bool isOnActiveWorkspace() const override;
+    [[nodiscard]] PanelSliderGeometry masterSliderOfSelectedTab() const override;
+    void showRemoteConfiguration(bool isOn) override;
     void focusMasterOfSelectedTab() override;
     void observeFirstResponder() override;
 

@@ -10,7 +10,9 @@
 
 #include "app/panel/ControlPanel.h"
 #include "app/panel/DevicePixels.h"
+#include "app/panel/TitleStrip.h"
 #include "ui/TQNumericTextField.h"
+#include "ui/TQSlider.h"
 
 namespace tonquil {
 
@@ -34,6 +36,27 @@ void ControlPanel::makeKeyAndOrderFront() {
     show();
     raise();
     takeKeyboard();
+}
+
+bool ControlPanel::isOnActiveWorkspace() const {
+    return _windowSystem.isOnActiveWorkspace(effectiveWinId());
+}
+
+PanelSliderGeometry ControlPanel::masterSliderOfSelectedTab() const {
+    const TQSlider& slider = *_contents->sliders.row(_selectedTab, Channel::Master).slider;
+    const QPoint corner = slider.mapTo(this, QPoint());
+    const double scale = devicePixelsFrom(geometry()).width / width();
+    return {.frame = {corner.x() * scale, corner.y() * scale, slider.width() * scale,
+                      slider.height() * scale},
+            .value = slider.floatValue(),
+            .minimum = slider.minValue(),
+            .maximum = slider.maxValue(),
+            .scale = scale};
+}
+
+void ControlPanel::showRemoteConfiguration(bool isOn) {
+    _contents->titleStrip->showRemoteConfiguration(isOn);
+    _menu.showRemoteConfiguration(isOn);
 }
 
 void ControlPanel::takeKeyboard() {

@@ -67,6 +67,19 @@ void drawTargets(QPainter& painter) {
     painter.fillRect(QRectF(8, 8, 5, 5), colour);
 }
 
+/// Waves that go out to both sides of a point.
+void drawRemote(QPainter& painter) {
+    constexpr int degree = 16;
+    for (const double radius : {3.0, 5.5}) {
+        const QRectF circle(8 - radius, 8 - radius, 2 * radius, 2 * radius);
+        painter.drawArc(circle, -45 * degree, 90 * degree);
+        painter.drawArc(circle, 135 * degree, 90 * degree);
+    }
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(QPointF(8, 8), 1.25, 1.25);
+}
+
 /// The curve from black to white of the point's pictures; below 8 it is dark.
 QPointF curvePoint(double input) {
     return {2 + input * 12, 14 - input * input * 12};
@@ -100,6 +113,9 @@ QIcon panelIcon(PanelIcon icon, const Appearance& appearance) {
                 break;
             case PanelIcon::Targets:
                 drawTargets(painter);
+                break;
+            case PanelIcon::Remote:
+                drawRemote(painter);
                 break;
         }
     });

@@ -31,6 +31,15 @@ PanelMenu::PanelMenu()
         action->setCheckable(true);
     }
     addSeparator();
+    _remote = addAction(QCoreApplication::translate("Panel", "Remote configuration is on"));
+    _remote->setVisible(false);
+    _preferences = addAction(QCoreApplication::translate("Panel", "Preferences\u2026"));
+    _preferences->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    addSeparator();
+    _webSite = addAction(QCoreApplication::translate("Panel", "Tonquil on the web"));
+    _boardWebSite = addAction(QCoreApplication::translate("Panel", "About calibration targets"));
+    _about = addAction(QCoreApplication::translate("Panel", "About Tonquil"));
+    addSeparator();
     _quit = addAction(QCoreApplication::translate("Panel", "Quit"));
     _quit->setShortcut(QKeySequence::Quit);
     showUndo(false, false);
@@ -51,8 +60,16 @@ void PanelMenu::setActions(PanelActions& actions, QWidget& panel) {
                      [&actions](bool isOn) { actions.setDarkTheme(isOn); });
     QObject::connect(_channelStrip, &QAction::triggered, this,
                      [&actions](bool isOn) { actions.setChannelStrip(isOn); });
+    for (QAction* action : {_remote, _preferences}) {
+        QObject::connect(action, &QAction::triggered, this,
+                         [&actions] { actions.openPreferences(); });
+    }
+    QObject::connect(_webSite, &QAction::triggered, this, [&actions] { actions.openWebSite(); });
+    QObject::connect(_boardWebSite, &QAction::triggered, this,
+                     [&actions] { actions.gammaBoardInfo(); });
+    QObject::connect(_about, &QAction::triggered, this, [&actions] { actions.openAboutBox(); });
     QObject::connect(_quit, &QAction::triggered, this, [&actions] { actions.quit(); });
-    panel.addActions({_undo, _redo, _open, _save, _quit});
+    panel.addActions({_undo, _redo, _open, _save, _preferences, _quit});
 }
 
 void PanelMenu::fillRecent(PanelActions& actions) {

@@ -17,6 +17,12 @@ class PanelMenu : public QMenu {
     void fillRecent(PanelActions& actions);
     void showUndo(bool canUndo, bool canRedo);
     void showForm(bool isAdvanced, bool isDark, bool hasChannelStrip);
+    /// A copy of the program may have no sites of its own.
+    void showWebSites(bool hasSite, bool hasBoardSite) {
+        _webSite->setVisible(hasSite);
+        _boardWebSite->setVisible(hasBoardSite);
+    }
+    void showRemoteConfiguration(bool isOn) { _remote->setVisible(isOn); }
     void setEditingEnabled(bool enabled) { _reset->setEnabled(enabled); }
 
  private:
@@ -31,6 +37,11 @@ class PanelMenu : public QMenu {
     QAction* _advanced = nullptr;
     QAction* _dark = nullptr;
     QAction* _channelStrip = nullptr;
+    QAction* _remote = nullptr;
+    QAction* _preferences = nullptr;
+    QAction* _webSite = nullptr;
+    QAction* _boardWebSite = nullptr;
+    QAction* _about = nullptr;
     QAction* _quit = nullptr;
 };
 

@@ -47,6 +47,9 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     : QWidget(parent),
       _closeButton(makeButton(QCoreApplication::translate("Panel", "Close the panel"), this)),
       _subjectButton(new QToolButton(this)),
+      _remoteButton(makeButton(
+          QCoreApplication::translate("Panel", "Companions on the network may change the displays"),
+          this)),
       _menuButton(makeButton(QCoreApplication::translate("Panel", "Menu"), this)) {
     setMinimumHeight(std::max(stripHeight, fontMetrics().height() + 8));
     _subjectButton->setAutoRaise(true);
@@ -60,6 +63,9 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
         }
     });
 
+    _remoteButton->hide();
+    QObject::connect(_remoteButton, &QToolButton::clicked, this, [this] { _openRemote(); });
+
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(4, 2, 4, 2);
     layout->setSpacing(4);
@@ -67,6 +73,7 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     layout->addStretch(1);
     layout->addWidget(_subjectButton);
     layout->addStretch(1);
+    layout->addWidget(_remoteButton);
     layout->addWidget(_menuButton);
     updateIcons();
 }
@@ -101,10 +108,16 @@ void TitleStrip::showSubject(const PanelSubject& subject) {
     updateTitle();
 }
 
+void TitleStrip::showRemoteConfiguration(bool isOn) {
+    _remoteButton->setVisible(isOn);
+    updateTitle();
+}
+
 void TitleStrip::updateTitle() {
     const QString arrow = QStringLiteral(" \u25BE");
-    // What the two round buttons and the margins leave.
-    const int room = width() - 2 * (24 + 4 + 4) - 16 - fontMetrics().horizontalAdvance(arrow);
+    // What the round buttons and the margins leave.
+    const int buttons = _remoteButton->isHidden() ? 2 : 3;
+    const int room = width() - buttons * (24 + 4 + 4) - 16 - fontMetrics().horizontalAdvance(arrow);
     _subjectButton->setText(fontMetrics().elidedText(_title, Qt::ElideMiddle, room) + arrow);
     _subjectButton->setAccessibleName(
         QCoreApplication::translate("Panel", "Edited: %1").arg(_title));
@@ -113,6 +126,7 @@ void TitleStrip::updateTitle() {
 void TitleStrip::updateIcons() {
     const Appearance appearance = effectiveAppearance(*this);
     _closeButton->setIcon(panelIcon(PanelIcon::Close, appearance));
+    _remoteButton->setIcon(panelIcon(PanelIcon::Remote, appearance));
     _menuButton->setIcon(panelIcon(PanelIcon::Menu, appearance));
     setAppearance(*_subjectMenu, appearance);
 }

@@ -23,6 +23,9 @@ class TitleStrip : public QWidget {
     void showSubject(const PanelSubject& subject);
     /// Called with true for all displays and false for the one under the panel.
     void setSubjectAction(std::function<void(bool)> action) { _chooseSubject = std::move(action); }
+    /// Shows a sign that opens what the action opens.
+    void showRemoteConfiguration(bool isOn);
+    void setRemoteAction(std::function<void()> action) { _openRemote = std::move(action); }
     void setCloseAction(std::function<void()> action) { _close = std::move(action); }
 
  protected:
@@ -40,6 +43,7 @@ class TitleStrip : public QWidget {
 
     QToolButton* _closeButton;
     QToolButton* _subjectButton;
+    QToolButton* _remoteButton;
     QToolButton* _menuButton;
     QMenu* _subjectMenu = nullptr;
     QAction* _thisDisplay = nullptr;
@@ -47,6 +51,7 @@ class TitleStrip : public QWidget {
     QString _title;
     std::function<void(bool)> _chooseSubject;
     std::function<void()> _close;
+    std::function<void()> _openRemote;
     /// Where the pointer took hold of the window, while it is moved without a window manager.
     std::optional<QPoint> _hold;
 };

@@ -2,6 +2,7 @@
 #include "app/targets/TargetPresenter.h"
 
 #include <QWidget>
+#include <utility>
 #include <vector>
 
 #include "app/SettingsKeys.h"
@@ -12,7 +13,7 @@
 
 namespace tonquil {
 
-TargetScreen TargetPresenter::screenOf(DisplayID display) {
+TargetScreen TargetPresenter::screenOf(DisplayID display) const {
     return {.displayID = display, .frame = pointsFrom(_service.bounds(display))};
 }
 
@@ -35,6 +36,8 @@ void TargetPresenter::makeFloatingWindow() {
         }
     });
     controller.setClosed([this] { saveFrame(); });
+    controller.setHintsShown(_areHintsShown);
+    _windowMade(controller.window());
 }
 
 void TargetPresenter::openTargetWindow() {
@@ -48,10 +51,67 @@ void TargetPresenter::openTargetWindow(TargetKind kind) {
     _targetWindowController->showWindow();
 }
 
-void TargetPresenter::coverDisplay(DisplayID display, TargetKind kind) {
+std::optional<TargetKind> TargetPresenter::floatingTarget() const {
+    if (!_targetWindowController || !_targetWindowController->isShown()) {
+        return std::nullopt;
+    }
+    return static_cast<TargetKind>(_targetWindowController->kind());
+}
+
+void TargetPresenter::setHintsShown(bool areShown) {
+    _areHintsShown = areShown;
+    if (_targetWindowController) {
+        _targetWindowController->setHintsShown(areShown);
+    }
+}
+
+void TargetPresenter::coverDisplay(DisplayID display, TargetKind kind,
+                                   std::function<void()> closed) {
     TQTargetWindowController& cover = _covers.targetWindowControllerForScreen(screenOf(display));
     cover.setKind(static_cast<std::int32_t>(kind));
+    cover.setClosed([this, &cover] { coverClosed(cover); });
+    if (closed) {
+        _closings.push_back({&cover, std::move(closed)});
+    }
     cover.showWindow();
+}
+
+// Whoever is told may cover the display again.
+void TargetPresenter::coverClosed(const TQTargetWindowController& cover) {
+    std::vector<Closing> due;
+    std::erase_if(_closings, [&](Closing& closing) {
+        const bool isDue = closing.cover == &cover;
+        if (isDue) {
+            due.push_back(std::move(closing));
+        }
+        return isDue;
+    });
+    for (const Closing& closing : due) {
+        closing.closed();
+    }
+}
+
+void TargetPresenter::uncoverDisplay(DisplayID display) {
+    if (auto* cover = _covers.existingTargetWindowControllerForScreen(screenOf(display))) {
+        cover->dismissTargetWindowControllerForScreen();
+    }
+}
+
+const TQTargetWindowController* TargetPresenter::existingCover(DisplayID display) const {
+    return _covers.existingTargetWindowControllerForScreen(screenOf(display));
+}
+
+std::optional<TargetKind> TargetPresenter::visibleCover(DisplayID display) const {
+    const TQTargetWindowController* cover = existingCover(display);
+    if (cover == nullptr || !cover->isShown()) {
+        return std::nullopt;
+    }
+    return static_cast<TargetKind>(cover->kind());
+}
+
+TargetKind TargetPresenter::coverKind(DisplayID display) const {
+    const TQTargetWindowController* cover = existingCover(display);
+    return cover == nullptr ? TargetKind::Color : static_cast<TargetKind>(cover->kind());
 }
 
 void TargetPresenter::displaysChanged() {

@@ -10,6 +10,8 @@ class MissingWindowSystem final : public WindowSystem {
  public:
     void keepOnAllWorkspaces(WindowID /*window*/) override {}
     void skipTaskbar(WindowID /*window*/, bool /*skip*/) override {}
+    [[nodiscard]] bool isOnActiveWorkspace(WindowID /*window*/) const override { return true; }
+    [[nodiscard]] std::optional<Point> pointerLocation() const override { return std::nullopt; }
     [[nodiscard]] bool isCompositing() const override { return false; }
     [[nodiscard]] bool hasWindowManager() const override { return false; }
 };

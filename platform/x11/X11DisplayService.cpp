@@ -246,9 +246,11 @@ void X11DisplayService::warpPointer(const Point& point) {
         return static_cast<std::int16_t>(std::isnan(value) ? 0
                                                            : std::clamp(value, -32768.0, 32767.0));
     };
-    xcb_warp_pointer(_connection->get(), XCB_NONE, _connection->root(), 0, 0, 0, 0,
-                     coordinate(point.x), coordinate(point.y));
-    xcb_flush(_connection->get());
+    // Waited for, so that whoever asks over another connection finds the pointer there.
+    const XcbPointer<xcb_generic_error_t> ignored(xcb_request_check(
+        _connection->get(),
+        xcb_warp_pointer_checked(_connection->get(), XCB_NONE, _connection->root(), 0, 0, 0, 0,
+                                 coordinate(point.x), coordinate(point.y))));
 }
 
 void X11DisplayService::beginBatch() {

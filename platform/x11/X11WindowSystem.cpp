@@ -37,6 +37,7 @@ Result<std::unique_ptr<X11WindowSystem>> X11WindowSystem::open(const char* displ
 X11WindowSystem::X11WindowSystem(std::unique_ptr<X11Connection> connection)
     : _connection(std::move(connection)),
       _desktop(_connection->atom("_NET_WM_DESKTOP")),
+      _currentDesktop(_connection->atom("_NET_CURRENT_DESKTOP")),
       _state(_connection->atom("_NET_WM_STATE")),
       _skipTaskbar(_connection->atom("_NET_WM_STATE_SKIP_TASKBAR")),
       _skipPager(_connection->atom("_NET_WM_STATE_SKIP_PAGER")),
@@ -67,6 +68,22 @@ void X11WindowSystem::skipTaskbar(WindowID window, bool skip) {
         states.insert(states.end(), {_skipTaskbar, _skipPager});
     }
     setProperty(id, _state, XCB_ATOM_ATOM, states);
+}
+
+bool X11WindowSystem::isOnActiveWorkspace(WindowID window) const {
+    const auto desktop = property(static_cast<xcb_window_t>(window), _desktop);
+    const auto current = property(_connection->root(), _currentDesktop);
+    return desktop.empty() || current.empty() || desktop.front() == allWorkspaces ||
+           desktop.front() == current.front();
+}
+
+std::optional<Point> X11WindowSystem::pointerLocation() const {
+    const XcbPointer<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+        _connection->get(), xcb_query_pointer(_connection->get(), _connection->root()), nullptr));
+    if (!reply || reply->same_screen == 0) {
+        return std::nullopt;
+    }
+    return Point{static_cast<double>(reply->root_x), static_cast<double>(reply->root_y)};
 }
 
 bool X11WindowSystem::isCompositing() const {

@@ -22,6 +22,8 @@ class X11WindowSystem final : public WindowSystem {
 
     void keepOnAllWorkspaces(WindowID window) override;
     void skipTaskbar(WindowID window, bool skip) override;
+    [[nodiscard]] bool isOnActiveWorkspace(WindowID window) const override;
+    [[nodiscard]] std::optional<Point> pointerLocation() const override;
     [[nodiscard]] bool isCompositing() const override;
     [[nodiscard]] bool hasWindowManager() const override;
 
@@ -37,6 +39,7 @@ class X11WindowSystem final : public WindowSystem {
 
     std::unique_ptr<X11Connection> _connection;
     xcb_atom_t _desktop;
+    xcb_atom_t _currentDesktop;
     xcb_atom_t _state;
     xcb_atom_t _skipTaskbar;
     xcb_atom_t _skipPager;

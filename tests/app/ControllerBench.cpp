@@ -76,9 +76,10 @@ void ControllerBench::launch() {
     _program.reset();
     _program.emplace();
     Program& program = *_program;
-    program.service = std::make_unique<RecordedService>(desk, journal);
+    program.service = std::make_unique<RecordedService>(desk, journal, windowSystem);
     program.registry = std::make_unique<ScreenRegistry>(*program.service);
     program.events = std::make_unique<ScriptedEvents>(journal);
+    program.center = std::make_unique<DDHotKeyCenter>(hotKeys);
     program.controller = std::make_unique<TQController>(
         ControllerSurroundings{*program.service,
                                *program.registry,
@@ -90,11 +91,30 @@ void ControllerBench::launch() {
                                panel,
                                dialogs,
                                targets,
+                               windows,
+                               alerts,
+                               presence,
+                               windowSystem,
+                               programs,
+                               *program.center,
+                               [this] { return openServer(); },
                                {program.events.get()},
                                "",
                                [this] { hasEnded = true; },
                                [this](std::string_view line) { log.emplace_back(line); }});
     program.controller->applicationDidFinishLaunching();
+}
+
+std::unique_ptr<TQPlayerServer> ControllerBench::openServer() {
+    auto server =
+        TQPlayerServer::init({.runLoop = loop,
+                              .openSocket = [this]() -> Result<std::unique_ptr<DatagramSocket>> {
+                                  return std::make_unique<ScriptedSocket>(network);
+                              },
+                              .host = std::make_shared<ScriptedHost>(),
+                              .guid = _program->guid,
+                              .log = [this](std::string_view line) { log.emplace_back(line); }});
+    return server ? std::move(*server) : nullptr;
 }
 
 void ControllerBench::launchAndSettle() {

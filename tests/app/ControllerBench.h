@@ -10,12 +10,10 @@
 #include "app/SettingsKeys.h"
 #include "app/TQController.h"
 #include "platform/simulated/SimulatedDisplayService.h"
+#include "tests/app/DesktopFakes.h"
 #include "tests/support/ManualRunLoop.h"
 
 namespace tonquil {
-
-/// What happened, in order.
-using Journal = std::vector<std::string>;
 
 /// A panel without a window.
 class RecordedPanel final : public PanelControls, public PanelWindow {
@@ -43,7 +41,15 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
         place.y = origin.y;
         _journal.emplace_back("frame");
     }
-    void makeKeyAndOrderFront() override { _journal.emplace_back("panel shown"); }
+    void makeKeyAndOrderFront() override {
+        isShown = true;
+        _journal.emplace_back("panel shown");
+    }
+    void orderOut() override { isShown = false; }
+    [[nodiscard]] bool isOrderedIn() const override { return isShown; }
+    [[nodiscard]] bool isOnActiveWorkspace() const override { return true; }
+    [[nodiscard]] PanelSliderGeometry masterSliderOfSelectedTab() const override { return master; }
+    void showRemoteConfiguration(bool /*isOn*/) override {}
     void _setAdvancedPanel(bool advanced) override {
         _journal.emplace_back(advanced ? "advanced" : "compact");
     }
@@ -59,6 +65,8 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
     bool canUndo = false;
     PanelSubject subject;
     Rectangle place{100, 100, 320, 470};
+    bool isShown = false;
+    PanelSliderGeometry master{.frame = {60, 64, 200, 24}};
 
  private:
     Journal& _journal;
@@ -120,18 +128,43 @@ class ScriptedDialogs final : public FileDialogs {
 /// Tells what targets are asked for.
 class RecordedTargets final : public TargetWindows {
  public:
-    void openTargetWindow() override { shown.emplace_back("floating"); }
+    void openTargetWindow() override {
+        shown.emplace_back("floating");
+        floating = TargetKind::Color;
+    }
     void openTargetWindow(TargetKind kind) override {
         shown.push_back("floating " + std::to_string(static_cast<int>(kind)));
+        floating = kind;
     }
-    void coverDisplay(DisplayID display, TargetKind kind) override {
+    void coverDisplay(DisplayID display, TargetKind kind, std::function<void()> closed) override {
         shown.push_back("display " + std::to_string(display) + " " +
                         std::to_string(static_cast<int>(kind)));
+        covers[display] = kind;
+        closings.push_back(std::move(closed));
     }
+    void uncoverDisplay(DisplayID display) override {
+        covers.erase(display);
+        for (const auto& closed : std::exchange(closings, {})) {
+            closed();
+        }
+    }
+    [[nodiscard]] std::optional<TargetKind> visibleCover(DisplayID display) const override {
+        const auto cover = covers.find(display);
+        return cover == covers.end() ? std::nullopt : std::optional(cover->second);
+    }
+    [[nodiscard]] TargetKind coverKind(DisplayID display) const override {
+        return visibleCover(display).value_or(TargetKind::Color);
+    }
+    [[nodiscard]] std::optional<TargetKind> floatingTarget() const override { return floating; }
+    void setHintsShown(bool /*areShown*/) override {}
     void displaysChanged() override {}
     void saveFrame() override {}
 
+    std::optional<TargetKind> floating;
+
     std::vector<std::string> shown;
+    std::map<DisplayID, TargetKind> covers;
+    std::vector<std::function<void()>> closings;
 };
 
 /// Events that a test makes.
@@ -151,14 +184,16 @@ class ScriptedEvents final : public SessionEvents {
 /// Tells what is asked of a display service.
 class RecordedService final : public SimulatedDisplayService {
  public:
-    RecordedService(SimulatedDesk& desk, Journal& journal)
-        : SimulatedDisplayService(desk), _journal(journal) {}
+    RecordedService(SimulatedDesk& desk, Journal& journal, ScriptedWindowSystem& windowSystem)
+        : SimulatedDisplayService(desk), _journal(journal), _windowSystem(windowSystem) {}
+    void warpPointer(const Point& point) override { _windowSystem.pointer = point; }
     void setTransferTable(DisplayID display, const GammaTable& table) override;
     [[nodiscard]] std::unique_ptr<Subscription> registerReconfigurationCallback(
         ReconfigurationCallback callback) override;
 
  private:
     Journal& _journal;
+    ScriptedWindowSystem& _windowSystem;
 };
 
 /// Tells what is asked of a run loop.
@@ -215,15 +250,26 @@ class ControllerBench {
     RecordedPanel panel{journal};
     ScriptedDialogs dialogs;
     RecordedTargets targets;
+    RecordedPresence presence{journal};
+    RecordedWindows windows{journal};
+    RecordedAlerts alerts;
+    ScriptedWindowSystem windowSystem;
+    ScriptedPrograms programs;
+    ScriptedHotKeys hotKeys;
+    ScriptedNetwork network;
     std::vector<std::string> log;
     bool hasEnded = false;
 
  private:
+    [[nodiscard]] std::unique_ptr<TQPlayerServer> openServer();
+
     struct Program {
         std::unique_ptr<RecordedService> service;
         std::unique_ptr<ScreenRegistry> registry;
         ReconfigurationCounter counter;
         std::unique_ptr<ScriptedEvents> events;
+        std::unique_ptr<DDHotKeyCenter> center;
+        MachineGuid guid;
         std::unique_ptr<TQController> controller;
     };
 

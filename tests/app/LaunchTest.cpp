@@ -13,11 +13,12 @@ using testing::IsEmpty;
 TEST(Launch, TakesItsStepsInTheirOrder) {
     ControllerBench bench;
     bench.launch();
-    EXPECT_THAT(bench.journal,
-                ElementsAre("defaults registered", "every 3000 ms", "frame", "advanced", "dark",
-                            "table 1", "table 2", "correction on", "controls disabled",
-                            "panel shown", "tab 1", "focus observed", "preferences observed",
-                            "session observed", "displays observed"));
+    EXPECT_THAT(
+        bench.journal,
+        ElementsAre("about 234", "defaults registered", "every 3000 ms", "frame", "advanced",
+                    "dark", "table 1", "table 2", "correction on", "in task bar", "no status item",
+                    "controls disabled", "panel shown", "tab 1", "focus observed",
+                    "preferences observed", "session observed", "displays observed"));
     bench.journal.clear();
     bench.loop.runPosted();
     EXPECT_THAT(bench.journal, ElementsAre("controls enabled", "tab 1", "master focused"));
@@ -25,13 +26,14 @@ TEST(Launch, TakesItsStepsInTheirOrder) {
 
 TEST(Launch, DoesWhatThePreferencesSay) {
     ControllerBench bench;
-    bench.preferences.stored = {
-        {"AdvancedPanel", false}, {"DarkTheme", false},        {"ContinuouslyApply", false},
-        {"ShowAtLaunch", false},  {"RememberSettings", false}, {"ApplyCorrection", true},
-        {"SelectedTab", 2}};
+    bench.preferences.stored = {{"AdvancedPanel", false},     {"DarkTheme", false},
+                                {"ContinuouslyApply", false}, {"ShowAtLaunch", false},
+                                {"RememberSettings", false},  {"ApplyCorrection", true},
+                                {"SelectedTab", 2},           {"ShowStatusItem", true}};
     bench.launch();
     EXPECT_THAT(bench.journal,
-                ElementsAre("defaults registered", "frame", "compact", "light", "correction off",
+                ElementsAre("about 234", "defaults registered", "frame", "compact", "light",
+                            "correction off", "not in task bar", "status item", "status inactive",
                             "controls disabled", "tab 2", "focus observed", "preferences observed",
                             "session observed", "displays observed"));
     EXPECT_FALSE(bench.panel.correction);

@@ -58,6 +58,10 @@ class RecordedActions final : public PanelActions {
     void panelMoved() override {}
     [[nodiscard]] std::optional<PlottedCurves> plottedCurves() override { return std::nullopt; }
     void openTargetWindow() override { calls.emplace_back("targets"); }
+    void openPreferences() override { calls.emplace_back("preferences"); }
+    void openAboutBox() override {}
+    void openWebSite() override {}
+    void gammaBoardInfo() override {}
     void loadGamma() override {}
     void saveGamma() override {}
     void openFile(const std::filesystem::path& file) override { calls.push_back(file); }

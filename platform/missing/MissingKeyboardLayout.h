@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hotkeys/KeyboardLayout.h"
+
+namespace tonquil {
+
+/// Stands where there is no keyboard to ask: keys have no characters.
+class MissingKeyboardLayout final : public KeyboardLayout {
+ public:
+    [[nodiscard]] std::string character(std::uint16_t /*keyCode*/) const override { return {}; }
+};
+
+}  // namespace tonquil

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/ControllerSurroundings.h"
+
+namespace tonquil {
+
+/// What happened, in order.
+using Journal = std::vector<std::string>;
+
+/// Tells what the status item and the task bar are asked to show.
+class RecordedPresence final : public DesktopPresence {
+ public:
+    explicit RecordedPresence(Journal& journal) : _journal(journal) {}
+    void showStatusItem(bool isShown) override {
+        _journal.emplace_back(isShown ? "status item" : "no status item");
+    }
+    void setStatusItemActive(bool isActive) override {
+        _journal.emplace_back(isActive ? "status active" : "status inactive");
+    }
+    void setInTaskBar(bool isInTaskBar) override {
+        _journal.emplace_back(isInTaskBar ? "in task bar" : "not in task bar");
+    }
+    void showRemoteConfiguration(bool isOn) override { isRemoteShown = isOn; }
+
+    bool isRemoteShown = false;
+
+ private:
+    Journal& _journal;
+};
+
+/// Tells which windows are asked for.
+class RecordedWindows final : public ProgramWindows {
+ public:
+    explicit RecordedWindows(Journal& journal) : _journal(journal) {}
+    void setAboutBackground(double /*red*/, double green, double /*blue*/) override {
+        _journal.push_back("about " + std::to_string(std::lround(green * 255)));
+    }
+    void openPreferences() override { _isLoaded = true; }
+    [[nodiscard]] bool isPreferencesWindowLoaded() const override { return _isLoaded; }
+    [[nodiscard]] bool isPreferencesWindowShown() const override { return _isLoaded; }
+    void openAboutBox() override {}
+    void openAddress(std::string_view /*key*/) override {}
+    void showHotKeyProblem(HotKeyRole role, const std::string& sentence) override {
+        problems[role] = sentence;
+    }
+    void saveFrames() override {}
+
+    std::map<HotKeyRole, std::string> problems;
+
+ private:
+    Journal& _journal;
+    bool _isLoaded = false;
+};
+
+/// A person who presses the same button of every alert.
+class RecordedAlerts final : public Alerts {
+ public:
+    [[nodiscard]] std::size_t runModal(const Alert& alert) override {
+        messages.emplace_back(alert.message);
+        return button;
+    }
+    std::size_t button = 0;
+    Journal messages;
+};
+
+/// A pointer, and no window manager.
+class ScriptedWindowSystem final : public WindowSystem {
+ public:
+    void keepOnAllWorkspaces(WindowID /*window*/) override {}
+    void skipTaskbar(WindowID /*window*/, bool /*skip*/) override {}
+    [[nodiscard]] bool isOnActiveWorkspace(WindowID /*window*/) const override { return true; }
+    [[nodiscard]] std::optional<Point> pointerLocation() const override { return pointer; }
+    [[nodiscard]] bool isCompositing() const override { return false; }
+    [[nodiscard]] bool hasWindowManager() const override { return false; }
+
+    std::optional<Point> pointer = Point{500, 400};
+};
+
+class ScriptedPrograms final : public InstalledPrograms {
+ public:
+    [[nodiscard]] std::optional<InstalledProgram> firstInstalled(
+        std::span<const std::string_view> /*candidates*/) const override {
+        return installed;
+    }
+    std::optional<InstalledProgram> installed;
+};
+
+/// Hot keys that a test presses.
+class ScriptedHotKeys final : public HotKeyService {
+ public:
+    void setHandlers(Handler pressed, Handler released) override {
+        _pressed = std::move(pressed);
+        _released = std::move(released);
+    }
+    [[nodiscard]] Result<HotKeyHandle> registerHotKey(std::uint16_t keyCode,
+                                                      HotKeyServiceMask /*modifiers*/,
+                                                      std::uint32_t id) override {
+        ++registrations;
+        if (refused.contains(keyCode)) {
+            return tl::unexpected(Problem{.sentence = "Another program holds it.", .detail = {}});
+        }
+        ids[keyCode] = id;
+        return HotKeyHandle{id};
+    }
+    void unregisterHotKey(HotKeyHandle handle) override {
+        std::erase_if(ids, [handle](const auto& each) { return each.second == handle; });
+    }
+    void press(std::uint16_t keyCode) { _pressed({.id = ids.at(keyCode)}); }
+    void release(std::uint16_t keyCode) { _released({.id = ids.at(keyCode)}); }
+
+    /// By key code.
+    std::map<std::uint16_t, std::uint32_t> ids;
+    std::set<std::uint16_t> refused;
+    int registrations = 0;
+
+ private:
+    Handler _pressed;
+    Handler _released;
+};
+
+/// The network: what servers have sent, and a way in.
+struct ScriptedNetwork {
+    std::vector<std::pair<std::string, SocketAddress>> sent;
+    DatagramSocket::Receiver receive;
+    bool canBind = true;
+};
+
+class ScriptedSocket final : public DatagramSocket {
+ public:
+    explicit ScriptedSocket(ScriptedNetwork& network) : _network(network) {}
+    [[nodiscard]] int enableBroadcast() override { return 0; }
+    [[nodiscard]] int bind(const SocketAddress& /*address*/) override {
+        return _network.canBind ? 0 : 98;
+    }
+    [[nodiscard]] std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& /*runLoop*/,
+                                                             Receiver receiver) override {
+        _network.receive = std::move(receiver);
+        return std::make_unique<RunLoop::Handle>();
+    }
+    [[nodiscard]] int send(std::string_view bytes, const SocketAddress& recipient) override {
+        _network.sent.emplace_back(bytes, recipient);
+        return 0;
+    }
+
+ private:
+    ScriptedNetwork& _network;
+};
+
+class ScriptedHost final : public LocalHost {
+ public:
+    [[nodiscard]] std::string localizedName() const override { return "desk"; }
+    [[nodiscard]] std::optional<HardwareAddress> hardwareAddress() const override {
+        return std::nullopt;
+    }
+    [[nodiscard]] bool hasAddress(std::uint32_t /*host*/) const override { return false; }
+};
+
+}  // namespace tonquil
