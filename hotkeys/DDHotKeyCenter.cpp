@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hotkeys/DDHotKeyCenter.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tonquil {
@@ -133,12 +134,10 @@ void DDHotKeyCenter::unregisterHotKey(DDHotKey& hotKey) {
     hotKey._center = nullptr;
     // By what it is equal to, since a hot key that is going has no owner to be found by. The last
     // owner may be the set itself, so nothing of the hot key is touched after this.
-    for (auto each = _registeredHotKeys.begin(); each != _registeredHotKeys.end(); ++each) {
-        if ((*each)->isEqual(hotKey)) {
-            const auto removed = *each;
-            _registeredHotKeys.erase(each);
-            return;
-        }
+    const auto equal = std::find_if(_registeredHotKeys.begin(), _registeredHotKeys.end(),
+                                    [&hotKey](const auto& each) { return each->isEqual(hotKey); });
+    if (equal != _registeredHotKeys.end()) {
+        _registeredHotKeys.erase(equal);
     }
 }
 

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "hotkeys/KeyCombinationString.h"
+#include "hotkeys/field/DDHotKeyTextFieldCell.h"
 #include "hotkeys/field/DDHotKeyTextFieldEditor.h"
 #include "hotkeys/field/HotKeyClearButton.h"
 #include "ui/Drawing.h"
@@ -97,7 +98,7 @@ void DDHotKeyTextField::beginRecording() {
     if (_isRecording) {
         return;
     }
-    _editor = _cell.fieldEditorForView(this);
+    _editor = DDHotKeyTextFieldCell::fieldEditorForView(this);
     if (!_editor || !_editor->becomeFirstResponder()) {
         return;
     }

@@ -7,7 +7,6 @@
 
 #include "hotkeys/DDHotKey.h"
 #include "hotkeys/KeyboardLayout.h"
-#include "hotkeys/field/DDHotKeyTextFieldCell.h"
 
 namespace tonquil {
 
@@ -43,7 +42,6 @@ class DDHotKeyTextField : public QLineEdit {
     [[nodiscard]] QString stringValue() const;
     void setStringValue(const QString& text);
 
-    [[nodiscard]] DDHotKeyTextFieldCell& cell() { return _cell; }
     [[nodiscard]] bool isRecording() const { return _isRecording; }
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -79,7 +77,6 @@ class DDHotKeyTextField : public QLineEdit {
 
     const KeyboardLayout& _layout;
     std::shared_ptr<DDHotKey> _hotKey;
-    DDHotKeyTextFieldCell _cell;
     /// Owned by this widget.
     HotKeyClearButton* _clearButton;
     /// What catches the keys of a recording; the application owns it.

@@ -22,7 +22,7 @@ DDHotKeyTextFieldEditor& sharedEditor() {
 
 }  // namespace
 
-DDHotKeyTextFieldEditor* DDHotKeyTextFieldCell::fieldEditorForView(QWidget* view) const {
+DDHotKeyTextFieldEditor* DDHotKeyTextFieldCell::fieldEditorForView(QWidget* view) {
     auto* const field = qobject_cast<DDHotKeyTextField*>(view);
     if (field == nullptr) {
         return nullptr;

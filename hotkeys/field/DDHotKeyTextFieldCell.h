@@ -12,7 +12,7 @@ class DDHotKeyTextFieldCell {
  public:
     /// The editor that all hot-key fields of the program share, given this field; null for any
     /// other widget. The application owns the editor, and must exist.
-    [[nodiscard]] DDHotKeyTextFieldEditor* fieldEditorForView(QWidget* view) const;
+    [[nodiscard]] static DDHotKeyTextFieldEditor* fieldEditorForView(QWidget* view);
 };
 
 }  // namespace tonquil

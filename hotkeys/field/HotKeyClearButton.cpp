@@ -26,7 +26,7 @@ HotKeyClearButton::HotKeyClearButton(QWidget* parent) : QAbstractButton(parent) 
     setCursor(Qt::ArrowCursor);
     setAccessibleName(tr("Clear shortcut"));
     setToolTip(tr("Clear shortcut"));
-    resize(sizeHint());
+    resize(side, side);
 }
 
 QSize HotKeyClearButton::sizeHint() const {

@@ -15,6 +15,7 @@
 
 #include "hotkeys/VirtualKeys.h"
 #include "hotkeys/field/DDHotKeyTextField.h"
+#include "hotkeys/field/DDHotKeyTextFieldCell.h"
 #include "hotkeys/field/DDHotKeyTextFieldEditor.h"
 #include "tests/hotkeys/TableLayout.h"
 
@@ -268,10 +269,10 @@ TEST_F(HotKeyTextFieldTest, TheCrossTakesTheHotKeyAway) {
 
 TEST_F(HotKeyTextFieldTest, AllFieldsShareOneEditorAndOtherWidgetsGetNone) {
     DDHotKeyTextField second(layout);
-    auto* const editor = field->cell().fieldEditorForView(field);
-    EXPECT_EQ(second.cell().fieldEditorForView(&second), editor);
+    auto* const editor = DDHotKeyTextFieldCell::fieldEditorForView(field);
+    EXPECT_EQ(DDHotKeyTextFieldCell::fieldEditorForView(&second), editor);
     EXPECT_EQ(editor->hotKeyField(), &second);
-    EXPECT_EQ(field->cell().fieldEditorForView(other), nullptr);
+    EXPECT_EQ(DDHotKeyTextFieldCell::fieldEditorForView(other), nullptr);
     editor->setHotKeyField(nullptr);
 }
 
