@@ -75,6 +75,15 @@ std::optional<Problem> X11HotKeyService::setUpKeyboard() {
     if (!use || use->supported == 0) {
         return noKeyboard;
     }
+    selectEvents();
+    _modifiers = X11Modifiers::read(*_connection);
+    _watch = _runLoop.watchReadable(xcb_get_file_descriptor(connection), [this] { takeEvents(); });
+    takeEventsSoon();
+    return std::nullopt;
+}
+
+void X11HotKeyService::selectEvents() const {
+    auto* const connection = _connection->get();
     // A key that is held is then told as going down again and again, and as going up once.
     constexpr std::uint32_t detectable = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
     const XcbPointer<xcb_xkb_per_client_flags_reply_t> flags(
@@ -90,10 +99,6 @@ std::optional<Problem> X11HotKeyService::setUpKeyboard() {
     constexpr std::uint16_t parts = XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP;
     xcb_xkb_select_events(connection, XCB_XKB_ID_USE_CORE_KBD, changes, 0, changes, parts, parts,
                           nullptr);
-    _modifiers = X11Modifiers::read(*_connection);
-    _watch = _runLoop.watchReadable(xcb_get_file_descriptor(connection), [this] { takeEvents(); });
-    takeEventsSoon();
-    return std::nullopt;
 }
 
 void X11HotKeyService::setHandlers(Handler pressed, Handler released) {

@@ -60,6 +60,7 @@ class X11HotKeyService final : public HotKeyService {
 
     X11HotKeyService(std::unique_ptr<X11Connection> connection, RunLoop& runLoop, Log log);
     [[nodiscard]] std::optional<Problem> setUpKeyboard();
+    void selectEvents() const;
     [[nodiscard]] std::optional<HotKeyHandle> find(xcb_keycode_t key, std::uint16_t state) const;
     void takeEvents();
     void takeEventsSoon();

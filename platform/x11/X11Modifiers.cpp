@@ -35,6 +35,22 @@ struct Symbols {
     }
 };
 
+// The mask of the first modifier that a key with one of these symbols sets; 0 for none. `keys` are
+// those of each modifier in turn.
+std::uint16_t modifierOf(std::span<const xcb_keycode_t> keys, std::size_t keysPerModifier,
+                         const Symbols& symbols, std::initializer_list<xcb_keysym_t> wanted) {
+    // Shift, Lock and Control have their fixed places before these.
+    for (std::size_t modifier = XCB_MAP_INDEX_1; modifier <= XCB_MAP_INDEX_5; ++modifier) {
+        for (const auto key : keys.subspan(modifier * keysPerModifier, keysPerModifier)) {
+            if (std::any_of(wanted.begin(), wanted.end(),
+                            [&](xcb_keysym_t each) { return symbols.has(key, each); })) {
+                return static_cast<std::uint16_t>(1U << modifier);
+            }
+        }
+    }
+    return 0;
+}
+
 }  // namespace
 
 X11Modifiers X11Modifiers::read(const X11Connection& connection) {
@@ -58,19 +74,8 @@ X11Modifiers X11Modifiers::read(const X11Connection& connection) {
     const std::span<const xcb_keycode_t> keys(
         xcb_get_modifier_mapping_keycodes(map.get()),
         static_cast<std::size_t>(xcb_get_modifier_mapping_keycodes_length(map.get())));
-    const std::size_t keysPerModifier = map->keycodes_per_modifier;
-
-    const auto modifierWith = [&](std::initializer_list<xcb_keysym_t> wanted) -> std::uint16_t {
-        // Shift, Lock and Control have their fixed places before it.
-        for (std::size_t modifier = XCB_MAP_INDEX_1; modifier <= XCB_MAP_INDEX_5; ++modifier) {
-            for (const auto key : keys.subspan(modifier * keysPerModifier, keysPerModifier)) {
-                if (std::any_of(wanted.begin(), wanted.end(),
-                                [&](xcb_keysym_t each) { return symbols.has(key, each); })) {
-                    return static_cast<std::uint16_t>(1U << modifier);
-                }
-            }
-        }
-        return 0;
+    const auto modifierWith = [&](std::initializer_list<xcb_keysym_t> wanted) {
+        return modifierOf(keys, map->keycodes_per_modifier, symbols, wanted);
     };
     X11Modifiers modifiers;
     modifiers.option = modifierWith({altLeft, altRight});
