@@ -121,6 +121,11 @@ Result<std::unique_ptr<UdpSocket>> UdpSocket::open() {
     if (!socket.isOpen()) {
         return problem("No network socket can be opened.", std::generic_category().message(errno));
     }
+    // As much as the system lets anybody have: what comes at once need not all be lost. Where it
+    // lets nobody have more, the usual will do.
+    constexpr int wantedBuffer = 1 << 20;
+    static_cast<void>(
+        setsockopt(socket.get(), SOL_SOCKET, SO_RCVBUF, &wantedBuffer, sizeof wantedBuffer));
     return std::unique_ptr<UdpSocket>(new UdpSocket(std::move(socket)));
 }
 
