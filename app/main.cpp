@@ -417,6 +417,7 @@ int start(int argc, char** argv) {
     const QApplication application(count, ours.data());
     QApplication::setApplicationName(QStringLiteral("tonquil"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tonquil"));
+    QApplication::setWindowIcon(programIcon());
     QGuiApplication::setDesktopFileName(QStringLiteral("tonquil"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // The panel may have the keyboard for hours, and a blinking cursor would wake it up twice a

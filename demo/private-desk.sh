@@ -67,6 +67,8 @@ start_desk() {
     # Nothing of the person's own settings, and nothing left in them.
     export XDG_CONFIG_HOME=$scratch/config XDG_STATE_HOME=$scratch/state
     export XDG_DATA_HOME=$scratch/data XDG_CACHE_HOME=$scratch/cache
+    # Nor of what is installed, which the program may warn of.
+    export XDG_DATA_DIRS=$scratch/none
     export XDG_RUNTIME_DIR=$scratch/runtime
     mkdir -m 700 "$XDG_RUNTIME_DIR"
     unset WAYLAND_DISPLAY XAUTHORITY DBUS_SESSION_BUS_ADDRESS QT_QPA_PLATFORM

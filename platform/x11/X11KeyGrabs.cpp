@@ -61,12 +61,16 @@ Result<void> X11KeyGrabs::grab(xcb_keycode_t key, std::uint16_t state,
 
 void X11KeyGrabs::ungrab(xcb_keycode_t key, std::uint16_t state,
                          std::span<const std::uint16_t> lockStates) const {
+    std::vector<xcb_void_cookie_t> cookies;
     for (const xcb_window_t root : _roots) {
         for (const std::uint16_t lockState : lockStates) {
-            xcb_ungrab_key(_connection.get(), key, root, both(state, lockState));
+            cookies.push_back(
+                xcb_ungrab_key_checked(_connection.get(), key, root, both(state, lockState)));
         }
     }
-    xcb_flush(_connection.get());
+    for (const auto cookie : cookies) {
+        const XcbPointer<xcb_generic_error_t> ignored(xcb_request_check(_connection.get(), cookie));
+    }
 }
 
 }  // namespace tonquil

@@ -23,6 +23,7 @@ class X11KeyGrabs {
     /// is refused, nothing is kept.
     [[nodiscard]] Result<void> grab(xcb_keycode_t key, std::uint16_t state,
                                     std::span<const std::uint16_t> lockStates) const;
+    /// On return, others may have what was given up.
     void ungrab(xcb_keycode_t key, std::uint16_t state,
                 std::span<const std::uint16_t> lockStates) const;
 

@@ -18,8 +18,8 @@ namespace {
 
 using testing::ElementsAre;
 
-// From 4 to 104 points: a hundredth of the range is a point.
-constexpr int width = 108;
+// From 7 to 107 points: a hundredth of the range is a point.
+constexpr int width = 114;
 constexpr double middle = 12;
 
 class SliderTest : public testing::Test {
@@ -133,16 +133,16 @@ TEST_F(SliderTest, StepsByKeysInReadingDirection) {
 }
 
 TEST_F(SliderTest, FollowsThePointerOverTheWholeRow) {
-    press(slider, {29, 1});
-    move(slider, {54.5, 23}, Qt::LeftButton);
+    press(slider, {32, 1});
+    move(slider, {57.5, 23}, Qt::LeftButton);
     move(slider, {500, -40}, Qt::LeftButton);
     release(slider, {500, -40});
-    move(slider, {29, middle}, Qt::NoButton);
-    press(slider, {29, middle}, Qt::RightButton);
+    move(slider, {32, middle}, Qt::NoButton);
+    press(slider, {32, middle}, Qt::RightButton);
     EXPECT_THAT(sent, ElementsAre(0.25F, 0.505F, 1));
 
     slider.setLayoutDirection(Qt::RightToLeft);
-    press(slider, {29, middle});
+    press(slider, {32, middle});
     EXPECT_EQ(slider.floatValue(), 0.75F);
 }
 
@@ -152,13 +152,13 @@ TEST_F(SliderTest, TellsWhenItIsHeldWithTheValueFromBefore) {
         told.emplace_back(sender.isInteracting(), sender.floatValue());
     });
     slider.show();
-    press(slider, {29, middle});
-    release(slider, {29, middle});
-    press(slider, {79, middle});
+    press(slider, {32, middle});
+    release(slider, {32, middle});
+    press(slider, {82, middle});
     slider.hide();
-    move(slider, {54, middle}, Qt::LeftButton);
+    move(slider, {57, middle}, Qt::LeftButton);
     slider.show();
-    press(slider, {54, middle});
+    press(slider, {57, middle});
     slider.setEnabled(false);
     EXPECT_THAT(
         told, ElementsAre(std::pair(true, 0.5F), std::pair(false, 0.25F), std::pair(true, 0.25F),
@@ -166,7 +166,7 @@ TEST_F(SliderTest, TellsWhenItIsHeldWithTheValueFromBefore) {
 }
 
 TEST_F(SliderTest, TakesTheNeutralValueByDoubleClick) {
-    doubleClick(slider, {79, middle});
+    doubleClick(slider, {82, middle});
     EXPECT_THAT(sent, ElementsAre(0.75F, 0.3F));
     EXPECT_FALSE(slider.isInteracting());
 }
@@ -181,9 +181,9 @@ TEST_F(SliderTest, FillsTheBarUpToTheValue) {
         int edge;
     };
     const std::vector<Row> rows = {
-        {0.0F, Qt::LeftToRight, {-1, -1}, 4},    {0.5F, Qt::LeftToRight, {4, 53}, 53},
-        {1.0F, Qt::LeftToRight, {4, 102}, 102},  {0.0F, Qt::RightToLeft, {-1, -1}, 102},
-        {0.25F, Qt::RightToLeft, {80, 104}, 78}, {1.0F, Qt::RightToLeft, {6, 104}, 4},
+        {0.0F, Qt::LeftToRight, {-1, -1}, 7},    {0.5F, Qt::LeftToRight, {7, 56}, 56},
+        {1.0F, Qt::LeftToRight, {7, 105}, 105},  {0.0F, Qt::RightToLeft, {-1, -1}, 105},
+        {0.25F, Qt::RightToLeft, {83, 107}, 81}, {1.0F, Qt::RightToLeft, {9, 107}, 7},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.value);
@@ -202,7 +202,7 @@ TEST_F(SliderTest, FillsTheBarUpToTheValue) {
         EXPECT_TRUE(isNear(picture.pixelColor(row.edge, static_cast<int>(middle)), edge));
         EXPECT_TRUE(isNear(picture.pixelColor(row.edge + 1, static_cast<int>(middle)), edge));
         // The notch of the neutral 0.3.
-        const int notch = row.direction == Qt::LeftToRight ? 33 : 73;
+        const int notch = row.direction == Qt::LeftToRight ? 36 : 76;
         EXPECT_TRUE(isNear(picture.pixelColor(notch, 18), themeFor({}).secondaryText));
         EXPECT_FALSE(isNear(picture.pixelColor(notch - 1, 18), themeFor({}).secondaryText));
     }
