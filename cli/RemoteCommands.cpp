@@ -48,7 +48,7 @@ Result<Servers> scan(const Arguments& arguments, const RemoteAccess& access) {
 
 std::string serverLine(const SocketAddress& address, const Announce& announce) {
     constexpr std::size_t mostNameBytes = 256;
-    std::string line = dotted(address);
+    std::string line = address.dottedHost();
     line.append("\t").append(remote::printable(announce.name, mostNameBytes));
     return line.append("\t").append(remote::printable(announce.guid, mostNameBytes)).append("\n");
 }

@@ -20,15 +20,6 @@ PropertyValue curveArray(const std::vector<float>& curve) {
 
 }  // namespace
 
-std::string dotted(const SocketAddress& address) {
-    std::string text;
-    for (int shift = 24; shift >= 0; shift -= 8) {
-        text += std::to_string(address.host() >> static_cast<unsigned>(shift) & 0xFFU);
-        text += shift > 0 ? "." : "";
-    }
-    return text;
-}
-
 std::string curveText(const std::vector<float>& curve) {
     return jsonText(curveArray(curve), -1);
 }
@@ -50,7 +41,7 @@ PropertyValue serverObject(const RemoteServer& server) {
                            {"content", screen.content},
                            {"gamma", curveArray(screen.gamma)}});
     }
-    return {{"address", dotted(server.address)},
+    return {{"address", server.address.dottedHost()},
             {"name", server.announce.name},
             {"guid", server.announce.guid},
             {"screens", std::move(screens)}};

@@ -9,9 +9,6 @@
 
 namespace tonquil {
 
-/// The address in dotted numbers.
-[[nodiscard]] std::string dotted(const SocketAddress& address);
-
 /// The numbers of a curve as a compact JSON array, each as short as its single precision allows.
 [[nodiscard]] std::string curveText(const std::vector<float>& curve);
 

@@ -26,6 +26,15 @@ std::uint32_t SocketAddress::host() const {
            std::uint32_t{_bytes[6]} << 8U | _bytes[7];
 }
 
+std::string SocketAddress::dottedHost() const {
+    std::string text = std::to_string(_bytes[4]);
+    for (const std::size_t index : {5U, 6U, 7U}) {
+        text += '.';
+        text += std::to_string(_bytes[index]);
+    }
+    return text;
+}
+
 std::uint16_t SocketAddress::port() const {
     return static_cast<std::uint16_t>(_bytes[2] << 8U | _bytes[3]);
 }

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <string>
 
 namespace tonquil {
 
@@ -25,6 +26,8 @@ class SocketAddress {
     SocketAddress(std::uint32_t host, std::uint16_t port);
 
     [[nodiscard]] std::uint32_t host() const;
+    /// "192.168.1.2".
+    [[nodiscard]] std::string dottedHost() const;
     [[nodiscard]] std::uint16_t port() const;
     [[nodiscard]] const Bytes& bytes() const { return _bytes; }
 

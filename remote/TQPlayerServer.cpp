@@ -29,6 +29,7 @@ TQPlayerServer::TQPlayerServer(Environment environment, std::uint16_t port)
     : _environment(std::move(environment)),
       _udpPort(port),
       _ignoredLog(_environment.log, "further datagrams were ignored"),
+      _changeLog(_environment.log, "further orders came from the network"),
       _sendFailureLog(_environment.log, "further datagrams could not be sent"),
       _answers(_environment.runLoop,
                [this, life = std::weak_ptr(_isAlive)](const SocketAddress& recipient) {
@@ -108,7 +109,7 @@ void TQPlayerServer::_receiveData(std::string_view bytes, const SocketAddress& s
             answer(source);
             return;
         case remote::Kind::stateUpdate:
-            takeStateUpdate(bytes);
+            takeStateUpdate(bytes, source);
             return;
         case remote::Kind::announce:
             if (_selfTestNames) {
@@ -153,7 +154,7 @@ void TQPlayerServer::takeAnnounce(std::string_view bytes) {
     }
 }
 
-void TQPlayerServer::takeStateUpdate(std::string_view bytes) {
+void TQPlayerServer::takeStateUpdate(std::string_view bytes, const SocketAddress& source) {
     const auto states = remote::objectAfter(remote::stateUpdateTag.size(), bytes);
     if (!states) {
         return;
@@ -167,11 +168,22 @@ void TQPlayerServer::takeStateUpdate(std::string_view bytes) {
         if (_dataSource == nullptr || ++count > mostStates) {
             return;
         }
+        logOrder(source, referenceID);
         _dataSource->playerServerSetStateForScreen(*this, state, referenceID);
         if (life.expired()) {
             return;
         }
     }
+}
+
+void TQPlayerServer::logOrder(const SocketAddress& source, std::string_view referenceID) {
+    if (!_changeLog.admits(_environment.runLoop.now())) {
+        return;
+    }
+    std::string line = source.dottedHost();
+    line += " sets the display ";
+    line += remote::printable(referenceID, mostNameBytes);
+    log(line);
 }
 
 void TQPlayerServer::ignore(std::string_view bytes) {

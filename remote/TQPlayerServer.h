@@ -94,7 +94,8 @@ class TQPlayerServer {
     void answer(const SocketAddress& source);
     [[nodiscard]] bool isOwnScan(const SocketAddress& source);
     void takeAnnounce(std::string_view bytes);
-    void takeStateUpdate(std::string_view bytes);
+    void takeStateUpdate(std::string_view bytes, const SocketAddress& source);
+    void logOrder(const SocketAddress& source, std::string_view referenceID);
     void ignore(std::string_view bytes);
     void log(std::string_view line) const;
 
@@ -104,6 +105,7 @@ class TQPlayerServer {
     std::uint16_t _udpPort;
     TQPlayerServerDataSource* _dataSource = nullptr;
     LogLimiter _ignoredLog;
+    LogLimiter _changeLog;
     LogLimiter _sendFailureLog;
     std::unique_ptr<DatagramSocket> _socket;
     std::unique_ptr<RunLoop::Handle> _source;

@@ -147,8 +147,11 @@ TEST_F(Server, PassesOnTheStatesThatAreObjects) {
         displays.statesSet,
         ElementsAre(State("1-10-21036", {{"gamma", PropertyValue::array({0})}, {"content", 7}}),
                     State("c", PropertyValue::object())));
-    EXPECT_TRUE(wire.sent.empty() && log.empty());
+    EXPECT_TRUE(wire.sent.empty());
+    EXPECT_THAT(log, ElementsAre(testing::StartsWith(peer.dottedHost() + " sets the display 1-10"),
+                                 testing::EndsWith(" sets the display c")));
     displays.statesSet.clear();
+    log.clear();
 
     // Beyond the bounds of what is parsed, nothing of it is applied.
     const std::vector<std::string> rows{
