@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "foundation/Problem.h"
+
+namespace tonquil {
+
+/// Writes a line to standard error, under the program's name.
+void logLine(std::string_view line);
+/// The same with what a problem says.
+void report(const Problem& problem);
+/// An environment variable; empty where it is not set.
+[[nodiscard]] std::string environment(const char* name);
+/// One instance runs for each desktop of a person: its name, fit for a file.
+[[nodiscard]] std::string instanceName();
+/// The program's own file.
+[[nodiscard]] std::filesystem::path programFile();
+
+}  // namespace tonquil
