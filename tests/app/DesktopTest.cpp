@@ -150,6 +150,21 @@ TEST_F(Desktop, ATapLeavesThePanelAndAMovedPointerStays) {
     EXPECT_EQ(bench.windowSystem.pointer, (Point{11, 22}));
 }
 
+TEST_F(Desktop, TheTargetsComeBackOnlyIfThePreferencesWereThereBeforeThem) {
+    bench.launchAndSettle();
+    bench.controller().openTargetWindow();
+    bench.controller().openPreferences();
+    EXPECT_EQ(bench.controller().restorableWindows(),
+              (PropertyValue{{"Preferences", PropertyValue::object()}}));
+
+    // The preferences are open, so the next program's target window can come back.
+    bench.launchAndSettle();
+    EXPECT_TRUE(bench.controller().restoreWindowWithIdentifier("Target", {{"kind", 1}}));
+    EXPECT_EQ(bench.targets.shown.back(), "floating 1");
+    EXPECT_EQ(bench.controller().restorableWindows()["Target"]["kind"], 1);
+    EXPECT_FALSE(bench.controller().restoreWindowWithIdentifier("Other", {}));
+}
+
 TEST_F(Desktop, ARivalIsWarnedOfBeforeAnythingElse) {
     bench.programs.installed = InstalledProgram{.name = "Rival", .icon = {}};
     bench.alerts.button = 1;
