@@ -43,7 +43,10 @@ Desk::Desk(WindowManager manager) : _server(XServer::start().value()) {
     mustSucceed(_server->plug("DUMMY1", "1280x1024"));
     _reader = std::make_unique<RampReader>(RampReader::connect(_server->display()).value());
     if (manager == WindowManager::Yes) {
-        _manager = BackgroundProcess::start(request({"openbox"})).value();
+        ProcessRequest openbox = request({"openbox"});
+        // Its themes are there.
+        openbox.environment.erase("XDG_DATA_DIRS");
+        _manager = BackgroundProcess::start(openbox).value();
         // It is there when it has put its name up.
         EXPECT_TRUE(eventually([this] {
             const auto result = run(request({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}));
@@ -61,6 +64,9 @@ ProcessRequest Desk::request(const std::vector<std::string>& command) const {
                            {"XDG_CONFIG_HOME", folder + "/config"},
                            {"XDG_STATE_HOME", folder + "/state"},
                            {"XDG_RUNTIME_DIR", folder + "/runtime"},
+                           // No program of this machine that changes ramps is found either.
+                           {"XDG_DATA_HOME", folder + "/data"},
+                           {"XDG_DATA_DIRS", folder + "/none"},
                            // Neither bus is there, whatever this machine has.
                            {"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + folder + "/none"},
                            {"DBUS_SESSION_BUS_ADDRESS", "unix:path=" + folder + "/none"}};
