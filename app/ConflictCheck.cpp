@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/SettingsKeys.h"
+#include "foundation/TranslatableText.h"
 
 namespace tonquil {
 
@@ -34,15 +35,16 @@ ConflictCheck::Outcome ConflictCheck::run(const std::string& ownName) {
         return Outcome::NotShown;
     }
     constexpr std::size_t quitButton = 1;
-    const std::size_t button =
-        _alerts.runModal({.style = Alert::Style::Critical,
-                          .icon = rival->icon,
-                          .table = "KVFluxCheck",
-                          .message = "%@ is present on this computer.",
-                          .messageArguments = {rival->name},
-                          .informativeText = "[%1$@ installed, might interfer %2$@.]",
-                          .informativeArguments = {ownName, rival->name},
-                          .buttons = {"Continue", "Quit"}});
+    const std::size_t button = _alerts.runModal(
+        {.style = Alert::Style::Critical,
+         .icon = rival->icon,
+         .table = "KVFluxCheck",
+         .message = TONQUIL_TEXT("KVFluxCheck", "%@ is present on this computer."),
+         .messageArguments = {rival->name},
+         .informativeText = TONQUIL_TEXT("KVFluxCheck", "[%1$@ installed, might interfer %2$@.]"),
+         .informativeArguments = {ownName, rival->name},
+         .buttons = {TONQUIL_TEXT("KVFluxCheck", "Continue"),
+                     TONQUIL_TEXT("KVFluxCheck", "Quit")}});
     if (button == quitButton) {
         _terminate();
         return Outcome::Ended;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "app/SettingsKeys.h"
+#include "foundation/TranslatableText.h"
 #include "screens/PlatformScreen.h"
 
 namespace tonquil {
@@ -46,19 +47,21 @@ PanelSubject CurrentScreens::subject() {
     subject.isAllDisplays = _preferences.boolForKey(settingsKey::affectAllScreens);
     const auto screens = _currentScreens();
     if (screens.empty()) {
-        subject.title = "No display";
+        subject.title = TONQUIL_TEXT("PanelSubject", "No display");
         if (!_registry.screens().empty()) {
-            subject.obstacle = "The panel is on no display. Move it onto one.";
+            subject.obstacle =
+                TONQUIL_TEXT("Problem", "The panel is on no display. Move it onto one.");
         } else if (!_whyNoDisplays.empty()) {
             subject.obstacle = _whyNoDisplays;
         } else {
-            subject.obstacle = "There is no display that could be corrected.";
+            subject.obstacle =
+                TONQUIL_TEXT("Problem", "There is no display that could be corrected.");
         }
         return subject;
     }
     const DisplayDescription first = _service.description(screens.front()->directDisplayID());
     if (subject.isAllDisplays) {
-        subject.title = "All displays";
+        subject.title = TONQUIL_TEXT("PanelSubject", "All displays");
     } else {
         subject.title = first.connector;
         if (!first.productName.empty()) {

@@ -9,10 +9,11 @@ namespace tonquil {
 
 /// What the panel says about the displays that it edits.
 struct PanelSubject {
-    /// "DP-1 · Dell U2720Q", or "All displays".
+    /// "DP-1 · Dell U2720Q", or, as a key of the context "PanelSubject", "All displays".
     std::string title;
     bool isAllDisplays = false;
-    /// Why nothing can be edited, as a sentence; empty when it can.
+    /// Why nothing can be edited, as a sentence and key of the context "Problem"; empty when it
+    /// can.
     std::string obstacle;
 
     bool operator==(const PanelSubject&) const = default;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/SettingsKeys.h"
+#include "foundation/TranslatableText.h"
 
 namespace tonquil {
 
@@ -111,8 +112,11 @@ void TQController::showTarget(std::optional<TargetKind> kind, const std::string&
         if (screen) {
             _targets.coverDisplay(screen->directDisplayID(), kind.value_or(TargetKind::Color));
         } else {
-            _dialogs.alert("No such display", "No display with the reference ID " + referenceID +
-                                                  " is attached. tonquilctl displays lists them.");
+            _dialogs.alert(TONQUIL_TEXT("Problem", "No such display"),
+                           TONQUIL_TEXT("Problem",
+                                        "No display with the reference ID %@ is attached. "
+                                        "tonquilctl displays lists them."),
+                           {referenceID});
         }
     } else if (kind) {
         makeTargetWindowRestorable();

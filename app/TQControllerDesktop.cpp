@@ -6,6 +6,7 @@
 #include "app/ConflictCheck.h"
 #include "app/SettingsKeys.h"
 #include "app/TQController.h"
+#include "foundation/TranslatableText.h"
 #include "values/PropertyValue.h"
 
 namespace tonquil {
@@ -146,12 +147,13 @@ void TQController::pushStateUpdate() {
 void TQController::broadcastTestFailed() {
     _preferences.setValue(settingsKey::allowRemote, false);
     static_cast<void>(_alerts.runModal(
-        {.message = "Cannot enable remote configuration",
+        {.message = TONQUIL_TEXT("", "Cannot enable remote configuration"),
          .informativeText =
-             "Network broadcast does not appear to work. Please check that only one instance of "
-             "Tonquil is running on this computer and that UDP ports 44188 and 48184 are not "
-             "blocked by a firewall.",
-         .buttons = {"OK"}}));
+             TONQUIL_TEXT("",
+                          "Network broadcast does not appear to work. Please check that only one "
+                          "instance of Tonquil is running on this computer and that UDP ports "
+                          "44188 and 48184 are not blocked by a firewall."),
+         .buttons = {TONQUIL_TEXT("", "OK")}}));
 }
 
 }  // namespace tonquil

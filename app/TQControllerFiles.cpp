@@ -6,6 +6,7 @@
 #include "app/SettingsKeys.h"
 #include "app/TQController.h"
 #include "files/AtomicFile.h"
+#include "foundation/TranslatableText.h"
 #include "model/KVTableGammaCurve.h"
 #include "plist/PropertyListWriter.h"
 #include "settings/Settings.h"
@@ -56,7 +57,7 @@ bool TQController::_openFile(const std::filesystem::path& file) {
 }
 
 bool TQController::refuseFile(const Problem& problem) {
-    _dialogs.alert("The file was not opened", problem.sentence);
+    _dialogs.alert(TONQUIL_TEXT("Problem", "The file was not opened"), problem.sentence, {});
     return false;
 }
 
@@ -77,9 +78,11 @@ bool TQController::openSettings(const MultiDisplaySettings& settings) {
         _history.willEdit(_registry.sightedScreens(), openedFileSubject);
         if (file.applyTo(_registry) == 0) {
             _dialogs.alert(
-                "No Matching Screens",
-                "Settings from this file apply to different screens than those available "
-                "on this computer.");
+                TONQUIL_TEXT("Problem", "No Matching Screens"),
+                TONQUIL_TEXT("Problem",
+                             "Settings from this file apply to different screens than those "
+                             "available on this computer."),
+                {});
             return false;
         }
         curvesWereEdited();
@@ -97,9 +100,11 @@ bool TQController::openSettings(const RawTableSettings& settings) {
         return refuseFile(*settings.failedPropertyList);
     }
     if (!curve) {
-        return refuseFile({.sentence = "It holds neither settings nor a whole table of 768 bytes. "
-                                       "Nothing has been changed.",
-                           .detail = {}});
+        return refuseFile(
+            {.sentence = TONQUIL_TEXT("Problem",
+                                      "It holds neither settings nor a whole table of 768 bytes. "
+                                      "Nothing has been changed."),
+             .detail = {}});
     }
     _history.willEdit(_registry.screens(), openedFileSubject);
     for (const auto& screen : _currentScreens._currentScreens()) {
@@ -133,7 +138,8 @@ void TQController::savePanelDidEnd(const std::filesystem::path& file, SettingsFo
     _log(saved.error().sentence);
     std::error_code unknown;
     if (!std::filesystem::exists(file, unknown)) {
-        _dialogs.alert("Saving failed", "Could not save settings at this location.");
+        _dialogs.alert(TONQUIL_TEXT("Problem", "Saving failed"),
+                       TONQUIL_TEXT("Problem", "Could not save settings at this location."), {});
     }
 }
 

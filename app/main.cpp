@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Finds out whether there is anything to start, and starts it.
 #include <QApplication>
+#include <QLocale>
 #include <QStyleHints>
 #include <algorithm>
 #include <cstdio>
@@ -10,6 +11,7 @@
 
 #include "app/Program.h"
 #include "app/ProgramEnvironment.h"
+#include "app/language/Language.h"
 #include "app/panel/PanelIcons.h"
 #include "app/panel/QuietStyle.h"
 #include "platform/posix/InstanceSocket.h"
@@ -127,6 +129,7 @@ int start(int argc, char** argv) {
     // The panel may have the keyboard for hours, and a blinking cursor would wake it up twice a
     // second for all that time.
     QGuiApplication::styleHints()->setCursorFlashTime(0);
+    const Language language(chosenLanguage(QLocale::system().uiLanguages(), translatedLanguages()));
     return runFirstOrHandOver(line->requests);
 }
 

@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "files/FileHandle.h"
+#include "foundation/TranslatableText.h"
 
 namespace tonquil {
 
@@ -93,7 +94,7 @@ Result<std::vector<std::uint8_t>> readBoundedFile(const std::filesystem::path& p
     const std::string& name = path.native();
     // A NUL would make the system open another file than the one that is named.
     if (name.empty() || name.find('\0') != std::string::npos) {
-        return problem("The file name is empty or has a NUL in it.");
+        return problem(TONQUIL_TEXT("Problem", "The file name is empty or has a NUL in it."));
     }
     int descriptor = -1;
     do {

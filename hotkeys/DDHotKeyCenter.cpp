@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "foundation/TranslatableText.h"
+
 namespace tonquil {
 
 namespace {
@@ -85,7 +87,9 @@ bool DDHotKeyCenter::refuseDuplicate(std::uint16_t keyCode, ModifierFlags modifi
     if (!hasRegisteredHotKeyWithKeyCode(keyCode, modifierFlags)) {
         return false;
     }
-    _lastRefusal = Problem{"This key combination already does something else in Tonquil.", {}};
+    _lastRefusal = Problem{
+        TONQUIL_TEXT("Problem", "This key combination already does something else in Tonquil."),
+        {}};
     return true;
 }
 

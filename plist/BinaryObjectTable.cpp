@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/TranslatableText.h"
+
 namespace tonquil {
 
 namespace {
@@ -15,7 +17,7 @@ constexpr std::size_t headerSize = 8;    // bytes: the magic and one more digit
 constexpr std::size_t trailerSize = 32;  // bytes
 
 auto damaged(const char* detail) {
-    return problem("The property list is damaged.", detail);
+    return problem(TONQUIL_TEXT("Problem", "The property list is damaged."), detail);
 }
 
 /// Bytes of contents of the types whose marker says it all; nothing for unknown types.

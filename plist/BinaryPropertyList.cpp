@@ -12,6 +12,7 @@
 #include <string>
 #include <utility>
 
+#include "foundation/TranslatableText.h"
 #include "plist/BinaryObjectTable.h"
 #include "plist/BudgetMeter.h"
 #include "plist/Unicode.h"
@@ -21,7 +22,7 @@ namespace tonquil {
 namespace {
 
 auto damaged(const char* detail) {
-    return problem("The property list is damaged.", detail);
+    return problem(TONQUIL_TEXT("Problem", "The property list is damaged."), detail);
 }
 
 PropertyValue integer(std::int64_t number) {

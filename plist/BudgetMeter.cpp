@@ -3,12 +3,15 @@
 
 #include <string>
 
+#include "foundation/TranslatableText.h"
+
 namespace tonquil {
 
 namespace {
 
 auto breach(const std::string& detail) {
-    return problem("The property list is too large or too deeply nested.", detail);
+    return problem(TONQUIL_TEXT("Problem", "The property list is too large or too deeply nested."),
+                   detail);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <array>
 #include <string_view>
 
+#include "foundation/TranslatableText.h"
 #include "plist/BinaryPropertyList.h"
 #include "plist/BudgetMeter.h"
 #include "plist/NumberText.h"
@@ -91,7 +92,7 @@ Result<PropertyValue> readPropertyList(std::span<const std::uint8_t> bytes,
         return readBinaryPropertyList(bytes, budget);
     }
     if (!beginsLikePropertyList(bytes)) {
-        return problem("This is not a property list.");
+        return problem(TONQUIL_TEXT("Problem", "This is not a property list."));
     }
     return readXmlPropertyList(bytes, budget);
 }

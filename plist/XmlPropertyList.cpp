@@ -10,6 +10,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "foundation/TranslatableText.h"
 #include "plist/XmlValueBuilder.h"
 
 namespace tonquil {
@@ -39,7 +40,7 @@ Parse& parseOf(void* user) {
 
 void refuse(void* user, const char* detail) {
     if (Parse& parse = parseOf(user); !parse.problem) {
-        parse.note(problem("The property list is damaged.", detail));
+        parse.note(problem(TONQUIL_TEXT("Problem", "The property list is damaged."), detail));
     }
 }
 
@@ -97,11 +98,12 @@ std::string lineOf(XML_Parser parser) {
 Result<PropertyValue> readXmlPropertyList(std::span<const std::uint8_t> bytes,
                                           const PropertyListBudget& budget) {
     if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
-        return problem("The property list is too large.");
+        return problem(TONQUIL_TEXT("Problem", "The property list is too large."));
     }
     const Parser parser(XML_ParserCreate(nullptr), &XML_ParserFree);
     if (!parser) {
-        return problem("There is not enough memory to read the property list.");
+        return problem(
+            TONQUIL_TEXT("Problem", "There is not enough memory to read the property list."));
     }
     Parse parse{parser.get(), XmlValueBuilder(budget), std::nullopt};
     XML_SetUserData(parser.get(), &parse);
@@ -118,7 +120,7 @@ Result<PropertyValue> readXmlPropertyList(std::span<const std::uint8_t> bytes,
     auto value = parse.builder.takeValue();
     if (status != XML_STATUS_OK || !value) {
         const char* const words = XML_ErrorString(XML_GetErrorCode(parser.get()));
-        return problem("The property list is damaged.",
+        return problem(TONQUIL_TEXT("Problem", "The property list is damaged."),
                        (words != nullptr ? words : "no value") + lineOf(parser.get()));
     }
     return std::move(*value);

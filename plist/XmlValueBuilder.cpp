@@ -5,6 +5,7 @@
 #include <array>
 #include <utility>
 
+#include "foundation/TranslatableText.h"
 #include "plist/Base64.h"
 #include "plist/NumberText.h"
 
@@ -13,7 +14,7 @@ namespace tonquil {
 namespace {
 
 auto damaged(std::string detail) {
-    return problem("The property list is damaged.", std::move(detail));
+    return problem(TONQUIL_TEXT("Problem", "The property list is damaged."), std::move(detail));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "files/BoundedFile.h"
+#include "foundation/TranslatableText.h"
 #include "plist/PropertyListReader.h"
 
 namespace tonquil {
@@ -29,7 +30,8 @@ Settings readSettings(std::vector<std::uint8_t> bytes) {
     if (!root->is_object()) {
         return RawTableSettings{
             .bytes = std::move(bytes),
-            .failedPropertyList = Problem{"This property list holds no settings.", {}}};
+            .failedPropertyList =
+                Problem{TONQUIL_TEXT("Problem", "This property list holds no settings."), {}}};
     }
     if (!isMultiDisplay(*root)) {
         return SingleDisplaySettings{.curve = std::move(*root)};

@@ -30,7 +30,7 @@ declare -A arrows=(
     [platform/xdg]="foundation values files plist app"
     [platform/choice]="foundation files screens platform/simulated platform/x11"
     [platform/xkb]="foundation hotkeys"
-    [platform/missing]="app hotkeys screens"
+    [platform/missing]="foundation app hotkeys screens"
     [ui]=""
     [targets]="ui"
     [hotkeys]="foundation"
@@ -40,7 +40,8 @@ declare -A arrows=(
     [app/targets]="app app/panel screens targets"
     [cli]="foundation values files model screens settings remote"
     [app/alerts]="app ui"
-    [app/about]="app/alerts app/panel ui"
+    [app/about]="foundation app/alerts app/panel ui"
+    [app/language]=""
     [app/desktop]="foundation app app/about app/alerts app/panel app/preferences screens ui"
     [app/preferences]="foundation app app/alerts app/panel hotkeys hotkeys/field ui"
     [launcher]=""
@@ -48,7 +49,7 @@ declare -A arrows=(
 # Where programs are composed: the only files that may know which platform is used.
 composers=" cli/main.cpp app/main.cpp app/Program.h app/Program.cpp launcher/main.cpp "
 # Where windows and the toolkit's own services are.
-qt_folders=" ui targets app/panel app/targets app/alerts app/about platform/qt platform/dbus hotkeys/field app/preferences app/desktop "
+qt_folders=" ui targets app/panel app/targets app/alerts app/about platform/qt platform/dbus hotkeys/field app/preferences app/desktop app/language "
 
 breaches=0
 breach() {

@@ -8,6 +8,7 @@
 #include <QTextDocument>
 
 #include "app/alerts/Localisation.h"
+#include "foundation/TranslatableText.h"
 
 namespace tonquil {
 
@@ -45,10 +46,11 @@ QString applicationName(const BundleInformation& information) {
 
 QString versionLine(const BundleInformation& information) {
     const std::string& version = information.shortVersion;
-    const QString text = information.build == version
-                             ? QString::fromStdString(version)
-                             : localised(table, "%@ (%@)", {version, information.build});
-    return localised(table, "Version %@", {text.toStdString()});
+    const QString text =
+        information.build == version
+            ? QString::fromStdString(version)
+            : localised(table, TONQUIL_TEXT("KVAboutBox", "%@ (%@)"), {version, information.build});
+    return localised(table, TONQUIL_TEXT("KVAboutBox", "Version %@"), {text.toStdString()});
 }
 
 QTextDocumentFragment creditsDocument(const QString& file) {

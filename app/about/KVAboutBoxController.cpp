@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/about/KVAboutBoxController.h"
 
+#include <QCoreApplication>
 #include <QScreen>
 #include <QTextDocument>
 #include <utility>
@@ -29,7 +30,7 @@ QString KVAboutBoxController::windowNibName() {
 }
 
 QString KVAboutBoxController::ownCredits() {
-    return QStringLiteral(":/about/Credits.html");
+    return QCoreApplication::translate("KVAboutBox", ":/about/Credits.html");
 }
 
 KVAboutBoxIconView* KVAboutBoxController::iconView() const {

@@ -166,7 +166,7 @@ void ControlPanel::showCorrection(bool isOn) {
 
 void ControlPanel::showSubject(const PanelSubject& subject) {
     _contents->titleStrip->showSubject(subject);
-    _contents->plot->setMessage(QString::fromStdString(subject.obstacle));
+    _contents->plot->setMessage(QCoreApplication::translate("Problem", subject.obstacle.c_str()));
 }
 
 void ControlPanel::updatePlot() {

@@ -5,6 +5,8 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
+#include "app/TextFormat.h"
+
 namespace tonquil {
 
 namespace {
@@ -76,11 +78,15 @@ void PanelFileDialogs::chooseFileToSave(SettingsFormat format, ChosenWithFormat 
 }
 
 // An alert may follow a dialog that is only about to close.
-void PanelFileDialogs::alert(const std::string& title, const std::string& message) {
-    auto* box = new QMessageBox(
-        QMessageBox::NoIcon, QCoreApplication::translate("Files", title.c_str()),
-        QCoreApplication::translate("Files", title.c_str()), QMessageBox::NoButton, &_window);
-    box->setInformativeText(QCoreApplication::translate("Files", message.c_str()));
+void PanelFileDialogs::alert(const std::string& title, const std::string& message,
+                             const std::vector<std::string>& arguments) {
+    const QString text = QCoreApplication::translate("Problem", title.c_str());
+    auto* box = new QMessageBox(QMessageBox::NoIcon, text, text, QMessageBox::NoButton, &_window);
+    const QString format = QCoreApplication::translate("Problem", message.c_str());
+    // A sentence with a file's name in it may hold what looks like a place for an argument.
+    box->setInformativeText(
+        arguments.empty() ? format
+                          : QString::fromStdString(formattedText(format.toStdString(), arguments)));
     box->addButton(QCoreApplication::translate("Files", "OK"), QMessageBox::AcceptRole);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::WindowModal);

@@ -16,7 +16,8 @@ class PanelFileDialogs final : public FileDialogs {
 
     void chooseFileToOpen(Chosen chosen) override;
     void chooseFileToSave(SettingsFormat format, ChosenWithFormat chosen) override;
-    void alert(const std::string& title, const std::string& message) override;
+    void alert(const std::string& title, const std::string& message,
+               const std::vector<std::string>& arguments) override;
 
  private:
     /// Shows a dialog that deletes itself; false, and none is shown, while another one is up.

@@ -97,12 +97,13 @@ void TitleStrip::buildSubjectMenu() {
 }
 
 void TitleStrip::showSubject(const PanelSubject& subject) {
-    _title = QString::fromStdString(subject.title);
+    _title = QCoreApplication::translate("PanelSubject", subject.title.c_str());
     (subject.isAllDisplays ? _allDisplays : _thisDisplay)->setChecked(true);
     // The compact form has no other place for the reason.
-    const QString hint = subject.obstacle.empty() ? QCoreApplication::translate(
-                                                        "Panel", "Choose which displays are edited")
-                                                  : QString::fromStdString(subject.obstacle);
+    const QString hint =
+        subject.obstacle.empty()
+            ? QCoreApplication::translate("Panel", "Choose which displays are edited")
+            : QCoreApplication::translate("Problem", subject.obstacle.c_str());
     _subjectButton->setToolTip(hint);
     _subjectButton->setAccessibleDescription(hint);
     updateTitle();

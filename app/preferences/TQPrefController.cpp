@@ -2,6 +2,7 @@
 #include "app/preferences/TQPrefController.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <cstdint>
 #include <utility>
@@ -10,6 +11,7 @@
 #include "app/preferences/PreferencesWindow.h"
 #include "app/preferences/RadioMatrix.h"
 #include "app/preferences/SettingBinding.h"
+#include "foundation/TranslatableText.h"
 #include "hotkeys/DDHotKey.h"
 #include "hotkeys/field/DDHotKeyTextField.h"
 
@@ -158,7 +160,7 @@ void TQPrefController::setClosed(std::function<void()> closed) {
 void TQPrefController::showHotKeyProblem(HotKey hotKey, const std::string& sentence) {
     QLabel* const label =
         hotKey == HotKey::Toggle ? _window->hotKeyProblem : _window->panelHotKeyProblem;
-    label->setText(QString::fromStdString(sentence));
+    label->setText(QCoreApplication::translate("Problem", sentence.c_str()));
     label->setVisible(!sentence.empty());
 }
 
@@ -268,11 +270,13 @@ void TQPrefController::adviseOnPlace() {
         return;
     }
     (void)_surroundings.alerts.runModal(
-        {.message = "Launch at login is more reliable when the Tonquil is located in the "
-                    "Applications folder.",
-         .informativeText = "If the app is not launching at next login, try moving it to the "
-                            "Applications folder.",
-         .buttons = {"OK"}});
+        {.message = TONQUIL_TEXT("",
+                                 "Launch at login is more reliable when the Tonquil is located in "
+                                 "the Applications folder."),
+         .informativeText = TONQUIL_TEXT("",
+                                         "If the app is not launching at next login, try moving "
+                                         "it to the Applications folder."),
+         .buttons = {TONQUIL_TEXT("", "OK")}});
 }
 
 }  // namespace tonquil

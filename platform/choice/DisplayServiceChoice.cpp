@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "files/BoundedFile.h"
+#include "foundation/TranslatableText.h"
 #include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/simulated/SimulatedDisplayService.h"
 #include "platform/x11/X11DisplayService.h"
@@ -70,7 +71,8 @@ Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop, c
     // a private server may well run inside a Wayland session.
     if (wanted.empty() && environment("DISPLAY").empty() &&
         !environment("WAYLAND_DISPLAY").empty()) {
-        return problem("This is a Wayland session, whose displays cannot be corrected yet.");
+        return problem(TONQUIL_TEXT(
+            "Problem", "This is a Wayland session, whose displays cannot be corrected yet."));
     }
     return openX11(runLoop, log);
 }

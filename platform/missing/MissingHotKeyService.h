@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/TranslatableText.h"
 #include "hotkeys/HotKeyService.h"
 
 namespace tonquil {
@@ -12,7 +13,8 @@ class MissingHotKeyService final : public HotKeyService {
     [[nodiscard]] Result<HotKeyHandle> registerHotKey(std::uint16_t /*keyCode*/,
                                                       HotKeyServiceMask /*modifiers*/,
                                                       std::uint32_t /*id*/) override {
-        return problem("Key combinations for all programs are not available on this desktop.");
+        return problem(TONQUIL_TEXT(
+            "Problem", "Key combinations for all programs are not available on this desktop."));
     }
     void unregisterHotKey(HotKeyHandle /*handle*/) override {}
 };

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "foundation/TranslatableText.h"
+
 namespace tonquil {
 
 std::vector<DisplayID> SimulatedDisplayService::onlineDisplays(std::size_t most) {
@@ -34,7 +36,7 @@ DisplayDescription SimulatedDisplayService::description(DisplayID display) {
     return {.connector = found->connector,
             .productName = found->productName,
             .rampSize = hasGamma ? found->ramp.size() : 0,
-            .obstacle = hasGamma ? "" : "This display has no gamma ramp."};
+            .obstacle = hasGamma ? "" : TONQUIL_TEXT("Problem", "This display has no gamma ramp.")};
 }
 
 Rectangle SimulatedDisplayService::bounds(DisplayID display) {

@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "foundation/TranslatableText.h"
+
 namespace tonquil {
 
 namespace {
@@ -30,7 +32,8 @@ xcb_atom_t answeredAtom(xcb_connection_t* connection, xcb_intern_atom_cookie_t c
 Result<std::unique_ptr<X11Connection>> X11Connection::open(const char* display) {
     const std::string name = named(display);
     if (name.empty()) {
-        return problem("There is no X server to talk to: DISPLAY is not set.");
+        return problem(
+            TONQUIL_TEXT("Problem", "There is no X server to talk to: DISPLAY is not set."));
     }
     int screenNumber = 0;
     std::unique_ptr<X11Connection> connection(new X11Connection);
@@ -52,7 +55,7 @@ std::optional<Problem> X11Connection::prepare(int screenNumber) {
         xcb_screen_next(&screens);
     }
     if (screens.rem == 0) {
-        return Problem{"The X server has no screen.", {}};
+        return Problem{TONQUIL_TEXT("Problem", "The X server has no screen."), {}};
     }
     _root = screens.data->root;
 
@@ -72,7 +75,9 @@ std::optional<Problem> X11Connection::prepare(int screenNumber) {
     _systemRamps = answeredAtom(connection, systemRampsCookie);
 
     const Problem noGamma{
-        "The X server has no RandR extension, so its displays cannot be corrected.", {}};
+        TONQUIL_TEXT("Problem",
+                     "The X server has no RandR extension, so its displays cannot be corrected."),
+        {}};
     if (randr == nullptr || randr->present == 0) {
         return noGamma;
     }
@@ -84,8 +89,9 @@ std::optional<Problem> X11Connection::prepare(int screenNumber) {
     }
     if (version->major_version < 1 || (version->major_version == 1 && version->minor_version < 3)) {
         return Problem{
-            "The X server's RandR extension is older than 1.3, so its displays cannot be "
-            "corrected.",
+            TONQUIL_TEXT("Problem",
+                         "The X server's RandR extension is older than 1.3, so its displays "
+                         "cannot be corrected."),
             "version " + std::to_string(version->major_version) + "." +
                 std::to_string(version->minor_version)};
     }

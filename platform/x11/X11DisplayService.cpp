@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "foundation/TranslatableText.h"
 #include "platform/icc/CalibrationRamp.h"
 
 namespace tonquil {
@@ -117,10 +118,13 @@ const X11Display* X11DisplayService::correctable(DisplayID display) {
 
 std::string X11DisplayService::obstacle(const X11Display& display) const {
     if (isXwayland(display)) {
-        return "This X server only draws into a Wayland desktop: setting its gamma ramps changes "
-               "nothing.";
+        return TONQUIL_TEXT("Problem",
+                            "This X server only draws into a Wayland desktop: setting its gamma "
+                            "ramps changes nothing.");
     }
-    return _ramps.size(display.crtc) == 0 ? "This display has no gamma ramp." : "";
+    return _ramps.size(display.crtc) == 0
+               ? TONQUIL_TEXT("Problem", "This display has no gamma ramp.")
+               : "";
 }
 
 std::vector<DisplayID> X11DisplayService::onlineDisplays(std::size_t most) {

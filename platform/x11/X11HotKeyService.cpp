@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "foundation/TranslatableText.h"
 #include "hotkeys/VirtualKeys.h"
 #include "platform/x11/XcbXkb.h"
 
@@ -111,17 +112,21 @@ Result<HotKeyHandle> X11HotKeyService::registerHotKey(std::uint16_t keyCode,
                                                       std::uint32_t id) {
     const auto evdevCode = evdevForVirtualKey(keyCode);
     if (!evdevCode) {
-        return problem("This key cannot be part of a key combination for all programs.",
-                       "virtual key code " + std::to_string(keyCode));
+        return problem(
+            TONQUIL_TEXT("Problem",
+                         "This key cannot be part of a key combination for all programs."),
+            "virtual key code " + std::to_string(keyCode));
     }
     const auto key = static_cast<xcb_keycode_t>(*evdevCode + firstKeyCode);
     const auto state = _modifiers.state(modifiers);
     if (!state) {
-        return problem("The keyboard has no such modifier key for a key combination.",
-                       "modifiers " + std::to_string(modifiers));
+        return problem(
+            TONQUIL_TEXT("Problem", "The keyboard has no such modifier key for a key combination."),
+            "modifiers " + std::to_string(modifiers));
     }
     if (find(key, *state)) {
-        return problem("Tonquil itself already uses this key combination.");
+        return problem(
+            TONQUIL_TEXT("Problem", "Tonquil itself already uses this key combination."));
     }
     const auto grabbed = _grabs.grab(key, *state, _modifiers.lockStates());
     takeEventsSoon();

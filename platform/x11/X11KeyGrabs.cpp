@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11KeyGrabs.h"
 
+#include "foundation/TranslatableText.h"
+
 namespace tonquil {
 
 namespace {
@@ -13,12 +15,15 @@ Problem refusal(std::uint8_t error) {
     const std::string detail = "X error " + std::to_string(error) + " for a key grab";
     switch (error) {
         case XCB_ACCESS:
-            return {"Another program already uses this key combination.", detail};
+            return {TONQUIL_TEXT("Problem", "Another program already uses this key combination."),
+                    detail};
         case XCB_VALUE:
-            return {"The X server has no such key, so it cannot be part of a key combination.",
+            return {TONQUIL_TEXT(
+                        "Problem",
+                        "The X server has no such key, so it cannot be part of a key combination."),
                     detail};
         default:
-            return {"The X server refuses this key combination.", detail};
+            return {TONQUIL_TEXT("Problem", "The X server refuses this key combination."), detail};
     }
 }
 
@@ -50,7 +55,8 @@ Result<void> X11KeyGrabs::grab(xcb_keycode_t key, std::uint16_t state,
         }
     }
     if (_connection.isLost()) {
-        return problem("The X server has gone, so no key combination can be set.");
+        return problem(
+            TONQUIL_TEXT("Problem", "The X server has gone, so no key combination can be set."));
     }
     if (firstError != 0) {
         ungrab(key, state, lockStates);

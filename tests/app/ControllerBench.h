@@ -114,7 +114,8 @@ class ScriptedDialogs final : public FileDialogs {
         whileUp();
         chosen(file, format.value_or(proposed));
     }
-    void alert(const std::string& title, const std::string& /*message*/) override {
+    void alert(const std::string& title, const std::string& /*message*/,
+               const std::vector<std::string>& /*arguments*/) override {
         alerts.push_back(title);
     }
 

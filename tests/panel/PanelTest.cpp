@@ -262,7 +262,7 @@ TEST_F(Panel, HasOneFileDialogAtATimeButEveryAlert) {
     EXPECT_EQ(countOfDialogs(), 1);
     dialogs.chooseFileToOpen([](const std::filesystem::path&) {});
     EXPECT_EQ(countOfDialogs(), 1);
-    dialogs.alert("Saving failed", "Could not save settings at this location.");
+    dialogs.alert("Saving failed", "Could not save settings at this location.", {});
     EXPECT_EQ(panel.findChildren<QMessageBox*>().size(), 1);
     panel.findChild<QDialog*>()->reject();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -1,0 +1,604 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name></name>
+    <message>
+        <source>Launch at login is more reliable when the Tonquil is located in the Applications folder.</source>
+        <translation>L’ouverture à la connexion est plus fiable lorsque Tonquil se trouve dans le dossier «&#xa0;Applications&#xa0;».</translation>
+    </message>
+    <message>
+        <source>If the app is not launching at next login, try moving it to the Applications folder.</source>
+        <translation>Si l’application ne s’ouvre pas à la prochaine connexion, essayez de la déplacer dans le dossier «&#xa0;Applications&#xa0;».</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cannot enable remote configuration</source>
+        <translation>Impossible d’activer la configuration à distance</translation>
+    </message>
+    <message>
+        <source>Network broadcast does not appear to work. Please check that only one instance of Tonquil is running on this computer and that UDP ports 44188 and 48184 are not blocked by a firewall.</source>
+        <translation>La diffusion sur le réseau ne semble pas fonctionner. Vérifiez qu’une seule instance de Tonquil est ouverte sur cet ordinateur et qu’aucun pare-feu ne bloque les ports UDP 44188 et 48184.</translation>
+    </message>
+</context>
+<context>
+    <name>CurvePlot</name>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Output at input 0, 0.5 and 1.</source>
+        <translation>Sortie pour les entrées 0, 0.5 et 1.</translation>
+    </message>
+</context>
+<context>
+    <name>Files</name>
+    <message>
+        <source>Settings of one display (*.tonquil)</source>
+        <translation>Réglages d’un écran (*.tonquil)</translation>
+    </message>
+    <message>
+        <source>Settings of all displays (*.tonquil-screens)</source>
+        <translation>Réglages de tous les écrans (*.tonquil-screens)</translation>
+    </message>
+    <message>
+        <source>Open settings</source>
+        <translation>Ouvrir des réglages</translation>
+    </message>
+    <message>
+        <source>Settings and tables (*.tonquil *.tonquil-screens *.amp)</source>
+        <translation>Réglages et tables (*.tonquil *.tonquil-screens *.amp)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Save settings</source>
+        <translation>Enregistrer les réglages</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>KVAboutBox</name>
+    <message>
+        <source>%@ (%@)</source>
+        <translation>%@ (%@)</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <translation>Version %@</translation>
+    </message>
+    <message>
+        <source>About Tonquil</source>
+        <translation>À propos de Tonquil</translation>
+    </message>
+    <message>
+        <source>:/about/Credits.html</source>
+        <translation>:/about/Credits_fr.html</translation>
+    </message>
+</context>
+<context>
+    <name>KVFluxCheck</name>
+    <message>
+        <source>%@ is present on this computer.</source>
+        <translation>%@ est présent sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>[%1$@ installed, might interfer %2$@.]</source>
+        <translation>%2$@ modifie les mêmes tables de couleurs que %1$@, et chacun peut écraser ce que l’autre a défini. Quittez ou désactivez %2$@ pendant que vous utilisez %1$@.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>Panel</name>
+    <message>
+        <source>Apply correction</source>
+        <translation>Appliquer la correction</translation>
+    </message>
+    <message>
+        <source>Show panel</source>
+        <translation>Afficher le panneau</translation>
+    </message>
+    <message>
+        <source>Show targets</source>
+        <translation>Afficher les mires</translation>
+    </message>
+    <message>
+        <source>Open settings…</source>
+        <translation>Ouvrir des réglages…</translation>
+    </message>
+    <message>
+        <source>Save settings…</source>
+        <translation>Enregistrer les réglages…</translation>
+    </message>
+    <message>
+        <source>Remote configuration is on</source>
+        <translation>Configuration à distance activée</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Préférences…</translation>
+    </message>
+    <message>
+        <source>Tonquil on the web</source>
+        <translation>Tonquil sur le Web</translation>
+    </message>
+    <message>
+        <source>About calibration targets</source>
+        <translation>À propos des mires d’étalonnage</translation>
+    </message>
+    <message>
+        <source>About Tonquil</source>
+        <translation>À propos de Tonquil</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Moins</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>Focused value</source>
+        <translation>Valeur sélectionnée</translation>
+    </message>
+    <message>
+        <source>Channel strip</source>
+        <translation>Barre de canaux</translation>
+    </message>
+    <message>
+        <source>Stands for the slider of the focused control; its picker moves the focus.</source>
+        <translation>Représente le curseur du contrôle sélectionné&#xa0;; son sélecteur déplace la sélection.</translation>
+    </message>
+    <message>
+        <source>Tonquil</source>
+        <translation>Tonquil</translation>
+    </message>
+    <message>
+        <source>Which point of the curve the sliders move.</source>
+        <translation>Le point de la courbe que les curseurs déplacent.</translation>
+    </message>
+    <message>
+        <source>Transfer curves</source>
+        <translation>Courbes de transfert</translation>
+    </message>
+    <message>
+        <source>Whether the displays show their curves or their own calibration.</source>
+        <translation>Indique si les écrans montrent leurs courbes ou leur propre étalonnage.</translation>
+    </message>
+    <message>
+        <source>Reset to calibration</source>
+        <translation>Revenir à l’étalonnage</translation>
+    </message>
+    <message>
+        <source>Gives every display its own calibration back and makes the curves neutral.</source>
+        <translation>Rend à chaque écran son propre étalonnage et neutralise les courbes.</translation>
+    </message>
+    <message>
+        <source>Opens the window of test patterns to look at while the sliders move.</source>
+        <translation>Ouvre la fenêtre des mires à observer pendant que les curseurs bougent.</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Fusion</translation>
+    </message>
+    <message>
+        <source>Over calibration</source>
+        <translation>Sur l’étalonnage</translation>
+    </message>
+    <message>
+        <source>Absolute</source>
+        <translation>Absolue</translation>
+    </message>
+    <message>
+        <source>Whether the curve is laid over the display&apos;s calibration or replaces it.</source>
+        <translation>Indique si la courbe se superpose à l’étalonnage de l’écran ou le remplace.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Open recent</source>
+        <translation>Ouvrir récent</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>Advanced panel</source>
+        <translation>Panneau avancé</translation>
+    </message>
+    <message>
+        <source>Dark theme</source>
+        <translation>Thème sombre</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Milieu</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Master</source>
+        <translation>Global</translation>
+    </message>
+    <message>
+        <source>%1, %2 point</source>
+        <translation>%1, point %2</translation>
+    </message>
+    <message>
+        <source>Double-click sets the neutral value. With Shift the other colours follow.</source>
+        <translation>Un double-clic rétablit la valeur neutre. Avec Maj, les autres couleurs suivent.</translation>
+    </message>
+    <message>
+        <source>Close the panel</source>
+        <translation>Fermer le panneau</translation>
+    </message>
+    <message>
+        <source>Companions on the network may change the displays</source>
+        <translation>Les applications compagnons du réseau peuvent modifier les écrans</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>This display</source>
+        <translation>Cet écran</translation>
+    </message>
+    <message>
+        <source>All displays</source>
+        <translation>Tous les écrans</translation>
+    </message>
+    <message>
+        <source>Choose which displays are edited</source>
+        <translation>Choisir les écrans à modifier</translation>
+    </message>
+    <message>
+        <source>Edited: %1</source>
+        <translation>Modifié&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PanelSubject</name>
+    <message>
+        <source>No display</source>
+        <translation>Aucun écran</translation>
+    </message>
+    <message>
+        <source>All displays</source>
+        <translation>Tous les écrans</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message>
+        <source>Show the panel when Tonquil starts</source>
+        <translation>Afficher le panneau à l’ouverture de Tonquil</translation>
+    </message>
+    <message>
+        <source>Start Tonquil at login</source>
+        <translation>Ouvrir Tonquil à la connexion</translation>
+    </message>
+    <message>
+        <source>Correct the displays as soon as Tonquil starts</source>
+        <translation>Corriger les écrans dès l’ouverture de Tonquil</translation>
+    </message>
+    <message>
+        <source>Apply the curves again every few seconds</source>
+        <translation>Réappliquer les courbes toutes les quelques secondes</translation>
+    </message>
+    <message>
+        <source>Show sliders for the single channels</source>
+        <translation>Afficher les curseurs de chaque canal</translation>
+    </message>
+    <message>
+        <source>Show the channel strip</source>
+        <translation>Afficher la barre de canaux</translation>
+    </message>
+    <message>
+        <source>Show hints under targets</source>
+        <translation>Afficher les conseils sous les mires</translation>
+    </message>
+    <message>
+        <source>Dark theme</source>
+        <translation>Thème sombre</translation>
+    </message>
+    <message>
+        <source>The display under the panel</source>
+        <translation>L’écran sous le panneau</translation>
+    </message>
+    <message>
+        <source>All displays</source>
+        <translation>Tous les écrans</translation>
+    </message>
+    <message>
+        <source>Shows the panel</source>
+        <translation>Affiche le panneau</translation>
+    </message>
+    <message>
+        <source>Switches the correction on or off</source>
+        <translation>Active ou désactive la correction</translation>
+    </message>
+    <message>
+        <source>Show Tonquil in:</source>
+        <translation>Afficher Tonquil dans&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The task bar</source>
+        <translation>La barre des tâches</translation>
+    </message>
+    <message>
+        <source>The status area</source>
+        <translation>La zone d’état</translation>
+    </message>
+    <message>
+        <source>Switch the correction on or off</source>
+        <translation>Activer ou désactiver la correction</translation>
+    </message>
+    <message>
+        <source>Show the panel under the pointer</source>
+        <translation>Afficher le panneau sous le pointeur</translation>
+    </message>
+    <message>
+        <source>Let companions on the local network read and set the curves</source>
+        <translation>Autoriser les applications compagnons du réseau local à lire et à modifier les courbes</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Edits change:</source>
+        <translation>Les modifications s’appliquent à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Starting Tonquil again:</source>
+        <translation>Une nouvelle ouverture de Tonquil&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Remote</source>
+        <translation>À distance</translation>
+    </message>
+</context>
+<context>
+    <name>Problem</name>
+    <message>
+        <source>The panel is on no display. Move it onto one.</source>
+        <translation>Le panneau n’est sur aucun écran. Placez-le sur l’un d’eux.</translation>
+    </message>
+    <message>
+        <source>There is no display that could be corrected.</source>
+        <translation>Il n’y a aucun écran à corriger.</translation>
+    </message>
+    <message>
+        <source>No such display</source>
+        <translation>Écran introuvable</translation>
+    </message>
+    <message>
+        <source>No display with the reference ID %@ is attached. tonquilctl displays lists them.</source>
+        <translation>Aucun écran portant l’identifiant de référence %@ n’est connecté. «&#xa0;tonquilctl displays&#xa0;» en donne la liste.</translation>
+    </message>
+    <message>
+        <source>The file was not opened</source>
+        <translation>Le fichier n’a pas été ouvert</translation>
+    </message>
+    <message>
+        <source>No Matching Screens</source>
+        <translation>Aucun écran correspondant</translation>
+    </message>
+    <message>
+        <source>Settings from this file apply to different screens than those available on this computer.</source>
+        <translation>Les réglages de ce fichier s’appliquent à d’autres écrans que ceux de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>It holds neither settings nor a whole table of 768 bytes. Nothing has been changed.</source>
+        <translation>Il ne contient ni réglages ni table complète de 768 octets. Rien n’a été modifié.</translation>
+    </message>
+    <message>
+        <source>Saving failed</source>
+        <translation>Échec de l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Could not save settings at this location.</source>
+        <translation>Impossible d’enregistrer les réglages à cet emplacement.</translation>
+    </message>
+    <message>
+        <source>The file name is empty or has a NUL in it.</source>
+        <translation>Le nom du fichier est vide ou contient un caractère NUL.</translation>
+    </message>
+    <message>
+        <source>This key combination already does something else in Tonquil.</source>
+        <translation>Ce raccourci a déjà une autre fonction dans Tonquil.</translation>
+    </message>
+    <message>
+        <source>This is a Wayland session, whose displays cannot be corrected yet.</source>
+        <translation>Ceci est une session Wayland, dont les écrans ne peuvent pas encore être corrigés.</translation>
+    </message>
+    <message>
+        <source>Key combinations for all programs are not available on this desktop.</source>
+        <translation>Les raccourcis globaux ne sont pas disponibles sur ce bureau.</translation>
+    </message>
+    <message>
+        <source>This display has no gamma ramp.</source>
+        <translation>Cet écran n’a pas de table gamma.</translation>
+    </message>
+    <message>
+        <source>There is no X server to talk to: DISPLAY is not set.</source>
+        <translation>Aucun serveur X n’est accessible&#xa0;: DISPLAY n’est pas défini.</translation>
+    </message>
+    <message>
+        <source>The X server has no screen.</source>
+        <translation>Le serveur X n’a pas d’écran.</translation>
+    </message>
+    <message>
+        <source>The X server has no RandR extension, so its displays cannot be corrected.</source>
+        <translation>Le serveur X n’a pas l’extension RandR&#xa0;; ses écrans ne peuvent donc pas être corrigés.</translation>
+    </message>
+    <message>
+        <source>The X server&apos;s RandR extension is older than 1.3, so its displays cannot be corrected.</source>
+        <translation>L’extension RandR du serveur X est antérieure à la version 1.3&#xa0;; ses écrans ne peuvent donc pas être corrigés.</translation>
+    </message>
+    <message>
+        <source>This X server only draws into a Wayland desktop: setting its gamma ramps changes nothing.</source>
+        <translation>Ce serveur X ne fait que dessiner dans un bureau Wayland&#xa0;: modifier ses tables gamma ne change rien.</translation>
+    </message>
+    <message>
+        <source>This key cannot be part of a key combination for all programs.</source>
+        <translation>Cette touche ne peut pas faire partie d’un raccourci global.</translation>
+    </message>
+    <message>
+        <source>The keyboard has no such modifier key for a key combination.</source>
+        <translation>Le clavier n’a pas cette touche de modification pour un raccourci.</translation>
+    </message>
+    <message>
+        <source>Tonquil itself already uses this key combination.</source>
+        <translation>Tonquil utilise déjà ce raccourci.</translation>
+    </message>
+    <message>
+        <source>Another program already uses this key combination.</source>
+        <translation>Un autre programme utilise déjà ce raccourci.</translation>
+    </message>
+    <message>
+        <source>The X server has no such key, so it cannot be part of a key combination.</source>
+        <translation>Le serveur X ne connaît pas cette touche&#xa0;; elle ne peut donc pas faire partie d’un raccourci.</translation>
+    </message>
+    <message>
+        <source>The X server refuses this key combination.</source>
+        <translation>Le serveur X refuse ce raccourci.</translation>
+    </message>
+    <message>
+        <source>The X server has gone, so no key combination can be set.</source>
+        <translation>Le serveur X n’est plus là&#xa0;; aucun raccourci ne peut être défini.</translation>
+    </message>
+    <message>
+        <source>The property list is damaged.</source>
+        <translation>La liste de propriétés est endommagée.</translation>
+    </message>
+    <message>
+        <source>The property list is too large or too deeply nested.</source>
+        <translation>La liste de propriétés est trop volumineuse ou trop imbriquée.</translation>
+    </message>
+    <message>
+        <source>This is not a property list.</source>
+        <translation>Ceci n’est pas une liste de propriétés.</translation>
+    </message>
+    <message>
+        <source>The property list is too large.</source>
+        <translation>La liste de propriétés est trop volumineuse.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to read the property list.</source>
+        <translation>La mémoire est insuffisante pour lire la liste de propriétés.</translation>
+    </message>
+    <message>
+        <source>This property list holds no settings.</source>
+        <translation>Cette liste de propriétés ne contient pas de réglages.</translation>
+    </message>
+</context>
+<context>
+    <name>Targets</name>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Greyscale</source>
+        <translation>Niveaux de gris</translation>
+    </message>
+    <message>
+        <source>Targets</source>
+        <translation>Mires</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>Mire</translation>
+    </message>
+    <message>
+        <source>From a little way off, the striped quarters of each coloured square should look as bright as the plain ones.</source>
+        <translation>Vus d’un peu loin, les quarts rayés de chaque carré coloré doivent paraître aussi clairs que les quarts unis.</translation>
+    </message>
+    <message>
+        <source>Every step should stand out from the next, down to black and up to white, and no grey should look tinted.</source>
+        <translation>Chaque palier doit se distinguer du suivant, jusqu’au noir et jusqu’au blanc, et aucun gris ne doit paraître teinté.</translation>
+    </message>
+</context>
+<context>
+    <name>tonquil::DDHotKeyTextField</name>
+    <message>
+        <source>Type a shortcut</source>
+        <translation>Tapez un raccourci</translation>
+    </message>
+</context>
+<context>
+    <name>tonquil::HotKeyClearButton</name>
+    <message>
+        <source>Clear shortcut</source>
+        <translation>Effacer le raccourci</translation>
+    </message>
+</context>
+</TS>
