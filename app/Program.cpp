@@ -100,7 +100,6 @@ int Program::run(const std::vector<Request>& requests) {
     if (_controller->hasTerminated()) {
         return EXIT_SUCCESS;
     }
-    _isLaunched = true;
     const SessionRestoration session(*_controller, sessionStorage());
     session.restore();
     _desktopAppearance.start([this](const DesktopAppearance::Settings& settings) {
@@ -114,19 +113,24 @@ int Program::run(const std::vector<Request>& requests) {
     auto others = requests;
     std::erase(others, Request{});
     carryOut(others, *_controller);
+    _isLaunched = true;
+    carryOut(std::exchange(_requestsBeforeLaunch, {}), *_controller);
     return QCoreApplication::exec();
 }
 
 std::string Program::answer(const std::string& text) {
-    // A person may be asked something before the start is over.
-    if (!_isLaunched) {
-        return "Tonquil is still starting.";
-    }
     const auto requests = requestsFromText(text);
     if (!requests) {
         return requests.error().sentence;
     }
-    carryOut(*requests, *_controller);
+    // A question that the start asks may wait for its answer for long; until then there are
+    // neither defaults nor curves.
+    if (_isLaunched || wantsEnd(*requests)) {
+        carryOut(*requests, *_controller);
+    } else {
+        _requestsBeforeLaunch.insert(_requestsBeforeLaunch.end(), requests->begin(),
+                                     requests->end());
+    }
     return {};
 }
 

@@ -76,6 +76,8 @@ class Program {
     std::unique_ptr<DDHotKeyCenter> _hotKeys;
     std::unique_ptr<TQController> _controller;
     bool _isLaunched = false;
+    /// What was asked before that, in order.
+    std::vector<Request> _requestsBeforeLaunch;
 };
 
 }  // namespace tonquil

@@ -209,6 +209,10 @@ Result<std::vector<Request>> requestsFromText(std::string_view text) {
     return requests;
 }
 
+bool wantsEnd(const std::vector<Request>& requests) {
+    return std::ranges::find(requests, Request{.kind = Request::Kind::Quit}) != requests.end();
+}
+
 void carryOut(const std::vector<Request>& requests, TQController& controller) {
     for (const Request& request : requests) {
         switch (request.kind) {

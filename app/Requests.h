@@ -59,6 +59,8 @@ struct CommandLine {
 [[nodiscard]] std::string textFromRequests(const std::vector<Request>& requests);
 [[nodiscard]] Result<std::vector<Request>> requestsFromText(std::string_view text);
 
+/// Whether the program's end is among them.
+[[nodiscard]] bool wantsEnd(const std::vector<Request>& requests);
 /// Does what was asked.
 void carryOut(const std::vector<Request>& requests, TQController& controller);
 

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QLocale>
 #include <QStyleHints>
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -78,7 +77,7 @@ int runFirstOrHandOver(const std::vector<Request>& requests) {
     if (*listener == nullptr) {
         return handOver(socket, requests);
     }
-    if (std::ranges::find(requests, Request{.kind = Request::Kind::Quit}) != requests.end()) {
+    if (wantsEnd(requests)) {
         return EXIT_SUCCESS;
     }
     Program first(*folders);
