@@ -43,7 +43,8 @@ function(tonquil_folder folder)
         target_link_libraries(${name} PRIVATE ${arg_PRIVATE_LINKS})
     endif()
 
-    if(header_checks AND TONQUIL_TESTS)
+    # Once is enough: the preset without sanitizers does it.
+    if(header_checks AND TONQUIL_TESTS AND NOT TONQUIL_SANITIZE)
         add_library(${name}_headers OBJECT ${header_checks})
         target_link_libraries(${name}_headers PRIVATE ${name})
     endif()

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QUrl>
+#include <map>
 
 #include "app/SettingsKeys.h"
 #include "app/WindowFrame.h"
@@ -20,10 +21,11 @@ namespace {
 
 // Addresses are texts like others: a language may have pages of its own.
 QUrl addressOf(std::string_view key) {
-    const char* const own = key == "TQBoardWebSite" ? TONQUIL_BOARD_WEB_SITE : TONQUIL_WEB_SITE;
+    static const std::map<std::string_view, const char*> ownAddresses{
+        {"TQWebSite", TONQUIL_WEB_SITE}, {"TQBoardWebSite", TONQUIL_BOARD_WEB_SITE}};
     const QString keyText = QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
     const QString text = QCoreApplication::translate("WebSites", keyText.toUtf8().constData());
-    return QUrl(text == keyText ? QString::fromUtf8(own) : text);
+    return {text == keyText ? QString::fromUtf8(ownAddresses.at(key)) : text};
 }
 
 }  // namespace
