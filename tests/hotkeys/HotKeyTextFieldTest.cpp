@@ -15,23 +15,12 @@
 
 #include "hotkeys/VirtualKeys.h"
 #include "hotkeys/field/DDHotKeyTextField.h"
-#include "hotkeys/field/DDHotKeyTextFieldCell.h"
-#include "hotkeys/field/DDHotKeyTextFieldEditor.h"
 #include "tests/hotkeys/TableLayout.h"
 
 namespace tonquil {
 namespace {
 
 using testing::ElementsAre;
-
-std::vector<std::string>& warnings() {
-    static std::vector<std::string> lines;
-    return lines;
-}
-
-void keepWarning(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& line) {
-    warnings().push_back(line.toStdString());
-}
 
 struct Key {
     std::uint32_t evdevCode;
@@ -56,7 +45,6 @@ constexpr Key printScreen{KEY_SYSRQ, Qt::Key_Print};
 class HotKeyTextFieldTest : public testing::Test {
  protected:
     void SetUp() override {
-        warnings().clear();
         auto* const column = new QVBoxLayout(&window);
         column->addWidget(other);
         column->addWidget(field);
@@ -99,9 +87,6 @@ class HotKeyTextFieldTest : public testing::Test {
         told.clear();
     }
     [[nodiscard]] std::string shown() const { return field->text().toStdString(); }
-    [[nodiscard]] QAbstractButton* clearButton() const {
-        return field->findChild<QAbstractButton*>();
-    }
 
     std::vector<std::string> told;
     TableLayout layout;
@@ -130,6 +115,8 @@ TEST_F(HotKeyTextFieldTest, RecordsACombinationAndThenEnds) {
         {escape, Qt::AltModifier, 53, ModifierFlag::option, "⌥⎋"},
         {backspace, Qt::ControlModifier, 51, ModifierFlag::control, "⌃⌫"},
     };
+    std::size_t calls = 0;
+    field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, 0, [&](const HotKeyEvent&) { ++calls; }));
     for (const Row& row : rows) {
         SCOPED_TRACE(row.shown);
         record();
@@ -141,8 +128,10 @@ TEST_F(HotKeyTextFieldTest, RecordsACombinationAndThenEnds) {
         EXPECT_EQ(shown(), row.shown);
         EXPECT_THAT(told, ElementsAre("changed", "ended"));
         EXPECT_FALSE(field->hasFocus());
+        field->hotKey()->invokeWithEvent({});
         release(row.key, row.held);
     }
+    EXPECT_EQ(calls, rows.size()) << "the task goes on from one to the next";
 }
 
 TEST_F(HotKeyTextFieldTest, TakesOtherKeysWithoutAModifierAndGoesOn) {
@@ -188,20 +177,10 @@ TEST_F(HotKeyTextFieldTest, EscapePutsBackWhatTheRecordingBeganWith) {
     field->setHotKey(former);
     record();
     field->setHotKey(DDHotKey::hotKeyWithKeyCode(12, ModifierFlag::shift, {}));
-    EXPECT_EQ(shown(), "⇧Q");
     press(escape);
     EXPECT_EQ(field->hotKey(), former);
     EXPECT_EQ(shown(), "⌘A");
     EXPECT_THAT(told, ElementsAre("changed", "ended"));
-}
-
-TEST_F(HotKeyTextFieldTest, ARecordedHotKeyKeepsTheTaskOfTheOneBefore) {
-    int calls = 0;
-    field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, 0, [&](const HotKeyEvent&) { ++calls; }));
-    record();
-    press(q, Qt::AltModifier);
-    field->hotKey()->invokeWithEvent({});
-    EXPECT_EQ(calls, 1);
 }
 
 TEST_F(HotKeyTextFieldTest, AKeyThatIsStillHeldAfterTheRecordingRunsNoShortcut) {
@@ -230,50 +209,15 @@ TEST_F(HotKeyTextFieldTest, DoesNotRecordBecauseItsWindowComesToTheFront) {
     EXPECT_THAT(told, ElementsAre("began"));
 }
 
-TEST_F(HotKeyTextFieldTest, RewritesItsTextForAnotherObjectOnly) {
-    const auto hotKey = DDHotKey::hotKeyWithKeyCode(0, ModifierFlag::command, {});
-    field->setHotKey(hotKey);
-    field->setStringValue(QStringLiteral("something"));
-    field->setHotKey(hotKey);
-    EXPECT_EQ(field->stringValue(), QStringLiteral("something"));
-    field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, ModifierFlag::command, {}));
-    EXPECT_EQ(shown(), "⌘A");
-    field->setHotKey(nullptr);
-    EXPECT_EQ(shown(), "A");
-    EXPECT_THAT(told, ElementsAre()) << "what the program sets it knows";
-}
-
-TEST_F(HotKeyTextFieldTest, WarnsOfItsTextBeingTakenForItsValue) {
-    auto* const former = qInstallMessageHandler(keepWarning);
-    field->setStringValue(QStringLiteral("x"));
-    EXPECT_EQ(field->stringValue(), QStringLiteral("x"));
-    field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, 0, {}));
-    qInstallMessageHandler(former);
-    EXPECT_THAT(warnings(),
-                ElementsAre("-[DDHotKeyTextField setStringValue:] is not what you want. Use "
-                            "-[DDHotKeyTextField setHotKey:] instead.",
-                            "-[DDHotKeyTextField stringValue] is not what you want. Use "
-                            "-[DDHotKeyTextField hotKey] instead."));
-}
-
 TEST_F(HotKeyTextFieldTest, TheCrossTakesTheHotKeyAway) {
-    EXPECT_FALSE(clearButton()->isVisible());
+    auto* const cross = field->findChild<QAbstractButton*>();
     field->setHotKey(DDHotKey::hotKeyWithKeyCode(0, ModifierFlag::command, {}));
-    EXPECT_TRUE(clearButton()->isVisible());
+    EXPECT_TRUE(cross->isVisible());
     record();
-    clearButton()->click();
+    cross->click();
     EXPECT_EQ(field->hotKey(), nullptr);
     EXPECT_THAT(told, ElementsAre("changed", "ended"));
-    EXPECT_FALSE(clearButton()->isVisible());
-}
-
-TEST_F(HotKeyTextFieldTest, AllFieldsShareOneEditorAndOtherWidgetsGetNone) {
-    DDHotKeyTextField second(layout);
-    auto* const editor = DDHotKeyTextFieldCell::fieldEditorForView(field);
-    EXPECT_EQ(DDHotKeyTextFieldCell::fieldEditorForView(&second), editor);
-    EXPECT_EQ(editor->hotKeyField(), &second);
-    EXPECT_EQ(DDHotKeyTextFieldCell::fieldEditorForView(other), nullptr);
-    editor->setHotKeyField(nullptr);
+    EXPECT_FALSE(cross->isVisible());
 }
 
 TEST_F(HotKeyTextFieldTest, AFieldThatGoesWhileItRecordsLetsTheKeysGo) {

@@ -40,12 +40,5 @@ TEST(KeyCombinationString, IsTheModifiersInTheirOrderAndThenTheKey) {
     }
 }
 
-TEST(KeyCombinationString, FollowsTheLayoutFromCallToCall) {
-    TableLayout layout;
-    EXPECT_EQ(keyCombinationString(0, ModifierFlag::control, layout), "⌃a");
-    layout.set(0, "ф");
-    EXPECT_EQ(keyCombinationString(0, ModifierFlag::control, layout), "⌃ф");
-}
-
 }  // namespace
 }  // namespace tonquil

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "targets/ColorTargetLayout.h"
-#include "targets/GrayscaleTargetLayout.h"
 #include "targets/RampSteps.h"
 #include "targets/TQColorPatternArea.h"
 #include "targets/TQColorRamp.h"
@@ -32,19 +31,6 @@ TEST(RampStepsTest, AreNarrowInTheMiddleAndWideAtTheEnds) {
     EXPECT_EQ(rampStepBoundary(8, 0, 3), 2) << "half a point is rounded up";
 }
 
-TEST(ColorTargetLayoutTest, PutsSmoothRampsAboveTheSquaresAndSteppedOnesBelow) {
-    const auto layout = ColorTargetLayout::forSize(1000, 700);
-    EXPECT_EQ(layout.squareGray, (PatternFrame{51, 273, 155, 155}));
-    EXPECT_EQ(layout.squareRed, (PatternFrame{237, 273, 155, 155}));
-    EXPECT_EQ(layout.squareGreen, (PatternFrame{423, 273, 155, 155}));
-    EXPECT_EQ(layout.squareBlue, (PatternFrame{609, 273, 155, 155}));
-    EXPECT_EQ(layout.squareBW, (PatternFrame{795, 273, 155, 155}));
-    EXPECT_EQ(layout.rampColorSmooth, (PatternFrame{51, 568, 899, 93}));
-    EXPECT_EQ(layout.rampGraySmooth, (PatternFrame{51, 459, 899, 78}));
-    EXPECT_EQ(layout.rampGray, (PatternFrame{51, 164, 899, 78}));
-    EXPECT_EQ(layout.rampColor, (PatternFrame{51, 40, 899, 93}));
-}
-
 TEST(ColorTargetLayoutTest, RoundsItsUnitDownAndItsSquaresToFours) {
     struct Row {
         double width;
@@ -57,17 +43,6 @@ TEST(ColorTargetLayoutTest, RoundsItsUnitDownAndItsSquaresToFours) {
         SCOPED_TRACE(row.width);
         EXPECT_EQ(ColorTargetLayout::forSize(row.width, row.height).squareGray, row.first);
     }
-}
-
-TEST(GrayscaleTargetLayoutTest, KeepsAMarginAndRoundsItsUnitToTheNearest) {
-    // The unit is 29, of 28.75.
-    const auto layout = GrayscaleTargetLayout::forSize(1000, 700);
-    const std::array<double, 5> columns = {80, 254, 428, 602, 776};
-    for (std::size_t box = 0; box < columns.size(); ++box) {
-        EXPECT_EQ(layout.middleBoxes.at(box), (PatternFrame{columns.at(box), 315.25, 145, 72.5}));
-    }
-    EXPECT_EQ(layout.rampGrayFlipped, (PatternFrame{80, 453, 841, 174}));
-    EXPECT_EQ(layout.rampGray, (PatternFrame{80, 76, 841, 174}));
 }
 
 TEST(ColorPatternAreaTest, PlacesItsPiecesWheneverItsSizeChanges) {
@@ -88,15 +63,6 @@ TEST(ColorPatternAreaTest, PlacesItsPiecesWheneverItsSizeChanges) {
         area.resize(tiny);
         EXPECT_TRUE(area.squareGray()->size().isEmpty());
     }
-}
-
-TEST(ColorPatternAreaTest, MovesNothingWithoutItsSmoothGrayRamp) {
-    TQColorPatternArea area;
-    area.show();
-    area.resize(1000, 700);
-    delete area.rampGraySmooth();
-    area.resize(500, 400);
-    EXPECT_EQ(area.squareGray()->geometry(), QRect(51, 272, 155, 155));
 }
 
 TEST(GrayscalePatternAreaTest, PlacesItsRampsWheneverItsSizeChanges) {

@@ -131,16 +131,6 @@ TEST_F(NumericFieldTest, StepsByTheArrowKeysAndShowsTheLimitWhenTheSliderIsDrawn
     EXPECT_THAT(sent, ElementsAre(1, 0.49F));
 }
 
-TEST_F(NumericFieldTest, LeavesArrowKeysWithModifiersToTheEditing) {
-    for (const auto modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
-        pressKey(*field, Qt::Key_Up, modifier | Qt::ShiftModifier);
-    }
-    EXPECT_THAT(sent, ElementsAre());
-    pressKey(*field, Qt::Key_Up, Qt::ShiftModifier);
-    pressKey(*field, Qt::Key_Down, Qt::ShiftModifier | Qt::KeypadModifier);
-    EXPECT_THAT(sent, ElementsAre(0.51F, 0.5F));
-}
-
 TEST_F(NumericFieldTest, IsHeardByItsOwnSliderOnly) {
     TQSlider stranger;
     stranger.setAction([](TQSlider&) { FAIL() << "A stranger's field was heard."; });
@@ -174,13 +164,6 @@ TEST_F(NumericFieldTest, LeavesUndoAndEscapeToTheWindowUnlessSomethingWasTyped) 
     typeOver(*field, QStringLiteral("0.7"));
     EXPECT_TRUE(isTaken(Qt::Key_Z, Qt::ControlModifier));
     EXPECT_TRUE(isTaken(Qt::Key_Escape, Qt::NoModifier));
-}
-
-TEST_F(NumericFieldTest, ShowsNoSignOnAZero) {
-    field->setFloatValue(-0.0001F);
-    EXPECT_EQ(shown(), "0.000");
-    field->setFloatValue(-0.25F);
-    EXPECT_EQ(shown(), "-0.250");
 }
 
 }  // namespace
