@@ -17,8 +17,6 @@ struct EdidDescription {
     /// At most 13 characters; what is longer is cut, as the format has no room for more.
     std::optional<std::string> serialText = std::nullopt;
     std::optional<std::string> name = std::nullopt;
-    std::uint8_t widthCentimetres = 60;
-    std::uint8_t heightCentimetres = 34;
 };
 
 /// The 128 bytes of a valid EDID 1.4 base block, with its checksum.

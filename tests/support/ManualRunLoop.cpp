@@ -39,35 +39,25 @@ class ManualRunLoop::EntryHandle final : public Handle {
     std::shared_ptr<Entry> _entry;
 };
 
-std::unique_ptr<RunLoop::Handle> ManualRunLoop::add(Entries& entries,
-                                                    std::shared_ptr<Entry> entry) {
-    entry->order = _order++;
-    entries.push_back(entry);
-    return std::make_unique<EntryHandle>(std::move(entry));
+std::unique_ptr<RunLoop::Handle> ManualRunLoop::add(Entries& entries, Entry entry) {
+    entry.order = _order++;
+    entries.push_back(std::make_shared<Entry>(std::move(entry)));
+    return std::make_unique<EntryHandle>(entries.back());
 }
 
 std::unique_ptr<RunLoop::Handle> ManualRunLoop::callOnce(std::chrono::milliseconds delay,
                                                          Call call) {
-    auto entry = std::make_shared<Entry>();
-    entry->call = std::move(call);
-    entry->due = _now + std::max(delay, std::chrono::milliseconds::zero());
-    return add(_timers, std::move(entry));
+    return add(_timers, {.call = std::move(call), .due = _now + std::max(delay, {})});
 }
 
 std::unique_ptr<RunLoop::Handle> ManualRunLoop::callRepeatedly(std::chrono::milliseconds interval,
                                                                Call call) {
-    auto entry = std::make_shared<Entry>();
-    entry->call = std::move(call);
-    entry->interval = std::max(interval, std::chrono::milliseconds(1));
-    entry->due = _now + entry->interval;
-    return add(_timers, std::move(entry));
+    const auto least = std::max(interval, std::chrono::milliseconds(1));
+    return add(_timers, {.call = std::move(call), .due = _now + least, .interval = least});
 }
 
 std::unique_ptr<RunLoop::Handle> ManualRunLoop::watchReadable(int descriptor, Call call) {
-    auto entry = std::make_shared<Entry>();
-    entry->call = std::move(call);
-    entry->descriptor = descriptor;
-    return add(_watches, std::move(entry));
+    return add(_watches, {.call = std::move(call), .descriptor = descriptor});
 }
 
 void ManualRunLoop::post(Call call) {

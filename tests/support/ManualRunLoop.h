@@ -50,7 +50,7 @@ class ManualRunLoop final : public RunLoop {
     class EntryHandle;
     using Entries = std::vector<std::shared_ptr<Entry>>;
 
-    std::unique_ptr<Handle> add(Entries& entries, std::shared_ptr<Entry> entry);
+    std::unique_ptr<Handle> add(Entries& entries, Entry entry);
     std::shared_ptr<Entry> nextTimer(Clock::time_point end);
     static void call(Entry& entry);
     static void removeEnded(Entries& entries);

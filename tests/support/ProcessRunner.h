@@ -25,9 +25,6 @@ struct ProcessRequest {
     std::map<std::string, std::string> environment = {};
     /// Names taken out of the environment.
     std::vector<std::string> unset = {};
-    std::string standardInput = {};
-    /// Given to the program as its descriptor 3.
-    std::optional<int> thirdDescriptor = {};
     /// How long `run` waits before it kills the program.
     std::chrono::milliseconds limit = std::chrono::seconds(60);
 };
@@ -47,7 +44,7 @@ struct ProcessResult {
 /// A program running beside this one; it is killed with this object or with this program.
 class BackgroundProcess {
  public:
-    /// Fails when the program cannot be run at all.
+    /// A program that cannot be run ends with 127.
     [[nodiscard]] static Result<std::unique_ptr<BackgroundProcess>> start(
         const ProcessRequest& request);
     ~BackgroundProcess();
@@ -70,12 +67,10 @@ class BackgroundProcess {
     [[nodiscard]] bool waitForOutput(std::string_view text, std::chrono::milliseconds limit);
 
  private:
-    BackgroundProcess(pid_t pid, FileDescriptor handle, FileDescriptor output,
-                      FileDescriptor error);
+    BackgroundProcess(pid_t pid, FileDescriptor output, FileDescriptor error);
     [[nodiscard]] ProcessResult result() const;
 
     pid_t _pid;
-    FileDescriptor _handle;
     FileDescriptor _output;
     FileDescriptor _error;
     std::optional<int> _status;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <ostream>
 #include <vector>
@@ -18,7 +19,13 @@ struct Ramp {
     bool operator==(const Ramp& other) const = default;
 };
 
-/// Prints a handful of entries, which is what a failing test shows.
-std::ostream& operator<<(std::ostream& stream, const Ramp& ramp);
+/// Prints a handful of entries of red, which is what a failing test shows.
+inline std::ostream& operator<<(std::ostream& stream, const Ramp& ramp) {
+    stream << ramp.red.size() << " entries:";
+    for (std::size_t index = 0; index < ramp.red.size(); index += 1 + ramp.red.size() / 4) {
+        stream << " [" << index << "] " << ramp.red[index];
+    }
+    return stream;
+}
 
 }  // namespace tonquil

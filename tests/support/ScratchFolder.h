@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
+#include <string>
+#include <system_error>
+#include <utility>
 
 namespace tonquil {
 
@@ -9,9 +14,19 @@ namespace tonquil {
 class ScratchFolder {
  public:
     /// Ends the program if the system's folder for temporary files cannot be written.
-    ScratchFolder();
-    ~ScratchFolder();
-    ScratchFolder(ScratchFolder&& other) noexcept;
+    ScratchFolder() {
+        auto pattern = (std::filesystem::temp_directory_path() / "tonquil-XXXXXX").string();
+        if (mkdtemp(pattern.data()) == nullptr) {
+            std::perror("No scratch folder can be made");
+            std::abort();
+        }
+        _path = pattern;
+    }
+    ~ScratchFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(_path, ignored);
+    }
+    ScratchFolder(ScratchFolder&& other) noexcept : _path(std::exchange(other._path, {})) {}
     ScratchFolder& operator=(ScratchFolder&& other) = delete;
 
     [[nodiscard]] const std::filesystem::path& path() const { return _path; }

@@ -1,17 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/XServer.h"
 
-#include <fcntl.h>
-#include <poll.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <array>
-#include <cerrno>
 #include <chrono>
 #include <fstream>
-#include <optional>
-#include <sstream>
 #include <system_error>
 #include <utility>
 
@@ -56,44 +48,20 @@ constexpr const char* serverProgram = "/usr/lib/xorg/Xorg";
 
 std::vector<std::string> commandFor(const XServer::Options& options,
                                     const std::filesystem::path& folder) {
-    std::vector<std::string> command;
-    if (options.framebufferOnly) {
-        command = {"Xvfb", "-screen", "0", "1280x1024x24"};
-    } else {
-        command = {serverProgram,        "-novtswitch", "-sharevts",        "-config",
-                   folder / "xorg.conf", "-logfile",    folder / "xorg.log"};
-    }
+    // The display's number comes through descriptor 3 as the first output.
+    std::vector<std::string> command{"sh", "-c", "exec \"$@\" 3>&1", "sh"};
+    const std::vector<std::string> dummy{serverProgram,      "-novtswitch",        "-sharevts",
+                                         "-config",          folder / "xorg.conf", "-logfile",
+                                         folder / "xorg.log"};
+    const std::vector<std::string> framebuffer{"Xvfb", "-screen", "0", "1280x1024x24"};
+    const auto& own = options.framebufferOnly ? framebuffer : dummy;
+    command.insert(command.end(), own.begin(), own.end());
     // Without -noreset the server would forget everything when its last client leaves.
     const std::vector<std::string> common{"-displayfd", "3",          "-noreset", "-nolisten",
                                           "tcp",        "+extension", "RANDR"};
     command.insert(command.end(), common.begin(), common.end());
     command.insert(command.end(), options.arguments.begin(), options.arguments.end());
     return command;
-}
-
-// The line that the server writes once it listens; nothing when it ends before that.
-std::optional<std::string> readLine(const FileDescriptor& descriptor, milliseconds limit) {
-    const auto deadline = std::chrono::steady_clock::now() + limit;
-    std::string line;
-    while (true) {
-        const auto rest =
-            std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now());
-        pollfd readable{descriptor.get(), POLLIN, 0};
-        if (rest.count() <= 0 || poll(&readable, 1, static_cast<int>(rest.count())) == 0) {
-            return std::nullopt;
-        }
-        char letter = 0;
-        const auto count = read(descriptor.get(), &letter, 1);
-        if (count == 0 || (count < 0 && errno != EINTR)) {
-            return std::nullopt;
-        }
-        if (count == 1 && letter == '\n') {
-            return line;
-        }
-        if (count == 1) {
-            line.push_back(letter);
-        }
-    }
 }
 
 bool answers(const std::string& display) {
@@ -130,26 +98,16 @@ Result<std::unique_ptr<XServer>> XServer::start(const Options& options) {
 Result<std::unique_ptr<XServer>> XServer::startOnce(const Options& options) {
     ScratchFolder folder;
     std::ofstream(folder.path() / "xorg.conf") << configuration;
-    std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) {
-        return problem("The X server cannot be started.", "No pipe can be made.");
-    }
-    const FileDescriptor readEnd(ends[0]);
-    FileDescriptor writeEnd(ends[1]);
-    ProcessRequest request;
-    request.command = commandFor(options, folder.path());
-    request.thirdDescriptor = writeEnd.get();
-    auto process = BackgroundProcess::start(request);
+    auto process = BackgroundProcess::start({.command = commandFor(options, folder.path())});
     if (!process) {
         return tl::unexpected(process.error());
     }
-    writeEnd.close();
-    const auto number = readLine(readEnd, startLimit);
-    if (!number) {
+    if (!(*process)->waitForOutput("\n", startLimit)) {
         return problem("The X server does not start.", (*process)->kill().standardError);
     }
-    return std::unique_ptr<XServer>(
-        new XServer(std::move(folder), std::move(*process), ":" + *number));
+    const std::string output = (*process)->standardOutput();
+    return std::unique_ptr<XServer>(new XServer(std::move(folder), std::move(*process),
+                                                ":" + output.substr(0, output.find('\n'))));
 }
 
 Result<void> XServer::plug(const std::string& connector, const std::string& mode) {
@@ -236,11 +194,7 @@ Result<std::string> XServer::xrandr(const std::vector<std::string>& arguments) c
     }
     // It reports some failures, such as an output it does not know, on standard error alone.
     if (!result->succeeded() || result->standardError.find("not found") != std::string::npos) {
-        std::ostringstream command;
-        for (const auto& argument : request.command) {
-            command << argument << ' ';
-        }
-        return problem("The command " + command.str() + "fails.", result->standardError);
+        return problem("xrandr " + arguments.front() + " fails.", result->standardError);
     }
     return result->standardOutput;
 }

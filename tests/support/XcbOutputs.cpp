@@ -7,25 +7,11 @@
 
 namespace tonquil {
 
-namespace {
-
-xcb_screen_t* screenAt(xcb_connection_t* connection, int number) {
-    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
-    while (number > 0 && screens.rem > 1) {
-        xcb_screen_next(&screens);
-        --number;
-    }
-    return screens.rem > 0 ? screens.data : nullptr;
-}
-
-}  // namespace
-
 XcbOutputs::XcbOutputs(Connection connection, xcb_window_t root)
     : _connection(std::move(connection)), _root(root) {}
 
 Result<XcbOutputs> XcbOutputs::connect(const std::string& display) {
-    int number = 0;
-    Connection connection(xcb_connect(display.c_str(), &number));
+    Connection connection(xcb_connect(display.c_str(), nullptr));
     if (xcb_connection_has_error(connection.get()) != 0) {
         return problem("The X server " + display + " does not answer.");
     }
@@ -36,11 +22,10 @@ Result<XcbOutputs> XcbOutputs::connect(const std::string& display) {
     // A server answers with the old protocol until a client has said which version it speaks.
     const XcbReply<xcb_randr_query_version_reply_t> version(xcb_randr_query_version_reply(
         connection.get(), xcb_randr_query_version(connection.get(), 1, 5), nullptr));
-    const auto* screen = screenAt(connection.get(), number);
-    if (!version || screen == nullptr) {
+    if (!version) {
         return problem("The X server " + display + " does not answer.");
     }
-    const xcb_window_t root = screen->root;
+    const auto root = xcb_setup_roots_iterator(xcb_get_setup(connection.get())).data->root;
     return XcbOutputs(std::move(connection), root);
 }
 

@@ -20,25 +20,13 @@ constexpr const char* usage =
     "number of entries of its ramp, then entries as index, red, green and blue between tabs, from\n"
     "0 to 65535. Nine of them spread evenly, or with --full all.\n";
 
-std::vector<std::size_t> entriesToShow(std::size_t size, bool full) {
-    constexpr std::size_t steps = 8;
-    std::vector<std::size_t> indexes;
-    if (full || size <= steps) {
-        for (std::size_t index = 0; index < size; ++index) {
-            indexes.push_back(index);
-        }
-        return indexes;
-    }
-    for (std::size_t step = 0; step <= steps; ++step) {
-        indexes.push_back(step * (size - 1) / steps);
-    }
-    return indexes;
-}
-
 void print(const OutputState& output, const Ramp& ramp, bool full) {
     std::cout << output.connector << '\t' << output.width << 'x' << output.height << '\t'
               << ramp.red.size() << '\n';
-    for (const std::size_t index : entriesToShow(ramp.red.size(), full)) {
+    const std::size_t last = ramp.red.size() - 1;
+    const std::size_t steps = full || last < 8 ? last : 8;
+    for (std::size_t step = 0; step <= steps && last < ramp.red.size(); ++step) {
+        const std::size_t index = steps == 0 ? 0 : step * last / steps;
         std::cout << index << '\t' << ramp.red[index] << '\t' << ramp.green[index] << '\t'
                   << ramp.blue[index] << '\n';
     }
@@ -63,15 +51,12 @@ int printRamps(const std::vector<std::string>& connectors, bool full) {
         return fail(outputs.error().sentence);
     }
     for (const auto& connector : connectors) {
-        if (std::none_of(outputs->begin(), outputs->end(), [&](const OutputState& output) {
-                return output.connector == connector;
-            })) {
+        if (std::ranges::count(*outputs, connector, &OutputState::connector) == 0) {
             return fail("There is no lit output named " + connector + ".");
         }
     }
     for (const auto& output : *outputs) {
-        if (!connectors.empty() &&
-            std::find(connectors.begin(), connectors.end(), output.connector) == connectors.end()) {
+        if (!connectors.empty() && std::ranges::count(connectors, output.connector) == 0) {
             continue;
         }
         const auto ramp = reader->read(output.connector);

@@ -30,16 +30,11 @@ std::optional<Number> numberFrom(std::string_view text) {
     return number;
 }
 
-bool isManufacturer(std::string_view text) {
-    return text.size() == 3 && std::all_of(text.begin(), text.end(), [](char letter) {
-               return letter >= 'A' && letter <= 'Z';
-           });
-}
-
 std::optional<tonquil::EdidDescription> describe(const std::vector<std::string>& arguments) {
     const auto product = numberFrom<std::uint16_t>(arguments[2]);
     const auto serial = numberFrom<std::uint32_t>(arguments[3]);
-    if (!isManufacturer(arguments[1]) || !product || !serial) {
+    if (arguments[1].find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ") != std::string::npos ||
+        arguments[1].size() != 3 || !product || !serial) {
         return std::nullopt;
     }
     tonquil::EdidDescription description;
