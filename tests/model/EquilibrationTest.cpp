@@ -67,12 +67,6 @@ TEST(Equilibration, PassesOverWhatIsNotANumberAndDividesUnguarded) {
     EXPECT_TRUE(std::isnan(lit.blackPoint()->blueValue()));
 }
 
-TEST(Equilibration, OfTheNeutralCurveChangesNothing) {
-    TQExtendedGammaCurve curve;
-    curve._equilibrateMaster();
-    EXPECT_EQ(curve.gammaCurveCompactArray(), TQExtendedGammaCurve().gammaCurveCompactArray());
-}
-
 TEST(Equilibration, FlattensBackToTheRawPointsWhateverTheMastersWere) {
     std::mt19937 random(11);
     for (int round = 0; round < 2'000; ++round) {

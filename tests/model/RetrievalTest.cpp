@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "model/KVTableGammaCurve.h"
-#include "model/SystemCalibration.h"
 #include "model/TQExtendedGammaCurve.h"
 #include "tests/model/FakeScreen.h"
 #include "values/PropertyValue.h"
@@ -29,16 +28,12 @@ TEST(Retrieval, ReadsTheFormulaOnlyWhenTheCurveIsAbsolute) {
     }
 }
 
-TEST(Retrieval, OfANewExtendedCurveIsAlwaysNeutral) {
-    FakeScreen screen;
-    screen.formula.red = {0.1F, 0.9F, 2.2F};
-    const auto curve = TQExtendedGammaCurve::gammaCurveWithScreen(screen);
-    EXPECT_EQ(curve->gammaCurveCompactArray(), TQExtendedGammaCurve().gammaCurveCompactArray());
-}
-
 TEST(Retrieval, OfAnAbsoluteExtendedCurveSplitsTheFormulaIntoMasters) {
     FakeScreen screen;
     screen.formula = {.red = {0.1F, 0.8F, 0.9F}, .green = {0.2F, 0.9F, 1}, .blue = {0.3F, 1, 1.4F}};
+    EXPECT_EQ(TQExtendedGammaCurve::gammaCurveWithScreen(screen)->gammaCurveCompactArray(),
+              TQExtendedGammaCurve().gammaCurveCompactArray())
+        << "a new one is neutral";
     TQExtendedGammaCurve curve;
     curve.setBlendingMode(KVBlendingModeAbsolute);
     curve.retriveFromScreen(screen);
@@ -56,15 +51,6 @@ TEST(FormulaPath, SetsMinimumMaximumAndExponentPerChannel) {
     EXPECT_EQ(screen.formula, (TransferFormula{.red = {0.1F, 0.7F, 1.1F},
                                                .green = {0.2F, 0.8F, 1.2F},
                                                .blue = {0.3F, 0.9F, 1.3F}}));
-}
-
-TEST(RestoreAll, HandsOverToTheSystem) {
-    struct Counter : SystemCalibration {
-        int restored = 0;
-        void restoreSystemCalibration() override { ++restored; }
-    } counter;
-    TQExtendedGammaCurve::restoreAllGammaCurves(counter);
-    EXPECT_EQ(counter.restored, 1);
 }
 
 TEST(TableCurve, TakesTheFirst768BytesAsLevelsOf256) {
@@ -85,18 +71,6 @@ TEST(TableCurve, TakesTheFirst768BytesAsLevelsOf256) {
     }
     EXPECT_FALSE(KVTableGammaCurve::tableGammaCurveWithData(std::span(bytes).first(767)));
     EXPECT_FALSE(KVTableGammaCurve::tableGammaCurveWithData({}));
-}
-
-TEST(TableCurve, RetrievalKeepsTheSlotsThatTheDisplayDoesNotFill) {
-    GammaTable halves;
-    halves.levels.fill(0.5F);
-    KVTableGammaCurve curve(halves);
-    FakeScreen screen;
-    screen.shown.levels.fill(0.25F);
-    screen.shownSampleCount = 64;
-    curve.retriveFromScreen(screen);
-    EXPECT_EQ(curve.table().channel(1)[63], 0.25F);
-    EXPECT_EQ(curve.table().channel(1)[64], 0.5F);
 }
 
 }  // namespace

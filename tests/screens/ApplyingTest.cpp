@@ -77,16 +77,6 @@ TEST(Applying, ToAShortRampComputesForItsLength) {
     EXPECT_GT(desk.ramp(1).channel(1)[63], desk.ramp(1).channel(1)[62]);
 }
 
-TEST(Retrieving, GivesAPlainOrANeutralExtendedCurve) {
-    Desk desk(threeDisplays);
-    KVScreen& screen = *desk.registry.screens()[0];
-    screen.retriveGammaCurve();
-    EXPECT_EQ(screen.gammaCurve()->gammaCurveDictionary().size(), 3U);
-    screen.retriveExtendedGammaCurve();
-    EXPECT_EQ(screen.gammaCurve()->gammaCurveDictionary(),
-              TQExtendedGammaCurve().gammaCurveDictionary());
-}
-
 TEST(Adoption, ByOneScreenTakesTheFirstOfItsTwoIDs) {
     Desk desk(threeDisplays);
     KVScreen& screen = *desk.registry.screens()[0];

@@ -136,14 +136,13 @@ TEST(ScreenRegistry, FindsTheScreenOfAPlatformScreen) {
     EXPECT_EQ(desk.registry.screenWithScreen(nullptr), desk.registry.screens()[0])
         << "the empty frame has its centre at the origin";
 
-    const SimulatedDisplay display = desk.display(12);
+    SimulatedDisplay late = desk.display(12);
     desk.desk.unplug(12);
     EXPECT_TRUE(second->nsscreen()->frame().isEmpty());
     Desk empty("[]");
     EXPECT_EQ(empty.registry.screenWithScreen(nullptr), nullptr);
     KVScreen gone(empty.service, 5);
     EXPECT_EQ(gone.nsscreen(), nullptr);
-    SimulatedDisplay late = display;
     late.id = 5;
     empty.desk.plug(late);
     EXPECT_TRUE(gone.nsscreen()) << "it is looked for again";
@@ -161,6 +160,18 @@ TEST(ScreenRegistry, ReadsTheBaseOfADisplayThatCouldNotBeReadBefore) {
         << "a base that is there is read again only on request";
 }
 
+TEST(ScreenRegistry, DoesNotKeepAScreenMadeForAnUnknownDisplay) {
+    Desk desk(threeDisplays);
+    const auto first = desk.registry.screens()[0];
+    EXPECT_EQ(desk.registry.screenWithDirectDisplayID(11), first);
+    const auto unknown = desk.registry.screenWithDirectDisplayID(77);
+    ASSERT_TRUE(unknown);
+    EXPECT_NE(unknown, desk.registry.screenWithDirectDisplayID(77));
+    EXPECT_EQ(desk.registry.sightedScreens().size(), 3U);
+    EXPECT_EQ(unknown->baseGamma().sampleCount, 0U);
+    EXPECT_EQ(KVScreen(desk.service).directDisplayID(), 11U) << "the main display";
+}
+
 TEST(ReconfigurationCallbacks, MayEndTheirOwnRegistration) {
     Desk desk(threeDisplays);
     int calls = 0;
@@ -175,18 +186,6 @@ TEST(ReconfigurationCallbacks, MayEndTheirOwnRegistration) {
     desk.desk.unplug(12);
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(others, 2);
-}
-
-TEST(ScreenRegistry, DoesNotKeepAScreenMadeForAnUnknownDisplay) {
-    Desk desk(threeDisplays);
-    const auto first = desk.registry.screens()[0];
-    EXPECT_EQ(desk.registry.screenWithDirectDisplayID(11), first);
-    const auto unknown = desk.registry.screenWithDirectDisplayID(77);
-    ASSERT_TRUE(unknown);
-    EXPECT_NE(unknown, desk.registry.screenWithDirectDisplayID(77));
-    EXPECT_EQ(desk.registry.sightedScreens().size(), 3U);
-    EXPECT_EQ(unknown->baseGamma().sampleCount, 0U);
-    EXPECT_EQ(KVScreen(desk.service).directDisplayID(), 11U) << "the main display";
 }
 
 }  // namespace
