@@ -1,44 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/ControllerHotKeys.h"
 
-#include <string_view>
+#include <string>
 #include <utility>
-
-#include "app/SettingsKeys.h"
 
 namespace tonquil {
 
-namespace {
-
-/// Where the preferences keep a hot key.
-struct Keys {
-    std::string_view isUsed;
-    std::string_view code;
-    std::string_view modifiers;
-};
-
-Keys keysOf(HotKeyRole role) {
-    return role == HotKeyRole::ToggleCorrection
-               ? Keys{settingsKey::useHotKey, settingsKey::useHotKeyCode,
-                      settingsKey::useHotKeyModifiers}
-               : Keys{settingsKey::panelHotKey, settingsKey::panelHotKeyCode,
-                      settingsKey::panelHotKeyModifiers};
-}
-
-}  // namespace
-
-std::shared_ptr<DDHotKey> storedHotKey(const PreferencesStore& preferences, HotKeyRole role) {
-    const Keys keys = keysOf(role);
-    // Only the low 16 bits count.
-    const auto code = static_cast<std::uint16_t>(preferences.integerForKey(keys.code));
-    const auto modifiers = static_cast<ModifierFlags>(preferences.integerForKey(keys.modifiers));
-    return code == 0 && modifiers == 0 ? nullptr
-                                       : DDHotKey::hotKeyWithKeyCode(code, modifiers, nullptr);
-}
-
 void ControllerHotKeys::want(std::vector<Wanted>& wanted, HotKeyRole role) const {
     const auto hotKey = storedHotKey(_preferences, role);
-    if (_preferences.boolForKey(keysOf(role).isUsed) && hotKey) {
+    if (_preferences.boolForKey(hotKeySettings(role).isUsed) && hotKey) {
         wanted.push_back({role, hotKey->keyCode(), hotKey->modifierFlags()});
     }
 }

@@ -8,15 +8,10 @@
 #include <vector>
 
 #include "app/PreferencesStore.h"
-#include "app/ProgramWindows.h"
+#include "app/StoredHotKey.h"
 #include "hotkeys/DDHotKeyCenter.h"
 
 namespace tonquil {
-
-/// The hot key that the preferences hold for a role, without a task; null for none. It is stored
-/// also while it is switched off.
-[[nodiscard]] std::shared_ptr<DDHotKey> storedHotKey(const PreferencesStore& preferences,
-                                                     HotKeyRole role);
 
 /// Keeps the hot keys that the preferences want registered.
 class ControllerHotKeys {

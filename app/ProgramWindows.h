@@ -4,10 +4,9 @@
 #include <string>
 #include <string_view>
 
-namespace tonquil {
+#include "app/StoredHotKey.h"
 
-/// Which of the program's hot keys.
-enum class HotKeyRole { ToggleCorrection, ShowPanel };
+namespace tonquil {
 
 /// The windows of the program beside its panel and its targets.
 class ProgramWindows {

@@ -53,8 +53,8 @@ void OtherWindows::makePreferences() {
                               [this] { _.suspendHotKeys(false); });
     _prefs->setClosed([this] { saveFrames(); });
     _prefs->window().setWindowIcon(programIcon());
-    _prefs->showHotKeyProblem(TQPrefController::HotKey::Toggle, _toggleProblem);
-    _prefs->showHotKeyProblem(TQPrefController::HotKey::Panel, _panelProblem);
+    _prefs->showHotKeyProblem(HotKeyRole::ToggleCorrection, _toggleProblem);
+    _prefs->showHotKeyProblem(HotKeyRole::ShowPanel, _panelProblem);
     const auto frame =
         windowFrameFrom(_.preferences.preferences.stringForKey(settingsKey::preferencesFrame));
     if (frame && !_.service.displaysWithPoint(frame->centre(), 1).empty()) {
@@ -98,9 +98,7 @@ void OtherWindows::showHotKeyProblem(HotKeyRole role, const std::string& sentenc
     const bool isToggle = role == HotKeyRole::ToggleCorrection;
     (isToggle ? _toggleProblem : _panelProblem) = sentence;
     if (_prefs) {
-        _prefs->showHotKeyProblem(
-            isToggle ? TQPrefController::HotKey::Toggle : TQPrefController::HotKey::Panel,
-            sentence);
+        _prefs->showHotKeyProblem(role, sentence);
     }
 }
 

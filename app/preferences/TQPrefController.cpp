@@ -19,7 +19,6 @@ namespace tonquil {
 
 namespace {
 
-constexpr std::int64_t keyCodeBits = 0xFFFF;
 constexpr int firstWithStatusItems = 1138;
 constexpr int firstWithDarkTheme = 1343;
 
@@ -126,10 +125,8 @@ void TQPrefController::update() {
            _preferences.boolForKey(settingsKey::affectAllScreens) ? 1 : 0);
     select(_window->toggleApply, _preferences.boolForKey(settingsKey::toggleApply) ? 1 : 0);
     select(_window->showStatusItem, _preferences.integerForKey(settingsKey::showStatusItem));
-    _window->hotKeyField->setHotKey(
-        storedHotKey(settingsKey::useHotKeyCode, settingsKey::useHotKeyModifiers));
-    _window->panelHotKeyField->setHotKey(
-        storedHotKey(settingsKey::panelHotKeyCode, settingsKey::panelHotKeyModifiers));
+    _window->hotKeyField->setHotKey(storedHotKey(_preferences, HotKeyRole::ToggleCorrection));
+    _window->panelHotKeyField->setHotKey(storedHotKey(_preferences, HotKeyRole::ShowPanel));
     _window->openAtLoginCheckbox->setChecked(_surroundings.loginItem.isEnabled());
 }
 
@@ -157,9 +154,9 @@ void TQPrefController::setClosed(std::function<void()> closed) {
     _window->setClosed(std::move(closed));
 }
 
-void TQPrefController::showHotKeyProblem(HotKey hotKey, const std::string& sentence) {
+void TQPrefController::showHotKeyProblem(HotKeyRole role, const std::string& sentence) {
     QLabel* const label =
-        hotKey == HotKey::Toggle ? _window->hotKeyProblem : _window->panelHotKeyProblem;
+        role == HotKeyRole::ToggleCorrection ? _window->hotKeyProblem : _window->panelHotKeyProblem;
     label->setText(QCoreApplication::translate("Problem", sentence.c_str()));
     label->setVisible(!sentence.empty());
 }
@@ -222,27 +219,13 @@ void TQPrefController::moveFocus(bool isOn, DDHotKeyTextField& field) {
 }
 
 void TQPrefController::hotKeyDidChange(const DDHotKeyTextField& sender) {
-    storeHotKey(sender, settingsKey::useHotKeyCode, settingsKey::useHotKeyModifiers);
-}
-
-void TQPrefController::panelHotKeyDidChange(const DDHotKeyTextField& sender) {
-    storeHotKey(sender, settingsKey::panelHotKeyCode, settingsKey::panelHotKeyModifiers);
-}
-
-void TQPrefController::storeHotKey(const DDHotKeyTextField& field, std::string_view codeKey,
-                                   std::string_view modifiersKey) {
-    const auto& hotKey = field.hotKey();
-    _preferences.setValue(codeKey, hotKey ? hotKey->keyCode() & keyCodeBits : 0);
-    _preferences.setValue(modifiersKey,
-                          hotKey ? static_cast<std::int64_t>(hotKey->modifierFlags()) : 0);
+    storeHotKey(_preferences, HotKeyRole::ToggleCorrection, sender.hotKey().get());
     _window->clearFirstResponder();
 }
 
-std::shared_ptr<DDHotKey> TQPrefController::storedHotKey(std::string_view codeKey,
-                                                         std::string_view modifiersKey) const {
-    const auto code = static_cast<std::uint16_t>(_preferences.integerForKey(codeKey) & keyCodeBits);
-    const auto modifiers = static_cast<ModifierFlags>(_preferences.integerForKey(modifiersKey));
-    return code == 0 && modifiers == 0 ? nullptr : DDHotKey::hotKeyWithKeyCode(code, modifiers, {});
+void TQPrefController::panelHotKeyDidChange(const DDHotKeyTextField& sender) {
+    storeHotKey(_preferences, HotKeyRole::ShowPanel, sender.hotKey().get());
+    _window->clearFirstResponder();
 }
 
 void TQPrefController::openAtLoginDidChange(const QCheckBox& sender) {

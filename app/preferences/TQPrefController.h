@@ -12,6 +12,7 @@
 #include "app/Alerts.h"
 #include "app/LoginItem.h"
 #include "app/PreferencesStore.h"
+#include "app/StoredHotKey.h"
 #include "foundation/Log.h"
 #include "hotkeys/KeyboardLayout.h"
 #include "ui/Appearance.h"
@@ -20,7 +21,6 @@ class QCheckBox;
 
 namespace tonquil {
 
-class DDHotKey;
 class DDHotKeyTextField;
 class PreferencesWindow;
 class RadioMatrix;
@@ -47,8 +47,6 @@ struct PreferencesSurroundings {
 /// changes from elsewhere, and so do the colours of the window.
 class TQPrefController {
  public:
-    enum class HotKey { Toggle, Panel };
-
     explicit TQPrefController(PreferencesSurroundings surroundings);
     TQPrefController(const TQPrefController&) = delete;
     TQPrefController& operator=(const TQPrefController&) = delete;
@@ -69,7 +67,7 @@ class TQPrefController {
     void setClosed(std::function<void()> closed);
 
     /// Says beside its field why a hot key does not work; an empty sentence takes that back.
-    void showHotKeyProblem(HotKey hotKey, const std::string& sentence);
+    void showHotKeyProblem(HotKeyRole role, const std::string& sentence);
     /// Called around each recording: the program's hot keys should be given up meanwhile.
     void setRecordingHooks(std::function<void()> began, std::function<void()> ended);
     /// What the person asked of the whole desktop.
@@ -95,10 +93,6 @@ class TQPrefController {
     void followTheme();
     void setBool(std::string_view key, int value);
     void moveFocus(bool isOn, DDHotKeyTextField& field);
-    void storeHotKey(const DDHotKeyTextField& field, std::string_view codeKey,
-                     std::string_view modifiersKey);
-    [[nodiscard]] std::shared_ptr<DDHotKey> storedHotKey(std::string_view codeKey,
-                                                         std::string_view modifiersKey) const;
     void setLoginItemEnabled(bool isEnabled);
     void adviseOnPlace();
 

@@ -271,14 +271,14 @@ TEST_F(PreferencesTest, HasRoomForLongWordsAndForWhatIsWrongWithAHotKey) {
     const std::string sentence =
         "Another program holds this combination, so that it cannot be used here until it is let "
         "go. Choose another one, or change it there, and then switch the hot key on again.";
-    controller->showHotKeyProblem(TQPrefController::HotKey::Panel, sentence);
+    controller->showHotKeyProblem(HotKeyRole::ShowPanel, sentence);
     QApplication::processEvents();
     const QLabel& problem = *window.panelHotKeyProblem;
     EXPECT_EQ(problem.text().toStdString(), sentence);
     EXPECT_GE(problem.height(), problem.heightForWidth(problem.width()));
     EXPECT_GT(window.height(), height);
     EXPECT_FALSE(window.hotKeyProblem->isVisible());
-    controller->showHotKeyProblem(TQPrefController::HotKey::Panel, "");
+    controller->showHotKeyProblem(HotKeyRole::ShowPanel, "");
     QApplication::processEvents();
     EXPECT_EQ(window.height(), height);
 }
