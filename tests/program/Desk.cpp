@@ -67,11 +67,12 @@ ProcessRequest Desk::request(const std::vector<std::string>& command) const {
                            // No program of this machine that changes ramps is found either.
                            {"XDG_DATA_HOME", folder + "/data"},
                            {"XDG_DATA_DIRS", folder + "/none"},
+                           {"LC_ALL", "C.UTF-8"},
                            // Neither bus is there, whatever this machine has.
                            {"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + folder + "/none"},
                            {"DBUS_SESSION_BUS_ADDRESS", "unix:path=" + folder + "/none"}};
-    request.unset = {"WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR", "XAUTHORITY",
-                     "TONQUIL_DISPLAY_SERVICE"};
+    request.unset = {"LANGUAGE",        "WAYLAND_DISPLAY", "QT_QPA_PLATFORM",
+                     "QT_SCALE_FACTOR", "XAUTHORITY",      "TONQUIL_DISPLAY_SERVICE"};
     return request;
 }
 
