@@ -67,7 +67,7 @@
     </message>
     <message>
         <source>Save settings</source>
-        <translation>Einstellungen sichern</translation>
+        <translation>Einstellungen speichern</translation>
     </message>
     <message>
         <source>OK</source>
@@ -132,7 +132,7 @@
     </message>
     <message>
         <source>Save settings…</source>
-        <translation>Einstellungen sichern&#xa0;…</translation>
+        <translation>Einstellungen speichern&#xa0;…</translation>
     </message>
     <message>
         <source>Remote configuration is on</source>
@@ -461,11 +461,11 @@
     </message>
     <message>
         <source>Saving failed</source>
-        <translation>Das Sichern ist fehlgeschlagen</translation>
+        <translation>Das Speichern ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not save settings at this location.</source>
-        <translation>Die Einstellungen konnten an diesem Ort nicht gesichert werden.</translation>
+        <translation>Die Einstellungen konnten an diesem Ort nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>The file name is empty or has a NUL in it.</source>
