@@ -147,9 +147,10 @@ QStringList cutOffIn(const QWidget& window) {
         need(*label, label->text(), label->size(), needed);
     }
     for (const auto* button : window.findChildren<QAbstractButton*>()) {
-        const bool isTab = dynamic_cast<const TQTabButtonCell*>(button) != nullptr;
         const QSize text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
-        need(*button, button->text(), button->size(), isTab ? button->minimumSizeHint() : text);
+        const auto* tab = dynamic_cast<const TQTabButtonCell*>(button);
+        need(*button, button->text(), button->size(),
+             tab != nullptr ? tab->minimumSizeHint() : text);
     }
     for (const auto* list : window.findChildren<QComboBox*>()) {
         need(*list, list->currentText(), list->size(), list->minimumSizeHint());
