@@ -97,7 +97,7 @@ int Program::run(const std::vector<Request>& requests) {
         report(signals.error());
     }
     _controller->applicationDidFinishLaunching();
-    if (_controller->hasTerminated()) {
+    if (_isToEnd) {
         return EXIT_SUCCESS;
     }
     const SessionRestoration session(*_controller, sessionStorage());
@@ -109,12 +109,14 @@ int Program::run(const std::vector<Request>& requests) {
         _panel->setAccessibilityOptions(options);
         _windows->setAccessibilityOptions(options);
     });
-    // The start itself is what is asked of a program that was not running.
-    auto others = requests;
-    std::erase(others, Request{});
-    carryOut(others, *_controller);
-    _isLaunched = true;
-    carryOut(std::exchange(_requestsBeforeLaunch, {}), *_controller);
+    _runLoop.post([this, requests] {
+        _isLaunched = true;
+        // The start itself is what is asked of a program that was not running.
+        auto others = requests;
+        std::erase(others, Request{});
+        carryOut(others, *_controller);
+        carryOut(std::exchange(_requestsBeforeLaunch, {}), *_controller);
+    });
     return QCoreApplication::exec();
 }
 
@@ -132,6 +134,16 @@ std::string Program::answer(const std::string& text) {
                                      requests->end());
     }
     return {};
+}
+
+// Before the toolkit runs it cannot be told to end; what the start waits for is an answer.
+void Program::end() {
+    if (_isLaunched) {
+        QCoreApplication::quit();
+    } else {
+        _isToEnd = true;
+        _alerts.dismiss();
+    }
 }
 
 void Program::makeController() {
@@ -159,7 +171,7 @@ void Program::makeController() {
                                .openServer = [this] { return openServer(); },
                                .sessionEvents = std::move(events),
                                .whyNoDisplays = _whyNoDisplays,
-                               .endProgram = &QCoreApplication::quit,
+                               .endProgram = [this] { end(); },
                                .log = logLine});
     _panel->setActions(*_controller);
     _presence->setActions(*_controller, [this] { _controller->showPanel(); });

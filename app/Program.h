@@ -47,6 +47,7 @@ class Program {
     void openKeyboard();
     void makeWindows();
     void makeController();
+    void end();
     [[nodiscard]] std::unique_ptr<TQPlayerServer> openServer();
     [[nodiscard]] SessionRestoration::Storage sessionStorage();
 
@@ -76,6 +77,8 @@ class Program {
     std::unique_ptr<DDHotKeyCenter> _hotKeys;
     std::unique_ptr<TQController> _controller;
     bool _isLaunched = false;
+    /// The end was asked for before that.
+    bool _isToEnd = false;
     /// What was asked before that, in order.
     std::vector<Request> _requestsBeforeLaunch;
 };
