@@ -42,7 +42,10 @@ ControllerHotKeys::Actions TQController::hotKeyActions() {
 
 void TQController::showHotKeyProblem(HotKeyRole role, const std::string& sentence) {
     if (!sentence.empty()) {
-        _log(sentence);
+        std::string line = role == HotKeyRole::ToggleCorrection
+                               ? "The hot key for the correction does not work. "
+                               : "The hot key for the panel does not work. ";
+        _log(line.append(sentence));
     }
     _windows.showHotKeyProblem(role, sentence);
 }

@@ -142,6 +142,27 @@ void Desk::movePanel(int x, int y) const {
     EXPECT_TRUE(eventually([&] { return panel().x == x; }));
 }
 
+Desk::Point Desk::pointer() const {
+    Point point;
+    // "X=…", "Y=…", and more.
+    std::istringstream lines(outputOf({"xdotool", "getmouselocation", "--shell"}));
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("X=") || line.starts_with("Y=")) {
+            (line[0] == 'X' ? point.x : point.y) = std::atoi(line.c_str() + 2);
+        }
+    }
+    return point;
+}
+
+void Desk::movePointer(const Point& place) const {
+    xdotool({"mousemove", std::to_string(place.x), std::to_string(place.y)});
+}
+
+std::string Desk::outputOf(const std::vector<std::string>& command) const {
+    const auto result = run(request(command));
+    return result ? result->standardOutput : std::string();
+}
+
 void Desk::drag(int row, double end) const {
     const Place place = panel();
     const int from = place.x + place.width * 2 / 5;

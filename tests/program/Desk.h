@@ -48,6 +48,18 @@ class Desk {
     };
     [[nodiscard]] Place panel() const;
     void movePanel(int x, int y) const;
+    /// Where the pointer is, in pixels.
+    struct Point {
+        int x = 0;
+        int y = 0;
+        bool operator==(const Point& other) const = default;
+    };
+    [[nodiscard]] Point pointer() const;
+    void movePointer(const Point& place) const;
+    /// Runs another program of the desk to its end and gives its standard output.
+    [[nodiscard]] std::string outputOf(const std::vector<std::string>& command) const;
+    /// How to run another program on the desk.
+    [[nodiscard]] ProcessRequest request(const std::vector<std::string>& command) const;
     /// Drags along a row of the panel (its centre's distance from the upper edge) to the right,
     /// from 40 % of its width to `end` (0 to 1), and lets go.
     void drag(int row, double end) const;
@@ -67,8 +79,6 @@ class Desk {
     void writePreferences(const PropertyValue& changes) const;
 
  private:
-    [[nodiscard]] ProcessRequest request(const std::vector<std::string>& command) const;
-
     std::unique_ptr<XServer> _server;
     std::unique_ptr<RampReader> _reader;
     ScratchFolder _folder;
