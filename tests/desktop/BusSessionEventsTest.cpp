@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDBusArgument>
+#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <algorithm>
@@ -12,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/dbus/DesktopAppearance.h"
 #include "tests/desktop/PrivateBus.h"
 #include "tests/desktop/QtSurroundings.h"
 #include "tests/support/ManualRunLoop.h"
@@ -125,24 +128,6 @@ TEST_F(BusEvents, EveryDesktopsScreenSaverAndEverySignalOfTheColourServiceIsTold
     }
 }
 
-TEST_F(BusEvents, NamesThatLeaveTheBusWithinAMomentAreOneEvent) {
-    start();
-    // A name appears; a client without a name of its own comes and goes.
-    session->serve("org.example.New", "/new", {});
-    EXPECT_TRUE(run({.command = {"dbus-send", "--session", "/a", "a.b.c"}}).value().succeeded());
-    markSession();
-    loop.advance(1s);
-    EXPECT_THAT(told, ElementsAre());
-
-    session->takeAndLeave("org.example.One");
-    session->takeAndLeave("org.example.Two");
-    markSession();
-    loop.advance(BusSessionEvents::coalescingTime - 1ms);
-    EXPECT_THAT(told, ElementsAre());
-    loop.advance(1s);
-    EXPECT_THAT(told, ElementsAre(SessionEvent::ApplicationTerminated));
-}
-
 TEST_F(BusEvents, ASwitchToThisSessionIsToldHoweverTheSessionIsFound) {
     constexpr const char* path = "/org/freedesktop/login1/session/_37";
     const auto object = [](const char* at) {
@@ -192,26 +177,28 @@ TEST_F(BusEvents, ASwitchToThisSessionIsToldHoweverTheSessionIsFound) {
     }
 }
 
-TEST_F(BusEvents, MissingServicesAndBusesThatGoAreOneLineEach) {
+TEST_F(BusEvents, NamesThatLeaveAreOneEventAndMissingServicesAndBusesOneLineEach) {
     start();
     EXPECT_THAT(log, ElementsAre(HasSubstr("colour management"), HasSubstr("login service")));
     log.clear();
+    // A name appears; two leave within a moment.
+    session->serve("org.example.New", "/new", {});
+    markSession();
+    loop.advance(1s);
+    EXPECT_THAT(told, ElementsAre());
+    session->takeAndLeave("org.example.One");
+    session->takeAndLeave("org.example.Two");
+    markSession();
+    loop.advance(BusSessionEvents::coalescingTime - 1ms);
+    EXPECT_THAT(told, ElementsAre());
+    loop.advance(1s);
+    EXPECT_THAT(told, ElementsAre(SessionEvent::ApplicationTerminated));
     system->kill();
     session->kill();
     EXPECT_TRUE(processUntil([&] { return log.size() >= 2; }));
     processFor(50ms);
     EXPECT_THAT(log, testing::UnorderedElementsAre(HasSubstr("system bus has gone"),
                                                    HasSubstr("session bus has gone")));
-}
-
-TEST_F(BusEvents, WithoutAnyBusItStartsWithOneLineEach) {
-    session.reset();
-    system.reset();
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
-    bus.start([](SessionEvent) {});
-    EXPECT_TRUE(processUntil([&] { return log.size() >= 2; }));
-    EXPECT_THAT(log, testing::UnorderedElementsAre(HasSubstr("session bus"),
-                                                   HasSubstr("system bus cannot be reached")));
 }
 
 TEST_F(BusEvents, ABusThatHangsHoldsNothingUp) {
@@ -225,6 +212,37 @@ TEST_F(BusEvents, ABusThatHangsHoldsNothingUp) {
     system->kill();
     EXPECT_TRUE(processUntil([&] { return !log.empty(); }));
     EXPECT_THAT(log, ElementsAre(HasSubstr("system bus cannot be reached")));
+}
+
+using Settings = DesktopAppearance::Settings;
+using Groups = QMap<QString, QVariantMap>;
+
+TEST(DesktopAppearances, WhatThePortalSaysIsToldOnceAndFollowed) {
+    PrivateBus session("DBUS_SESSION_BUS_ADDRESS");
+    qDBusRegisterMetaType<Groups>();
+    const Groups groups{
+        {QStringLiteral("org.freedesktop.appearance"),
+         {{QStringLiteral("contrast"), 1U}, {QStringLiteral("color-scheme"), 2U}}},
+        {QStringLiteral("org.gnome.desktop.interface"),
+         {{QStringLiteral("enable-animations"), false}, {QStringLiteral("contrast"), 0U}}},
+        {QStringLiteral("org.gnome.other"), {{QStringLiteral("enable-animations"), true}}}};
+    session.serve("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                  {{QStringLiteral("ReadAll"),
+                    [&](const QVariantList&) { return QVariant::fromValue(groups); }}});
+    const auto change = [&](const char* group, const char* key, const QVariant& value) {
+        session.emitSignal(
+            "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings", "SettingChanged",
+            {QLatin1String(group), QLatin1String(key), QVariant::fromValue(QDBusVariant(value))});
+    };
+    std::vector<Settings> told;
+    DesktopAppearance appearance;
+    appearance.start([&](const Settings& settings) { told.push_back(settings); });
+    EXPECT_TRUE(processUntil([&] { return !told.empty(); }));
+    change("org.freedesktop.appearance", "contrast", 1U);
+    change("org.freedesktop.appearance", "contrast", 0U);
+    change("org.gnome.desktop.interface", "enable-animations", true);
+    EXPECT_TRUE(processUntil([&] { return told.size() >= 3; }));
+    EXPECT_EQ(told, (std::vector<Settings>{{true, true}, {false, true}, {false, false}}));
 }
 
 }  // namespace

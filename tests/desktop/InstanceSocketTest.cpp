@@ -9,7 +9,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <csignal>
 #include <future>
 #include <map>
@@ -27,8 +26,6 @@ namespace {
 using namespace std::chrono_literals;
 
 const std::string wholeRequest = std::string("TQL1show").append(1, '\0');
-constexpr int ownerStatus = 10;
-constexpr int handedOverStatus = 20;
 
 class InstanceSockets : public testing::Test {
  protected:
@@ -72,53 +69,12 @@ class InstanceSockets : public testing::Test {
         const auto count = recv(client.get(), &letter, 1, MSG_DONTWAIT);
         return count == 0 || (count < 0 && errno == ECONNRESET);
     }
-    /// What a process does that starts at the same moment as others; gives its exit status.
-    int start(int gate, std::size_t others) {
-        char letter = 0;
-        alarm(30);
-        if (read(gate, &letter, 1) != 0) {
-            return 1;
-        }
-        const auto listener = claim();
-        if (!listener) {
-            return 2;
-        }
-        if (*listener == nullptr) {
-            const std::string request = "start of " + std::to_string(getpid());
-            const auto answer = InstanceSocket::handOver(path, request);
-            return answer && *answer == "heard " + request ? handedOverStatus : 3;
-        }
-        while (requests.size() < others) {
-            loop.pollReadable(1s);
-        }
-        return ownerStatus;
-    }
-
     ScratchFolder folder;
     std::filesystem::path path = folder.path() / "private" / "instance";
     ManualRunLoop loop;
     std::vector<std::string> requests;
     std::vector<std::string> log;
 };
-
-TEST_F(InstanceSockets, OfTwentyStartsAtOnceOneRunsAndTheOthersHandOver) {
-    constexpr int count = 20;
-    std::array<int, 2> gate{};
-    ASSERT_EQ(pipe(gate.data()), 0);
-    for (int index = 0; index < count; ++index) {
-        if (fork() == 0) {
-            close(gate[1]);
-            _exit(start(gate[0], count - 1));
-        }
-    }
-    close(gate[0]);
-    close(gate[1]);
-    std::map<int, int> ends;
-    for (int status = 0; waitpid(-1, &status, 0) > 0;) {
-        ++ends[WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status)];
-    }
-    EXPECT_EQ(ends, (std::map<int, int>{{ownerStatus, 1}, {handedOverStatus, count - 1}}));
-}
 
 TEST_F(InstanceSockets, TheSocketOfAKilledInstanceIsTakenOver) {
     const pid_t child = fork();

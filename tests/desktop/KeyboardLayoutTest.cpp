@@ -15,15 +15,9 @@ namespace {
 
 constexpr std::uint16_t keyA = 0;
 constexpr std::uint16_t keyZ = 6;
-constexpr std::uint16_t keySection = 10;
-constexpr std::uint16_t keyQ = 12;
-constexpr std::uint16_t keyOne = 18;
 constexpr std::uint16_t keyEqual = 24;
 constexpr std::uint16_t keyBracket = 33;
-constexpr std::uint16_t keySemicolon = 41;
-constexpr std::uint16_t padEnter = 76;
 constexpr std::uint16_t padSeven = 89;
-constexpr std::uint16_t insertKey = 114;
 
 TEST(NamedKeyboardLayout, KnowsWhatIsPrintedOnTheKeys) {
     struct Row {
@@ -32,25 +26,19 @@ TEST(NamedKeyboardLayout, KnowsWhatIsPrintedOnTheKeys) {
         const char* character;
     };
     for (const Row& row : {
-             Row{"us", keyA, "a"},
-             Row{"us", keyZ, "z"},
              Row{"us", keyBracket, "["},
              Row{"us", padSeven, "7"},
-             Row{"us", padEnter, ""},
-             Row{"us", insertKey, ""},
+             // The Enter of the pad, Insert, Escape, and no key.
+             Row{"us", 76, ""},
+             Row{"us", 114, ""},
              Row{"us", 53, ""},
              Row{"us", 999, ""},
              Row{"de", keyZ, "y"},
              Row{"de", keyBracket, "ü"},
-             Row{"de", keySemicolon, "ö"},
-             Row{"de", keySection, "<"},
-             // The acute accent and the circumflex wait for a letter.
+             Row{"de", 10, "<"},
+             // The acute accent waits for a letter.
              Row{"de", keyEqual, ""},
-             Row{"de", 50, ""},
              Row{"fr", keyA, "q"},
-             Row{"fr", keyQ, "a"},
-             Row{"fr", keyOne, "&"},
-             Row{"fr", keyBracket, ""},
              Row{"ru", keyA, "ф"},
          }) {
         SCOPED_TRACE(std::string(row.layout) + " " + std::to_string(row.keyCode));
@@ -61,21 +49,15 @@ TEST(NamedKeyboardLayout, KnowsWhatIsPrintedOnTheKeys) {
     EXPECT_FALSE(NamedKeyboardLayout::open("no such layout"));
 }
 
-class XkbKeyboardLayouts : public testing::Test {
- protected:
-    void setLayouts(const std::string& names) const {
+TEST(XkbKeyboardLayouts, FollowsTheServersLayoutAndTheOneSwitchedToUntilItGoes) {
+    const auto server = XServer::start({.arguments = {}, .framebufferOnly = true}).value();
+    const XKeyboard keyboard(server->display());
+    const auto layout = XkbKeyboardLayout::open(server->display().c_str()).value();
+    const auto setLayouts = [&](const std::string& names) {
         const auto result =
             run({.command = {"setxkbmap", "-display", server->display(), "-layout", names}});
         ASSERT_TRUE(result && result->succeeded());
-    }
-    std::unique_ptr<XServer> server =
-        XServer::start({.arguments = {}, .framebufferOnly = true}).value();
-    XKeyboard keyboard{server->display()};
-    std::unique_ptr<XkbKeyboardLayout> layout =
-        XkbKeyboardLayout::open(server->display().c_str()).value();
-};
-
-TEST_F(XkbKeyboardLayouts, FollowsTheServersLayoutAndTheOneSwitchedTo) {
+    };
     setLayouts("us");
     EXPECT_EQ(layout->character(keyZ), "z");
     setLayouts("de,fr");
@@ -85,10 +67,6 @@ TEST_F(XkbKeyboardLayouts, FollowsTheServersLayoutAndTheOneSwitchedTo) {
     EXPECT_EQ(layout->character(keyZ), "w");
     EXPECT_EQ(layout->character(keyA), "q");
     EXPECT_EQ(layout->character(padSeven), "7") << "with one layout for all";
-}
-
-TEST_F(XkbKeyboardLayouts, KnowsNothingOnceTheServerHasGone) {
-    EXPECT_NE(layout->character(keyA), "");
     server->kill();
     EXPECT_EQ(layout->character(keyA), "");
     EXPECT_FALSE(XkbKeyboardLayout::open(server->display().c_str()));

@@ -37,12 +37,6 @@ class X11Desktops : public testing::Test {
         while (loop.pollReadable(50ms) != 0) {
         }
     }
-    void screenSaver(const char* command) {
-        EXPECT_TRUE(run({.command = {"xset", "-display", server->display(), "s", command}})
-                        .value()
-                        .succeeded());
-    }
-
     ManualRunLoop loop;
     std::unique_ptr<XServer> server = XServer::start().value();
     std::vector<SessionEvent> told;
@@ -76,7 +70,7 @@ TEST_F(X11Desktops, WindowsThatGoWithinAMomentAreOneEventAndNewOnesNone) {
     EXPECT_EQ(told.size(), 2U);
 }
 
-TEST_F(X11Desktops, AProfileGivenToAnyDisplayIsAChangeOfColourSpace) {
+TEST_F(X11Desktops, AProfileGivenToAnyDisplayAndTheScreenSaversEndAreTold) {
     struct Row {
         const char* property;
         bool isTold;
@@ -93,14 +87,14 @@ TEST_F(X11Desktops, AProfileGivenToAnyDisplayIsAChangeOfColourSpace) {
         EXPECT_THAT(told, testing::ElementsAreArray(std::vector<SessionEvent>(
                               row.isTold ? 1U : 0U, SessionEvent::ColourSpaceChanged)));
     }
-}
-
-TEST_F(X11Desktops, TheScreenSaversEndIsTold) {
-    screenSaver("activate");
-    poll();
-    EXPECT_THAT(told, ElementsAre());
-    screenSaver("reset");
-    poll();
+    told.clear();
+    for (const char* command : {"activate", "reset"}) {
+        EXPECT_THAT(told, ElementsAre());
+        EXPECT_TRUE(run({.command = {"xset", "-display", server->display(), "s", command}})
+                        .value()
+                        .succeeded());
+        poll();
+    }
     EXPECT_THAT(told, ElementsAre(SessionEvent::ScreenSaverStopped));
 }
 

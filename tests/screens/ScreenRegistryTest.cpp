@@ -119,6 +119,9 @@ TEST(ScreenRegistry, LooksUpContainedAndIntersectingRectanglesTopDown) {
     Desk desk(threeDisplays);
     EXPECT_THAT(idsOf(desk.registry.screensContainingRect({1920, 0, 1280, 1024})), ElementsAre(12));
     EXPECT_THAT(desk.registry.screensContainingRect({1900, 0, 100, 100}), IsEmpty());
+    EXPECT_THAT(desk.registry.screensContainingRect({5, 5, 0, 0}), IsEmpty());
+    EXPECT_THAT(desk.registry.screensIntersectingRect({3200, 0, 5, 5}), IsEmpty());
+    EXPECT_THAT(desk.registry.screensIntersectingRect({1930, 1024, 5, 5}), IsEmpty());
     EXPECT_THAT(idsOf(desk.registry.screensIntersectingRect({1900, 1000, 100, 100})),
                 ElementsAre(11, 12));
     EXPECT_THAT(idsOf(desk.registry.screensIntersectingRect({1000, 1079, 30, 2})),
