@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/x11/X11RampJournal.h"
 #include "screens/ScreenRegistry.h"
 #include "tests/support/EdidBuilder.h"
 #include "tests/support/RampReader.h"
@@ -12,22 +11,6 @@
 
 namespace tonquil {
 namespace {
-
-/// The reason why a server's displays cannot be corrected.
-std::string failureOf(const std::string& display) {
-    const auto service = X11DisplayService::open(display.c_str(), nullptr, {});
-    return service ? "it opened" : service.error().sentence;
-}
-
-TEST(X11DisplayService, SaysWhyItCannotOpen) {
-    EXPECT_EQ(failureOf(":987"), "Cannot connect to the X server :987.");
-    EXPECT_EQ(failureOf(""), "There is no X server to talk to: DISPLAY is not set.");
-    const auto server =
-        XServer::start({.arguments = {"-extension", "RANDR"}, .framebufferOnly = true});
-    ASSERT_TRUE(server);
-    EXPECT_EQ(failureOf((*server)->display()),
-              "The X server has no RandR extension, so its displays cannot be corrected.");
-}
 
 TEST(X11DisplayService, KnowsDisplaysByTheirEdidOrTheirSize) {
     const auto server = XServer::start().value();

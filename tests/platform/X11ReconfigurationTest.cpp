@@ -142,13 +142,5 @@ TEST_F(X11Reconfigurations, PluggingUnderALoadOfAppliesKeepsEveryDisplaysIdentit
     EXPECT_EQ(second->referenceID(), "5-1-21036");
 }
 
-TEST_F(X11Reconfigurations, TheServersDeathEndsTheWatchOnce) {
-    watch();
-    server->kill();
-    becomeQuiet();
-    becomeQuiet();
-    EXPECT_TRUE(service->onlineDisplays(25).empty());
-}
-
 }  // namespace
 }  // namespace tonquil
