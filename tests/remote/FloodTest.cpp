@@ -125,6 +125,7 @@ TEST_F(Flood, OfNonsenseLeavesALineOnlyNowAndThen) {
         server->broadcastAnnounce();
     }
     EXPECT_EQ(log.size(), 20U);
+    EXPECT_EQ(log[0], "Unable to send data, 101");
 }
 
 TEST_F(Flood, OfStatesInOneDatagramEndsSomewhere) {
@@ -135,15 +136,6 @@ TEST_F(Flood, OfStatesInOneDatagramEndsSomewhere) {
     payload.back() = '}';
     receive("Kantivel state-update " + payload);
     EXPECT_EQ(displays.statesSet.size(), 256U);
-}
-
-TEST_F(Flood, OfAnnouncesInTheSelfTestLeavesItWorking) {
-    server = make().value();
-    for (int i = 0; i < 100'000; ++i) {
-        receive(R"(Kantivel ann {"name":")" + std::to_string(i) + R"("})");
-    }
-    loop.advance(1s);
-    EXPECT_TRUE(displays.failures.empty());
 }
 
 }  // namespace
