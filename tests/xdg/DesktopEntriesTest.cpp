@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <tuple>
 #include <vector>
 
 #include "platform/xdg/DesktopEntry.h"

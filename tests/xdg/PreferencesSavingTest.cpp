@@ -5,9 +5,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
+#include <csignal>
+
 #include "PreferencesBench.h"
 #include "files/FileHandle.h"
-#include "tests/support/OrdinaryUser.h"
 
 namespace tonquil {
 namespace {
@@ -111,39 +113,6 @@ TEST(PreferencesSaving, LeavesASettingThatNoFileCanHoldAsItWas) {
     EXPECT_EQ(storedIn(folder / "file"), PropertyValue({{"a", 1}, {"b", 2}}));
 }
 
-/// What is set while nothing can be saved is kept, said once, and saved when it can be again.
-void expectToSurvive(const std::filesystem::path& file, const std::function<void()>& obstruct,
-                     const std::function<void()>& clear) {
-    PreferencesProcess process(file);
-    process.set("a", 1);
-    process.set("b", 1);
-    const std::string older = contentsOf(file);
-    obstruct();
-    process.set("a", 2);
-    process.set("c", std::string(2000, 'c'));
-    EXPECT_FALSE(process.store->synchronize());
-    process.handleEvents();
-    EXPECT_EQ(process["a"], 2);
-    EXPECT_THAT(process.log, ElementsAre(HasSubstr("could not be saved")));
-    EXPECT_EQ(contentsOf(file), older);
-    clear();
-    EXPECT_TRUE(process.store->synchronize());
-    EXPECT_EQ(storedIn(file).value("a", 0), 2);
-    EXPECT_TRUE(storedIn(file).contains("c"));
-    obstruct();
-    process.set("a", 3);
-    EXPECT_EQ(process.log.size(), 2U) << "A new failure has a line of its own.";
-    clear();
-}
-
-TEST(PreferencesSaving, OutlastsAFolderThatMayNotBeWrittenTo) {
-    const OrdinaryUser user;
-    const ScratchFolder folder;
-    expectToSurvive(
-        folder / "file", [&] { ::chmod(folder.path().c_str(), 0500); },
-        [&] { ::chmod(folder.path().c_str(), 0700); });
-}
-
 TEST(PreferencesSaving, OutlastsAFullDisk) {
     const ScratchFolder folder;
     const auto disk = folder / "disk";
@@ -151,10 +120,81 @@ TEST(PreferencesSaving, OutlastsAFullDisk) {
     if (::mount("none", disk.c_str(), "tmpfs", 0, "size=64k") != 0) {
         GTEST_SKIP() << "This needs the right to mount a small disk.";
     }
-    expectToSurvive(
-        disk / "file", [&] { putContents(disk / "filler", std::string(100'000, 'x')); },
-        [&] { std::filesystem::remove(disk / "filler"); });
+    const auto fill = [&] { putContents(disk / "filler", std::string(100'000, 'x')); };
+    {
+        PreferencesProcess process(disk / "file");
+        process.set("a", 1);
+        const std::string older = contentsOf(disk / "file");
+        fill();
+        process.set("a", 2);
+        process.set("c", std::string(2000, 'c'));
+        EXPECT_FALSE(process.store->synchronize());
+        process.handleEvents();
+        EXPECT_EQ(process["a"], 2);
+        EXPECT_THAT(process.log, ElementsAre(HasSubstr("could not be saved")));
+        EXPECT_EQ(contentsOf(disk / "file"), older);
+        std::filesystem::remove(disk / "filler");
+        EXPECT_TRUE(process.store->synchronize());
+        EXPECT_EQ(storedIn(disk / "file").value("a", 0), 2);
+        EXPECT_TRUE(storedIn(disk / "file").contains("c"));
+        fill();
+        process.set("a", 3);
+        EXPECT_EQ(process.log.size(), 2U) << "A new failure has a line of its own.";
+        std::filesystem::remove(disk / "filler");
+    }
     EXPECT_EQ(::umount(disk.c_str()), 0);
+}
+
+/// Counts up in the settings for ever, and tells of each number that was saved.
+[[noreturn]] void countUp(const std::filesystem::path& file, int round, int tell) {
+    PreferencesProcess process(file);
+    process.store->setValue("round " + std::to_string(round), round);
+    for (std::int64_t count = process["count"] + 1;; ++count) {
+        process.store->setValue("count", count);
+        process.store->setValue("same", count);
+        process.loop.runPosted();
+        if (::write(tell, &count, sizeof count) != sizeof count) {
+            ::_exit(1);
+        }
+    }
+}
+
+TEST(PreferencesCrash, LosesNothingThatWasSavedHoweverOftenItsWriterIsKilled) {
+    const ScratchFolder folder;
+    const auto file = folder / "file";
+    int killedWhileWriting = 0;
+    for (int round = 0; round < 200; ++round) {
+        SCOPED_TRACE(round);
+        std::array<int, 2> ends{};
+        ASSERT_EQ(::pipe(ends.data()), 0);
+        const FileHandle reading(ends[0]);
+        FileHandle writing(ends[1]);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            countUp(file, round, writing.get());
+        }
+        ASSERT_EQ(writing.close(), 0);
+        std::int64_t count = 0;
+        // The first save works in spite of what the killed one before may have left behind.
+        EXPECT_EQ(::read(reading.get(), &count, sizeof count), sizeof count);
+        for (int reads = round % 23; reads > 0; --reads) {
+            EXPECT_TRUE(storedIn(file).is_object());
+        }
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        while (::read(reading.get(), &count, sizeof count) == sizeof count) {
+        }
+        const PropertyValue stored = storedIn(file);
+        ASSERT_TRUE(stored.is_object());
+        EXPECT_GE(stored.value("count", 0), count);
+        EXPECT_EQ(stored.value("same", -1), stored.value("count", 0));
+        for (int older = 0; older <= round; ++older) {
+            EXPECT_EQ(stored.value("round " + std::to_string(older), -1), older);
+        }
+        killedWhileWriting += std::filesystem::exists(folder / ".file.tonquil-new") ? 1 : 0;
+    }
+    // Else no writer was ever killed while it was writing, and the test has shown nothing.
+    EXPECT_GT(killedWhileWriting, 0);
 }
 
 }  // namespace

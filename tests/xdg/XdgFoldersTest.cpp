@@ -20,24 +20,15 @@ using Variables = std::vector<std::pair<std::string, std::string>>;
 
 /// The folders that the program would have with these variables and no others that matter.
 Result<XdgFolders> foldersWith(const Variables& variables) {
-    const Variables none = {{"HOME", ""},
-                            {"XDG_CONFIG_HOME", ""},
-                            {"XDG_STATE_HOME", ""},
-                            {"XDG_RUNTIME_DIR", ""},
-                            {"TMPDIR", ""}};
-    Variables former;
-    for (const auto& [name, value] : none) {
-        const char* const set = std::getenv(name.c_str());
-        former.emplace_back(name, set == nullptr ? "" : set);
-        ::unsetenv(name.c_str());
+    for (const char* name :
+         {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR", "TMPDIR"}) {
+        ::unsetenv(name);
     }
     for (const auto& [name, value] : variables) {
         ::setenv(name.c_str(), value.c_str(), 1);
     }
     auto folders = XdgFolders::fromEnvironment();
-    for (const auto& [name, value] : former) {
-        value.empty() ? ::unsetenv(name.c_str()) : ::setenv(name.c_str(), value.c_str(), 1);
-    }
+    ::unsetenv("TMPDIR");
     return folders;
 }
 
