@@ -177,18 +177,7 @@ TEST_F(InstanceSockets, AnotherUsersProgramIsRefused) {
     EXPECT_TRUE(requests.empty());
     EXPECT_EQ(log.size(), 1U);
     EXPECT_FALSE(InstanceSocket::handOver(path, "show", 30ms)) << "nor is such a folder trusted";
-}
-
-TEST_F(InstanceSockets, AFolderThatOthersMayEnterOrAPathTooLongIsRefused) {
-    std::filesystem::create_directory(folder.path() / "open");
-    ASSERT_EQ(chmod((folder.path() / "open").c_str(), 0755), 0);
-    std::filesystem::create_directory_symlink(folder.path(), folder.path() / "link");
-    for (const auto* name : {"open", "link", "missing/folder"}) {
-        SCOPED_TRACE(name);
-        path = folder.path() / name / "instance";
-        EXPECT_FALSE(claim());
-        EXPECT_FALSE(InstanceSocket::handOver(path, "show", 30ms));
-    }
+    EXPECT_FALSE(claim());
     path = folder.path() / std::string(120, 'x');
     EXPECT_FALSE(claim());
 }

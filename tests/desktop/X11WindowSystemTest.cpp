@@ -76,23 +76,6 @@ class X11WindowSystems : public testing::Test {
                                        atom("_NET_WM_STATE_SKIP_PAGER")};
 };
 
-TEST_F(X11WindowSystems, AHiddenWindowsPropertiesAreSetAndOthersOfItsStatesKept) {
-    const std::vector<xcb_atom_t> above{atom("_NET_WM_STATE_ABOVE")};
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, atom("_NET_WM_STATE"),
-                        XCB_ATOM_ATOM, 32, 1, above.data());
-    synchronise();
-    system->keepOnAllWorkspaces(window);
-    system->skipTaskbar(window, true);
-    system->skipTaskbar(window, true);
-    EXPECT_FALSE(system->hasWindowManager()) << "which has waited for all that was sent";
-    EXPECT_THAT(values("_NET_WM_DESKTOP"), ElementsAre(0xFFFFFFFFU));
-    EXPECT_THAT(values("_NET_WM_STATE"), ElementsAre(above[0], skipped[0], skipped[1]));
-    system->skipTaskbar(window, false);
-    system->keepOnAllWorkspaces(window + 1);
-    EXPECT_FALSE(system->hasWindowManager());
-    EXPECT_THAT(values("_NET_WM_STATE"), ElementsAre(above[0]));
-}
-
 TEST_F(X11WindowSystems, AWindowManagerFollowsForWindowsThatAreShownAndMinimised) {
     xcb_map_window(connection, window);
     synchronise();

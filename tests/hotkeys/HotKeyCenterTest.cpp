@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -85,6 +86,11 @@ TEST_F(HotKeyCenterTest, AsksTheServiceForTheFourModifiersAlone) {
         HotKeyServiceMask mask;
     };
     std::uint16_t keyCode = 0;
+    service.isHeldByOthers = true;
+    EXPECT_FALSE(center->registerHotKeyWithKeyCode(f5, 0, task()));
+    EXPECT_EQ(center->lastRefusal()->sentence, "Another program holds it.");
+    EXPECT_TRUE(center->registeredHotKeys().empty());
+    service.isHeldByOthers = false;
     for (const Row& row :
          {Row{ModifierFlag::command, 0x100}, Row{ModifierFlag::shift, 0x200},
           Row{ModifierFlag::option, 0x800}, Row{ModifierFlag::control, 0x1000},
@@ -108,16 +114,6 @@ TEST_F(HotKeyCenterTest, RefusesACombinationThatIsRegisteredAndComparesAllFlags)
     EXPECT_TRUE(center->registerHotKeyWithKeyCode(f5, plain, task()));
     EXPECT_FALSE(center->lastRefusal());
     EXPECT_EQ(center->registeredHotKeys().size(), 2U);
-}
-
-TEST_F(HotKeyCenterTest, ARefusalOfTheServiceLeavesNothingAndUsesNoNumberUp) {
-    service.isHeldByOthers = true;
-    EXPECT_FALSE(center->registerHotKeyWithKeyCode(f5, 0, task()));
-    EXPECT_EQ(center->lastRefusal()->sentence, "Another program holds it.");
-    EXPECT_TRUE(center->registeredHotKeys().empty());
-    service.isHeldByOthers = false;
-    EXPECT_TRUE(center->registerHotKeyWithKeyCode(f5, 0, task()));
-    EXPECT_EQ(service.grants.begin()->second.id, 1U);
 }
 
 TEST_F(HotKeyCenterTest, InvokesWhatTheReceiverRespondsTo) {
@@ -151,42 +147,6 @@ TEST_F(HotKeyCenterTest, InvokesWhatTheReceiverRespondsTo) {
     EXPECT_EQ(heard.size(), 1U) << "a number of nobody's";
 }
 
-TEST_F(HotKeyCenterTest, UnregistersThoseThatAreMeantAndNoOthers) {
-    const int first = 0;
-    const int second = 0;
-    const auto fill = [&] {
-        center->unregisterAllHotKeys();
-        ASSERT_TRUE(service.grants.empty());
-        static_cast<void>(
-            center->registerHotKeyWithKeyCode(1, 0, {&first, told("toggle"), {}, {}}));
-        static_cast<void>(center->registerHotKeyWithKeyCode(2, 0, {&first, told("show"), {}, {}}));
-        static_cast<void>(
-            center->registerHotKeyWithKeyCode(3, 0, {&second, told("toggle"), {}, {}}));
-        static_cast<void>(center->registerHotKeyWithKeyCode(3, ModifierFlag::shift, task()));
-    };
-    const auto left = [this] {
-        std::vector<std::uint16_t> keyCodes;
-        for (const auto& [handle, grant] : service.grants) {
-            keyCodes.push_back(grant.keyCode);
-        }
-        EXPECT_EQ(center->registeredHotKeys().size(), keyCodes.size());
-        return keyCodes;
-    };
-    fill();
-    center->unregisterHotKeysWithTarget(&first);
-    EXPECT_THAT(left(), ElementsAre(3, 3));
-    fill();
-    center->unregisterHotKeysWithTarget(&first, "toggle");
-    EXPECT_THAT(left(), ElementsAre(2, 3, 3));
-    fill();
-    center->unregisterHotKeyWithKeyCode(3, 0);
-    EXPECT_THAT(left(), ElementsAre(1, 2, 3));
-    fill();
-    center->unregisterHotKeysMatchingPredicate(
-        [](const DDHotKey& hotKey) { return hotKey.keyCode() > 1; });
-    EXPECT_THAT(left(), ElementsAre(1));
-}
-
 TEST_F(HotKeyCenterTest, AnActionHearsOfTheKeyAndMayUnregisterAndTheEndGivesEverythingUp) {
     ASSERT_TRUE(center->registerHotKeyWithKeyCode(f5, 0, [this](const HotKeyEvent& event) {
         center->unregisterAllHotKeys();
@@ -205,6 +165,30 @@ TEST_F(HotKeyCenterTest, AnActionHearsOfTheKeyAndMayUnregisterAndTheEndGivesEver
     EXPECT_EQ(DDHotKeyCenter::sharedHotKeyCenter(), nullptr);
     EXPECT_TRUE(service.grants.empty());
     EXPECT_FALSE(service.isHeard());
+}
+
+TEST_F(HotKeyCenterTest, UnregistersThoseThatAreMeantAndNoOthers) {
+    const int first = 0;
+    const int second = 0;
+    using Unregister = std::function<void()>;
+    const std::vector<std::pair<Unregister, std::vector<std::uint16_t>>> rows{
+        {[&] { center->unregisterHotKeysWithTarget(&first); }, {3, 3}},
+        {[&] { center->unregisterHotKeysWithTarget(&first, "toggle"); }, {2, 3, 3}},
+        {[&] { center->unregisterHotKeyWithKeyCode(3, 0); }, {1, 2, 3}},
+        {[&] { center->unregisterAllHotKeys(); }, {}}};
+    for (const auto& [unregister, left] : rows) {
+        ASSERT_TRUE(center->registerHotKeyWithKeyCode(1, 0, {&first, told("toggle"), {}, {}}));
+        ASSERT_TRUE(center->registerHotKeyWithKeyCode(2, 0, {&first, told("show"), {}, {}}));
+        ASSERT_TRUE(center->registerHotKeyWithKeyCode(3, 0, {&second, told("toggle"), {}, {}}));
+        ASSERT_TRUE(center->registerHotKeyWithKeyCode(3, ModifierFlag::shift, task()));
+        unregister();
+        std::vector<std::uint16_t> keyCodes;
+        for (const auto& [handle, grant] : service.grants) {
+            keyCodes.push_back(grant.keyCode);
+        }
+        EXPECT_EQ(keyCodes, left);
+        center->unregisterAllHotKeys();
+    }
 }
 
 }  // namespace

@@ -17,8 +17,6 @@ struct VideoCardFormula {
 };
 
 /// A display profile whose `vcgt` tag holds these tables, of 256 entries each.
-///
-/// Ends the program if Little CMS refuses them.
 [[nodiscard]] std::vector<std::uint8_t> buildIccWithTable(const Ramp& table);
 
 /// A display profile whose `vcgt` tag holds a formula for red, green and blue.

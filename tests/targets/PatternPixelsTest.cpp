@@ -219,17 +219,14 @@ TEST(GrayscalePatternAreaTest, HasGraysAroundTheMiddleOneOnNearlyBlack) {
         const std::array<int, 5> levels = {102, 115, 128, 140, 153};
         for (std::size_t box = 0; box < levels.size(); ++box) {
             const double x = 80 + 174 * static_cast<double>(box);
-            for (const double inside : {x + 0.1, x + 144.9}) {
-                EXPECT_EQ(at(inside, row.top), gray(levels.at(box)));
-                EXPECT_EQ(at(inside, row.bottom - 1), gray(levels.at(box)));
-                EXPECT_EQ(at(inside, row.top - 1), gray(15));
-                EXPECT_EQ(at(inside, row.bottom), gray(15));
-            }
+            EXPECT_EQ(at(x + 0.1, row.top), gray(levels.at(box)));
+            EXPECT_EQ(at(x + 144.9, row.bottom - 1), gray(levels.at(box)));
+            EXPECT_EQ(at(x + 0.1, row.top - 1), gray(15));
+            EXPECT_EQ(at(x + 144.9, row.bottom), gray(15));
             EXPECT_EQ(at(x - 0.9, row.top), gray(15));
             EXPECT_EQ(at(x + 145.7, row.top), gray(15));
         }
         EXPECT_EQ(image.pixel(0, 0), gray(15));
-        EXPECT_EQ(image.pixel(image.width() - 1, image.height() - 1), gray(15));
         // White is at the left in the upper ramp, at the right in the lower one.
         const auto upper = static_cast<int>(100 * row.ratio);
         const auto lower = static_cast<int>(500 * row.ratio);

@@ -49,19 +49,6 @@ TEST(ThemeTest, HasTextThatCanBeReadOnEachOfItsBackgrounds) {
     }
 }
 
-TEST(AppearanceTest, IsThatOfTheNearestParentThatHasOne) {
-    QWidget window;
-    QWidget page(&window);
-    QWidget control(&page);
-    EXPECT_EQ(effectiveAppearance(control), Appearance{});
-    setAppearance(window, {.isDark = false});
-    EXPECT_FALSE(effectiveAppearance(control).isDark);
-    EXPECT_EQ(control.palette().color(QPalette::WindowText), themeFor({.isDark = false}).text);
-    setAppearance(page, {.isDark = true, .allowsVibrancy = false});
-    EXPECT_FALSE(effectiveAppearance(control).allowsVibrancy);
-    EXPECT_EQ(control.palette().color(QPalette::WindowText), themeFor({}).text);
-}
-
 TEST(VibrantLabelTest, DrawsItsTextLighterAndKeepsItsColour) {
     struct Row {
         Appearance appearance;
@@ -113,20 +100,6 @@ TEST(TabButtonTest, IsAFlatGreyOnTheDarkTheme) {
         const QColor grey(row.grey, row.grey, row.grey);
         EXPECT_TRUE(isNear(picture.pixelColor(40, 1), grey));
         EXPECT_EQ(picture.pixelColor(40, 0), themeFor({}).panel);
-    }
-}
-
-TEST(TabButtonTest, TellsTheSelectedTabApartInEveryAppearance) {
-    for (const bool isDark : {true, false}) {
-        for (const bool increaseContrast : {true, false}) {
-            TQTabButtonCell tab{QString()};
-            tab.resize(80, 28);
-            setAppearance(tab,
-                          {.isDark = isDark, .options = {.increaseContrast = increaseContrast}});
-            const QColor resting = drawn(tab).pixelColor(40, 14);
-            tab.setChecked(true);
-            EXPECT_FALSE(isNear(drawn(tab).pixelColor(40, 14), resting, 20));
-        }
     }
 }
 

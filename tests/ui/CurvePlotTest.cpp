@@ -53,21 +53,6 @@ TEST_F(CurvePlotTest, DrawsEachChannelInItsColourAndEqualCurvesInWhiteOrBlack) {
     }
 }
 
-TEST_F(CurvePlotTest, LooksTheSameWhereStraightPartsHaveFewerSamples) {
-    Samples fine;
-    for (int sample = 0; sample <= 100; ++sample) {
-        fine.push_back(sample <= 50 ? 0.2F : 0.2F + 0.01F * static_cast<float>(sample - 50));
-    }
-    setCurves(fine, fine, fine);
-    const QImage picture = drawn(plot);
-    const Samples coarse = {0.2F, 0.2F, 0.7F};
-    setCurves(coarse, coarse, coarse);
-    EXPECT_EQ(drawn(plot), picture);
-    const Samples other = {0.2F, 0.25F, 0.7F};
-    setCurves(other, other, other);
-    EXPECT_NE(drawn(plot), picture);
-}
-
 TEST_F(CurvePlotTest, ReadsOutWhatLiesUnderThePointer) {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     EXPECT_EQ(plot.readoutAt(0.5), QString());

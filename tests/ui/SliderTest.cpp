@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QWheelEvent>
 #include <cmath>
@@ -190,6 +191,23 @@ TEST_F(SliderTest, FillsTheBarUpToTheValue) {
         const int notch = row.direction == Qt::LeftToRight ? 36 : 76;
         EXPECT_TRUE(isNear(picture.pixelColor(notch, 18), themeFor({}).secondaryText));
     }
+}
+
+TEST_F(SliderTest, IsASliderWithItsValueForAssistiveTechnology) {
+    slider.setRange(-1, 2);
+    QAccessibleInterface* found = QAccessible::queryAccessibleInterface(&slider);
+    ASSERT_NE(found, nullptr);
+    EXPECT_EQ(found->role(), QAccessible::Slider);
+    QAccessibleValueInterface* value = found->valueInterface();
+    ASSERT_NE(value, nullptr);
+    EXPECT_EQ(value->minimumValue().toDouble(), -1);
+    EXPECT_EQ(value->maximumValue().toDouble(), 2);
+    value->setCurrentValue(0.25);
+    value->setCurrentValue(99.0);
+    value->setCurrentValue(QStringLiteral("much"));
+    EXPECT_THAT(sent, testing::ElementsAre(0.25F, 2));
+    EXPECT_EQ(value->currentValue().toDouble(), 2);
+    EXPECT_EQ(found->text(QAccessible::Value), QStringLiteral("2.00"));
 }
 
 }  // namespace
