@@ -40,9 +40,6 @@ class TQController final : public PanelActions {
     /// The program was started again while it runs.
     void applicationShouldHandleReopen();
 
-    /// Whether the program is to end, or has.
-    [[nodiscard]] bool hasTerminated() const { return _hasTerminated; }
-
     [[nodiscard]] bool applyCorrection() const { return _correction.applyCorrection(); }
     void setApplyCorrection(bool isOn) { _correction.setApplyCorrection(isOn); }
     void toggleApplyCorrection() { setApplyCorrection(!applyCorrection()); }
