@@ -113,11 +113,12 @@ bool Desk::hasPanel() const {
     return result && result->succeeded();
 }
 
-Desk::Place Desk::panel() const {
-    const auto result = run(request({"xdotool", "search", "--onlyvisible", "--name", "^Tonquil$",
-                                     "getwindowgeometry", "--shell"}));
-    Place place;
-    std::istringstream lines(result ? result->standardOutput : std::string());
+namespace {
+
+/// From lines as "X=12", of the last window that there are lines of.
+Desk::Place placeFrom(const std::string& geometry) {
+    Desk::Place place;
+    std::istringstream lines(geometry);
     for (std::string line; std::getline(lines, line);) {
         const auto value = [&line](const char* name) {
             return line.starts_with(name) ? line.c_str() + std::string_view(name).size() : nullptr;
@@ -132,8 +133,29 @@ Desk::Place Desk::panel() const {
             }
         }
     }
+    return place;
+}
+
+}  // namespace
+
+Desk::Place Desk::panel() const {
+    const Place place = placeFrom(outputOf({"xdotool", "search", "--onlyvisible", "--name",
+                                            "^Tonquil$", "getwindowgeometry", "--shell"}));
     EXPECT_GT(place.width, 0) << "There is no panel.";
     return place;
+}
+
+std::vector<Desk::Place> Desk::windows() const {
+    std::vector<Place> places;
+    std::istringstream ids(
+        outputOf({"xdotool", "search", "--onlyvisible", "--class", "^tonquil$"}));
+    for (std::string id; std::getline(ids, id);) {
+        const Place place = placeFrom(outputOf({"xdotool", "getwindowgeometry", "--shell", id}));
+        if (place.width > 0) {
+            places.push_back(place);
+        }
+    }
+    return places;
 }
 
 void Desk::movePanel(int x, int y) const {

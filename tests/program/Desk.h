@@ -47,6 +47,8 @@ class Desk {
         int height = 0;
     };
     [[nodiscard]] Place panel() const;
+    /// All windows of the program that can be seen, an icon in a tray and a menu too.
+    [[nodiscard]] std::vector<Place> windows() const;
     void movePanel(int x, int y) const;
     /// Where the pointer is, in pixels.
     struct Point {
