@@ -6,6 +6,7 @@
 #include <cmath>
 #include <random>
 
+#include "platform/ramp/RampHistory.h"
 #include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/simulated/SimulatedDisplayService.h"
 #include "screens/ScreenRegistry.h"
@@ -115,6 +116,27 @@ TEST(HardwareRamp, DoesNotDriftThroughReadingAndNeutralApplying) {
             screen.applyGammaCurve();
         }
     }
+}
+
+TEST(RampHistory, AnswersTheSystemRampUnderACorrectionAndForgetsTheOldestCorrections) {
+    const HardwareRamp correction(256);
+    HardwareRamp system = HardwareRamp::straight(256);
+    system.entries()[5] = 77;
+    RampHistory history;
+    history.addCorrection(correction.fingerprint());
+    EXPECT_EQ(history.uncorrected(correction), HardwareRamp::straight(256)) << "a guess";
+    history.setSystemRamp(system);
+    EXPECT_EQ(history.uncorrected(correction), system);
+    history.setSystemRamp(HardwareRamp::straight(1'024));
+    EXPECT_EQ(history.uncorrected(correction).size(), 256U) << "another ramp's note is no use";
+    for (std::uint64_t i = 1; i < RampHistory::mostCorrections; ++i) {
+        history.addCorrection(i);
+    }
+    history.addCorrection(correction.fingerprint());
+    history.addCorrection(1'000);
+    EXPECT_FALSE(history.isCorrection(1));
+    EXPECT_TRUE(history.isCorrection(correction.fingerprint())) << "it was set again later";
+    EXPECT_TRUE(history.isCorrection(2));
 }
 
 }  // namespace
