@@ -1,26 +1,44 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <fstream>
 #include <string>
 #include <vector>
 
+#include "plist/PropertyListWriter.h"
 #include "tests/support/ProcessRunner.h"
-#include "values/PropertyValue.h"
+#include "tests/support/ScratchFolder.h"
 
 namespace tonquil {
 
-/// Runs the real tonquilctl. An empty display leaves DISPLAY unset.
-[[nodiscard]] ProcessResult tonquilctl(const std::string& display,
-                                       const std::vector<std::string>& arguments);
+/// A request to run the real tonquilctl. An empty display leaves DISPLAY unset.
+[[nodiscard]] inline ProcessRequest tonquilctlRequest(const std::string& display,
+                                                      const std::vector<std::string>& arguments) {
+    ProcessRequest request{.command = {TONQUILCTL}};
+    request.command.insert(request.command.end(), arguments.begin(), arguments.end());
+    request.unset = {"WAYLAND_DISPLAY", "TONQUIL_DISPLAY_SERVICE", "DISPLAY"};
+    if (!display.empty()) {
+        request.environment["DISPLAY"] = display;
+    }
+    return request;
+}
 
-/// The request behind it, for programs that are started in the background.
-[[nodiscard]] ProcessRequest tonquilctlRequest(const std::string& display,
-                                               const std::vector<std::string>& arguments);
+[[nodiscard]] inline ProcessResult tonquilctl(const std::string& display,
+                                              const std::vector<std::string>& arguments) {
+    return run(tonquilctlRequest(display, arguments)).value();
+}
 
 /// A file with these contents that lives as long as the test program.
-[[nodiscard]] std::string fileWith(const std::string& contents);
+[[nodiscard]] inline std::string fileWith(const std::string& contents) {
+    static const ScratchFolder folder;
+    static int count = 0;
+    std::string path = folder.path() / ("file" + std::to_string(++count));
+    std::ofstream(path, std::ios::binary) << contents;
+    return path;
+}
 
-/// The same with a property list.
-[[nodiscard]] std::string propertyListFile(const PropertyValue& value);
+[[nodiscard]] inline std::string propertyListFile(const PropertyValue& value) {
+    return fileWith(writePropertyList(value).value());
+}
 
 }  // namespace tonquil

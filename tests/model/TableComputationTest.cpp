@@ -46,33 +46,14 @@ TEST(TableComputation, GivesTheWorkedValues) {
             EXPECT_NEAR(table.channel(c)[row.slot], row.level, 1e-6F);
         }
     }
-}
-
-TEST(TableComputation, NeutralCurveFollowsThePositionRuleOnAnyBase) {
-    std::mt19937 random(7);
-    for (const std::uint32_t n : {1U, 2U, 3U, 64U, 255U, 256U}) {
-        SCOPED_TRACE(n);
-        GammaTable base;
-        for (float& level : base.levels) {
-            level = std::uniform_real_distribution<float>(0, 1)(random);
-        }
-        GammaTable table = base;
-        computeTransferTable({}, table, n);
-        for (std::uint32_t i = 0; i < n; ++i) {
-            // Slot i lies at i * (n - 1) / n, which is i / n short of i. The fraction of the
-            // position, 1 - i / n, weighs the lower neighbour.
-            const double shortfall = static_cast<double>(i) / n;
-            const double lower = i == 0 ? 0 : static_cast<double>(base.channel(2)[i - 1]);
-            const double expected = i == 0 ? static_cast<double>(base.channel(2)[0])
-                                           : shortfall * static_cast<double>(base.channel(2)[i]) +
-                                                 (1 - shortfall) * lower;
-            ASSERT_NEAR(static_cast<double>(table.channel(2)[i]), expected, 2e-5) << "slot " << i;
-        }
-        // What lies beyond the sample count stays.
-        for (std::uint32_t i = n; i < 256; ++i) {
-            ASSERT_EQ(table.channel(2)[i], base.channel(2)[i]);
-        }
+    GammaTable table;
+    for (std::size_t i = 0; i < 256; ++i) {
+        table.channel(1)[i] = static_cast<float>(i) / 255.0F;
     }
+    computeTransferTable({}, table, 256);
+    EXPECT_EQ(table.channel(1)[0], 0.0F);
+    // Position 255/256: (1 - 255/256) of slot 1, whose level is 1/255, and 255/256 of slot 0.
+    EXPECT_NEAR(table.channel(1)[1], (1.0F - 0.99609375F) / 255.0F, 1e-9F);
 }
 
 TEST(TableComputation, EqualsThePlainFormulaToTheBit) {

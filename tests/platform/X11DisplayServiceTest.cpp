@@ -21,7 +21,7 @@ TEST(X11DisplayService, KnowsDisplaysByTheirEdidOrTheirSize) {
     mustSucceed(server->plug("DUMMY2", "1024x768"));
     mustSucceed(server->setEdid(
         "DUMMY2", buildEdid({.manufacturer = "DEL", .product = 42, .serialText = "ABC123"})));
-    mustSucceed(server->setPrimary("DUMMY2"));
+    mustSucceed(server->xrandr({"--output", "DUMMY2", "--primary"}));
 
     const auto service = X11DisplayService::open(server->display().c_str(), nullptr, {}).value();
     ScreenRegistry registry(*service);

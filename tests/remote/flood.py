@@ -62,7 +62,6 @@ def main():
             pass
     else:
         sys.exit("No scan was answered within 2 s of the flood.")
-    answered = time.monotonic() - end
     after = resident_kib(process)
     answers = 0
     for each in sockets:
@@ -72,9 +71,8 @@ def main():
         except BlockingIOError:
             pass
     seconds = time.monotonic() - start
-    print(f"{count} datagrams in {end - start:.1f} s; {answers} answers; resident {before} KiB "
-          f"before and {after} KiB after; scan {attempt} answered after "
-          f"{answered * 1000:.0f} ms")
+    print(f"{count} datagrams in {end - start:.1f} s, {answers} answers; resident {before} KiB "
+          f"before, {after} KiB after; scan {attempt} was answered")
     if not answer.startswith(b"Kantivel ann {"):
         sys.exit("The answer is no announce.")
     if after > before + 4096:

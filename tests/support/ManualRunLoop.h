@@ -29,20 +29,15 @@ class ManualRunLoop final : public RunLoop {
     [[nodiscard]] std::unique_ptr<Handle> watchReadable(int descriptor, Call call) override;
     void post(Call call) override;
 
-    /// Moves the clock on and fires what falls due on the way, in order of time.
-    ///
-    /// During a call the clock shows the time at which it was due. Of timers due at one time, the
-    /// one set first goes first. What is posted runs before the first timer and after each. A
-    /// timer made on the way fires too if it falls due by the end.
+    /// Moves the clock on and fires what falls due on the way, in order of time and of making, what
+    /// is posted running in between. During a call the clock shows the time at which it was due.
     void advance(std::chrono::milliseconds duration);
 
     /// Runs what is posted, including what that posts in turn; gives the number of calls.
     std::size_t runPosted();
 
-    /// Waits up to `timeout` of real time for a watched descriptor, and calls for the readable.
-    ///
-    /// An end of file, an error and a closed descriptor count as readable. What is posted runs
-    /// after each call. The clock stays. Gives the number of watches called.
+    /// Waits up to `timeout` of real time for a watched descriptor, calls for the readable and runs
+    /// what is posted; the clock stays. Gives the number of watches called.
     std::size_t pollReadable(std::chrono::milliseconds timeout);
 
  private:

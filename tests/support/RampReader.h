@@ -11,10 +11,8 @@
 
 namespace tonquil {
 
-/// Reads and writes the hardware ramp of an output over a connection of its own.
-///
-/// It shares no code with what it checks. Every call reads the outputs anew, so it follows what is
-/// plugged in and out.
+/// Reads and writes the hardware ramp of an output over a connection of its own, anew in every
+/// call, and shares no code with what it checks.
 class RampReader {
  public:
     /// Connects to `display`, for example ":7".

@@ -151,10 +151,6 @@ Result<void> XServer::setPhysicalSize(const std::string& connector, int widthMil
     return xrandr({"--query"}).map([](const std::string&) {});
 }
 
-Result<void> XServer::setPrimary(const std::string& connector) const {
-    return xrandr({"--output", connector, "--primary"}).map([](const std::string&) {});
-}
-
 Result<void> XServer::setEdid(const std::string& connector, const std::vector<std::uint8_t>& edid) {
     const auto outputs = XcbOutputs::connect(_display);
     return outputs ? outputs->setEdid(connector, edid) : tl::unexpected(outputs.error());

@@ -46,8 +46,6 @@ class XServer {
     /// Sets what the server tells of the size of the picture, in millimetres.
     [[nodiscard]] Result<void> setPhysicalSize(const std::string& connector, int widthMillimetres,
                                                int heightMillimetres) const;
-    [[nodiscard]] Result<void> setPrimary(const std::string& connector) const;
-    /// Gives an output an identity; no bytes take it away.
     [[nodiscard]] Result<void> setEdid(const std::string& connector,
                                        const std::vector<std::uint8_t>& edid);
     /// Sets a property of the root window, for example "_ICC_PROFILE"; no bytes delete it.

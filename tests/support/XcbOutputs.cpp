@@ -106,11 +106,6 @@ Result<void> XcbOutputs::setEdid(const std::string& connector,
     if (!property) {
         return tl::unexpected(property.error());
     }
-    if (edid.empty()) {
-        return check(
-            xcb_randr_delete_output_property_checked(connection(), output->output, *property),
-            "The EDID of " + connector + " cannot be removed.");
-    }
     return check(xcb_randr_change_output_property_checked(
                      connection(), output->output, *property, XCB_ATOM_INTEGER, 8,
                      XCB_PROP_MODE_REPLACE, static_cast<std::uint32_t>(edid.size()), edid.data()),

@@ -43,7 +43,7 @@ class XcbOutputs {
     [[nodiscard]] Result<OutputState> find(const std::string& connector) const;
     /// The atom of `name`, made when it is new.
     [[nodiscard]] Result<xcb_atom_t> atom(const std::string& name) const;
-    /// Creates or replaces the EDID property of an output; no bytes remove it.
+    /// Creates or replaces the EDID property of an output.
     [[nodiscard]] Result<void> setEdid(const std::string& connector,
                                        const std::vector<std::uint8_t>& edid) const;
     /// Takes the modes away that were added to an output, and leaves the driver's own.
