@@ -131,6 +131,11 @@ void TQPrefController::update() {
 }
 
 void TQPrefController::showWindow() {
+    // By its contents: the place of its border, which the toolkit would ask for, is taken for that
+    // of the contents where the window is shown anew, and the window wanders.
+    if (!_window->isVisible() && std::exchange(_hasBeenShown, true)) {
+        _window->setGeometry(_window->geometry());
+    }
     _window->show();
     _window->raise();
     _window->activateWindow();
@@ -143,11 +148,11 @@ bool TQPrefController::windowShouldClose() {
 }
 
 QRect TQPrefController::frame() const {
-    return {_window->pos(), _window->size()};
+    return _window->geometry();
 }
 
 void TQPrefController::setFrameOrigin(const QPoint& origin) {
-    _window->move(origin);
+    _window->setGeometry({origin, _window->size()});
 }
 
 void TQPrefController::setClosed(std::function<void()> closed) {

@@ -60,7 +60,7 @@ class TQPrefController {
     /// Fills every control but the bound ones from its setting.
     void update();
 
-    /// In points; see `devicePixelsFrom`. The size follows from the controls.
+    /// Of the contents, in points; see `devicePixelsFrom`. The size follows from the controls.
     [[nodiscard]] QRect frame() const;
     void setFrameOrigin(const QPoint& origin);
     /// Called when the window has closed.
@@ -100,6 +100,7 @@ class TQPrefController {
     PreferencesStore& _preferences;
     AccessibilityOptions _options;
     std::unique_ptr<PreferencesWindow> _window;
+    bool _hasBeenShown = false;
     /// They go before the checkboxes that they are bound to.
     std::vector<std::unique_ptr<SettingBinding>> _bindings;
     std::unique_ptr<PreferencesStore::Subscription> _themeSubscription;

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <fstream>
@@ -90,6 +91,34 @@ TEST_F(Preferences, AClickOnEachControlIsStoredAndKeptByTheNextStart) {
             EXPECT_TRUE(eventually([&] { return hasSetting(control.key, !control.value); }));
         }
     }
+}
+
+TEST_F(Preferences, TheWindowComesBackWhereItWas) {
+    // By its contents: what is to stay is what the person sees, with whatever border.
+    const auto place = [&] {
+        const std::string text = desk.outputOf({"xwininfo", "-name", "Preferences — Tonquil"});
+        return text.substr(0, text.find("Relative"))
+            .substr(std::min(text.size(), text.find("Absolute")));
+    };
+    desk.start();
+    open();
+    desk.xdotool({"search", "--onlyvisible", "--name", "^Preferences", "windowmove", "500", "300",
+                  "windowactivate"});
+    ASSERT_TRUE(eventually([&] { return place().find(" 300\n") != std::string::npos; }));
+    const std::string moved = place();
+    const auto close = [&] {
+        desk.xdotool({"key", "Escape"});
+        EXPECT_TRUE(eventually([&] { return window().empty(); }));
+    };
+    close();
+    open();
+    EXPECT_TRUE(eventually([&] { return place() == moved; })) << place();
+    desk.program().send(SIGTERM);
+    ASSERT_EQ(desk.waitForEnd(), 0);
+    desk.start();
+    open();
+    EXPECT_TRUE(eventually([&] { return place() == moved; })) << place();
+    EXPECT_TRUE(stays([&] { return place() == moved; }));
 }
 
 TEST_F(Preferences, TheEntryForTheLoginStartsTheProgram) {
