@@ -142,6 +142,31 @@ TEST_F(Run, DamagedPreferencesAreKeptAndTheProgramStarts) {
     EXPECT_EQ(damaged, 1);
 }
 
+TEST_F(Run, WhileTheStartAsksOfARivalRequestsWaitAndAnEndIsAnEnd) {
+    const auto programs = desk.preferencesFile().parent_path().parent_path().parent_path() /
+                          "data/applications/redshift.desktop";
+    std::filesystem::create_directories(programs.parent_path());
+    std::ofstream(programs) << "[Desktop Entry]\nType=Application\nName=Rival\nExec=true\n";
+    const auto hasQuestion = [&] { return desk.windows().size() == 1; };
+    for (const bool isSignal : {false, true}) {
+        SCOPED_TRACE(isSignal);
+        desk.startWithoutPanel({});
+        ASSERT_TRUE(eventually(hasQuestion));
+        if (isSignal) {
+            desk.program().send(SIGTERM);
+        } else {
+            EXPECT_TRUE(desk.runBeside({"--quit"}).succeeded());
+        }
+        EXPECT_EQ(desk.waitForEnd(), 0);
+    }
+    desk.startWithoutPanel({});
+    ASSERT_TRUE(eventually(hasQuestion)) << "It was not answered yet.";
+    EXPECT_TRUE(desk.runBeside({"--preferences"}).succeeded());
+    EXPECT_TRUE(stays(hasQuestion));
+    desk.xdotool({"key", "Return"});
+    EXPECT_TRUE(eventually([&] { return desk.windows().size() == 2; })) << "Panel, preferences.";
+}
+
 TEST_F(Run, StartsWithoutADisplayAndServesTheFirstOneThatComes) {
     desk.start();
     desk.drag(Desk::masterRow, 0.6);
