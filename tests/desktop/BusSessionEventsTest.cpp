@@ -169,7 +169,6 @@ TEST_F(BusEvents, ASwitchToThisSessionIsToldHoweverTheSessionIsFound) {
         sessionActive(path, false);
         sessionActive(path, true);
         EXPECT_TRUE(processUntil([&] { return !told.empty(); }));
-        EXPECT_EQ(told.size(), 1U);
         loop.advance(1s);
         EXPECT_THAT(told, ElementsAre(SessionEvent::SessionBecameActive,
                                       SessionEvent::SessionBecameActive));

@@ -67,7 +67,7 @@ TEST_F(UdpSockets, HaveTheirPortForThemselvesUntilTheyGo) {
     const SocketAddress address = first->localAddress();
     EXPECT_EQ(UdpSocket::open().value()->bind(address), EADDRINUSE);
     EXPECT_EQ(UdpSocket::open().value()->bind(SocketAddress(0, address.port())), EADDRINUSE);
-    // Also for one that is let go by its own receiver, which then hears no more.
+    // It is free in the very call in which the receiver lets go, which then hears no more.
     int count = 0;
     std::unique_ptr<RunLoop::Handle> watch;
     watch = first->receiveOn(loop, [&](std::string_view, const SocketAddress&) {

@@ -71,21 +71,11 @@ int printRamps(const std::vector<std::string>& connectors, bool full) {
 }  // namespace
 
 int main(int count, char** arguments) {
-    bool full = false;
-    std::vector<std::string> connectors;
-    for (int index = 1; index < count; ++index) {
-        const std::string argument = arguments[index];
-        if (argument == "--full") {
-            full = true;
-        } else if (argument == "--help") {
-            std::cout << usage;
-            return EXIT_SUCCESS;
-        } else if (argument.starts_with('-')) {
-            std::cerr << usage;
-            return EXIT_FAILURE;
-        } else {
-            connectors.push_back(argument);
-        }
+    std::vector<std::string> connectors(arguments + 1, arguments + std::max(count, 1));
+    const bool full = std::erase(connectors, "--full") > 0;
+    if (std::ranges::any_of(connectors, [](const auto& each) { return each.starts_with('-'); })) {
+        std::cerr << usage;
+        return EXIT_FAILURE;
     }
     return printRamps(connectors, full);
 }
