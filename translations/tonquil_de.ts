@@ -520,6 +520,10 @@
         <translation>Tonquil selbst verwendet dieses Tastenkürzel schon.</translation>
     </message>
     <message>
+        <source>The X server keeps this key combination for switching terminals.</source>
+        <translation>Der X-Server behält dieses Tastenkürzel für den Wechsel zwischen Terminals.</translation>
+    </message>
+    <message>
         <source>Another program already uses this key combination.</source>
         <translation>Ein anderes Programm verwendet dieses Tastenkürzel schon.</translation>
     </message>

@@ -520,6 +520,10 @@
         <translation>Tonquil ya usa este atajo.</translation>
     </message>
     <message>
+        <source>The X server keeps this key combination for switching terminals.</source>
+        <translation>El servidor X reserva esta combinación de teclas para cambiar de terminal.</translation>
+    </message>
+    <message>
         <source>Another program already uses this key combination.</source>
         <translation>Otro programa ya usa este atajo.</translation>
     </message>

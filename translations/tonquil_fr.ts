@@ -520,6 +520,10 @@
         <translation>Tonquil utilise déjà ce raccourci.</translation>
     </message>
     <message>
+        <source>The X server keeps this key combination for switching terminals.</source>
+        <translation>Le serveur X réserve cette combinaison de touches au changement de terminal.</translation>
+    </message>
+    <message>
         <source>Another program already uses this key combination.</source>
         <translation>Un autre programme utilise déjà ce raccourci.</translation>
     </message>

@@ -520,6 +520,10 @@
         <translation>このキーの組み合わせは、すでにTonquil自身が使用しています。</translation>
     </message>
     <message>
+        <source>The X server keeps this key combination for switching terminals.</source>
+        <translation>このキーの組み合わせは、X サーバーが端末の切り替えに使います。</translation>
+    </message>
+    <message>
         <source>Another program already uses this key combination.</source>
         <translation>このキーの組み合わせは、すでに別のプログラムが使用しています。</translation>
     </message>

@@ -7,8 +7,12 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "app/panel/PanelIcons.h"
@@ -25,6 +29,8 @@ namespace {
 constexpr int margin = 12;
 constexpr int spacing = 8;
 constexpr int groupSpacing = 16;
+/// What a window manager needs of a screen's height, or somewhat more.
+constexpr int titleBarHeight = 40;
 
 /// Texts by themselves would be looked up among the toolkit's own.
 struct Texts {
@@ -107,14 +113,16 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
       panelHotKeyField(new DDHotKeyTextField(layout)),
       panelHotKeyProblem(new QLabel),
       allowRemote(new FlatCheckBox(
-          Texts::tr("Let companions on the local network read and set the curves"))) {
+          Texts::tr("Let companions on the local network read and set the curves"))),
+      _scrollArea(new QScrollArea) {
     setObjectName(QStringLiteral("Preferences"));
     setWindowTitle(Texts::tr("Preferences"));
     setWindowIcon(programIcon());
     setAttribute(Qt::WA_QuitOnClose, false);
     // What has the focus when no control has it: a window without any would give it to the first.
     setFocusPolicy(Qt::ClickFocus);
-    auto* column = new QVBoxLayout(this);
+    auto* contents = new QWidget;
+    auto* column = new QVBoxLayout(contents);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(0);
     column->setSizeConstraint(QLayout::SetFixedSize);
@@ -122,6 +130,38 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
     addHotKeys(*column);
     addRemote(*column);
     nameControls();
+    _scrollArea->setFrameShape(QFrame::NoFrame);
+    _scrollArea->setFocusPolicy(Qt::NoFocus);
+    _scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    _scrollArea->setWidget(contents);
+    // The window's own background shines through.
+    _scrollArea->viewport()->setAutoFillBackground(false);
+    contents->setAutoFillBackground(false);
+    contents->installEventFilter(this);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(_scrollArea);
+    fit();
+}
+
+void PreferencesWindow::fit() {
+    const QSize wanted = _scrollArea->widget()->sizeHint();
+    const int most = screen()->availableGeometry().height() - titleBarHeight;
+    const int barWidth =
+        wanted.height() > most ? _scrollArea->verticalScrollBar()->sizeHint().width() : 0;
+    setFixedSize(wanted.width() + barWidth, std::min(wanted.height(), most));
+}
+
+bool PreferencesWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
+        fit();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void PreferencesWindow::showEvent(QShowEvent* event) {
+    fit();
+    QWidget::showEvent(event);
 }
 
 void PreferencesWindow::nameControls() {

@@ -9,6 +9,7 @@
 class QCheckBox;
 class QGridLayout;
 class QLabel;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace tonquil {
@@ -55,16 +56,21 @@ class PreferencesWindow : public QWidget {
     QCheckBox* allowRemote;
 
  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
  private:
     void nameControls();
+    /// As large as the controls; where the screen is not as high, they scroll.
+    void fit();
     void addGeneral(QVBoxLayout& column) const;
     void addHotKeys(QVBoxLayout& column) const;
     void addRemote(QVBoxLayout& column) const;
 
+    QScrollArea* _scrollArea;
     std::function<bool()> _shouldClose;
     std::function<void()> _closed;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/X11HotKeyService.h"
 
+#include <linux/input-event-codes.h>
+
 #include <algorithm>
 #include <cstring>
 #include <string>
@@ -18,6 +20,14 @@ using std::chrono::milliseconds;
 
 // X key codes count from here.
 constexpr std::uint8_t firstKeyCode = 8;
+
+/// Control, Alt and one of F1 to F12: the server acts on them itself, and no grab hears of it.
+bool isForTerminals(std::uint32_t evdevCode, HotKeyServiceMask modifiers) {
+    const bool isFunctionKey = (evdevCode >= KEY_F1 && evdevCode <= KEY_F10) ||
+                               evdevCode == KEY_F11 || evdevCode == KEY_F12;
+    return isFunctionKey &&
+           modifiers == (HotKeyServiceModifier::control | HotKeyServiceModifier::option);
+}
 
 bool isDown(const xcb_query_keymap_reply_t& keymap, xcb_keycode_t key) {
     constexpr unsigned bitsPerByte = 8;
@@ -116,6 +126,10 @@ Result<HotKeyHandle> X11HotKeyService::registerHotKey(std::uint16_t keyCode,
             TONQUIL_TEXT("Problem",
                          "This key cannot be part of a key combination for all programs."),
             "virtual key code " + std::to_string(keyCode));
+    }
+    if (isForTerminals(*evdevCode, modifiers)) {
+        return problem(TONQUIL_TEXT(
+            "Problem", "The X server keeps this key combination for switching terminals."));
     }
     const auto key = static_cast<xcb_keycode_t>(*evdevCode + firstKeyCode);
     const auto state = _modifiers.state(modifiers);

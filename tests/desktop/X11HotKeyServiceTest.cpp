@@ -185,6 +185,8 @@ TEST_F(X11HotKeys, ACombinationThatIsTakenIsRefusedAndLeftAlone) {
 TEST_F(X11HotKeys, AreHeardWhereTheModifierHasMovedTo) {
     EXPECT_FALSE(service->registerHotKey(63, control, 1)) << "the fn key";
     EXPECT_FALSE(service->registerHotKey(999, control, 1));
+    EXPECT_FALSE(service->registerHotKey(96, control | HotKeyServiceModifier::option, 1))
+        << "Control, Alt and F5 switch terminals";
     add(virtualA, command, 1);
     runProgram({"xmodmap", "-e", "clear mod4"});
     EXPECT_EQ(log.size(), 1U);
