@@ -79,7 +79,6 @@ check() {
         return
     elif [[ $folder == app && $composers == *" $1 "* && $target =~ ^(platform/|app/|hotkeys$|ui$) ]]; then
         return
-        return
     elif [[ $target != "$folder" && " ${arrows[$folder]} " != *" $target "* ]]; then
         breach "$place" "\"$included\": $folder may include ${arrows[$folder]:-only itself}"
     fi

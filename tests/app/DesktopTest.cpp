@@ -13,7 +13,6 @@ using std::chrono::milliseconds;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 
 constexpr std::uint16_t toggleKey = 96;
 constexpr std::uint16_t panelKey = 97;

@@ -127,7 +127,7 @@ TEST_F(X11HotKeys, HearsThroughTheLocksAndOtherLayouts) {
         return told == std::vector<std::string>{"down 1", "up 1"};
     };
     EXPECT_TRUE(isHeard());
-    for (const std::uint32_t lock : {KEY_CAPSLOCK, KEY_NUMLOCK, KEY_SCROLLLOCK}) {
+    for (const unsigned lock : {KEY_CAPSLOCK + 0U, KEY_NUMLOCK + 0U, KEY_SCROLLLOCK + 0U}) {
         SCOPED_TRACE(lock);
         keyboard.type(lock);
         EXPECT_TRUE(isHeard());

@@ -144,6 +144,16 @@ bool isWhole(const std::filesystem::path& target) {
     return bytes && !bytes->empty() && *bytes == std::vector<std::uint8_t>(size, bytes->front());
 }
 
+/// Saves files of one repeated byte, another each time, and tells of each, until it is killed.
+[[noreturn]] void saveForever(const std::filesystem::path& target, std::uint8_t fill, int end) {
+    for (;; ++fill) {
+        const std::vector<std::uint8_t> contents(size, fill);
+        if (!writeFileAtomically(target, contents) || ::write(end, "s", 1) != 1) {
+            ::_exit(1);
+        }
+    }
+}
+
 TEST(AtomicFileCrash, LeavesAWholeFileHoweverOftenItsWriterIsKilled) {
     const ScratchFolder folder;
     const auto target = folder / "file";
@@ -152,12 +162,8 @@ TEST(AtomicFileCrash, LeavesAWholeFileHoweverOftenItsWriterIsKilled) {
         std::array<int, 2> ends{};
         ASSERT_EQ(::pipe(ends.data()), 0);
         const pid_t child = ::fork();
-        // The child saves files of one repeated byte, another each time, and tells of each.
-        for (auto fill = static_cast<std::uint8_t>(round); child == 0; ++fill) {
-            const std::vector<std::uint8_t> contents(size, fill);
-            if (!writeFileAtomically(target, contents) || ::write(ends[1], "s", 1) != 1) {
-                ::_exit(1);
-            }
+        if (child == 0) {
+            saveForever(target, static_cast<std::uint8_t>(round), ends[1]);
         }
         ::close(ends[1]);
         char saved = 0;

@@ -182,7 +182,7 @@ TEST_F(Panel, AnotherTabTakesTheFocusToTheSameChannel) {
 
 TEST_F(Panel, UndoAndRedoAreThePanelsUnlessSomebodyIsTyping) {
     panel.showUndo(true, true);
-    const auto pressUndo = [this](QWidget& widget) {
+    const auto pressUndo = [](QWidget& widget) {
         QKeyEvent override(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
         override.ignore();
         QCoreApplication::sendEvent(&widget, &override);

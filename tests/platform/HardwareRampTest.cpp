@@ -95,7 +95,7 @@ TEST(HardwareRamp, DoesNotDriftThroughReadingAndNeutralApplying) {
         for (std::uint32_t i = 0; i < size; ++i) {
             for (std::size_t c = 0; c < 3; ++c) {
                 calibration.channel(c)[i] = static_cast<std::uint16_t>(
-                    std::lround(60'000 * std::pow(i / (size - 1.0), 1.8)) + random() % 5);
+                    60'000 * std::pow(i / (size - 1.0), 1.8) + static_cast<double>(random() % 5));
             }
         }
         desk.setForeignRamp(1, calibration);

@@ -31,7 +31,7 @@ class Companion : public testing::Test {
         }
         desk = std::make_unique<Desk>();
     }
-    void connectNetwork() const {
+    static void connectNetwork() {
         ASSERT_TRUE(hasRun({"ip", "address", "add", "10.98.0.1/24", "brd", "+", "dev", "tq0"}));
         ASSERT_TRUE(hasRun({"ip", "link", "set", "tq0", "up"}));
         ASSERT_TRUE(hasRun({"ip", "link", "set", "tq1", "up"}));
