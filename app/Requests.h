@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/TargetWindows.h"
+#include "app/desktop/TargetWindows.h"
 #include "foundation/Problem.h"
 
 namespace tonquil {

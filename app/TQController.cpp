@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "app/SettingsKeys.h"
+#include "app/preferences/SettingsKeys.h"
 #include "foundation/TranslatableText.h"
 
 namespace tonquil {

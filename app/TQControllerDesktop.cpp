@@ -3,9 +3,9 @@
 // that want the same displays.
 #include <utility>
 
-#include "app/ConflictCheck.h"
-#include "app/SettingsKeys.h"
 #include "app/TQController.h"
+#include "app/desktop/ConflictCheck.h"
+#include "app/preferences/SettingsKeys.h"
 #include "foundation/TranslatableText.h"
 #include "values/PropertyValue.h"
 

@@ -2,9 +2,9 @@
 // Settings files.
 #include <system_error>
 
-#include "app/MultiDisplayFile.h"
-#include "app/SettingsKeys.h"
 #include "app/TQController.h"
+#include "app/files/MultiDisplayFile.h"
+#include "app/preferences/SettingsKeys.h"
 #include "files/AtomicFile.h"
 #include "foundation/TranslatableText.h"
 #include "model/KVTableGammaCurve.h"

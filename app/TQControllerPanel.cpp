@@ -2,9 +2,9 @@
 // What people do in the panel.
 #include <algorithm>
 
-#include "app/SettingsKeys.h"
 #include "app/TQController.h"
-#include "app/TableCapture.h"
+#include "app/curves/TableCapture.h"
+#include "app/preferences/SettingsKeys.h"
 
 namespace tonquil {
 

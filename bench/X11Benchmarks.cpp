@@ -4,7 +4,7 @@
 #include "bench/BareRampLoop.h"
 #include "bench/ManyDisplays.h"
 #include "bench/ThreeDisplays.h"
-#include "platform/x11/X11DisplayService.h"
+#include "platform/x11/displays/X11DisplayService.h"
 #include "screens/ScreenRegistry.h"
 
 namespace tonquil {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "Require.h"
-#include "platform/x11/X11RampJournal.h"
+#include "platform/x11/displays/X11RampJournal.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::vector<std::uint32_t> units(size / sizeof(std::uint32_t));

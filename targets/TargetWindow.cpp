@@ -16,8 +16,8 @@
 #include "targets/PatternCanvas.h"
 #include "targets/TQColorPatternArea.h"
 #include "targets/TQGrayscalePatternArea.h"
-#include "ui/Appearance.h"
 #include "ui/TQVibrantMatrix.h"
+#include "ui/theme/Appearance.h"
 
 namespace tonquil {
 

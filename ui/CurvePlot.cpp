@@ -8,9 +8,9 @@
 #include <cmath>
 
 #include "ui/Accessibility.h"
-#include "ui/Drawing.h"
 #include "ui/MeetingCurves.h"
-#include "ui/Theme.h"
+#include "ui/theme/Drawing.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 

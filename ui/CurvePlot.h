@@ -9,9 +9,9 @@
 #include <span>
 #include <vector>
 
-#include "ui/Appearance.h"
-#include "ui/Channel.h"
 #include "ui/MeetingCurves.h"
+#include "ui/theme/Appearance.h"
+#include "ui/theme/Channel.h"
 
 namespace tonquil {
 

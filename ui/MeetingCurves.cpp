@@ -7,7 +7,7 @@
 #include <limits>
 #include <span>
 
-#include "ui/Theme.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 

@@ -5,7 +5,7 @@
 #include <QPolygonF>
 #include <array>
 
-#include "ui/Appearance.h"
+#include "ui/theme/Appearance.h"
 
 class QPen;
 

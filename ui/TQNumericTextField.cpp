@@ -7,9 +7,9 @@
 #include <cmath>
 #include <utility>
 
-#include "ui/Drawing.h"
 #include "ui/TQSlider.h"
-#include "ui/Theme.h"
+#include "ui/theme/Drawing.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 

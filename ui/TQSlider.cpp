@@ -10,8 +10,8 @@
 #include <optional>
 
 #include "ui/Accessibility.h"
-#include "ui/Drawing.h"
-#include "ui/Theme.h"
+#include "ui/theme/Drawing.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 

@@ -5,9 +5,9 @@
 #include <QWidget>
 #include <functional>
 
-#include "ui/Channel.h"
 #include "ui/TQNumericTextField.h"
 #include "ui/TQSliderCell.h"
+#include "ui/theme/Channel.h"
 
 namespace tonquil {
 

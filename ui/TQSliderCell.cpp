@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/Drawing.h"
-#include "ui/Theme.h"
+#include "ui/theme/Drawing.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 

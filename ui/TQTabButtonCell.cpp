@@ -7,8 +7,8 @@
 #include <algorithm>
 
 #include "ui/Accessibility.h"
-#include "ui/Drawing.h"
-#include "ui/Theme.h"
+#include "ui/theme/Drawing.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 

@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QStyle>
 
-#include "ui/Theme.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 

@@ -14,8 +14,8 @@
 #include "hotkeys/field/DDHotKeyTextFieldCell.h"
 #include "hotkeys/field/DDHotKeyTextFieldEditor.h"
 #include "hotkeys/field/HotKeyClearButton.h"
-#include "ui/Drawing.h"
-#include "ui/Theme.h"
+#include "ui/theme/Drawing.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 

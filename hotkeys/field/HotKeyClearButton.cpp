@@ -4,8 +4,8 @@
 #include <QEnterEvent>
 #include <QPainter>
 
-#include "ui/Drawing.h"
-#include "ui/Theme.h"
+#include "ui/theme/Drawing.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 

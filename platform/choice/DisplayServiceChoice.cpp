@@ -9,7 +9,7 @@
 #include "foundation/TranslatableText.h"
 #include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/simulated/SimulatedDisplayService.h"
-#include "platform/x11/X11DisplayService.h"
+#include "platform/x11/displays/X11DisplayService.h"
 
 namespace tonquil {
 

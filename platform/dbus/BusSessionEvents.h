@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "app/SessionEvents.h"
+#include "app/correction/SessionEvents.h"
 #include "foundation/Log.h"
 #include "foundation/RunLoop.h"
 #include "platform/dbus/BusConnection.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/WindowSystem.h"
+#include "app/panel/WindowSystem.h"
 
 namespace tonquil {
 

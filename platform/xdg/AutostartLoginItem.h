@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "app/LoginItem.h"
+#include "app/desktop/LoginItem.h"
 
 namespace tonquil {
 

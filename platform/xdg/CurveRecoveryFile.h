@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/CurveRecovery.h"
+#include "app/curves/CurveRecovery.h"
 #include "foundation/Log.h"
 #include "platform/xdg/PropertyListFile.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/InstalledPrograms.h"
+#include "app/desktop/InstalledPrograms.h"
 
 namespace tonquil {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "app/PreferencesStore.h"
+#include "app/preferences/PreferencesStore.h"
 #include "files/FileHandle.h"
 #include "foundation/Log.h"
 #include "foundation/RunLoop.h"

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "app/ConflictCheck.h"
+#include "app/desktop/ConflictCheck.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <tuple>
 
-#include "app/LoginItem.h"
-#include "app/TextFormat.h"
+#include "app/desktop/LoginItem.h"
+#include "app/desktop/TextFormat.h"
 #include "tests/app/PlainStore.h"
 
 namespace tonquil {

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "app/SettingsKeys.h"
 #include "app/TQController.h"
+#include "app/preferences/SettingsKeys.h"
 #include "platform/simulated/SimulatedDisplayService.h"
 #include "tests/app/DesktopFakes.h"
 #include "tests/support/ManualRunLoop.h"

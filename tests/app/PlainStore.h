@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "app/Alerts.h"
-#include "app/PreferencesStore.h"
+#include "app/desktop/Alerts.h"
+#include "app/preferences/PreferencesStore.h"
 
 namespace tonquil {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/X11DesktopEvents.h"
+#include "platform/x11/desktop/X11DesktopEvents.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

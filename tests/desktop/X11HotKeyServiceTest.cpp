@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/X11HotKeyService.h"
+#include "platform/x11/keys/X11HotKeyService.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

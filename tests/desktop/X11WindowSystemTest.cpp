@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/X11WindowSystem.h"
+#include "platform/x11/desktop/X11WindowSystem.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/language/Language.h"
+#include "windows/language/Language.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,18 +16,18 @@
 #include <stdexcept>
 #include <tuple>
 
-#include "app/about/KVAboutBoxController.h"
-#include "app/about/KVAboutBoxScrollView.h"
-#include "app/alerts/AlertWindow.h"
-#include "app/panel/ControlPanel.h"
-#include "app/panel/PanelFileDialogs.h"
-#include "app/preferences/PreferencesWindow.h"
 #include "platform/missing/MissingKeyboardLayout.h"
 #include "platform/missing/MissingWindowSystem.h"
 #include "targets/TQTargetWindowController.h"
 #include "ui/CurvePlot.h"
 #include "ui/TQNumericTextField.h"
 #include "ui/TQTabButtonCell.h"
+#include "windows/about/KVAboutBoxController.h"
+#include "windows/about/KVAboutBoxScrollView.h"
+#include "windows/alerts/AlertWindow.h"
+#include "windows/panel/ControlPanel.h"
+#include "windows/panel/PanelFileDialogs.h"
+#include "windows/preferences/PreferencesWindow.h"
 
 namespace tonquil {
 namespace {

@@ -14,15 +14,15 @@
 #include <QUrl>
 #include <stdexcept>
 
-#include "app/panel/ChannelStrip.h"
-#include "app/panel/ControlPanel.h"
-#include "app/panel/PanelFileDialogs.h"
 #include "platform/missing/MissingWindowSystem.h"
 #include "ui/CurvePlot.h"
 #include "ui/TQNumericTextField.h"
 #include "ui/TQSlider.h"
 #include "ui/TQTabButtonCell.h"
 #include "ui/TQVibrantMatrix.h"
+#include "windows/panel/ChannelStrip.h"
+#include "windows/panel/ControlPanel.h"
+#include "windows/panel/PanelFileDialogs.h"
 
 namespace tonquil {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/simulated/SimulatedDisplayService.h"
-#include "platform/x11/X11DisplayService.h"
+#include "platform/x11/displays/X11DisplayService.h"
 #include "tests/support/EdidBuilder.h"
 #include "tests/support/IccBuilder.h"
 #include "tests/support/RampReader.h"

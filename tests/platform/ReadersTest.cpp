@@ -3,7 +3,7 @@
 
 #include "platform/edid/Edid.h"
 #include "platform/simulated/SimulatedDeskReader.h"
-#include "platform/x11/X11RampJournal.h"
+#include "platform/x11/displays/X11RampJournal.h"
 #include "tests/support/EdidBuilder.h"
 
 namespace tonquil {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/X11DisplayService.h"
+#include "platform/x11/displays/X11DisplayService.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/x11/X11DisplayService.h"
+#include "platform/x11/displays/X11DisplayService.h"
 #include "screens/ScreenRegistry.h"
 #include "tests/support/EdidBuilder.h"
 #include "tests/support/ManualRunLoop.h"

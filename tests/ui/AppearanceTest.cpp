@@ -9,7 +9,7 @@
 #include "ui/TQTabButtonCell.h"
 #include "ui/TQVibrantLabel.h"
 #include "ui/TQVibrantMatrix.h"
-#include "ui/Theme.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 namespace {

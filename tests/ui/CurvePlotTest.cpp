@@ -7,7 +7,7 @@
 
 #include "tests/ui/Input.h"
 #include "ui/CurvePlot.h"
-#include "ui/Theme.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 namespace {

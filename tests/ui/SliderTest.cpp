@@ -12,7 +12,7 @@
 
 #include "tests/ui/Input.h"
 #include "ui/TQSlider.h"
-#include "ui/Theme.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 namespace {

@@ -14,13 +14,13 @@
 #include <memory>
 #include <tuple>
 
-#include "app/about/AboutTexts.h"
-#include "app/about/AboutWindow.h"
-#include "app/about/KVAboutBoxBackground.h"
-#include "app/about/KVAboutBoxController.h"
-#include "app/about/KVAboutBoxScrollView.h"
 #include "tests/files/FolderContents.h"
 #include "tests/ui/Input.h"
+#include "windows/about/AboutTexts.h"
+#include "windows/about/AboutWindow.h"
+#include "windows/about/KVAboutBoxBackground.h"
+#include "windows/about/KVAboutBoxController.h"
+#include "windows/about/KVAboutBoxScrollView.h"
 
 namespace tonquil {
 namespace {

@@ -6,10 +6,10 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "app/alerts/AlertWindow.h"
-#include "app/alerts/Localisation.h"
-#include "app/alerts/ModalAlerts.h"
 #include "tests/ui/Input.h"
+#include "windows/alerts/AlertWindow.h"
+#include "windows/alerts/Localisation.h"
+#include "windows/alerts/ModalAlerts.h"
 
 namespace tonquil {
 namespace {

@@ -11,15 +11,15 @@
 #include <QTranslator>
 #include <tuple>
 
-#include "app/SettingsKeys.h"
-#include "app/preferences/PreferencesWindow.h"
-#include "app/preferences/RadioMatrix.h"
-#include "app/preferences/TQPrefController.h"
+#include "app/preferences/SettingsKeys.h"
 #include "hotkeys/field/DDHotKeyTextField.h"
 #include "tests/app/PlainStore.h"
 #include "tests/hotkeys/TableLayout.h"
 #include "tests/ui/Input.h"
-#include "ui/Appearance.h"
+#include "ui/theme/Appearance.h"
+#include "windows/preferences/PreferencesWindow.h"
+#include "windows/preferences/RadioMatrix.h"
+#include "windows/preferences/TQPrefController.h"
 
 namespace tonquil {
 namespace {

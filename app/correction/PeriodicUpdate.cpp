@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "app/correction/PeriodicUpdate.h"
+
+#include <cmath>
+
+#include "app/preferences/SettingsKeys.h"
+
+namespace tonquil {
+
+namespace {
+
+/// From a tenth of a second, below which the program would do nothing else, to a day. What is no
+/// interval at all counts as the default.
+std::chrono::milliseconds intervalFrom(float seconds) {
+    constexpr float shortest = 0.1F;
+    constexpr float longest = 86'400;
+    constexpr float usual = 3;
+    constexpr float millisecondsPerSecond = 1000;
+    const float wanted = seconds > 0 ? seconds : usual;
+    const float held = std::fmin(std::fmax(wanted, shortest), longest);
+    return std::chrono::milliseconds(std::lround(held * millisecondsPerSecond));
+}
+
+}  // namespace
+
+void PeriodicUpdate::_startPeriodicUpdate() {
+    if (isRunning() || !_preferences.boolForKey(settingsKey::continuouslyApply)) {
+        return;
+    }
+    _periodicTimer = _runLoop.callRepeatedly(
+        intervalFrom(_preferences.floatForKey(settingsKey::continuouslyApplyInterval)), _update);
+}
+
+}  // namespace tonquil

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "app/preferences/PreferencesStore.h"
+#include "foundation/RunLoop.h"
+
+namespace tonquil {
+
+/// The timer that puts the curves on the displays again and again, because other programs and the
+/// system replace tables without a word.
+class PeriodicUpdate {
+ public:
+    PeriodicUpdate(RunLoop& runLoop, const PreferencesStore& preferences,
+                   std::function<void()> update)
+        : _runLoop(runLoop), _preferences(preferences), _update(std::move(update)) {}
+
+    /// Does nothing while the timer runs, so that a changed interval counts from the next start,
+    /// and nothing where continuous application is switched off.
+    void _startPeriodicUpdate();
+    void _stopPeriodicUpdate() { _periodicTimer.reset(); }
+    [[nodiscard]] bool isRunning() const { return _periodicTimer != nullptr; }
+
+ private:
+    RunLoop& _runLoop;
+    const PreferencesStore& _preferences;
+    std::function<void()> _update;
+    std::unique_ptr<RunLoop::Handle> _periodicTimer;
+};
+
+}  // namespace tonquil

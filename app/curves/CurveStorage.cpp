@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "app/curves/CurveStorage.h"
+
+#include <utility>
+
+#include "app/preferences/SettingsKeys.h"
+#include "values/PropertyValue.h"
+
+namespace tonquil {
+
+CurveStorage::CurveStorage(ScreenRegistry& registry, PreferencesStore& preferences,
+                           CurveRecovery& recovery, RunLoop& runLoop, Log log)
+    : _registry(registry),
+      _preferences(preferences),
+      _recovery(recovery),
+      _runLoop(runLoop),
+      _log(std::move(log)),
+      _left(recovery.leftCurves()) {}
+
+PropertyValue CurveStorage::storedCurves() const {
+    PropertyValue curves = _preferences.dictionaryForKey(settingsKey::screens);
+    curves.update(_left);
+    curves.update(_kept);
+    return curves;
+}
+
+void CurveStorage::_adoptDefaultCurves() {
+    saveLeftCurves();
+    const PropertyValue curves = storedCurves();
+    for (const auto& screen : _registry.screens()) {
+        screen->retriveExtendedGammaCurve();
+    }
+    _registry.adoptGammaCurveDictionary(curves, nullptr);
+}
+
+// They belong to the run that crashed, and once stored they are as old as the rest.
+void CurveStorage::saveLeftCurves() {
+    if (_left.empty()) {
+        return;
+    }
+    _preferences.setValue(settingsKey::screens, storedCurves());
+    if (_preferences.synchronize()) {
+        _recovery.forget();
+        _left = PropertyValue::object();
+    }
+}
+
+void CurveStorage::_updateDefaultCurves() {
+    _preferences.setValue(settingsKey::screens,
+                          _registry.gammaCurveDictionaryExtendingDictionary(storedCurves()));
+}
+
+// What is kept beside would otherwise have the last word.
+void CurveStorage::storeCurves(const PropertyValue& curves) {
+    PropertyValue all = storedCurves();
+    all.update(curves);
+    for (const auto& [key, curve] : curves.items()) {
+        _left.erase(key);
+        _kept.erase(key);
+    }
+    _preferences.setValue(settingsKey::screens, std::move(all));
+}
+
+void CurveStorage::curvesWereEdited() {
+    // Not put off by the edits of a long drag: the first one counts.
+    if (!_timer) {
+        _timer = _runLoop.callOnce(keepingDelay, [this] { keepCurves(); });
+    }
+}
+
+void CurveStorage::keepPendingEdits() {
+    if (_timer) {
+        keepCurves();
+    }
+}
+
+void CurveStorage::keepCurves() {
+    _timer.reset();
+    _kept = _registry.gammaCurveDictionaryExtendingDictionary(_kept);
+    PropertyValue all = _left;
+    all.update(_kept);
+    const Result<void> kept = _recovery.keep(all);
+    if (!kept && !_hasFailed && _log) {
+        _log(kept.error().sentence);
+    }
+    _hasFailed = !kept;
+}
+
+void CurveStorage::close() {
+    keepPendingEdits();
+    // Another program may have stored curves of other displays, unseen.
+    static_cast<void>(_preferences.synchronize());
+    _updateDefaultCurves();
+    // As long as the preferences cannot be saved, the other file is all there is.
+    if (_preferences.synchronize()) {
+        _recovery.forget();
+    }
+}
+
+}  // namespace tonquil

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "app/desktop/ConflictCheck.h"
+
+#include <array>
+#include <cstddef>
+#include <utility>
+
+#include "app/preferences/SettingsKeys.h"
+#include "foundation/TranslatableText.h"
+
+namespace tonquil {
+
+ConflictCheck::ConflictCheck(PreferencesStore& preferences, const InstalledPrograms& programs,
+                             Alerts& alerts, std::function<void()> terminate)
+    : _preferences(preferences),
+      _programs(programs),
+      _alerts(alerts),
+      _terminate(std::move(terminate)) {}
+
+// The night colours that desktops have built in are settings of theirs and no programs: whether
+// they are in use cannot be seen from what is installed.
+std::span<const std::string_view> ConflictCheck::rivals() {
+    static constexpr std::array<std::string_view, 5> ids = {
+        "fluxgui.desktop", "redshift-gtk.desktop", "redshift.desktop",
+        "gammastep-indicator.desktop", "gammastep.desktop"};
+    return ids;
+}
+
+ConflictCheck::Outcome ConflictCheck::run(const std::string& ownName) {
+    if (_preferences.boolForKey(settingsKey::conflictWarned)) {
+        return Outcome::NotShown;
+    }
+    const auto rival = _programs.firstInstalled(rivals());
+    if (!rival) {
+        return Outcome::NotShown;
+    }
+    constexpr std::size_t quitButton = 1;
+    const std::size_t button = _alerts.runModal(
+        {.style = Alert::Style::Critical,
+         .icon = rival->icon,
+         .table = "KVFluxCheck",
+         .message = TONQUIL_TEXT("KVFluxCheck", "%@ is present on this computer."),
+         .messageArguments = {rival->name},
+         .informativeText = TONQUIL_TEXT("KVFluxCheck", "[%1$@ installed, might interfer %2$@.]"),
+         .informativeArguments = {ownName, rival->name},
+         .buttons = {TONQUIL_TEXT("KVFluxCheck", "Continue"),
+                     TONQUIL_TEXT("KVFluxCheck", "Quit")}});
+    if (button == quitButton) {
+        _terminate();
+        return Outcome::Ended;
+    }
+    _preferences.setValue(settingsKey::conflictWarned, true);
+    (void)_preferences.synchronize();
+    return Outcome::Continued;
+}
+
+}  // namespace tonquil

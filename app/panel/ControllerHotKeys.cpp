@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "app/panel/ControllerHotKeys.h"
+
+#include <string>
+#include <utility>
+
+namespace tonquil {
+
+void ControllerHotKeys::want(std::vector<Wanted>& wanted, HotKeyRole role) const {
+    const auto hotKey = storedHotKey(_preferences, role);
+    if (_preferences.boolForKey(hotKeySettings(role).isUsed) && hotKey) {
+        wanted.push_back({role, hotKey->keyCode(), hotKey->modifierFlags()});
+    }
+}
+
+void ControllerHotKeys::updateHotKey() {
+    std::vector<Wanted> wanted;
+    if (!_isSuspended) {
+        want(wanted, HotKeyRole::ToggleCorrection);
+        want(wanted, HotKeyRole::ShowPanel);
+    }
+    if (wanted == _registered) {
+        return;
+    }
+    _center.unregisterAllHotKeys();
+    if (!_isSuspended) {
+        _actions.showProblem(HotKeyRole::ToggleCorrection, {});
+        _actions.showProblem(HotKeyRole::ShowPanel, {});
+    }
+    bool areAllRegistered = true;
+    for (const Wanted& each : wanted) {
+        areAllRegistered = registerHotKey(each) && areAllRegistered;
+    }
+    _registered.reset();
+    if (areAllRegistered) {
+        _registered = std::move(wanted);
+    }
+}
+
+bool ControllerHotKeys::registerHotKey(const Wanted& wanted) {
+    const bool isRegistered = _center.registerHotKeyWithKeyCode(
+        wanted.keyCode, wanted.modifierFlags, receiverFor(wanted.role));
+    if (!isRegistered) {
+        const auto& refusal = _center.lastRefusal();
+        _actions.showProblem(wanted.role, refusal ? refusal->sentence : std::string());
+    }
+    return isRegistered;
+}
+
+HotKeyReceiver ControllerHotKeys::receiverFor(HotKeyRole role) const {
+    const auto action = [](std::string name, const std::function<void()>& call) {
+        return HotKeyAction{.name = std::move(name),
+                            .call = [call](const HotKeyEvent&, const std::any&) { call(); }};
+    };
+    if (role == HotKeyRole::ToggleCorrection) {
+        return {.target = this,
+                .action = action("toggleApplyCorrection", _actions.toggleApplyCorrection)};
+    }
+    return {
+        .target = this,
+        .action = action("showPanelAndCenterMouseRelease", _actions.showPanelAndCenterMouseRelease),
+        .pressedAction = action("showPanelAndCenterMouse", _actions.showPanelAndCenterMouse)};
+}
+
+void ControllerHotKeys::setSuspended(bool isSuspended) {
+    _isSuspended = isSuspended;
+    updateHotKey();
+}
+
+}  // namespace tonquil

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "app/panel/PanelUnderMouse.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tonquil {
+
+namespace {
+
+// The slider's own geometry: how far its bar ends from its sides, in points, and how high above its
+// lower edge the knob's centre is, as a fraction of its height.
+constexpr double barMargin = 7;
+constexpr double knobHeight = 0.3;
+
+Point rounded(const Point& point) {
+    return {std::round(point.x), std::round(point.y)};
+}
+
+}  // namespace
+
+Point PanelUnderMouse::knobCentre(const PanelSliderGeometry& slider) {
+    const Rectangle& frame = slider.frame;
+    const double margin = barMargin * slider.scale;
+    const double fraction = (slider.value - slider.minimum) / (slider.maximum - slider.minimum);
+    return {frame.x + margin + fraction * (frame.width - 2 * margin),
+            frame.y + (1 - knobHeight) * frame.height};
+}
+
+Rectangle PanelUnderMouse::keptInside(Rectangle frame, const Rectangle& screen) {
+    frame.x = std::min(frame.x, screen.x + screen.width - frame.width);
+    frame.x = std::max(frame.x, screen.x);
+    frame.y = std::min(frame.y, screen.y + screen.height - frame.height);
+    frame.y = std::max(frame.y, screen.y);
+    return frame;
+}
+
+Rectangle PanelUnderMouse::constrained(const Rectangle& frame, const Point& pointer) const {
+    const auto displays = _.service.displaysWithPoint(pointer, 1);
+    return displays.empty() ? frame : keptInside(frame, _.service.bounds(displays.front()));
+}
+
+void PanelUnderMouse::showPanelAndCenterMouse() {
+    if (_.panel.isOrderedIn() && _.panel.isOnActiveWorkspace()) {
+        _.panel.orderOut();
+        return;
+    }
+    const auto pointer = _.windowSystem.pointerLocation();
+    if (!pointer) {
+        _.showPanel();
+        return;
+    }
+    _.showCurveAt(*pointer);
+    _press = Press{.initialTimeForPanelHotKey = _.runLoop.now(),
+                   .initialMouseLocationForPanelHotKey = *pointer,
+                   .modifiedMouseLocationForPanelHotKey = {},
+                   .initialControlWindowRect = _.panel.frame(),
+                   .initialControlWindowVisibility = _.panel.isOrderedIn()};
+    const Point knob = knobCentre(_.panel.masterSliderOfSelectedTab());
+    Rectangle frame = _.panel.frame();
+    const Point origin = rounded({pointer->x - knob.x, pointer->y - knob.y});
+    frame.x = origin.x;
+    frame.y = origin.y;
+    frame = constrained(frame, *pointer);
+    _.panel.setFrameOrigin({frame.x, frame.y});
+    _.showPanel();
+    // Whatever became of the wish for a place, the pointer goes where the knob is.
+    const Rectangle placed = _.panel.frame();
+    _.service.warpPointer(rounded({placed.x + knob.x, placed.y + knob.y}));
+    _press->modifiedMouseLocationForPanelHotKey = _.windowSystem.pointerLocation();
+}
+
+void PanelUnderMouse::showPanelAndCenterMouseRelease() {
+    const auto press = std::exchange(_press, std::nullopt);
+    if (!press) {
+        return;
+    }
+    const std::chrono::duration<double> held = _.runLoop.now() - press->initialTimeForPanelHotKey;
+    if (held.count() > tapSeconds) {
+        putBack(*press);
+    }
+}
+
+void PanelUnderMouse::putBack(const Press& press) {
+    // A pointer that the person has moved stays where it is.
+    if (_.windowSystem.pointerLocation() == press.modifiedMouseLocationForPanelHotKey) {
+        _.service.warpPointer(press.initialMouseLocationForPanelHotKey);
+    }
+    if (!press.initialControlWindowVisibility) {
+        _.panel.orderOut();
+    }
+    _.panel.setFrameOrigin({press.initialControlWindowRect.x, press.initialControlWindowRect.y});
+}
+
+}  // namespace tonquil

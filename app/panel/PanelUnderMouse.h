@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "app/panel/PanelWindow.h"
+#include "app/panel/WindowSystem.h"
+#include "foundation/RunLoop.h"
+#include "screens/DisplayService.h"
+
+namespace tonquil {
+
+/// Brings the panel to the pointer for as long as a hot key is held, or until it is closed when the
+/// key is only tapped. The knob of the shown tab's master slider is then right under the pointer.
+///
+/// Everything is in pixels of the top-down desktop space.
+class PanelUnderMouse {
+ public:
+    /// A key held longer than this, in seconds, puts everything back when it goes up.
+    static constexpr double tapSeconds = 0.4;
+
+    struct Surroundings {
+        DisplayService& service;
+        PanelWindow& panel;
+        WindowSystem& windowSystem;
+        RunLoop& runLoop;
+        /// Shows the curve of the display at a point.
+        std::function<void(const Point& pointer)> showCurveAt;
+        /// Shows the panel where it is.
+        std::function<void()> showPanel;
+    };
+    explicit PanelUnderMouse(Surroundings surroundings) : _(std::move(surroundings)) {}
+
+    /// The key has gone down: shows the panel, or hides it when it was shown.
+    void showPanelAndCenterMouse();
+    /// The key has gone up.
+    void showPanelAndCenterMouseRelease();
+
+    /// Where the knob of a slider is: its fill's end, in the coordinates of `slider.frame`.
+    [[nodiscard]] static Point knobCentre(const PanelSliderGeometry& slider);
+    /// `frame` moved into `screen`; the upper left corner counts where it does not fit.
+    [[nodiscard]] static Rectangle keptInside(Rectangle frame, const Rectangle& screen);
+
+ private:
+    /// What a press has found, and where it has put the pointer.
+    struct Press {
+        RunLoop::Clock::time_point initialTimeForPanelHotKey;
+        Point initialMouseLocationForPanelHotKey;
+        std::optional<Point> modifiedMouseLocationForPanelHotKey;
+        Rectangle initialControlWindowRect;
+        bool initialControlWindowVisibility = false;
+    };
+
+    [[nodiscard]] Rectangle constrained(const Rectangle& frame, const Point& pointer) const;
+    void putBack(const Press& press);
+
+    Surroundings _;
+    /// There while the key is down.
+    std::optional<Press> _press;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "app/preferences/PreferencesStore.h"
+#include "hotkeys/DDHotKey.h"
+
+namespace tonquil {
+
+/// Which of the program's hot keys.
+enum class HotKeyRole : std::uint8_t { ToggleCorrection, ShowPanel };
+
+/// Where the preferences keep a hot key.
+struct HotKeySettings {
+    std::string_view isUsed;
+    std::string_view code;
+    std::string_view modifiers;
+};
+[[nodiscard]] HotKeySettings hotKeySettings(HotKeyRole role);
+
+/// The hot key that the preferences hold for a role, without a task; null for none. It is stored
+/// also while it is switched off.
+[[nodiscard]] std::shared_ptr<DDHotKey> storedHotKey(const PreferencesStore& preferences,
+                                                     HotKeyRole role);
+/// Stores a hot key for a role; null stores none.
+void storeHotKey(PreferencesStore& preferences, HotKeyRole role, const DDHotKey* hotKey);
+
+}  // namespace tonquil

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "app/panel/WindowSystem.h"
+#include "platform/x11/X11Connection.h"
+
+namespace tonquil {
+
+/// Asks an X11 window manager by the conventions that all of them share (EWMH).
+///
+/// A window that a window manager looks after, shown or minimised, is changed by a message to it;
+/// the properties of any other are set, for a window manager to read when it takes the window on.
+class X11WindowSystem final : public WindowSystem {
+ public:
+    /// Connects to `display` as X11Connection::open does.
+    [[nodiscard]] static Result<std::unique_ptr<X11WindowSystem>> open(const char* display);
+
+    void keepOnAllWorkspaces(WindowID window) override;
+    void skipTaskbar(WindowID window, bool skip) override;
+    [[nodiscard]] bool isOnActiveWorkspace(WindowID window) const override;
+    [[nodiscard]] std::optional<Point> pointerLocation() const override;
+    [[nodiscard]] bool isCompositing() const override;
+    [[nodiscard]] bool hasWindowManager() const override;
+
+ private:
+    explicit X11WindowSystem(std::unique_ptr<X11Connection> connection);
+    [[nodiscard]] bool isManaged(xcb_window_t window) const;
+    void sendToManager(xcb_window_t window, xcb_atom_t type,
+                       const std::array<std::uint32_t, 5>& data) const;
+    void setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type,
+                     const std::vector<std::uint32_t>& values) const;
+    [[nodiscard]] std::vector<std::uint32_t> property(xcb_window_t window, xcb_atom_t name) const;
+    void finish() const;
+
+    std::unique_ptr<X11Connection> _connection;
+    xcb_atom_t _desktop;
+    xcb_atom_t _currentDesktop;
+    xcb_atom_t _state;
+    xcb_atom_t _skipTaskbar;
+    xcb_atom_t _skipPager;
+    xcb_atom_t _managerState;
+    xcb_atom_t _managerCheck;
+    xcb_atom_t _compositor;
+};
+
+}  // namespace tonquil

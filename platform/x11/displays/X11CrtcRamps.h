@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xcb/randr.h>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "model/GammaTable.h"
+#include "platform/ramp/HardwareRamp.h"
+#include "platform/ramp/RampHistory.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/displays/X11RampJournal.h"
+
+namespace tonquil {
+
+/// Reads and writes the ramps of the server's CRTCs, and keeps apart what the system set from what
+/// we set.
+///
+/// Everything that is set between two calls of `finish` goes out together and is waited for once.
+/// Together with each set the ramp that it replaces is asked for: the server answers in order, so
+/// a ramp that somebody else put there in between is found without a round trip of its own, and
+/// becomes the system ramp.
+class X11CrtcRamps {
+ public:
+    explicit X11CrtcRamps(const X11Connection& connection)
+        : _connection(connection), _journal(connection) {}
+
+    /// Looks at the given CRTCs at one moment, in one round trip. Those without a ramp, or gone,
+    /// have size 0 from then on.
+    void load(const std::vector<xcb_randr_crtc_t>& crtcs);
+    [[nodiscard]] bool isLoaded(xcb_randr_crtc_t crtc) const { return _crtcs.contains(crtc); }
+    /// Sends a CRTC its system ramp if a correction is on it, and forgets it.
+    void release(xcb_randr_crtc_t crtc);
+    /// Entries per channel; 0 when there is no gamma.
+    [[nodiscard]] std::uint32_t size(xcb_randr_crtc_t crtc) const;
+    /// What was on the hardware when it was last looked at; null when there is no ramp.
+    [[nodiscard]] const HardwareRamp* present(xcb_randr_crtc_t crtc) const;
+    /// The system's ramp at that moment.
+    [[nodiscard]] std::optional<HardwareRamp> uncorrected(xcb_randr_crtc_t crtc) const;
+
+    /// Sends a correction. The CRTC must have been loaded and have a ramp.
+    void setCorrection(xcb_randr_crtc_t crtc, const GammaTable& table);
+    /// Sends a ramp that counts as the system's own from then on.
+    void setSystemRamp(xcb_randr_crtc_t crtc, const HardwareRamp& ramp);
+    /// Waits for what was sent, and returns the CRTCs that refused.
+    [[nodiscard]] std::vector<xcb_randr_crtc_t> finish();
+
+ private:
+    struct CrtcRamp {
+        HardwareRamp present;
+        RampHistory history;
+        /// The present ramp is the system's, but the journal does not say so yet. It must before a
+        /// correction replaces it.
+        bool isSystemRampUnsaved = false;
+        /// The correction that was set last was still there when it was set again.
+        bool wasInPlace = false;
+        /// The last table that was set and the ramp made of it.
+        std::optional<GammaTable> table;
+        HardwareRamp correction;
+        std::uint64_t correctionFingerprint = 0;
+    };
+    struct Pending {
+        xcb_randr_crtc_t crtc;
+        xcb_randr_get_crtc_gamma_cookie_t replaced;
+        xcb_void_cookie_t set;
+    };
+
+    void send(xcb_randr_crtc_t crtc, CrtcRamp& state, const HardwareRamp& ramp);
+    /// Takes the ramp that a set replaced for the system's, unless it was ours.
+    void examineReplaced(xcb_randr_crtc_t crtc, const xcb_randr_get_crtc_gamma_reply_t& replaced);
+
+    const X11Connection& _connection;
+    X11RampJournal _journal;
+    std::map<xcb_randr_crtc_t, CrtcRamp> _crtcs;
+    std::vector<Pending> _pending;
+};
+
+}  // namespace tonquil

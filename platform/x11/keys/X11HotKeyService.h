@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string_view>
+#include <vector>
+
+#include "foundation/Log.h"
+#include "foundation/RunLoop.h"
+#include "hotkeys/HotKeyService.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/keys/X11KeyGrabs.h"
+#include "platform/x11/keys/X11Modifiers.h"
+
+namespace tonquil {
+
+/// Hot keys of an X server: keys grabbed on its root windows, by a connection of its own.
+///
+/// The locks make no difference to a combination, nor does the layout that is switched to. When the
+/// keyboard is set up anew, the combinations are grabbed anew; one that is refused then is in the
+/// log, and is tried again at the next such change. Once the server has gone nothing is heard, and
+/// registering is refused. In a Wayland session's X server combinations are heard only while one
+/// of its own windows is in front.
+class X11HotKeyService final : public HotKeyService {
+ public:
+    /// How often the keyboard is looked at where no event tells that a key goes up.
+    static constexpr std::chrono::milliseconds releaseInterval{30};
+    /// How long several changes of the keyboard's set-up are taken as one.
+    static constexpr std::chrono::milliseconds settlingTime{50};
+
+    /// Connects to `display` as X11Connection::open does. A Problem also where the server has no
+    /// XKB extension. The run loop must outlive this.
+    [[nodiscard]] static Result<std::unique_ptr<X11HotKeyService>> open(const char* display,
+                                                                        RunLoop& runLoop, Log log);
+
+    void setHandlers(Handler pressed, Handler released) override;
+    [[nodiscard]] Result<HotKeyHandle> registerHotKey(std::uint16_t keyCode,
+                                                      HotKeyServiceMask modifiers,
+                                                      std::uint32_t id) override;
+    void unregisterHotKey(HotKeyHandle handle) override;
+
+ private:
+    struct Registration {
+        xcb_keycode_t key;
+        HotKeyServiceMask modifiers;
+        std::uint32_t id;
+        /// The state that is grabbed; nothing while the keyboard cannot give it.
+        std::optional<std::uint16_t> state;
+    };
+    /// A hot key that is down.
+    struct Held {
+        HotKeyHandle handle;
+        /// Tells one time that the key is down from the next.
+        std::uint64_t number;
+    };
+
+    X11HotKeyService(std::unique_ptr<X11Connection> connection, RunLoop& runLoop, Log log);
+    [[nodiscard]] std::optional<Problem> setUpKeyboard();
+    void selectEvents() const;
+    [[nodiscard]] std::optional<HotKeyHandle> find(xcb_keycode_t key, std::uint16_t state) const;
+    void takeEvents();
+    void takeEventsSoon();
+    void take(const xcb_generic_event_t& event);
+    void keyPressed(const xcb_key_press_event_t& event);
+    void keyReleased(const xcb_key_press_event_t& event);
+    void release(xcb_keycode_t key, HotKeyServiceEvent event);
+    void noteIfDown(xcb_keycode_t key);
+    void lookUntilReleased();
+    void lookForReleases();
+    [[nodiscard]] XcbPointer<xcb_query_keymap_reply_t> queryKeymap() const;
+    [[nodiscard]] HotKeyServiceEvent presentEvent() const;
+    void keyboardChanged();
+    void stop();
+    void report(std::string_view line) const;
+
+    std::unique_ptr<X11Connection> _connection;
+    RunLoop& _runLoop;
+    Log _log;
+    X11KeyGrabs _grabs;
+    X11Modifiers _modifiers;
+    std::uint8_t _xkbEvent = 0;
+    Handler _pressed;
+    Handler _released;
+    std::map<HotKeyHandle, Registration> _registrations;
+    HotKeyHandle _lastHandle = 0;
+    std::map<xcb_keycode_t, Held> _held;
+    std::uint64_t _lastNumber = 0;
+    /// Keys that have been down since before they were registered.
+    std::set<xcb_keycode_t> _downBefore;
+    /// The server's time in the last event of a key, and ours when it came.
+    std::chrono::milliseconds _serverTime{0};
+    RunLoop::Clock::time_point _serverTimeTaken;
+    std::unique_ptr<RunLoop::Handle> _watch;
+    std::unique_ptr<RunLoop::Handle> _early;
+    std::unique_ptr<RunLoop::Handle> _look;
+    std::unique_ptr<RunLoop::Handle> _settling;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: MIT
+#include "program/Program.h"
+
+#include <QApplication>
+#include <cstdlib>
+#include <utility>
+
+#include "platform/choice/DisplayServiceChoice.h"
+#include "platform/missing/MissingDisplayService.h"
+#include "platform/missing/MissingHotKeyService.h"
+#include "platform/missing/MissingKeyboardLayout.h"
+#include "platform/missing/MissingWindowSystem.h"
+#include "platform/posix/PosixLocalHost.h"
+#include "platform/posix/TerminationSignals.h"
+#include "platform/posix/UdpSocket.h"
+#include "platform/x11/desktop/X11WindowSystem.h"
+#include "platform/x11/keys/X11HotKeyService.h"
+#include "platform/xdg/Folder.h"
+#include "platform/xkb/XkbKeyboardLayout.h"
+#include "program/ProgramEnvironment.h"
+
+namespace tonquil {
+
+namespace {
+
+/// What the toolkit's exit must still save: it ends the process itself when the display server
+/// goes, and then destroys nothing.
+TQController* controllerToSave = nullptr;
+
+void saveAtExit() {
+    if (controllerToSave != nullptr) {
+        controllerToSave->applicationWillTerminate();
+    }
+}
+
+}  // namespace
+
+Program::Program(const XdgFolders& folders)
+    : _preferences(folders.config() / "preferences.plist", _runLoop, logLine),
+      _recovery(folders.state() / ("recovery-" + instanceName() + ".plist"), logLine),
+      _busEvents(_runLoop, logLine),
+      _loginItem(folders.config().parent_path() / "autostart",
+                 programFile().parent_path() / "tonquil-launcher"),
+      _sessionWindows(folders.state() / ("windows-" + instanceName() + ".plist")) {
+    openDisplays();
+    openWindowSystem();
+    openKeyboard();
+    makeWindows();
+    _registry = std::make_unique<ScreenRegistry>(*_displays);
+    _hotKeys = std::make_unique<DDHotKeyCenter>(*_hotKeyService, logLine);
+    DDHotKeyCenter::setSharedHotKeyCenter(_hotKeys.get());
+    makeController();
+}
+
+void Program::makeWindows() {
+    _panel = std::make_unique<ControlPanel>(*_windowSystem);
+    _dialogs = std::make_unique<PanelFileDialogs>(*_panel);
+    _presence = std::make_unique<TrayPresence>(*_windowSystem, logLine);
+    _presence->watch(*_panel);
+    const auto windowMade = [this](QWidget& window) { _presence->watch(window); };
+    _targets = std::make_unique<TargetPresenter>(*_displays, _preferences, windowMade);
+    _windows = std::make_unique<OtherWindows>(
+        OtherWindows::Surroundings{.preferences = {.preferences = _preferences,
+                                                   .loginItem = _loginItem,
+                                                   .alerts = _alerts,
+                                                   .layout = *_keyboardLayout,
+                                                   .program = programFile(),
+                                                   .home = environment("HOME"),
+                                                   .log = logLine},
+                                   .service = *_displays,
+                                   .bundle = {.path = programFile(),
+                                              .name = "Tonquil",
+                                              .shortVersion = TONQUIL_VERSION,
+                                              .build = TONQUIL_VERSION,
+                                              .copyright = TONQUIL_COPYRIGHT},
+                                   .windowMade = windowMade,
+                                   .suspendHotKeys = [this](bool areSuspended) {
+                                       if (_controller) {
+                                           _controller->setHotKeysSuspended(areSuspended);
+                                       }
+                                   }});
+}
+// Nothing may call what goes before it.
+Program::~Program() {
+    controllerToSave = nullptr;
+    _panel->hide();
+    _controller.reset();
+}
+
+int Program::run(const std::vector<Request>& requests) {
+    controllerToSave = _controller.get();
+    std::atexit(saveAtExit);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit,
+                     [this] { _controller->applicationWillTerminate(); });
+    const auto signals = TerminationSignals::watch(_runLoop, [this](int) { _controller->quit(); });
+    if (!signals) {
+        report(signals.error());
+    }
+    _controller->applicationDidFinishLaunching();
+    if (_isToEnd) {
+        return EXIT_SUCCESS;
+    }
+    const SessionRestoration session(*_controller, sessionStorage());
+    session.restore();
+    _desktopAppearance.start([this](const DesktopAppearance::Settings& settings) {
+        AccessibilityOptions options;
+        options.increaseContrast = settings.increaseContrast;
+        options.reduceMotion = settings.reduceMotion;
+        _panel->setAccessibilityOptions(options);
+        _windows->setAccessibilityOptions(options);
+    });
+    _runLoop.post([this, requests] {
+        _isLaunched = true;
+        // The start itself is what is asked of a program that was not running.
+        auto others = requests;
+        std::erase(others, Request{});
+        carryOut(others, *_controller);
+        carryOut(std::exchange(_requestsBeforeLaunch, {}), *_controller);
+    });
+    return QCoreApplication::exec();
+}
+
+std::string Program::answer(const std::string& text) {
+    const auto requests = requestsFromText(text);
+    if (!requests) {
+        return requests.error().sentence;
+    }
+    // A question that the start asks may wait for its answer for long; until then there are
+    // neither defaults nor curves.
+    if (_isLaunched || wantsEnd(*requests)) {
+        carryOut(*requests, *_controller);
+    } else {
+        _requestsBeforeLaunch.insert(_requestsBeforeLaunch.end(), requests->begin(),
+                                     requests->end());
+    }
+    return {};
+}
+
+// Before the toolkit runs it cannot be told to end; what the start waits for is an answer.
+void Program::end() {
+    if (_isLaunched) {
+        QCoreApplication::quit();
+    } else {
+        _isToEnd = true;
+        _alerts.dismiss();
+    }
+}
+
+void Program::makeController() {
+    std::vector<SessionEvents*> events{&_busEvents};
+    if (_desktopEvents) {
+        events.push_back(_desktopEvents.get());
+    }
+    _controller = std::make_unique<TQController>(
+        ControllerSurroundings{.service = *_displays,
+                               .registry = *_registry,
+                               .reconfigurations = _reconfigurations,
+                               .preferences = _preferences,
+                               .recovery = _recovery,
+                               .runLoop = _runLoop,
+                               .controls = *_panel,
+                               .panel = *_panel,
+                               .dialogs = *_dialogs,
+                               .targets = *_targets,
+                               .windows = *_windows,
+                               .alerts = _alerts,
+                               .presence = *_presence,
+                               .windowSystem = *_windowSystem,
+                               .programs = _installedPrograms,
+                               .hotKeys = *_hotKeys,
+                               .openServer = [this] { return openServer(); },
+                               .sessionEvents = std::move(events),
+                               .whyNoDisplays = _whyNoDisplays,
+                               .endProgram = [this] { end(); },
+                               .log = logLine});
+    _panel->setActions(*_controller);
+    _presence->setActions(*_controller, [this] { _controller->showPanel(); });
+    const bool hasSite = OtherWindows::hasAddress("TQWebSite");
+    const bool hasBoardSite = OtherWindows::hasAddress("TQBoardWebSite");
+    _panel->showWebSites(hasSite, hasBoardSite);
+    _presence->showWebSites(hasSite, hasBoardSite);
+}
+
+std::unique_ptr<TQPlayerServer> Program::openServer() {
+    auto server = TQPlayerServer::init(
+        {.runLoop = _runLoop,
+         .openSocket = []() -> Result<std::unique_ptr<DatagramSocket>> {
+             return UdpSocket::open().map(
+                 [](auto socket) -> std::unique_ptr<DatagramSocket> { return socket; });
+         },
+         .host = std::make_shared<PosixLocalHost>(),
+         .guid = _guid,
+         .log = logLine});
+    return server ? std::move(*server) : nullptr;
+}
+
+SessionRestoration::Storage Program::sessionStorage() {
+    return {.load = [this] { return _sessionWindows.read().dictionary; },
+            .store =
+                [this](const PropertyValue& shown) {
+                    const auto stored =
+                        makeFolder(_sessionWindows.path().parent_path()).and_then([&] {
+                            return _sessionWindows.write(shown);
+                        });
+                    if (!stored) {
+                        report(stored.error());
+                    }
+                }};
+}
+
+void Program::openDisplays() {
+    auto opened = chooseDisplayService(&_runLoop, logLine);
+    if (opened) {
+        _displays = std::move(*opened);
+        return;
+    }
+    report(opened.error());
+    _whyNoDisplays = opened.error().sentence;
+    _displays = std::make_unique<MissingDisplayService>();
+}
+
+void Program::openWindowSystem() {
+    _windowSystem = std::make_unique<MissingWindowSystem>();
+    if (QGuiApplication::platformName() != QStringLiteral("xcb")) {
+        return;
+    }
+    if (auto opened = X11WindowSystem::open(nullptr)) {
+        _windowSystem = std::move(*opened);
+    }
+    auto events = X11DesktopEvents::open(nullptr, _runLoop, logLine,
+                                         [this] { _controller->applicationWillTerminate(); });
+    if (events) {
+        _desktopEvents = std::move(*events);
+    }
+    if (!_windowSystem->hasWindowManager()) {
+        logLine("There is no window manager; the panel is moved without one.");
+    }
+}
+
+void Program::openKeyboard() {
+    _hotKeyService = std::make_unique<MissingHotKeyService>();
+    _keyboardLayout = std::make_unique<MissingKeyboardLayout>();
+    if (QGuiApplication::platformName() != QStringLiteral("xcb")) {
+        return;
+    }
+    if (auto opened = X11HotKeyService::open(nullptr, _runLoop, logLine)) {
+        _hotKeyService = std::move(*opened);
+    } else {
+        report(opened.error());
+    }
+    if (auto opened = XkbKeyboardLayout::open(nullptr)) {
+        _keyboardLayout = std::move(*opened);
+    } else {
+        report(opened.error());
+    }
+}
+
+}  // namespace tonquil

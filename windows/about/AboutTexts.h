@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QTextDocumentFragment>
+#include <memory>
+
+#include "windows/about/BundleInformation.h"
+
+class QTextDocument;
+
+namespace tonquil {
+
+[[nodiscard]] QString applicationName(const BundleInformation& information);
+/// "Version 6.2 (6204)", without the parentheses where the build is the version.
+[[nodiscard]] QString versionLine(const BundleInformation& information);
+
+/// The HTML document `file`, which may be a resource, in the encoding that it says or shows. Empty
+/// where there is none.
+[[nodiscard]] QTextDocumentFragment creditsDocument(const QString& file);
+
+/// A copy of `pattern` in which the first "App", "Version", "Copyright" and "Credits", which must
+/// be there in this order, have given way to what they stand for.
+[[nodiscard]] std::unique_ptr<QTextDocument> filledTemplate(const QTextDocument& pattern,
+                                                            const BundleInformation& information,
+                                                            const QTextDocumentFragment& credits);
+
+}  // namespace tonquil

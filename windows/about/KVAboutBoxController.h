@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <memory>
+
+#include "windows/about/BundleInformation.h"
+
+class QTextDocument;
+
+namespace tonquil {
+
+class AboutWindow;
+class KVAboutBoxIconView;
+class KVAboutBoxScrollView;
+
+/// Fills the about window from what the program is told of itself, and shows it.
+class KVAboutBoxController {
+ public:
+    /// `creditsFile` is an HTML file or resource; the program's own by default. The window is made
+    /// when it is first needed.
+    explicit KVAboutBoxController(BundleInformation information,
+                                  QString creditsFile = ownCredits());
+    ~KVAboutBoxController();
+    Q_DISABLE_COPY_MOVE(KVAboutBoxController)
+
+    [[nodiscard]] static QString windowNibName();
+    [[nodiscard]] static QString ownCredits();
+
+    /// Shows the window in front; where it was not shown, from the beginning of its text and in
+    /// the middle of the screen.
+    void showWindow();
+    /// Fills the template again.
+    void updateText();
+
+    [[nodiscard]] AboutWindow& window();
+    /// Null before the window is made, unless they were set. Not owned.
+    [[nodiscard]] KVAboutBoxIconView* iconView() const;
+    void setIconView(KVAboutBoxIconView* iconView);
+    [[nodiscard]] KVAboutBoxScrollView* textView() const;
+    void setTextView(KVAboutBoxScrollView* textView);
+
+ private:
+    void windowDidLoad();
+    void widenTextView();
+
+    BundleInformation _information;
+    QString _creditsFile;
+    std::unique_ptr<AboutWindow> _window;
+    QPointer<KVAboutBoxIconView> _iconView;
+    QPointer<KVAboutBoxScrollView> _textView;
+    /// As it was before it was filled for the first time.
+    std::unique_ptr<QTextDocument> _templateText;
+};
+
+}  // namespace tonquil

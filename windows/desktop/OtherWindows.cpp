@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "windows/desktop/OtherWindows.h"
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QUrl>
+#include <map>
+
+#include "app/preferences/SettingsKeys.h"
+#include "app/preferences/WindowFrame.h"
+#include "windows/about/AboutWindow.h"
+#include "windows/about/KVAboutBoxBackground.h"
+#include "windows/panel/DevicePixels.h"
+#include "windows/panel/PanelIcons.h"
+#include "windows/preferences/PreferencesWindow.h"
+
+namespace tonquil {
+
+namespace {
+
+// Addresses are texts like others: a language may have pages of its own.
+QUrl addressOf(std::string_view key) {
+    static const std::map<std::string_view, const char*> ownAddresses{
+        {"TQWebSite", TONQUIL_WEB_SITE}, {"TQBoardWebSite", TONQUIL_BOARD_WEB_SITE}};
+    const QString keyText = QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
+    const QString text = QCoreApplication::translate("WebSites", keyText.toUtf8().constData());
+    return {text == keyText ? QString::fromUtf8(ownAddresses.at(key)) : text};
+}
+
+}  // namespace
+
+OtherWindows::OtherWindows(Surroundings surroundings) : _(std::move(surroundings)) {}
+
+OtherWindows::~OtherWindows() = default;
+
+void OtherWindows::setAccessibilityOptions(const AccessibilityOptions& options) {
+    _options = options;
+    if (_prefs) {
+        _prefs->setAccessibilityOptions(options);
+    }
+}
+
+void OtherWindows::setAboutBackground(double red, double green, double blue) {
+    KVAboutBoxBackground::setBackgroundColor(QColor::fromRgbF(
+        static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue)));
+}
+
+void OtherWindows::makePreferences() {
+    _prefs = std::make_unique<TQPrefController>(_.preferences);
+    _prefs->setAccessibilityOptions(_options);
+    _prefs->setRecordingHooks([this] { _.suspendHotKeys(true); },
+                              [this] { _.suspendHotKeys(false); });
+    _prefs->setClosed([this] { saveFrames(); });
+    _prefs->window().setWindowIcon(programIcon());
+    _prefs->showHotKeyProblem(HotKeyRole::ToggleCorrection, _toggleProblem);
+    _prefs->showHotKeyProblem(HotKeyRole::ShowPanel, _panelProblem);
+    const auto frame =
+        windowFrameFrom(_.preferences.preferences.stringForKey(settingsKey::preferencesFrame));
+    if (frame && !_.service.displaysWithPoint(frame->centre(), 1).empty()) {
+        _prefs->setFrameOrigin(pointsFrom(*frame).topLeft());
+    }
+    _.windowMade(_prefs->window());
+}
+
+void OtherWindows::openPreferences() {
+    if (!_prefs) {
+        makePreferences();
+    }
+    _prefs->showWindow();
+}
+
+bool OtherWindows::isPreferencesWindowShown() const {
+    return _prefs && _prefs->window().isVisible();
+}
+
+void OtherWindows::openAboutBox() {
+    if (!_about) {
+        _about = std::make_unique<KVAboutBoxController>(_.bundle);
+        _.windowMade(_about->window());
+    }
+    _about->showWindow();
+}
+
+bool OtherWindows::hasAddress(std::string_view key) {
+    return !addressOf(key).isEmpty();
+}
+
+void OtherWindows::openAddress(std::string_view key) {
+    const QUrl address = addressOf(key);
+    if (address.isEmpty() || !QDesktopServices::openUrl(address)) {
+        std::string line = "No browser could be shown the page ";
+        _.preferences.log(line.append(address.toString().toStdString()).append("."));
+    }
+}
+
+void OtherWindows::showHotKeyProblem(HotKeyRole role, const std::string& sentence) {
+    const bool isToggle = role == HotKeyRole::ToggleCorrection;
+    (isToggle ? _toggleProblem : _panelProblem) = sentence;
+    if (_prefs) {
+        _prefs->showHotKeyProblem(role, sentence);
+    }
+}
+
+void OtherWindows::saveFrames() {
+    if (_prefs) {
+        _.preferences.preferences.setValue(settingsKey::preferencesFrame,
+                                           textFromWindowFrame(devicePixelsFrom(_prefs->frame())));
+    }
+}
+
+}  // namespace tonquil

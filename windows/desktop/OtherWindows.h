@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "app/desktop/ProgramWindows.h"
+#include "screens/DisplayService.h"
+#include "windows/about/KVAboutBoxController.h"
+#include "windows/preferences/TQPrefController.h"
+
+namespace tonquil {
+
+/// The preferences and the about window, each made when it is first asked for.
+class OtherWindows final : public ProgramWindows {
+ public:
+    struct Surroundings {
+        PreferencesSurroundings preferences;
+        DisplayService& service;
+        BundleInformation bundle;
+        /// Called with each window that is made, before it is shown.
+        std::function<void(QWidget&)> windowMade;
+        /// Hot keys are to be given up, or taken back.
+        std::function<void(bool areSuspended)> suspendHotKeys;
+    };
+    explicit OtherWindows(Surroundings surroundings);
+    ~OtherWindows() override;
+    OtherWindows(const OtherWindows&) = delete;
+    OtherWindows& operator=(const OtherWindows&) = delete;
+
+    void setAccessibilityOptions(const AccessibilityOptions& options);
+
+    void setAboutBackground(double red, double green, double blue) override;
+    void openPreferences() override;
+    [[nodiscard]] bool isPreferencesWindowLoaded() const override { return _prefs != nullptr; }
+    [[nodiscard]] bool isPreferencesWindowShown() const override;
+    void openAboutBox() override;
+    void openAddress(std::string_view key) override;
+    void showHotKeyProblem(HotKeyRole role, const std::string& sentence) override;
+    void saveFrames() override;
+
+    /// Whether there is a page behind a key: a copy of the program may have none.
+    [[nodiscard]] static bool hasAddress(std::string_view key);
+
+ private:
+    void makePreferences();
+
+    Surroundings _;
+    AccessibilityOptions _options;
+    std::string _toggleProblem;
+    std::string _panelProblem;
+    std::unique_ptr<TQPrefController> _prefs;
+    std::unique_ptr<KVAboutBoxController> _about;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSystemTrayIcon>
+#include <QTimer>
+#include <functional>
+#include <vector>
+
+#include "app/desktop/DesktopPresence.h"
+#include "app/panel/PanelActions.h"
+#include "app/panel/WindowSystem.h"
+#include "foundation/Log.h"
+#include "windows/desktop/StatusMenu.h"
+
+namespace tonquil {
+
+/// The status item in the desktop's tray, and the program's windows in its task bar.
+class TrayPresence final : public QObject, public DesktopPresence {
+ public:
+    /// The window system must outlive this.
+    TrayPresence(WindowSystem& windowSystem, Log log);
+
+    /// What the item and its menu do.
+    void setActions(PanelActions& actions, std::function<void()> showPanel);
+    void showWebSites(bool hasSite, bool hasBoardSite) {
+        _menu.showWebSites(hasSite, hasBoardSite);
+    }
+    /// Sees to the task-bar entry of a window, also each time that it is shown again.
+    void watch(QWidget& window);
+
+    void showStatusItem(bool isShown) override;
+    void setStatusItemActive(bool isActive) override;
+    void setInTaskBar(bool isInTaskBar) override;
+    void showRemoteConfiguration(bool isOn) override { _menu.showRemoteConfiguration(isOn); }
+
+ protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+    void look();
+    void updateTaskBar();
+    void updateTaskBar(QWidget& window);
+
+    WindowSystem& _windowSystem;
+    Log _log;
+    StatusMenu _menu;
+    QSystemTrayIcon _item;
+    std::vector<QWidget*> _windows;
+    /// Looks for a tray while there is none.
+    QTimer _lookTimer;
+    bool _wantsTaskBar = false;
+    bool _lacksTray = false;
+};
+
+}  // namespace tonquil

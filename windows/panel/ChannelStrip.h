@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <array>
+#include <functional>
+
+#include "windows/panel/PanelSliders.h"
+
+class QMenu;
+class QToolButton;
+
+namespace tonquil {
+
+/// One slider that always stands for the channel of the focused control, with a picker of the
+/// channel and one of the tab: all values are within reach in the compact panel and on a touch
+/// screen.
+class ChannelStrip : public QWidget {
+ public:
+    /// The sliders must outlive the strip.
+    explicit ChannelStrip(const PanelSliders& sliders, QWidget* parent = nullptr);
+
+    /// Called with the slider of the panel that is to take a value of the strip's, after it has.
+    void setAction(std::function<void(TQSlider&)> action) { _moved = std::move(action); }
+    /// Called with that slider when the strip's own is taken hold of and let go.
+    void setInteractionChanged(std::function<void(TQSlider&, bool)> changed) {
+        _interactionChanged = std::move(changed);
+    }
+    /// Called with the control that is to have the focus.
+    void setFocusAction(std::function<void(QWidget&)> action) { _focus = std::move(action); }
+    /// Called with the tab that the person picks.
+    void setTabAction(std::function<void(int)> action) { _pickTab = std::move(action); }
+
+    /// To be called whenever another control of the panel has the focus.
+    void updateTouchBarForResponder(QWidget* responder);
+    /// Takes the value of the slider that the strip stands for.
+    void updateTouchBarSlider();
+    void showTab(int tab);
+    void _setControlsEnabled(bool enabled);
+
+ protected:
+    void changeEvent(QEvent* event) override;
+
+ private:
+    void makePicker();
+    void updateTouchBarChannelImagesForTab(int tab);
+    void touchBarSliderChanged();
+    void valuePickerSelectionChanged(int segment);
+    void stepBy(double step);
+    [[nodiscard]] TQSlider* mirroredSlider() const;
+    void mirror(const TQSlider& slider, Channel channel);
+    void removeSliderUnlessNeeded();
+
+    const PanelSliders& _sliders;
+    QToolButton* _gammaTabPopover;
+    QMenu* _tabMenu = nullptr;
+    std::array<QToolButton*, PanelSliders::channelCount> _valuePicker{};
+    QToolButton* _minimumValueAccessory;
+    TQSlider* _slider;
+    QToolButton* _maximumValueAccessory;
+    QPointer<QWidget> _responder;
+    int _tab = 1;
+    bool _areControlsEnabled = true;
+    std::function<void(TQSlider&)> _moved;
+    std::function<void(TQSlider&, bool)> _interactionChanged;
+    std::function<void(QWidget&)> _focus;
+    std::function<void(int)> _pickTab;
+};
+
+}  // namespace tonquil

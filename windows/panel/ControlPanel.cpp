@@ -1,0 +1,362 @@
+// SPDX-License-Identifier: MIT
+#include "windows/panel/ControlPanel.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStackedWidget>
+#include <QStyleHints>
+#include <QToolButton>
+#include <QToolTip>
+#include <QWindow>
+
+#include "ui/CurvePlot.h"
+#include "ui/TQNumericTextField.h"
+#include "ui/TQSlider.h"
+#include "ui/TQVibrantMatrix.h"
+#include "ui/theme/Drawing.h"
+#include "ui/theme/Theme.h"
+#include "windows/panel/ChannelStrip.h"
+#include "windows/panel/DevicePixels.h"
+#include "windows/panel/PanelIcons.h"
+#include "windows/panel/TitleStrip.h"
+
+namespace tonquil {
+
+namespace {
+
+constexpr double windowRadius = 10;
+constexpr int glideMilliseconds = 100;
+/// The plot is drawn at most once in this time, however fast a slider moves.
+constexpr int plotMilliseconds = 16;
+/// Steps that follow each other faster than this are undone together.
+constexpr int editEndMilliseconds = 800;
+
+}  // namespace
+
+ControlPanel::ControlPanel(WindowSystem& windowSystem)
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      _windowSystem(windowSystem),
+      _contents(new PanelContents(_menu, this)) {
+    setWindowTitle(QCoreApplication::translate("Panel", "Tonquil"));
+    setWindowIcon(programIcon());
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setAcceptDrops(true);
+    _appearance.allowsVibrancy = windowSystem.isCompositing();
+    _appearance.options.reduceTransparency = !_appearance.allowsVibrancy;
+    setAttribute(Qt::WA_TranslucentBackground, _appearance.allowsVibrancy);
+    _plotTimer.setSingleShot(true);
+    _plotTimer.setInterval(plotMilliseconds);
+    QObject::connect(&_plotTimer, &QTimer::timeout, this, [this] { drawPlot(); });
+    _editEndTimer.setSingleShot(true);
+    QObject::connect(&_editEndTimer, &QTimer::timeout, this, [this] { _actions->endEdit(); });
+    _glide.setDuration(glideMilliseconds);
+    QObject::connect(&_glide, &QVariantAnimation::valueChanged, this,
+                     [this](const QVariant& height) { setHeight(height.toInt()); });
+    setAppearances();
+    fitForm(false);
+}
+
+// With the window the keyboard goes, which would commit what is being typed to a panel that is half
+// gone.
+ControlPanel::~ControlPanel() {
+    _contents->sliders.revertTyping();
+}
+
+void ControlPanel::setActions(PanelActions& actions) {
+    _actions = &actions;
+    _menu.setActions(actions, *this);
+    connectControls();
+}
+
+void ControlPanel::connectControls() {
+    PanelContents& contents = *_contents;
+    contents.sliders.setAction([this](PanelSlider slider) { moved(slider); });
+    contents.sliders.setInteractionChanged(
+        [this](PanelSlider slider, bool isHeld) { heldSlider(slider, isHeld); });
+    for (std::size_t index = 0; index < panelSliderCount; ++index) {
+        contents.sliders.row(static_cast<PanelSlider>(index)).field->installEventFilter(this);
+    }
+    contents.gammaTabSelector->setAction([this](int column) { pickTab(column); });
+    contents.channelStrip->setTabAction([this](int tab) { pickTab(tab); });
+    contents.channelStrip->setFocusAction([this](QWidget& field) { makeFirstResponder(field); });
+    contents.channelStrip->setAction([](TQSlider& slider) { slider.sendAction(); });
+    contents.channelStrip->setInteractionChanged([this](TQSlider& slider, bool isHeld) {
+        for (std::size_t index = 0; index < panelSliderCount; ++index) {
+            if (&_contents->sliders.slider(static_cast<PanelSlider>(index)) == &slider) {
+                heldSlider(static_cast<PanelSlider>(index), isHeld);
+            }
+        }
+    });
+    contents.titleStrip->setCloseAction([this] { close(); });
+    contents.titleStrip->setRemoteAction([this] { _actions->openPreferences(); });
+    contents.titleStrip->setSubjectAction(
+        [this](bool isAll) { _actions->setAffectsAllScreens(isAll); });
+    QObject::connect(contents.applyCorrectionBox, &QCheckBox::clicked, this,
+                     [this](bool isOn) { _actions->changeApplyCorrection(isOn); });
+    QObject::connect(contents.resetButton, &QToolButton::clicked, this,
+                     [this] { _actions->resetGamma(); });
+    QObject::connect(contents.colorTargetButton, &QToolButton::clicked, this,
+                     [this] { _actions->openTargetWindow(); });
+    QObject::connect(contents.blendingModePopUp, &QComboBox::activated, this, [this] {
+        _blendingMode = _contents->blendingModePopUp->currentData().toInt();
+        _actions->changeBlendingMode();
+    });
+    QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now != nullptr && isAncestorOf(now)) {
+            firstResponderChanged(now);
+        }
+    });
+}
+
+void ControlPanel::setAccessibilityOptions(const AccessibilityOptions& options) {
+    _appearance.options = options;
+    _appearance.options.reduceTransparency |= !_appearance.allowsVibrancy;
+    setAppearances();
+}
+
+PanelValues ControlPanel::values() const {
+    PanelValues values = _contents->sliders.values();
+    values.blendingMode = _blendingMode;
+    return values;
+}
+
+void ControlPanel::setValues(const PanelValues& values) {
+    _contents->sliders.setValues(values);
+    selectBlendingMode(values.blendingMode);
+}
+
+void ControlPanel::setSlider(PanelSlider slider, float value) {
+    _contents->sliders.slider(slider).setFloatValue(value);
+}
+
+// The mode is kept beside the menu, which may not know it.
+void ControlPanel::selectBlendingMode(std::int32_t blendingMode) {
+    _blendingMode = blendingMode;
+    QComboBox& popUp = *_contents->blendingModePopUp;
+    popUp.setCurrentIndex(popUp.findData(blendingMode));
+}
+
+void ControlPanel::updateTouchBarSlider() {
+    _contents->channelStrip->updateTouchBarSlider();
+}
+
+void ControlPanel::_setControlsEnabled(bool enabled) {
+    const bool wasEnabled = _contents->blendingModePopUp->isEnabled();
+    if (wasEnabled && !enabled) {
+        _focusToReturn = focusWidget();
+    }
+    _contents->sliders.setEnabled(enabled);
+    _contents->channelStrip->_setControlsEnabled(enabled);
+    _contents->blendingModePopUp->setEnabled(enabled);
+    _contents->resetButton->setEnabled(enabled);
+    _menu.setEditingEnabled(enabled);
+    if (enabled && !wasEnabled && _focusToReturn) {
+        _focusToReturn->setFocus();
+        _focusToReturn = nullptr;
+    }
+}
+
+void ControlPanel::showCorrection(bool isOn) {
+    _contents->applyCorrectionBox->setChecked(isOn);
+}
+
+void ControlPanel::showSubject(const PanelSubject& subject) {
+    _contents->titleStrip->showSubject(subject);
+    _contents->plot->setMessage(QCoreApplication::translate("Problem", subject.obstacle.c_str()));
+}
+
+void ControlPanel::updatePlot() {
+    if (!_plotTimer.isActive()) {
+        _plotTimer.start();
+    }
+}
+
+void ControlPanel::drawPlot() {
+    const auto curves = _actions == nullptr ? std::nullopt : _actions->plottedCurves();
+    const auto levels = [&](const GammaTable& table) {
+        return CurvePlot::Levels{table.channel(0).first(curves->sampleCount),
+                                 table.channel(1).first(curves->sampleCount),
+                                 table.channel(2).first(curves->sampleCount)};
+    };
+    if (curves) {
+        _contents->plot->setCurves(levels(curves->result));
+        _contents->plot->setBase(levels(curves->base));
+    } else {
+        _contents->plot->setCurves({});
+        _contents->plot->setBase({});
+    }
+}
+
+void ControlPanel::showUndo(bool canUndo, bool canRedo) {
+    _menu.showUndo(canUndo, canRedo);
+}
+
+void ControlPanel::moved(PanelSlider slider) {
+    const bool isLinked = QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+    _wasLastEditHeld = _isSliderHeld;
+    _actions->applyGamma(slider, isLinked);
+    if (!_wasLastEditHeld) {
+        _editEndTimer.start(editEndMilliseconds);
+    }
+}
+
+void ControlPanel::heldSlider(PanelSlider slider, bool isHeld) {
+    _isSliderHeld = isHeld;
+    if (!isHeld) {
+        _contents->plot->setMarkedPoint(std::nullopt);
+        // A second click may make a double-click of it, which is undone as one.
+        _editEndTimer.start(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+        return;
+    }
+    _editEndTimer.stop();
+    if (!_wasLastEditHeld) {
+        _actions->endEdit();
+    }
+    const SliderPlace place = placeOf(slider);
+    constexpr std::array points{CurvePlot::CurvePoint::Black, CurvePlot::CurvePoint::Middle,
+                                CurvePlot::CurvePoint::White};
+    _contents->plot->setMarkedPoint(
+        CurvePlot::MarkedPoint{points.at(static_cast<std::size_t>(place.tab)), place.channel});
+    // Held through the strip, it has the focus already, and so its channel.
+    if (_contents->sliders.slider(slider).isInteracting()) {
+        firstResponderChanged(&_contents->sliders.slider(slider));
+    }
+}
+
+void ControlPanel::pickTab(int tab) {
+    const Channel channel = _contents->sliders.channelForResponder(_firstResponder);
+    _actions->setSelectedTab(tab);
+    // The control that had the focus is hidden now; the one in its place takes it over. A
+    // selector that has it keeps it.
+    if (channel != Channel::None) {
+        makeFirstResponder(*_contents->sliders.row(tab, channel).field);
+    }
+}
+
+void ControlPanel::showTab(int index) {
+    _selectedTab = index;
+    _contents->showTab(index);
+}
+
+void ControlPanel::focusMasterOfSelectedTab() {
+    makeFirstResponder(*_contents->sliders.row(_selectedTab, Channel::Master).field);
+    _contents->channelStrip->updateTouchBarForResponder(_firstResponder);
+}
+
+void ControlPanel::observeFirstResponder() {
+    _observesFirstResponder = true;
+}
+
+void ControlPanel::makeFirstResponder(QWidget& control) {
+    control.setFocus(Qt::OtherFocusReason);
+    if (auto* field = dynamic_cast<TQNumericTextField*>(&control)) {
+        field->selectAll();
+    }
+    firstResponderChanged(&control);
+}
+
+// The toolkit tells of the focus only while the window has the keyboard, which the panel mostly
+// has not.
+void ControlPanel::firstResponderChanged(QWidget* control) {
+    _firstResponder = control;
+    if (_observesFirstResponder) {
+        _contents->channelStrip->updateTouchBarForResponder(control);
+    }
+}
+
+void ControlPanel::_setDarkTheme(bool dark) {
+    if (_appearance.isDark != dark) {
+        _appearance.isDark = dark;
+        setAppearances();
+    }
+    _menu.showForm(_isAdvanced, dark, !_contents->channelStrip->isHidden());
+}
+
+// Lists, tool tips and context menus are windows that only the program's palette reaches.
+void ControlPanel::setAppearances() {
+    QApplication::setPalette(paletteFor(_appearance));
+    QToolTip::setPalette(paletteFor(_appearance));
+    setAppearance(*this, _appearance);
+    for (QWidget* view : vibrantViews()) {
+        setAppearance(*view, _appearance);
+    }
+    setAppearance(_menu, _appearance);
+    for (QMenu* menu : _menu.findChildren<QMenu*>()) {
+        setAppearance(*menu, _appearance);
+    }
+}
+
+// The tabs stand in two places.
+std::vector<QWidget*> ControlPanel::vibrantViews() const {
+    return {_contents->gammaTabs,          _contents->blendingModePopUp, _contents->gammaTabColours,
+            _contents->applyCorrectionBox, _contents->gammaTabSelector,  _contents,
+            _contents->colorTargetButton};
+}
+
+void ControlPanel::_setAdvancedPanel(bool advanced) {
+    _isAdvanced = advanced;
+    fitForm(true);
+    if (!advanced && focusWidget() != nullptr && isCutOff(*focusWidget())) {
+        focusMasterOfSelectedTab();
+    }
+    _menu.showForm(advanced, _appearance.isDark, !_contents->channelStrip->isHidden());
+}
+
+void ControlPanel::showChannelStrip(bool isShown) {
+    if (isShown != _contents->channelStrip->isHidden()) {
+        return;
+    }
+    _contents->channelStrip->setVisible(isShown);
+    fitForm(false);
+    _menu.showForm(_isAdvanced, _appearance.isDark, isShown);
+}
+
+void ControlPanel::fitForm(bool mayGlide) {
+    _contents->fit();
+    setFixedWidth(_contents->width());
+    setMinimumHeight(_contents->compactHeight());
+    setMaximumHeight(_contents->advancedHeight());
+    const int target = _isAdvanced ? maximumHeight() : minimumHeight();
+    const bool isAlreadyThere = _glide.state() == QVariantAnimation::Running
+                                    ? _glide.endValue().toInt() == target
+                                    : height() == target;
+    if (isAlreadyThere) {
+        return;
+    }
+    _glide.stop();
+    if (mayGlide && isVisible() && !_appearance.options.reduceMotion) {
+        _glide.setStartValue(height());
+        _glide.setEndValue(target);
+        _glide.start();
+    } else {
+        setHeight(target);
+    }
+}
+
+// The upper edge stays where it is.
+void ControlPanel::setHeight(int height) {
+    resize(width(), height);
+}
+
+void ControlPanel::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const Theme& theme = themeFor(_appearance);
+    QColor background = theme.panel;
+    const bool isBlended = testAttribute(Qt::WA_TranslucentBackground);
+    if (isBlended && !_appearance.options.reduceTransparency) {
+        background.setAlphaF(static_cast<float>(theme.panelOpacity));
+    }
+    const double radius = isBlended ? windowRadius : 0;
+    painter.setRenderHint(QPainter::Antialiasing, isBlended);
+    fillRounded(painter, rect(), radius, background);
+    painter.setClipRect(_contents->titleStrip->geometry());
+    fillRounded(painter, rect(), radius, theme.field);
+    painter.setClipping(false);
+    drawRoundedFrame(painter, rect(), radius, 0, theme.hairline);
+}
+
+}  // namespace tonquil

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QTimer>
+#include <QVariantAnimation>
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "app/panel/PanelActions.h"
+#include "app/panel/PanelControls.h"
+#include "app/panel/PanelWindow.h"
+#include "app/panel/WindowSystem.h"
+#include "ui/theme/Appearance.h"
+#include "windows/panel/PanelContents.h"
+#include "windows/panel/PanelMenu.h"
+
+namespace tonquil {
+
+/// The control panel: a floating window of sliders that is used without taking the keyboard from
+/// the program in front of which it floats. Only a number field takes the keyboard, and only when
+/// it is clicked.
+class ControlPanel final : public QWidget, public PanelControls, public PanelWindow {
+ public:
+    /// The window system must outlive the panel.
+    explicit ControlPanel(WindowSystem& windowSystem);
+    ~ControlPanel() override;
+    Q_DISABLE_COPY_MOVE(ControlPanel)
+
+    /// Who is told of what the person does; must be set before anything is shown, and outlive the
+    /// panel's being used.
+    void setActions(PanelActions& actions);
+    void showWebSites(bool hasSite, bool hasBoardSite) {
+        _menu.showWebSites(hasSite, hasBoardSite);
+    }
+    /// What the person asked of the whole desktop.
+    void setAccessibilityOptions(const AccessibilityOptions& options);
+
+    [[nodiscard]] PanelValues values() const override;
+    void setValues(const PanelValues& values) override;
+    void revertTyping() override { _contents->sliders.revertTyping(); }
+    void setSlider(PanelSlider slider, float value) override;
+    void selectBlendingMode(std::int32_t blendingMode) override;
+    void updateTouchBarSlider() override;
+    void _setControlsEnabled(bool enabled) override;
+    void showCorrection(bool isOn) override;
+    void showSubject(const PanelSubject& subject) override;
+    void updatePlot() override;
+    void showUndo(bool canUndo, bool canRedo) override;
+
+    [[nodiscard]] Rectangle frame() const override;
+    void setFrameOrigin(const Point& origin) override;
+    void makeKeyAndOrderFront() override;
+    void _setAdvancedPanel(bool advanced) override;
+    [[nodiscard]] bool _advancedPanel() const { return _isAdvanced; }
+    void _setDarkTheme(bool dark) override;
+    void showChannelStrip(bool isShown) override;
+    void showTab(int index) override;
+    void orderOut() override { hide(); }
+    [[nodiscard]] bool isOrderedIn() const override { return isVisible() && !isMinimized(); }
+    [[nodiscard]] bool isOnActiveWorkspace() const override;
+    [[nodiscard]] PanelSliderGeometry masterSliderOfSelectedTab() const override;
+    void showRemoteConfiguration(bool isOn) override;
+    void focusMasterOfSelectedTab() override;
+    void observeFirstResponder() override;
+
+ protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+ private:
+    void connectControls();
+    void moved(PanelSlider slider);
+    void heldSlider(PanelSlider slider, bool isHeld);
+    void pickTab(int tab);
+    void makeFirstResponder(QWidget& control);
+    void firstResponderChanged(QWidget* control);
+    [[nodiscard]] bool isCutOff(const QWidget& control) const;
+    void takeKeyboard();
+    void setAcceptsKeyboard(bool accepts);
+    void setAppearances();
+    void fitForm(bool mayGlide);
+    void setHeight(int height);
+    void drawPlot();
+    [[nodiscard]] std::vector<QWidget*> vibrantViews() const;
+
+    WindowSystem& _windowSystem;
+    PanelActions* _actions = nullptr;
+    Appearance _appearance;
+    PanelMenu _menu;
+    /// Lies at the window's upper edge and is as high as the advanced form; the compact form cuts
+    /// it off.
+    PanelContents* _contents;
+    bool _isAdvanced = true;
+    int _selectedTab = 1;
+    std::int32_t _blendingMode = KVBlendingModeBaseTable;
+    bool _observesFirstResponder = false;
+    QPointer<QWidget> _firstResponder;
+    /// What had the focus when the controls were disabled.
+    QPointer<QWidget> _focusToReturn;
+    QTimer _plotTimer;
+    /// Ends an edit that no button holds: a run of steps, or a typed number.
+    QTimer _editEndTimer;
+    /// A slider is held by the pointer, and was at the last edit.
+    bool _isSliderHeld = false;
+    bool _wasLastEditHeld = false;
+    QVariantAnimation _glide;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+// The panel as a window: where it stands, and when it takes the keyboard.
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QMimeData>
+#include <QScreen>
+#include <QUrl>
+#include <QWindow>
+
+#include "ui/TQNumericTextField.h"
+#include "ui/TQSlider.h"
+#include "windows/panel/ControlPanel.h"
+#include "windows/panel/DevicePixels.h"
+#include "windows/panel/TitleStrip.h"
+
+namespace tonquil {
+
+Rectangle ControlPanel::frame() const {
+    return devicePixelsFrom(geometry());
+}
+
+void ControlPanel::setFrameOrigin(const Point& origin) {
+    QPoint place = pointsFrom(origin);
+    // The toolkit takes the very corner for "no place wanted".
+    if (place.isNull()) {
+        place.setX(1);
+    }
+    setGeometry(QRect(place, size()));
+}
+
+void ControlPanel::makeKeyAndOrderFront() {
+    // Asking for the number makes the window, which must exist to be told anything.
+    _windowSystem.keepOnAllWorkspaces(winId());
+    setAcceptsKeyboard(true);
+    show();
+    raise();
+    takeKeyboard();
+}
+
+bool ControlPanel::isOnActiveWorkspace() const {
+    return _windowSystem.isOnActiveWorkspace(effectiveWinId());
+}
+
+PanelSliderGeometry ControlPanel::masterSliderOfSelectedTab() const {
+    const TQSlider& slider = *_contents->sliders.row(_selectedTab, Channel::Master).slider;
+    const QPoint corner = slider.mapTo(this, QPoint());
+    const double scale = devicePixelsFrom(geometry()).width / width();
+    return {.frame = {corner.x() * scale, corner.y() * scale, slider.width() * scale,
+                      slider.height() * scale},
+            .value = slider.floatValue(),
+            .minimum = slider.minValue(),
+            .maximum = slider.maxValue(),
+            .scale = scale};
+}
+
+void ControlPanel::showRemoteConfiguration(bool isOn) {
+    _contents->titleStrip->showRemoteConfiguration(isOn);
+    _menu.showRemoteConfiguration(isOn);
+}
+
+void ControlPanel::takeKeyboard() {
+    setAcceptsKeyboard(true);
+    activateWindow();
+}
+
+// A click on a window that does not accept the keyboard leaves it where it is.
+void ControlPanel::setAcceptsKeyboard(bool accepts) {
+    if (QWindow* handle = windowHandle()) {
+        handle->setFlag(Qt::WindowDoesNotAcceptFocus, !accepts);
+    }
+}
+
+// The window's height, while it glides to it, is not yet what the form has.
+bool ControlPanel::isCutOff(const QWidget& control) const {
+    return !_isAdvanced && control.mapTo(this, QPoint()).y() >= minimumHeight();
+}
+
+bool ControlPanel::focusNextPrevChild(bool next) {
+    const QWidget* const start = focusWidget();
+    do {
+        if (!QWidget::focusNextPrevChild(next)) {
+            return false;
+        }
+    } while (focusWidget() != start && isCutOff(*focusWidget()));
+    return true;
+}
+
+bool ControlPanel::event(QEvent* event) {
+    // Only while the pointer is on it does the panel refuse the keyboard: a click then leaves it
+    // where it is, and yet the panel can be reached by switching between windows.
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave ||
+        event->type() == QEvent::WindowDeactivate) {
+        setAcceptsKeyboard(isActiveWindow() || event->type() == QEvent::Leave || !underMouse());
+    }
+    return QWidget::event(event);
+}
+
+bool ControlPanel::eventFilter(QObject* watched, QEvent* event) {
+    auto* field = dynamic_cast<TQNumericTextField*>(watched);
+    if (field != nullptr && event->type() == QEvent::MouseButtonPress) {
+        takeKeyboard();
+        firstResponderChanged(field);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ControlPanel::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    if (_actions != nullptr) {
+        _actions->panelMoved();
+    }
+}
+
+void ControlPanel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    // The greater part of it may lie on another display now.
+    if (_actions != nullptr) {
+        _actions->panelMoved();
+    }
+}
+
+void ControlPanel::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    updatePlot();
+}
+
+void ControlPanel::dragEnterEvent(QDragEnterEvent* event) {
+    const auto urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.front().isLocalFile()) {
+        event->acceptProposedAction();
+    }
+}
+
+void ControlPanel::dropEvent(QDropEvent* event) {
+    const QString file = event->mimeData()->urls().front().toLocalFile();
+    _actions->openFile(QFile::encodeName(file).toStdString());
+    event->acceptProposedAction();
+}
+
+void ControlPanel::closeEvent(QCloseEvent* event) {
+    if (_actions != nullptr) {
+        _actions->endEdit();
+    }
+    QWidget::closeEvent(event);
+}
+
+}  // namespace tonquil

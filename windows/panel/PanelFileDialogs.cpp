@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "windows/panel/PanelFileDialogs.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "app/desktop/TextFormat.h"
+
+namespace tonquil {
+
+namespace {
+
+constexpr const char* singleSuffix = "tonquil";
+constexpr const char* multiSuffix = "tonquil-screens";
+
+QString singleFilter() {
+    return QCoreApplication::translate("Files", "Settings of one display (*.tonquil)");
+}
+
+QString multiFilter() {
+    return QCoreApplication::translate("Files", "Settings of all displays (*.tonquil-screens)");
+}
+
+std::filesystem::path pathFrom(const QString& text) {
+    return QFile::encodeName(text).toStdString();
+}
+
+/// The format decides which kind of file the dialog lets through.
+void savePanelFormatDidChange(QFileDialog& dialog, const QString& filter) {
+    dialog.setDefaultSuffix(
+        QString::fromLatin1(filter == multiFilter() ? multiSuffix : singleSuffix));
+}
+
+}  // namespace
+
+bool PanelFileDialogs::present(QDialog* dialog) {
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    if (_isDialogUp) {
+        delete dialog;
+        return false;
+    }
+    _isDialogUp = true;
+    QObject::connect(dialog, &QDialog::finished, dialog, [this] { _isDialogUp = false; });
+    dialog->setWindowModality(Qt::WindowModal);
+    dialog->show();
+    return true;
+}
+
+void PanelFileDialogs::chooseFileToOpen(Chosen chosen) {
+    auto* dialog = new QFileDialog(&_window, QCoreApplication::translate("Files", "Open settings"));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters({QCoreApplication::translate(
+                                "Files", "Settings and tables (*.tonquil *.tonquil-screens *.amp)"),
+                            QCoreApplication::translate("Files", "All files (*)")});
+    QObject::connect(dialog, &QFileDialog::fileSelected, dialog,
+                     [chosen = std::move(chosen)](const QString& file) { chosen(pathFrom(file)); });
+    present(dialog);
+}
+
+void PanelFileDialogs::chooseFileToSave(SettingsFormat format, ChosenWithFormat chosen) {
+    auto* dialog = new QFileDialog(&_window, QCoreApplication::translate("Files", "Save settings"));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters({singleFilter(), multiFilter()});
+    dialog->selectNameFilter(format == SettingsFormat::MultiDisplay ? multiFilter()
+                                                                    : singleFilter());
+    savePanelFormatDidChange(*dialog, dialog->selectedNameFilter());
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {
+        savePanelFormatDidChange(*dialog, filter);
+    });
+    QObject::connect(dialog, &QFileDialog::fileSelected, dialog,
+                     [dialog, chosen = std::move(chosen)](const QString& file) {
+                         chosen(pathFrom(file), dialog->selectedNameFilter() == multiFilter()
+                                                    ? SettingsFormat::MultiDisplay
+                                                    : SettingsFormat::SingleDisplay);
+                     });
+    present(dialog);
+}
+
+// An alert may follow a dialog that is only about to close.
+void PanelFileDialogs::alert(const std::string& title, const std::string& message,
+                             const std::vector<std::string>& arguments) {
+    const QString text = QCoreApplication::translate("Problem", title.c_str());
+    auto* box = new QMessageBox(QMessageBox::NoIcon, text, text, QMessageBox::NoButton, &_window);
+    const QString format = QCoreApplication::translate("Problem", message.c_str());
+    // A sentence with a file's name in it may hold what looks like a place for an argument.
+    box->setInformativeText(
+        arguments.empty() ? format
+                          : QString::fromStdString(formattedText(format.toStdString(), arguments)));
+    box->addButton(QCoreApplication::translate("Files", "OK"), QMessageBox::AcceptRole);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::WindowModal);
+    box->show();
+}
+
+}  // namespace tonquil

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "windows/panel/PanelIcons.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <functional>
+
+#include "ui/theme/Theme.h"
+
+namespace tonquil {
+
+namespace {
+
+/// Draws at every scale that a desktop may ask for, in a square of 16 points.
+QIcon iconFrom(const std::function<void(QPainter&)>& draw, int points = 16) {
+    QIcon icon;
+    for (const double scale : {1.0, 1.5, 2.0, 3.0}) {
+        const int pixels = qRound(points * scale);
+        QPixmap pixmap(pixels, pixels);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(pixels / 16.0, pixels / 16.0);
+        draw(painter);
+        painter.end();
+        pixmap.setDevicePixelRatio(scale);
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+QPen penOf(const QColor& colour, double width) {
+    return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+void drawClose(QPainter& painter) {
+    painter.drawLine(QPointF(4.5, 4.5), QPointF(11.5, 11.5));
+    painter.drawLine(QPointF(11.5, 4.5), QPointF(4.5, 11.5));
+}
+
+void drawMenu(QPainter& painter) {
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    for (const double x : {3.5, 8.0, 12.5}) {
+        painter.drawEllipse(QPointF(x, 8), 1.25, 1.25);
+    }
+}
+
+/// An arrow most of the way round, against the clock.
+void drawReset(QPainter& painter) {
+    const QRectF circle(3, 3.5, 10, 10);
+    constexpr int degree = 16;
+    painter.drawArc(circle, -200 * degree, 300 * degree);
+    QPainterPath head;
+    head.moveTo(3, 2);
+    head.lineTo(3.2, 6.6);
+    head.lineTo(7.6, 5.4);
+    painter.drawPath(head);
+}
+
+/// A square whose quarters alternate, as those of the targets do.
+void drawTargets(QPainter& painter) {
+    const QColor colour = painter.pen().color();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.drawRect(QRectF(3, 3, 10, 10));
+    painter.fillRect(QRectF(3, 3, 5, 5), colour);
+    painter.fillRect(QRectF(8, 8, 5, 5), colour);
+}
+
+/// Waves that go out to both sides of a point.
+void drawRemote(QPainter& painter) {
+    constexpr int degree = 16;
+    for (const double radius : {3.0, 5.5}) {
+        const QRectF circle(8 - radius, 8 - radius, 2 * radius, 2 * radius);
+        painter.drawArc(circle, -45 * degree, 90 * degree);
+        painter.drawArc(circle, 135 * degree, 90 * degree);
+    }
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(QPointF(8, 8), 1.25, 1.25);
+}
+
+/// The curve from black to white of the point's pictures; below 8 it is dark.
+QPointF curvePoint(double input) {
+    return {2 + input * 12, 14 - input * input * 12};
+}
+
+void drawCurve(QPainter& painter, int tab, const QColor& colour) {
+    QPainterPath curve(curvePoint(0));
+    curve.quadTo(QPointF(8, 14), curvePoint(1));
+    painter.setPen(penOf(colour, 1.5));
+    painter.drawPath(curve);
+    const double input = tab == 0 ? 0 : tab == 2 ? 1 : 0.5;
+    painter.setBrush(colour);
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(curvePoint(input), 2, 2);
+}
+
+}  // namespace
+
+QIcon panelIcon(PanelIcon icon, const Appearance& appearance) {
+    return iconFrom([&](QPainter& painter) {
+        painter.setPen(penOf(themeFor(appearance).text, 1.4));
+        switch (icon) {
+            case PanelIcon::Close:
+                drawClose(painter);
+                break;
+            case PanelIcon::Menu:
+                drawMenu(painter);
+                break;
+            case PanelIcon::Reset:
+                drawReset(painter);
+                break;
+            case PanelIcon::Targets:
+                drawTargets(painter);
+                break;
+            case PanelIcon::Remote:
+                drawRemote(painter);
+                break;
+        }
+    });
+}
+
+std::array<QIcon, 4> touchBarChannelImagesForTab(int tab, const Appearance& appearance) {
+    const Theme& theme = themeFor(appearance);
+    const auto image = [&](Channel channel) {
+        return iconFrom(
+            [&](QPainter& painter) { drawCurve(painter, tab, theme.channel(channel)); });
+    };
+    return {image(Channel::Master), image(Channel::Red), image(Channel::Green),
+            image(Channel::Blue)};
+}
+
+void drawProgramIcon(QPainter& painter) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x2A, 0x2A, 0x2A));
+    painter.drawRoundedRect(QRectF(0.5, 0.5, 15, 15), 3.5, 3.5);
+    painter.setPen(penOf(QColor(0x7A, 0x7A, 0x7A), 0.6));
+    painter.drawLine(QPointF(3, 13), QPointF(13, 3));
+    painter.setPen(penOf(Qt::white, 1.5));
+    painter.setBrush(Qt::NoBrush);
+    QPainterPath curve(QPointF(3, 13));
+    curve.quadTo(QPointF(8.5, 11.5), QPointF(13, 3));
+    painter.drawPath(curve);
+}
+
+QIcon programIcon() {
+    QIcon icon = iconFrom(drawProgramIcon, 32);
+    for (const int points : {16, 48, 128}) {
+        icon.addPixmap(iconFrom(drawProgramIcon, points).pixmap(points));
+    }
+    return icon;
+}
+
+}  // namespace tonquil

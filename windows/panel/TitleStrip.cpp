@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "windows/panel/TitleStrip.h"
+
+#include <QActionGroup>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolButton>
+#include <QWindow>
+
+#include "ui/theme/Drawing.h"
+#include "ui/theme/Theme.h"
+#include "windows/panel/PanelIcons.h"
+
+namespace tonquil {
+
+namespace {
+
+constexpr int stripHeight = 28;
+
+QToolButton* makeButton(const QString& name, QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setAutoRaise(true);
+    button->setFixedSize(24, 24);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    return button;
+}
+
+void openBelow(QToolButton& button, QMenu& menu) {
+    QObject::connect(&button, &QToolButton::clicked, &menu, [&button, &menu] {
+        const bool isMirrored = button.isRightToLeft();
+        QPoint corner = button.rect().bottomLeft();
+        if (isMirrored) {
+            corner.setX(button.width() - menu.sizeHint().width());
+        }
+        menu.popup(button.mapToGlobal(corner));
+    });
+}
+
+}  // namespace
+
+TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
+    : QWidget(parent),
+      _closeButton(makeButton(QCoreApplication::translate("Panel", "Close the panel"), this)),
+      _subjectButton(new QToolButton(this)),
+      _remoteButton(makeButton(
+          QCoreApplication::translate("Panel", "Companions on the network may change the displays"),
+          this)),
+      _menuButton(makeButton(QCoreApplication::translate("Panel", "Menu"), this)) {
+    setMinimumHeight(std::max(stripHeight, fontMetrics().height() + 8));
+    _subjectButton->setAutoRaise(true);
+    _subjectButton->setFocusPolicy(Qt::TabFocus);
+    // Given to the buttons, the menus would bring an arrow of the style's own.
+    openBelow(*_menuButton, menu);
+    buildSubjectMenu();
+    QObject::connect(_closeButton, &QToolButton::clicked, this, [this] {
+        if (_close) {
+            _close();
+        }
+    });
+
+    _remoteButton->hide();
+    QObject::connect(_remoteButton, &QToolButton::clicked, this, [this] { _openRemote(); });
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(4, 2, 4, 2);
+    layout->setSpacing(4);
+    layout->addWidget(_closeButton);
+    layout->addStretch(1);
+    layout->addWidget(_subjectButton);
+    layout->addStretch(1);
+    layout->addWidget(_remoteButton);
+    layout->addWidget(_menuButton);
+    updateIcons();
+}
+
+void TitleStrip::buildSubjectMenu() {
+    auto* menu = new QMenu(_subjectButton);
+    auto* group = new QActionGroup(menu);
+    _thisDisplay = menu->addAction(QCoreApplication::translate("Panel", "This display"));
+    _allDisplays = menu->addAction(QCoreApplication::translate("Panel", "All displays"));
+    for (QAction* action : {_thisDisplay, _allDisplays}) {
+        action->setCheckable(true);
+        group->addAction(action);
+    }
+    QObject::connect(group, &QActionGroup::triggered, this, [this](const QAction* chosen) {
+        if (_chooseSubject) {
+            _chooseSubject(chosen == _allDisplays);
+        }
+    });
+    _subjectMenu = menu;
+    openBelow(*_subjectButton, *menu);
+}
+
+void TitleStrip::showSubject(const PanelSubject& subject) {
+    _title = QCoreApplication::translate("PanelSubject", subject.title.c_str());
+    (subject.isAllDisplays ? _allDisplays : _thisDisplay)->setChecked(true);
+    // The compact form has no other place for the reason.
+    const QString hint =
+        subject.obstacle.empty()
+            ? QCoreApplication::translate("Panel", "Choose which displays are edited")
+            : QCoreApplication::translate("Problem", subject.obstacle.c_str());
+    _subjectButton->setToolTip(hint);
+    _subjectButton->setAccessibleDescription(hint);
+    updateTitle();
+}
+
+void TitleStrip::showRemoteConfiguration(bool isOn) {
+    _remoteButton->setVisible(isOn);
+    updateTitle();
+}
+
+void TitleStrip::updateTitle() {
+    const QString arrow = QStringLiteral(" \u25BE");
+    // What the round buttons and the margins leave.
+    const int buttons = _remoteButton->isHidden() ? 2 : 3;
+    const int room = width() - buttons * (24 + 4 + 4) - 16 - fontMetrics().horizontalAdvance(arrow);
+    _subjectButton->setText(fontMetrics().elidedText(_title, Qt::ElideMiddle, room) + arrow);
+    _subjectButton->setAccessibleName(
+        QCoreApplication::translate("Panel", "Edited: %1").arg(_title));
+}
+
+void TitleStrip::updateIcons() {
+    const Appearance appearance = effectiveAppearance(*this);
+    _closeButton->setIcon(panelIcon(PanelIcon::Close, appearance));
+    _remoteButton->setIcon(panelIcon(PanelIcon::Remote, appearance));
+    _menuButton->setIcon(panelIcon(PanelIcon::Menu, appearance));
+    setAppearance(*_subjectMenu, appearance);
+}
+
+void TitleStrip::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    drawHairline(painter, 0, height() - 1, width(), Qt::Horizontal, themeOf(*this).hairline);
+}
+
+// The window manager moves the window best; without one we do.
+void TitleStrip::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    QWindow* const handle = window()->windowHandle();
+    if (handle == nullptr || !handle->startSystemMove()) {
+        _hold = event->globalPosition().toPoint() - window()->geometry().topLeft();
+    }
+}
+
+void TitleStrip::mouseMoveEvent(QMouseEvent* event) {
+    if (_hold) {
+        window()->move(event->globalPosition().toPoint() - *_hold);
+    }
+}
+
+void TitleStrip::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    _hold.reset();
+}
+
+void TitleStrip::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    updateTitle();
+}
+
+void TitleStrip::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        updateIcons();
+    }
+}
+
+}  // namespace tonquil

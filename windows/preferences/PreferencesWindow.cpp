@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: MIT
+#include "windows/preferences/PreferencesWindow.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "hotkeys/field/DDHotKeyTextField.h"
+#include "ui/theme/Theme.h"
+#include "windows/panel/PanelIcons.h"
+#include "windows/preferences/FlatChoices.h"
+#include "windows/preferences/RadioMatrix.h"
+
+namespace tonquil {
+
+namespace {
+
+// In points.
+constexpr int margin = 12;
+constexpr int spacing = 8;
+constexpr int groupSpacing = 16;
+/// What a window manager needs of a screen's height, or somewhat more.
+constexpr int titleBarHeight = 40;
+
+/// Texts by themselves would be looked up among the toolkit's own.
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Preferences)
+};
+
+void addHeading(QVBoxLayout& column, const QString& text) {
+    if (!column.isEmpty()) {
+        column.addSpacing(groupSpacing);
+    }
+    auto* heading = new QLabel(text);
+    QFont font = heading->font();
+    font.setBold(true);
+    heading->setFont(font);
+    column.addWidget(heading);
+    column.addSpacing(spacing);
+}
+
+void addChecks(QVBoxLayout& column, std::initializer_list<QCheckBox*> boxes) {
+    for (QCheckBox* box : boxes) {
+        column.addWidget(box);
+        column.addSpacing(box == *(boxes.end() - 1) ? 0 : spacing);
+    }
+}
+
+/// Labels stand level with the first button of their choice.
+void addChoice(QGridLayout& grid, QLabel* label, RadioMatrix* matrix) {
+    const int row = grid.rowCount();
+    label->setMinimumHeight(matrix->cellHeight());
+    matrix->setAccessibleName(label->text());
+    grid.addWidget(label, row, 0, Qt::AlignTop);
+    grid.addWidget(matrix, row, 1);
+}
+
+void addHotKey(QGridLayout& grid, QCheckBox* box, DDHotKeyTextField* field, QLabel* problem) {
+    const int row = grid.rowCount();
+    field->setAccessibleName(box->text());
+    problem->setTextFormat(Qt::PlainText);
+    problem->setWordWrap(true);
+    const QStyle& style = *box->style();
+    problem->setIndent(style.pixelMetric(QStyle::PM_IndicatorWidth) +
+                       style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing));
+    problem->hide();
+    grid.addWidget(box, row, 0);
+    grid.addWidget(field, row, 1);
+    grid.addWidget(problem, row + 1, 0, 1, 2);
+}
+
+QGridLayout* addGrid(QVBoxLayout& column, int verticalSpacing) {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(groupSpacing);
+    grid->setVerticalSpacing(verticalSpacing);
+    grid->setColumnStretch(1, 1);
+    column.addLayout(grid);
+    return grid;
+}
+
+}  // namespace
+
+PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
+    : showAtLaunch(new FlatCheckBox(Texts::tr("Show the panel when Tonquil starts"))),
+      openAtLoginCheckbox(new FlatCheckBox(Texts::tr("Start Tonquil at login"))),
+      rememberWhenQuitting(
+          new FlatCheckBox(Texts::tr("Correct the displays as soon as Tonquil starts"))),
+      ContinuouslyApply(new FlatCheckBox(Texts::tr("Apply the curves again every few seconds"))),
+      advancedPanel(new FlatCheckBox(Texts::tr("Show sliders for the single channels"))),
+      channelStrip(new FlatCheckBox(Texts::tr("Show the channel strip"))),
+      showTargetHints(new FlatCheckBox(Texts::tr("Show hints under targets"))),
+      darkTheme(new FlatCheckBox(Texts::tr("Dark theme"))),
+      affectAllScreens(
+          new RadioMatrix({Texts::tr("The display under the panel"), Texts::tr("All displays")})),
+      toggleApply(new RadioMatrix(
+          {Texts::tr("Shows the panel"), Texts::tr("Switches the correction on or off")})),
+      showStatusLabel(new QLabel(Texts::tr("Show Tonquil in:"))),
+      showStatusItem(new RadioMatrix({Texts::tr("The task bar"), Texts::tr("The status area")})),
+      useHotKey(new FlatCheckBox(Texts::tr("Switch the correction on or off"))),
+      hotKeyField(new DDHotKeyTextField(layout)),
+      hotKeyProblem(new QLabel),
+      panelHotKey(new FlatCheckBox(Texts::tr("Show the panel under the pointer"))),
+      panelHotKeyField(new DDHotKeyTextField(layout)),
+      panelHotKeyProblem(new QLabel),
+      allowRemote(new FlatCheckBox(
+          Texts::tr("Let companions on the local network read and set the curves"))),
+      _scrollArea(new QScrollArea) {
+    setObjectName(QStringLiteral("Preferences"));
+    setWindowTitle(Texts::tr("Preferences"));
+    setWindowIcon(programIcon());
+    setAttribute(Qt::WA_QuitOnClose, false);
+    // What has the focus when no control has it: a window without any would give it to the first.
+    setFocusPolicy(Qt::ClickFocus);
+    auto* contents = new QWidget;
+    auto* column = new QVBoxLayout(contents);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(0);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    addGeneral(*column);
+    addHotKeys(*column);
+    addRemote(*column);
+    nameControls();
+    _scrollArea->setFrameShape(QFrame::NoFrame);
+    _scrollArea->setFocusPolicy(Qt::NoFocus);
+    _scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    _scrollArea->setWidget(contents);
+    // The window's own background shines through.
+    _scrollArea->viewport()->setAutoFillBackground(false);
+    contents->setAutoFillBackground(false);
+    contents->installEventFilter(this);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(_scrollArea);
+    fit();
+}
+
+void PreferencesWindow::fit() {
+    const QSize wanted = _scrollArea->widget()->sizeHint();
+    const int most = screen()->availableGeometry().height() - titleBarHeight;
+    const int barWidth =
+        wanted.height() > most ? _scrollArea->verticalScrollBar()->sizeHint().width() : 0;
+    setFixedSize(wanted.width() + barWidth, std::min(wanted.height(), most));
+}
+
+bool PreferencesWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
+        fit();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void PreferencesWindow::showEvent(QShowEvent* event) {
+    fit();
+    QWidget::showEvent(event);
+}
+
+void PreferencesWindow::nameControls() {
+    const std::initializer_list<std::pair<QWidget*, const char*>> names = {
+        {showAtLaunch, "showAtLaunch"},
+        {openAtLoginCheckbox, "openAtLoginCheckbox"},
+        {rememberWhenQuitting, "rememberWhenQuitting"},
+        {ContinuouslyApply, "ContinuouslyApply"},
+        {advancedPanel, "advancedPanel"},
+        {channelStrip, "channelStrip"},
+        {showTargetHints, "showTargetHints"},
+        {darkTheme, "darkTheme"},
+        {affectAllScreens, "affectAllScreens"},
+        {toggleApply, "toggleApply"},
+        {showStatusLabel, "showStatusLabel"},
+        {showStatusItem, "showStatusItem"},
+        {useHotKey, "useHotKey"},
+        {hotKeyField, "hotKeyField"},
+        {hotKeyProblem, "hotKeyProblem"},
+        {panelHotKey, "panelHotKey"},
+        {panelHotKeyField, "panelHotKeyField"},
+        {panelHotKeyProblem, "panelHotKeyProblem"},
+        {allowRemote, "allowRemote"}};
+    for (const auto& [control, name] : names) {
+        control->setObjectName(QString::fromLatin1(name));
+    }
+}
+
+void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
+    addHeading(column, Texts::tr("General"));
+    addChecks(column, {showAtLaunch, openAtLoginCheckbox, rememberWhenQuitting, ContinuouslyApply});
+    column.addSpacing(groupSpacing);
+    addChecks(column, {advancedPanel, channelStrip, showTargetHints, darkTheme});
+    column.addSpacing(groupSpacing);
+    QGridLayout& choices = *addGrid(column, spacing);
+    addChoice(choices, new QLabel(Texts::tr("Edits change:")), affectAllScreens);
+    addChoice(choices, new QLabel(Texts::tr("Starting Tonquil again:")), toggleApply);
+    addChoice(choices, showStatusLabel, showStatusItem);
+}
+
+void PreferencesWindow::addHotKeys(QVBoxLayout& column) const {
+    addHeading(column, Texts::tr("Hot keys"));
+    QGridLayout& grid = *addGrid(column, spacing);
+    addHotKey(grid, useHotKey, hotKeyField, hotKeyProblem);
+    addHotKey(grid, panelHotKey, panelHotKeyField, panelHotKeyProblem);
+}
+
+void PreferencesWindow::addRemote(QVBoxLayout& column) const {
+    addHeading(column, Texts::tr("Remote"));
+    addChecks(column, {allowRemote});
+}
+
+void PreferencesWindow::clearFirstResponder() {
+    setFocus(Qt::OtherFocusReason);
+}
+
+void PreferencesWindow::paintEvent(QPaintEvent* /*event*/) {
+    QPainter(this).fillRect(rect(), themeOf(*this).panel);
+}
+
+void PreferencesWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close)) {
+        close();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void PreferencesWindow::closeEvent(QCloseEvent* event) {
+    if (_shouldClose && !_shouldClose()) {
+        event->ignore();
+        return;
+    }
+    QWidget::closeEvent(event);
+    if (_closed) {
+        _closed();
+    }
+}
+
+}  // namespace tonquil

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <memory>
+#include <string_view>
+
+#include "app/preferences/PreferencesStore.h"
+
+class QCheckBox;
+
+namespace tonquil {
+
+/// Joins a checkbox with a boolean setting: each follows the other, whoever changes it.
+class SettingBinding {
+ public:
+    /// `key` must live as long as the program; the checkbox and the store as long as the binding.
+    SettingBinding(QCheckBox& checkBox, PreferencesStore& preferences, std::string_view key);
+    SettingBinding(const SettingBinding&) = delete;
+    SettingBinding& operator=(const SettingBinding&) = delete;
+    ~SettingBinding();
+
+ private:
+    QMetaObject::Connection _connection;
+    std::unique_ptr<PreferencesStore::Subscription> _subscription;
+};
+
+}  // namespace tonquil

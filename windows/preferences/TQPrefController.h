@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/desktop/Alerts.h"
+#include "app/desktop/LoginItem.h"
+#include "app/preferences/PreferencesStore.h"
+#include "app/preferences/StoredHotKey.h"
+#include "foundation/Log.h"
+#include "hotkeys/KeyboardLayout.h"
+#include "ui/theme/Appearance.h"
+
+class QCheckBox;
+
+namespace tonquil {
+
+class DDHotKeyTextField;
+class PreferencesWindow;
+class RadioMatrix;
+class SettingBinding;
+
+/// What the preferences window works with. All of it must outlive the window's controller.
+struct PreferencesSurroundings {
+    PreferencesStore& preferences;
+    LoginItem& loginItem;
+    Alerts& alerts;
+    const KeyboardLayout& layout;
+    /// The absolute path of the running program, and the person's home folder.
+    std::filesystem::path program;
+    std::filesystem::path home;
+    Log log;
+    /// A toolkit below 1138 has no status items, one below 1343 no dark theme.
+    int toolkitVersion = 1343;
+};
+
+/// Runs the preferences window: each control writes its setting at once, and whoever it concerns
+/// sees the change in the preferences store.
+///
+/// The controls are filled when the window is made. Only those bound to their settings follow
+/// changes from elsewhere, and so do the colours of the window.
+class TQPrefController {
+ public:
+    explicit TQPrefController(PreferencesSurroundings surroundings);
+    TQPrefController(const TQPrefController&) = delete;
+    TQPrefController& operator=(const TQPrefController&) = delete;
+    ~TQPrefController();
+
+    [[nodiscard]] PreferencesWindow& window() { return *_window; }
+    /// Shows the window in front, with the focus on no control.
+    void showWindow();
+    /// Ends what is being recorded; the window may always close.
+    bool windowShouldClose();
+    /// Fills every control but the bound ones from its setting.
+    void update();
+
+    /// Of the contents, in points; see `devicePixelsFrom`. The size follows from the controls.
+    [[nodiscard]] QRect frame() const;
+    void setFrameOrigin(const QPoint& origin);
+    /// Called when the window has closed.
+    void setClosed(std::function<void()> closed);
+
+    /// Says beside its field why a hot key does not work; an empty sentence takes that back.
+    void showHotKeyProblem(HotKeyRole role, const std::string& sentence);
+    /// Called around each recording: the program's hot keys should be given up meanwhile.
+    void setRecordingHooks(std::function<void()> began, std::function<void()> ended);
+    /// What the person asked of the whole desktop.
+    void setAccessibilityOptions(const AccessibilityOptions& options);
+
+    void hitRememberWhenQuitting(const QCheckBox& sender);
+    void hitContinuouslyApply(const QCheckBox& sender);
+    void hitAdvancedPanel(const QCheckBox& sender);
+    void hitShowAtLaunch(const QCheckBox& sender);
+    void hitAffectAllScreens(const RadioMatrix& sender);
+    void hitToggleApply(const RadioMatrix& sender);
+    void hitShowStatusItem(const RadioMatrix& sender);
+    void hitUseHotKey(const QCheckBox& sender);
+    void hitPanelHotKey(const QCheckBox& sender);
+    void hotKeyDidChange(const DDHotKeyTextField& sender);
+    void panelHotKeyDidChange(const DDHotKeyTextField& sender);
+    void openAtLoginDidChange(const QCheckBox& sender);
+
+ private:
+    void windowDidLoad();
+    void connectActions();
+    void bindSettings();
+    void followTheme();
+    void setBool(std::string_view key, int value);
+    void moveFocus(bool isOn, DDHotKeyTextField& field);
+    void setLoginItemEnabled(bool isEnabled);
+    void adviseOnPlace();
+
+    PreferencesSurroundings _surroundings;
+    PreferencesStore& _preferences;
+    AccessibilityOptions _options;
+    std::unique_ptr<PreferencesWindow> _window;
+    bool _hasBeenShown = false;
+    /// They go before the checkboxes that they are bound to.
+    std::vector<std::unique_ptr<SettingBinding>> _bindings;
+    std::unique_ptr<PreferencesStore::Subscription> _themeSubscription;
+    std::function<void()> _recordingBegan;
+    std::function<void()> _recordingEnded;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "windows/targets/TargetPresenter.h"
+
+#include <QWidget>
+#include <utility>
+#include <vector>
+
+#include "app/preferences/SettingsKeys.h"
+#include "app/preferences/WindowFrame.h"
+#include "screens/ScreenRegistry.h"
+#include "windows/panel/DevicePixels.h"
+#include "windows/panel/PanelIcons.h"
+
+namespace tonquil {
+
+TargetScreen TargetPresenter::screenOf(DisplayID display) const {
+    return {.displayID = display, .frame = pointsFrom(_service.bounds(display))};
+}
+
+void TargetPresenter::makeFloatingWindow() {
+    if (_targetWindowController) {
+        return;
+    }
+    _targetWindowController = std::make_unique<TQTargetWindowController>();
+    TQTargetWindowController& controller = *_targetWindowController;
+    controller.window().setWindowIcon(programIcon());
+    const auto frame = windowFrameFrom(_preferences.stringForKey(settingsKey::targetsFrame));
+    if (frame && !_service.displaysWithPoint(frame->centre(), 1).empty()) {
+        controller.setFrame(pointsFrom(*frame));
+    }
+    controller.setKind(
+        static_cast<std::int32_t>(_preferences.integerForKey(settingsKey::targetKind)));
+    controller.setKindChanged([this](std::int32_t kind) {
+        if (kind != _preferences.integerForKey(settingsKey::targetKind)) {
+            _preferences.setValue(settingsKey::targetKind, kind);
+        }
+    });
+    controller.setClosed([this] { saveFrame(); });
+    controller.setHintsShown(_areHintsShown);
+    _windowMade(controller.window());
+}
+
+void TargetPresenter::openTargetWindow() {
+    makeFloatingWindow();
+    _targetWindowController->showWindow();
+}
+
+void TargetPresenter::openTargetWindow(TargetKind kind) {
+    makeFloatingWindow();
+    _targetWindowController->setKind(static_cast<std::int32_t>(kind));
+    _targetWindowController->showWindow();
+}
+
+std::optional<TargetKind> TargetPresenter::floatingTarget() const {
+    if (!_targetWindowController || !_targetWindowController->isShown()) {
+        return std::nullopt;
+    }
+    return static_cast<TargetKind>(_targetWindowController->kind());
+}
+
+void TargetPresenter::setHintsShown(bool areShown) {
+    _areHintsShown = areShown;
+    if (_targetWindowController) {
+        _targetWindowController->setHintsShown(areShown);
+    }
+}
+
+void TargetPresenter::coverDisplay(DisplayID display, TargetKind kind,
+                                   std::function<void()> closed) {
+    TQTargetWindowController& cover = _covers.targetWindowControllerForScreen(screenOf(display));
+    cover.setKind(static_cast<std::int32_t>(kind));
+    cover.setClosed([this, &cover] { coverClosed(cover); });
+    if (closed) {
+        _closings.push_back({&cover, std::move(closed)});
+    }
+    cover.showWindow();
+}
+
+// Whoever is told may cover the display again.
+void TargetPresenter::coverClosed(const TQTargetWindowController& cover) {
+    std::vector<Closing> due;
+    std::erase_if(_closings, [&](Closing& closing) {
+        const bool isDue = closing.cover == &cover;
+        if (isDue) {
+            due.push_back(std::move(closing));
+        }
+        return isDue;
+    });
+    for (const Closing& closing : due) {
+        closing.closed();
+    }
+}
+
+void TargetPresenter::uncoverDisplay(DisplayID display) {
+    if (auto* cover = _covers.existingTargetWindowControllerForScreen(screenOf(display))) {
+        cover->dismissTargetWindowControllerForScreen();
+    }
+}
+
+const TQTargetWindowController* TargetPresenter::existingCover(DisplayID display) const {
+    return _covers.existingTargetWindowControllerForScreen(screenOf(display));
+}
+
+std::optional<TargetKind> TargetPresenter::visibleCover(DisplayID display) const {
+    const TQTargetWindowController* cover = existingCover(display);
+    if (cover == nullptr || !cover->isShown()) {
+        return std::nullopt;
+    }
+    return static_cast<TargetKind>(cover->kind());
+}
+
+TargetKind TargetPresenter::coverKind(DisplayID display) const {
+    const TQTargetWindowController* cover = existingCover(display);
+    return cover == nullptr ? TargetKind::Color : static_cast<TargetKind>(cover->kind());
+}
+
+void TargetPresenter::displaysChanged() {
+    std::vector<TargetScreen> screens;
+    for (const DisplayID display : _service.onlineDisplays(ScreenRegistry::mostScreens)) {
+        screens.push_back(screenOf(display));
+    }
+    _covers.screensChanged(screens);
+}
+
+void TargetPresenter::saveFrame() {
+    if (_targetWindowController) {
+        _preferences.setValue(
+            settingsKey::targetsFrame,
+            textFromWindowFrame(devicePixelsFrom(_targetWindowController->frame())));
+    }
+}
+
+}  // namespace tonquil

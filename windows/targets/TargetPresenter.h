@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "app/preferences/PreferencesStore.h"
+#include "app/desktop/TargetWindows.h"
+#include "screens/DisplayService.h"
+#include "targets/TQTargetWindowController.h"
+#include "targets/TargetWindowList.h"
+
+namespace tonquil {
+
+/// Shows the calibration targets on the displays of a display service, and keeps the floating
+/// window's place and kind in the preferences.
+class TargetPresenter final : public TargetWindows {
+ public:
+    /// `windowMade` is called with the floating window before it is shown.
+    TargetPresenter(DisplayService& service, PreferencesStore& preferences,
+                    std::function<void(QWidget&)> windowMade)
+        : _service(service), _preferences(preferences), _windowMade(std::move(windowMade)) {}
+
+    void openTargetWindow() override;
+    void openTargetWindow(TargetKind kind) override;
+    [[nodiscard]] std::optional<TargetKind> floatingTarget() const override;
+    void setHintsShown(bool areShown) override;
+    void coverDisplay(DisplayID display, TargetKind kind, std::function<void()> closed) override;
+    void uncoverDisplay(DisplayID display) override;
+    [[nodiscard]] std::optional<TargetKind> visibleCover(DisplayID display) const override;
+    [[nodiscard]] TargetKind coverKind(DisplayID display) const override;
+    void displaysChanged() override;
+    void saveFrame() override;
+
+    /// The covers, one for each display that has one.
+    [[nodiscard]] TargetWindowList& covers() { return _covers; }
+
+ private:
+    /// Who waits for a cover to be closed.
+    struct Closing {
+        const TQTargetWindowController* cover;
+        std::function<void()> closed;
+    };
+
+    [[nodiscard]] TargetScreen screenOf(DisplayID display) const;
+    [[nodiscard]] const TQTargetWindowController* existingCover(DisplayID display) const;
+    void coverClosed(const TQTargetWindowController& cover);
+    void makeFloatingWindow();
+
+    DisplayService& _service;
+    PreferencesStore& _preferences;
+    std::function<void(QWidget&)> _windowMade;
+    bool _areHintsShown = true;
+    std::vector<Closing> _closings;
+    TargetWindowList _covers;
+    /// Made when it is first shown.
+    std::unique_ptr<TQTargetWindowController> _targetWindowController;
+};
+
+}  // namespace tonquil
