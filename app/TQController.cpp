@@ -4,80 +4,101 @@
 #include <cstdint>
 #include <utility>
 
+#include "app/desktop/ConflictCheck.h"
 #include "app/preferences/SettingsKeys.h"
 #include "foundation/TranslatableText.h"
 
 namespace tonquil {
 
 TQController::TQController(const ControllerSurroundings& surroundings)
-    : _service(surroundings.service),
-      _registry(surroundings.registry),
-      _preferences(surroundings.preferences),
-      _runLoop(surroundings.runLoop),
-      _controls(surroundings.controls),
-      _panel(surroundings.panel),
-      _dialogs(surroundings.dialogs),
-      _targets(surroundings.targets),
-      _windows(surroundings.windows),
-      _alerts(surroundings.alerts),
-      _presence(surroundings.presence),
-      _programs(surroundings.programs),
-      _log(surroundings.log),
-      _sessionEvents(surroundings.sessionEvents),
-      _endProgram(surroundings.endProgram),
-      _openServer(surroundings.openServer),
-      _currentScreens(_service, _registry, _preferences, _panel, surroundings.whyNoDisplays),
-      _currentCurve(_controls),
-      _correction(_service, _registry, _preferences),
-      _storage(_registry, _preferences, surroundings.recovery, _runLoop, surroundings.log),
-      _panelFrame(_service, _preferences, _panel),
-      _recentFiles(_preferences),
-      _periodicUpdate(_runLoop, _preferences, [this] { _applyCurvesToScreen(); }),
-      _reconfigurations(surroundings.reconfigurations, surroundings.log,
-                        [this] { updateScreens(); }),
-      _statusItem(surroundings.presence, _preferences),
-      _hotKeys(surroundings.hotKeys, _preferences, hotKeyActions()),
-      _panelUnderMouse(panelUnderMouseSurroundings(surroundings)),
-      _remoteDisplays(_registry, _targets, surroundings.log, remoteReactions()) {
+    : _with(surroundings),
+      _currentScreens(_with.service, _with.registry, _with.preferences, _with.panel,
+                      _with.whyNoDisplays),
+      _currentCurve(_with.controls),
+      _correction(_with.service, _with.registry, _with.preferences),
+      _storage(_with.registry, _with.preferences, _with.recovery, _with.runLoop, _with.log),
+      _view({.service = _with.service,
+             .registry = _with.registry,
+             .controls = _with.controls,
+             .currentScreens = _currentScreens,
+             .currentCurve = _currentCurve,
+             .history = _history}),
+      _editing({.service = _with.service,
+                .registry = _with.registry,
+                .runLoop = _with.runLoop,
+                .controls = _with.controls,
+                .currentScreens = _currentScreens,
+                .currentCurve = _currentCurve,
+                .history = _history,
+                .view = _view,
+                .correction = _correction,
+                .storage = _storage}),
+      _files({.service = _with.service,
+              .registry = _with.registry,
+              .preferences = _with.preferences,
+              .runLoop = _with.runLoop,
+              .dialogs = _with.dialogs,
+              .currentScreens = _currentScreens,
+              .editing = _editing,
+              .storage = _storage,
+              .view = _view,
+              .log = _with.log}),
+      _panelFrame(_with.service, _with.preferences, _with.panel),
+      _periodicUpdate(_with.runLoop, _with.preferences, [this] { _applyCurvesToScreen(); }),
+      _reconfigurations(_with.reconfigurations, _with.log, [this] { updateScreens(); }),
+      _statusItem(_with.presence, _with.preferences),
+      _restorableWindows(_with.windows, _with.targets),
+      _hotKeys(_with.hotKeys, _with.preferences, hotKeyActions()),
+      _panelUnderMouse({.service = _with.service,
+                        .panel = _with.panel,
+                        .windowSystem = _with.windowSystem,
+                        .runLoop = _with.runLoop,
+                        .showCurveAt = [this](const Point& point) { _view.showCurveAt(point); },
+                        .showPanel = [this] { _with.panel.makeKeyAndOrderFront(); }}),
+      _remote({.registry = _with.registry,
+               .preferences = _with.preferences,
+               .runLoop = _with.runLoop,
+               .targets = _with.targets,
+               .alerts = _with.alerts,
+               .editing = _editing,
+               .view = _view,
+               .openServer = _with.openServer,
+               .showRunning =
+                   [this](bool isRunning) {
+                       _with.panel.showRemoteConfiguration(isRunning);
+                       _with.presence.showRemoteConfiguration(isRunning);
+                   },
+               .log = _with.log}) {
     _correction.show = [this](bool isOn) { showCorrection(isOn); };
 }
 
 // The curves come before anything that can be seen; what observes the surroundings comes last, so
 // that nothing is told of while it is being set up.
 void TQController::applicationDidFinishLaunching() {
-    _windows.setAboutBackground(248.0 / 255, 234.0 / 255, 198.0 / 255);
+    _with.windows.setAboutBackground(248.0 / 255, 234.0 / 255, 198.0 / 255);
     if (!checkForConflict()) {
         _hasTerminated = true;
         return;
     }
     _initDefaults();
     _adoptDefaultCurves();
-    if (_preferences.boolForKey(settingsKey::continuouslyApply)) {
+    if (_with.preferences.boolForKey(settingsKey::continuouslyApply)) {
         _periodicUpdate._startPeriodicUpdate();
     }
     _panelFrame.restore();
-    _panel._setAdvancedPanel(_preferences.boolForKey(settingsKey::advancedPanel));
-    _panel._setDarkTheme(_preferences.boolForKey(settingsKey::darkTheme));
-    _panel.showChannelStrip(_preferences.boolForKey(settingsKey::channelStrip));
-    _targets.setHintsShown(_preferences.boolForKey(settingsKey::showsTargetHints));
-    setApplyCorrection(_preferences.boolForKey(settingsKey::rememberSettings));
+    applyAppearance();
+    setApplyCorrection(_with.preferences.boolForKey(settingsKey::rememberSettings));
     _statusItem.setReady();
     updateStatusItem();
     updateHotKey();
-    _setControlsEnabled(false);
-    if (_preferences.boolForKey(settingsKey::showAtLaunch)) {
+    _view._setControlsEnabled(false);
+    if (_with.preferences.boolForKey(settingsKey::showAtLaunch)) {
         showPanel();
     }
-    _panel.showTab(storedTab());
-    _runLoop.post([this] { finishPanelSetUp(); });
-    _panel.observeFirstResponder();
-    _preferencesSubscription = _preferences.subscribe([this] { _changedDefaults(); });
-    observeSession();
-    _reconfigurationSubscription =
-        _service.registerReconfigurationCallback([this](DisplayID, ReconfigurationFlags flags) {
-            _reconfigurations.displayReconfigured(flags);
-        });
-    _applyDefaultsToServer();
+    _with.panel.showTab(storedTab());
+    _with.runLoop.post([this] { finishPanelSetUp(); });
+    observeSurroundings();
+    _remote._applyDefaultsToServer();
 }
 
 void TQController::applicationWillTerminate() {
@@ -87,13 +108,13 @@ void TQController::applicationWillTerminate() {
     _reconfigurationSubscription.reset();
     _periodicUpdate._stopPeriodicUpdate();
     _panelFrame.save();
-    _targets.saveFrame();
-    _windows.saveFrames();
+    _with.targets.saveFrame();
+    _with.windows.saveFrames();
     _storage.close();
 }
 
 void TQController::applicationShouldHandleReopen() {
-    if (_preferences.boolForKey(settingsKey::toggleApply)) {
+    if (_with.preferences.boolForKey(settingsKey::toggleApply)) {
         toggleApplyCorrection();
     } else if (applyCorrection()) {
         showPanel();
@@ -101,75 +122,49 @@ void TQController::applicationShouldHandleReopen() {
     }
 }
 
-void TQController::showPanel() {
-    bringPanelBack();
-    _panel.makeKeyAndOrderFront();
-}
-
-void TQController::showTarget(std::optional<TargetKind> kind, const std::string& referenceID) {
-    if (!referenceID.empty()) {
-        const auto screen = _registry.screenWithReferenceID(referenceID);
-        if (screen) {
-            _targets.coverDisplay(screen->directDisplayID(), kind.value_or(TargetKind::Color));
-        } else {
-            _dialogs.alert(TONQUIL_TEXT("Problem", "No such display"),
-                           TONQUIL_TEXT("Problem",
-                                        "No display with the reference ID %@ is attached. "
-                                        "tonquilctl displays lists them."),
-                           {referenceID});
-        }
-    } else if (kind) {
-        makeTargetWindowRestorable();
-        _targets.openTargetWindow(*kind);
-    } else {
-        openTargetWindow();
-    }
-}
-
-void TQController::bringPanelBack() {
-    if (!_currentScreens.displayUnderPanel()) {
-        _panelFrame.restore();
-    }
+bool TQController::checkForConflict() {
+    ConflictCheck check(_with.preferences, _with.programs, _with.alerts, _with.endProgram);
+    return check.run("Tonquil") != ConflictCheck::Outcome::Ended;
 }
 
 void TQController::_initDefaults() {
-    _preferences.registerDefaults(registeredDefaults());
+    _with.preferences.registerDefaults(registeredDefaults());
 }
 
 void TQController::_adoptDefaultCurves() {
     {
-        const DisplayBatch batch(_service);
+        const DisplayBatch batch(_with.service);
         _storage._adoptDefaultCurves();
     }
-    _updateCurveInPanel();
-}
-
-int TQController::storedTab() const {
-    constexpr int middleTab = 1;
-    const std::int64_t stored = _preferences.integerForKey(settingsKey::selectedTab);
-    return stored >= 0 && stored <= 2 ? static_cast<int>(stored) : middleTab;
+    _view._updateCurveInPanel();
 }
 
 // The panel's place and the tab are only settled once the window is there.
 void TQController::finishPanelSetUp() {
-    _setControlsEnabled(true);
-    _panel.showTab(storedTab());
-    _panel.focusMasterOfSelectedTab();
-    _displayUnderPanel = _currentScreens.displayUnderPanel();
-    _updateCurveInPanel();
+    _view._setControlsEnabled(true);
+    _with.panel.showTab(storedTab());
+    _with.panel.focusMasterOfSelectedTab();
+    _view.rememberDisplay();
+    _view._updateCurveInPanel();
 }
 
-void TQController::observeSession() {
-    for (SessionEvents* events : _sessionEvents) {
+void TQController::observeSurroundings() {
+    _with.panel.observeFirstResponder();
+    _preferencesSubscription = _with.preferences.subscribe([this] { _changedDefaults(); });
+    for (SessionEvents* events : _with.sessionEvents) {
         events->start([this](SessionEvent) { _applyCurvesToScreen(); });
     }
+    _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
+        [this](DisplayID, ReconfigurationFlags flags) {
+            _reconfigurations.displayReconfigured(flags);
+        });
 }
 
 void TQController::_changedDefaults() {
     _applyDefaultsToPanel();
-    _applyDefaultsToServer();
-    if (_shownAffectsAllScreens != _preferences.boolForKey(settingsKey::affectAllScreens)) {
-        _changeScreen();
+    _remote._applyDefaultsToServer();
+    if (_view.showsAllScreens() != _with.preferences.boolForKey(settingsKey::affectAllScreens)) {
+        _view._changeScreen();
     }
 }
 
@@ -178,11 +173,8 @@ void TQController::_applyDefaultsToPanel() {
     if (applyCorrection() != _correction.isActive()) {
         setApplyCorrection(applyCorrection());
     }
-    _panel._setAdvancedPanel(_preferences.boolForKey(settingsKey::advancedPanel));
-    _panel._setDarkTheme(_preferences.boolForKey(settingsKey::darkTheme));
-    _panel.showChannelStrip(_preferences.boolForKey(settingsKey::channelStrip));
-    _targets.setHintsShown(_preferences.boolForKey(settingsKey::showsTargetHints));
-    if (_preferences.boolForKey(settingsKey::continuouslyApply) && applyCorrection()) {
+    applyAppearance();
+    if (_with.preferences.boolForKey(settingsKey::continuouslyApply) && applyCorrection()) {
         _periodicUpdate._startPeriodicUpdate();
     } else {
         _periodicUpdate._stopPeriodicUpdate();
@@ -191,14 +183,22 @@ void TQController::_applyDefaultsToPanel() {
     updateHotKey();
 }
 
+void TQController::applyAppearance() {
+    const PreferencesStore& preferences = _with.preferences;
+    _with.panel._setAdvancedPanel(preferences.boolForKey(settingsKey::advancedPanel));
+    _with.panel._setDarkTheme(preferences.boolForKey(settingsKey::darkTheme));
+    _with.panel.showChannelStrip(preferences.boolForKey(settingsKey::channelStrip));
+    _with.targets.setHintsShown(preferences.boolForKey(settingsKey::showsTargetHints));
+}
+
 // A display that is new gets the curve that is stored for it; the others keep theirs, which the
 // system may have taken off them in the course of the change.
 void TQController::updateScreens() {
     _storage.keepPendingEdits();
     {
-        const DisplayBatch batch(_service);
-        _registry.updateScreenList();
-        for (const auto& screen : _registry.screens()) {
+        const DisplayBatch batch(_with.service);
+        _with.registry.updateScreenList();
+        for (const auto& screen : _with.registry.screens()) {
             if (!screen->gammaCurve()) {
                 screen->retriveExtendedGammaCurve();
                 screen->adoptGammaCurveDictionary(_storage.storedCurves(), nullptr);
@@ -210,8 +210,89 @@ void TQController::updateScreens() {
         _panelFrame.restore();
     }
     bringPanelBack();
-    _changeScreen();
-    _targets.displaysChanged();
+    _view._changeScreen();
+    _with.targets.displaysChanged();
+}
+
+void TQController::showPanel() {
+    bringPanelBack();
+    _with.panel.makeKeyAndOrderFront();
+}
+
+void TQController::bringPanelBack() {
+    if (!_currentScreens.displayUnderPanel()) {
+        _panelFrame.restore();
+    }
+}
+
+void TQController::showTarget(std::optional<TargetKind> kind, const std::string& referenceID) {
+    if (referenceID.empty()) {
+        _restorableWindows.openTargetWindow(kind);
+        return;
+    }
+    if (const auto screen = _with.registry.screenWithReferenceID(referenceID)) {
+        _with.targets.coverDisplay(screen->directDisplayID(), kind.value_or(TargetKind::Color));
+        return;
+    }
+    _with.dialogs.alert(TONQUIL_TEXT("Problem", "No such display"),
+                        TONQUIL_TEXT("Problem",
+                                     "No display with the reference ID %@ is attached. "
+                                     "tonquilctl displays lists them."),
+                        {referenceID});
+}
+
+int TQController::storedTab() const {
+    constexpr int middleTab = 1;
+    const std::int64_t stored = _with.preferences.integerForKey(settingsKey::selectedTab);
+    return stored >= 0 && stored <= 2 ? static_cast<int>(stored) : middleTab;
+}
+
+void TQController::setSelectedTab(int index) {
+    _history.endStep();
+    _with.panel.showTab(index);
+    _with.preferences.setValue(settingsKey::selectedTab, index);
+}
+
+void TQController::setAffectsAllScreens(bool affectsAll) {
+    _with.preferences.setValue(settingsKey::affectAllScreens, affectsAll);
+    _view._changeScreen();
+}
+
+void TQController::setAdvancedPanel(bool advanced) {
+    _with.preferences.setValue(settingsKey::advancedPanel, advanced);
+}
+
+void TQController::setDarkTheme(bool dark) {
+    _with.preferences.setValue(settingsKey::darkTheme, dark);
+}
+
+void TQController::setChannelStrip(bool isShown) {
+    _with.preferences.setValue(settingsKey::channelStrip, isShown);
+}
+
+void TQController::showCorrection(bool isOn) {
+    _with.controls.showCorrection(isOn);
+    _statusItem.updateStatusItemImage(isOn);
+}
+
+ControllerHotKeys::Actions TQController::hotKeyActions() {
+    return {
+        .toggleApplyCorrection = [this] { toggleApplyCorrection(); },
+        .showPanelAndCenterMouse = [this] { _panelUnderMouse.showPanelAndCenterMouse(); },
+        .showPanelAndCenterMouseRelease =
+            [this] { _panelUnderMouse.showPanelAndCenterMouseRelease(); },
+        .showProblem = [this](HotKeyRole role,
+                              const std::string& sentence) { showHotKeyProblem(role, sentence); }};
+}
+
+void TQController::showHotKeyProblem(HotKeyRole role, const std::string& sentence) {
+    if (!sentence.empty()) {
+        std::string line = role == HotKeyRole::ToggleCorrection
+                               ? "The hot key for the correction does not work. "
+                               : "The hot key for the panel does not work. ";
+        _with.log(line.append(sentence));
+    }
+    _with.windows.showHotKeyProblem(role, sentence);
 }
 
 }  // namespace tonquil

@@ -1,23 +1,20 @@
 // SPDX-License-Identifier: MIT
-// Settings files.
+#include "app/files/SettingsFiles.h"
+
 #include <system_error>
 
-#include "app/TQController.h"
 #include "app/files/MultiDisplayFile.h"
 #include "app/preferences/SettingsKeys.h"
 #include "files/AtomicFile.h"
 #include "foundation/TranslatableText.h"
 #include "model/KVTableGammaCurve.h"
+#include "model/TQExtendedGammaCurve.h"
 #include "plist/PropertyListWriter.h"
-#include "settings/Settings.h"
 #include "values/PropertyValue.h"
 
 namespace tonquil {
 
 namespace {
-
-// Beside the sliders and what else the edit history tells apart.
-constexpr int openedFileSubject = 102;
 
 Result<void> writeSettings(const PropertyValue& contents, const std::filesystem::path& file) {
     const auto text = writePropertyList(contents);
@@ -31,53 +28,47 @@ Result<void> writeSettings(const PropertyValue& contents, const std::filesystem:
 
 }  // namespace
 
-void TQController::loadGamma() {
-    _dialogs.chooseFileToOpen([this](const std::filesystem::path& file) { openFile(file); });
+void SettingsFiles::loadGamma() {
+    _with.dialogs.chooseFileToOpen([this](const std::filesystem::path& file) { openFile(file); });
 }
 
 // After the event, so that whoever asked has an answer first.
-void TQController::openFile(const std::filesystem::path& file) {
-    _runLoop.post([this, file] { static_cast<void>(_openFile(file)); });
+void SettingsFiles::openFile(const std::filesystem::path& file) {
+    _with.runLoop.post([this, file] { static_cast<void>(_openFile(file)); });
 }
 
-bool TQController::_openFile(const std::filesystem::path& file) {
+bool SettingsFiles::_openFile(const std::filesystem::path& file) {
     const auto settings = readSettingsFile(file);
     if (!settings) {
         return refuseFile(settings.error());
     }
-    const DisplayBatch batch(_service);
-    _history.endStep();
+    const DisplayBatch batch(_with.service);
     const bool isOpened =
         std::visit([this](const auto& contents) { return openSettings(contents); }, *settings);
-    _history.endStep();
     if (isOpened) {
         _recentFiles.add(file);
     }
     return isOpened;
 }
 
-bool TQController::refuseFile(const Problem& problem) {
-    _dialogs.alert(TONQUIL_TEXT("Problem", "The file was not opened"), problem.sentence, {});
+bool SettingsFiles::refuseFile(const Problem& problem) {
+    _with.dialogs.alert(TONQUIL_TEXT("Problem", "The file was not opened"), problem.sentence, {});
     return false;
 }
 
-bool TQController::openSettings(const SingleDisplaySettings& settings) {
-    _currentCurve._setCurrentGammaCurve(
-        *TQExtendedGammaCurve::gammaCurveWithDictionary(settings.curve));
-    replaceCurves(openedFileSubject);
-    _updateCurveInPanel();
-    _openedFile = true;
+bool SettingsFiles::openSettings(const SingleDisplaySettings& settings) {
+    _with.editing.adoptCurve(*TQExtendedGammaCurve::gammaCurveWithDictionary(settings.curve));
     return true;
 }
 
 // What a file says of displays that are not here is kept for the day that they are.
-bool TQController::openSettings(const MultiDisplaySettings& settings) {
+bool SettingsFiles::openSettings(const MultiDisplaySettings& settings) {
     if (settings.screens.is_object()) {
         const MultiDisplayFile file(settings.screens);
-        _storage.storeCurves(file.allScreensDictionary());
-        _history.willEdit(_registry.sightedScreens(), openedFileSubject);
-        if (file.applyTo(_registry) == 0) {
-            _dialogs.alert(
+        _with.storage.storeCurves(file.allScreensDictionary());
+        _with.editing.willEdit(_with.registry.sightedScreens(), editSubject::openedFile);
+        if (file.applyTo(_with.registry) == 0) {
+            _with.dialogs.alert(
                 TONQUIL_TEXT("Problem", "No Matching Screens"),
                 TONQUIL_TEXT("Problem",
                              "Settings from this file apply to different screens than those "
@@ -85,16 +76,13 @@ bool TQController::openSettings(const MultiDisplaySettings& settings) {
                 {});
             return false;
         }
-        curvesWereEdited();
+        _with.editing.curvesWereEdited();
     }
-    _updateCurveInPanel();
-    _openedFile = true;
+    _with.view._updateCurveInPanel();
     return true;
 }
 
-// A table passes over the displays and is at once replaced by the curve that they are read back
-// as; what it leaves is the way back.
-bool TQController::openSettings(const RawTableSettings& settings) {
+bool SettingsFiles::openSettings(const RawTableSettings& settings) {
     const auto curve = KVTableGammaCurve::tableGammaCurveWithData(settings.bytes);
     if (settings.failedPropertyList) {
         return refuseFile(*settings.failedPropertyList);
@@ -106,19 +94,14 @@ bool TQController::openSettings(const RawTableSettings& settings) {
                                       "Nothing has been changed."),
              .detail = {}});
     }
-    _history.willEdit(_registry.screens(), openedFileSubject);
-    for (const auto& screen : _currentScreens._currentScreens()) {
-        screen->setGammaCurve(curve);
-    }
-    _adoptCurrentCurves();
-    curvesWereEdited();
-    return _openedFile;
+    _with.editing.adoptTable(curve);
+    return true;
 }
 
-void TQController::saveGamma() {
-    const bool isMultiDisplay = _preferences.integerForKey(settingsKey::saveFormat) ==
+void SettingsFiles::saveGamma() {
+    const bool isMultiDisplay = _with.preferences.integerForKey(settingsKey::saveFormat) ==
                                 static_cast<std::int64_t>(SettingsFormat::MultiDisplay);
-    _dialogs.chooseFileToSave(
+    _with.dialogs.chooseFileToSave(
         isMultiDisplay ? SettingsFormat::MultiDisplay : SettingsFormat::SingleDisplay,
         [this](const std::filesystem::path& file, SettingsFormat format) {
             savePanelDidEnd(file, format);
@@ -126,25 +109,27 @@ void TQController::saveGamma() {
 }
 
 // A save that fails over an older file says nothing: that one is whole, and still there.
-void TQController::savePanelDidEnd(const std::filesystem::path& file, SettingsFormat format) {
-    _preferences.setValue(settingsKey::saveFormat, static_cast<std::int64_t>(format));
-    const Result<void> saved = format == SettingsFormat::MultiDisplay
-                                   ? writeSettings(MultiDisplayFile::contentsFor(_registry), file)
-                                   : saveCurrentCurve(file);
+void SettingsFiles::savePanelDidEnd(const std::filesystem::path& file, SettingsFormat format) {
+    _with.preferences.setValue(settingsKey::saveFormat, static_cast<std::int64_t>(format));
+    const Result<void> saved =
+        format == SettingsFormat::MultiDisplay
+            ? writeSettings(MultiDisplayFile::contentsFor(_with.registry), file)
+            : saveCurrentCurve(file);
     if (saved) {
         _recentFiles.add(file);
         return;
     }
-    _log(saved.error().sentence);
+    _with.log(saved.error().sentence);
     std::error_code unknown;
     if (!std::filesystem::exists(file, unknown)) {
-        _dialogs.alert(TONQUIL_TEXT("Problem", "Saving failed"),
-                       TONQUIL_TEXT("Problem", "Could not save settings at this location."), {});
+        _with.dialogs.alert(TONQUIL_TEXT("Problem", "Saving failed"),
+                            TONQUIL_TEXT("Problem", "Could not save settings at this location."),
+                            {});
     }
 }
 
-Result<void> TQController::saveCurrentCurve(const std::filesystem::path& file) {
-    const auto screens = _currentScreens._currentScreens();
+Result<void> SettingsFiles::saveCurrentCurve(const std::filesystem::path& file) {
+    const auto screens = _with.currentScreens._currentScreens();
     if (screens.empty() || !screens.front()->gammaCurve()) {
         return problem("There is no display whose curve could be saved.");
     }

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "app/curves/CurveEditing.h"
+
+#include <algorithm>
+
+namespace tonquil {
+
+namespace {
+
+constexpr std::chrono::milliseconds resetPause{500};
+
+/// Whether each of the screens has a curve of these values already.
+bool haveCurve(const ScreenRegistry::Screens& screens, const KVGammaCurve& curve) {
+    return std::ranges::all_of(screens, [&curve](const auto& screen) {
+        return screen->gammaCurve() &&
+               CurrentCurve::valuesOf(*screen->gammaCurve()) == CurrentCurve::valuesOf(curve);
+    });
+}
+
+}  // namespace
+
+void CurveEditing::applyGamma(PanelSlider sender, bool isLinked) {
+    // What is edited is what the panel names, whatever has happened to its frame since.
+    _with.view.panelMoved();
+    const DisplayBatch batch(_with.service);
+    if (isLinked) {
+        _with.currentCurve.moveLinkedSliders(sender);
+    }
+    _with.controls.updateTouchBarSlider();
+    replaceCurves(static_cast<int>(sender));
+    _with.view._updateCurveInPanel();
+}
+
+void CurveEditing::changeBlendingMode() {
+    const DisplayBatch batch(_with.service);
+    _with.history.endStep();
+    replaceCurves(editSubject::blendingMode);
+    _with.history.endStep();
+}
+
+// Values that a display has already still go out, since its ramp may have been disturbed; but a
+// wheel that turns on at the end of a slider leaves nothing to undo.
+void CurveEditing::replaceCurves(int subject) {
+    const auto screens = _with.currentScreens._currentScreens();
+    const auto curve = _with.currentCurve._currentGammaCurve();
+    _with.controls.selectBlendingMode(curve->blendingMode());
+    const bool isEdit = !haveCurve(screens, *curve);
+    if (isEdit) {
+        _with.history.willEdit(screens, subject);
+    }
+    for (const auto& screen : screens) {
+        screen->setGammaCurve(curve);
+    }
+    if (isEdit) {
+        curvesWereEdited();
+    }
+}
+
+void CurveEditing::adoptCurve(const KVGammaCurve& curve) {
+    const DisplayBatch batch(_with.service);
+    _with.history.endStep();
+    _with.currentCurve._setCurrentGammaCurve(curve);
+    replaceCurves(editSubject::openedFile);
+    _with.history.endStep();
+    _with.view._updateCurveInPanel();
+}
+
+// A table passes over the displays and is at once replaced by the curve that they are read back
+// as; what it leaves is the way back.
+void CurveEditing::adoptTable(const std::shared_ptr<KVGammaCurve>& table) {
+    const DisplayBatch batch(_with.service);
+    willEdit(_with.registry.screens(), editSubject::openedFile);
+    for (const auto& screen : _with.currentScreens._currentScreens()) {
+        screen->setGammaCurve(table);
+    }
+    _adoptCurrentCurves();
+    curvesWereEdited();
+}
+
+// The pause gives the system time to put its calibration back before it is read as the new base.
+void CurveEditing::resetGamma() {
+    _with.view._setControlsEnabled(false);
+    _with.correction.restoreAllGammaCurves();
+    _resetTimer = _with.runLoop.callOnce(resetPause, [this] { _doneReset(); });
+}
+
+void CurveEditing::_doneReset() {
+    _resetTimer.reset();
+    const DisplayBatch batch(_with.service);
+    willEdit(_with.registry.screens(), editSubject::reset);
+    for (const auto& screen : _with.registry.screens()) {
+        screen->readBaseGamma();
+    }
+    _with.view._setControlsEnabled(true);
+    _adoptCurrentCurves();
+    curvesWereEdited();
+}
+
+void CurveEditing::_adoptCurrentCurves() {
+    for (const auto& screen : _with.registry.screens()) {
+        screen->retriveExtendedGammaCurve();
+    }
+    _with.view._updateCurveInPanel();
+}
+
+void CurveEditing::undo() {
+    const DisplayBatch batch(_with.service);
+    if (_with.history.undo()) {
+        _with.view._updateCurveInPanel();
+        curvesWereEdited();
+    }
+}
+
+void CurveEditing::redo() {
+    const DisplayBatch batch(_with.service);
+    if (_with.history.redo()) {
+        _with.view._updateCurveInPanel();
+        curvesWereEdited();
+    }
+}
+
+void CurveEditing::willEdit(const ScreenRegistry::Screens& screens, int subject) {
+    _with.history.endStep();
+    _with.history.willEdit(screens, subject);
+    _with.history.endStep();
+}
+
+void CurveEditing::curvesWereEdited() {
+    _with.storage.curvesWereEdited();
+    _with.controls.updatePlot();
+    _with.controls.showUndo(_with.history.canUndo(), _with.history.canRedo());
+}
+
+}  // namespace tonquil

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "app/curves/CurveEditing.h"
+#include "app/files/FileDialogs.h"
+#include "app/files/RecentFiles.h"
+#include "foundation/Log.h"
+#include "settings/Settings.h"
+
+namespace tonquil {
+
+/// Opens and saves settings files. What goes wrong is told by an alert on the panel, and nothing
+/// has been changed then.
+class SettingsFiles {
+ public:
+    struct Surroundings {
+        DisplayService& service;
+        ScreenRegistry& registry;
+        PreferencesStore& preferences;
+        RunLoop& runLoop;
+        FileDialogs& dialogs;
+        CurrentScreens& currentScreens;
+        CurveEditing& editing;
+        CurveStorage& storage;
+        PanelView& view;
+        Log log;
+    };
+
+    explicit SettingsFiles(const Surroundings& surroundings)
+        : _with(surroundings), _recentFiles(surroundings.preferences) {}
+
+    /// Asks for a file and opens it.
+    void loadGamma();
+    /// Asks for a place and a format, and saves there.
+    void saveGamma();
+    /// Opens a file after the event being handled.
+    void openFile(const std::filesystem::path& file);
+    /// Newest first.
+    [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const {
+        return _recentFiles.files();
+    }
+
+ private:
+    /// Returns whether the file's settings are in force now.
+    bool _openFile(const std::filesystem::path& file);
+    bool openSettings(const SingleDisplaySettings& settings);
+    bool openSettings(const MultiDisplaySettings& settings);
+    bool openSettings(const RawTableSettings& settings);
+    bool refuseFile(const Problem& problem);
+    void savePanelDidEnd(const std::filesystem::path& file, SettingsFormat format);
+    [[nodiscard]] Result<void> saveCurrentCurve(const std::filesystem::path& file);
+
+    Surroundings _with;
+    RecentFiles _recentFiles;
+};
+
+}  // namespace tonquil
