@@ -52,7 +52,6 @@ TQController::TQController(const ControllerSurroundings& surroundings)
       _panelUnderMouse({.service = _with.service,
                         .panel = _with.panel,
                         .windowSystem = _with.windowSystem,
-                        .runLoop = _with.runLoop,
                         .showCurveAt = [this](const Point& point) { _view.showCurveAt(point); },
                         .showPanel = [this] { _with.panel.makeKeyAndOrderFront(); }}),
       _remote({.registry = _with.registry,
@@ -278,9 +277,14 @@ void TQController::showCorrection(bool isOn) {
 ControllerHotKeys::Actions TQController::hotKeyActions() {
     return {
         .toggleApplyCorrection = [this] { toggleApplyCorrection(); },
-        .showPanelAndCenterMouse = [this] { _panelUnderMouse.showPanelAndCenterMouse(); },
+        .showPanelAndCenterMouse =
+            [this](std::chrono::milliseconds time) {
+                _panelUnderMouse.showPanelAndCenterMouse(time);
+            },
         .showPanelAndCenterMouseRelease =
-            [this] { _panelUnderMouse.showPanelAndCenterMouseRelease(); },
+            [this](std::chrono::milliseconds time) {
+                _panelUnderMouse.showPanelAndCenterMouseRelease(time);
+            },
         .showProblem = [this](HotKeyRole role,
                               const std::string& sentence) { showHotKeyProblem(role, sentence); }};
 }

@@ -7,6 +7,8 @@
 
 namespace tonquil {
 
+using std::chrono::milliseconds;
+
 namespace {
 
 // The slider's own geometry: how far its bar ends from its sides, in points, and how high above its
@@ -41,7 +43,7 @@ Rectangle PanelUnderMouse::constrained(const Rectangle& frame, const Point& poin
     return displays.empty() ? frame : keptInside(frame, _.service.bounds(displays.front()));
 }
 
-void PanelUnderMouse::showPanelAndCenterMouse() {
+void PanelUnderMouse::showPanelAndCenterMouse(milliseconds time) {
     if (_.panel.isOrderedIn() && _.panel.isOnActiveWorkspace()) {
         _.panel.orderOut();
         return;
@@ -52,7 +54,7 @@ void PanelUnderMouse::showPanelAndCenterMouse() {
         return;
     }
     _.showCurveAt(*pointer);
-    _press = Press{.initialTimeForPanelHotKey = _.runLoop.now(),
+    _press = Press{.initialTimeForPanelHotKey = time,
                    .initialMouseLocationForPanelHotKey = *pointer,
                    .modifiedMouseLocationForPanelHotKey = {},
                    .initialControlWindowRect = _.panel.frame(),
@@ -71,13 +73,12 @@ void PanelUnderMouse::showPanelAndCenterMouse() {
     _press->modifiedMouseLocationForPanelHotKey = _.windowSystem.pointerLocation();
 }
 
-void PanelUnderMouse::showPanelAndCenterMouseRelease() {
+void PanelUnderMouse::showPanelAndCenterMouseRelease(milliseconds time) {
     const auto press = std::exchange(_press, std::nullopt);
     if (!press) {
         return;
     }
-    const std::chrono::duration<double> held = _.runLoop.now() - press->initialTimeForPanelHotKey;
-    if (held.count() > tapSeconds) {
+    if (time - press->initialTimeForPanelHotKey > longestTap) {
         putBack(*press);
     }
 }

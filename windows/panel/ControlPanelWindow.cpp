@@ -44,10 +44,10 @@ bool ControlPanel::isOnActiveWorkspace() const {
 
 PanelSliderGeometry ControlPanel::masterSliderOfSelectedTab() const {
     const TQSlider& slider = *_contents->sliders.row(_selectedTab, Channel::Master).slider;
-    const QPoint corner = slider.mapTo(this, QPoint());
+    const QRect place = _contents->placeOf(slider).translated(_contents->pos());
     const double scale = devicePixelsFrom(geometry()).width / width();
-    return {.frame = {corner.x() * scale, corner.y() * scale, slider.width() * scale,
-                      slider.height() * scale},
+    return {.frame = {place.x() * scale, place.y() * scale, place.width() * scale,
+                      place.height() * scale},
             .value = slider.floatValue(),
             .minimum = slider.minValue(),
             .maximum = slider.maxValue(),

@@ -9,6 +9,9 @@
 #include <QPainter>
 #include <QStackedWidget>
 #include <QToolButton>
+#include <algorithm>
+#include <ranges>
+#include <vector>
 
 #include "model/KVGammaCurve.h"
 #include "ui/CurvePlot.h"
@@ -162,6 +165,23 @@ void PanelContents::fit() {
     layout()->invalidate();
     resize(width(), advancedHeight());
     layout()->activate();
+}
+
+// The layouts inside this one are otherwise carried out when the window is shown, and those of a
+// page when the page is.
+QRect PanelContents::placeOf(const QWidget& control) const {
+    std::vector<QLayout*> layouts;
+    for (const QWidget* outer = control.parentWidget(); outer != parentWidget();
+         outer = outer->parentWidget()) {
+        if (QLayout* layout = outer->layout()) {
+            layouts.push_back(layout);
+        }
+    }
+    std::ranges::for_each(layouts | std::views::reverse, [](QLayout* each) {
+        each->invalidate();
+        each->activate();
+    });
+    return {control.mapTo(this, QPoint()), control.size()};
 }
 
 void PanelContents::showTab(int tab) const {

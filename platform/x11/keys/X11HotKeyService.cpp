@@ -42,11 +42,6 @@ Event as(const xcb_generic_event_t& event) {
     return result;
 }
 
-HotKeyServiceEvent eventFrom(const xcb_key_press_event_t& event, const X11Modifiers& modifiers) {
-    return {0, static_cast<double>(event.root_x), static_cast<double>(event.root_y),
-            modifiers.flags(event.state), milliseconds(event.time)};
-}
-
 }  // namespace
 
 Result<std::unique_ptr<X11HotKeyService>> X11HotKeyService::open(const char* display,
@@ -198,16 +193,23 @@ void X11HotKeyService::take(const xcb_generic_event_t& event) {
     }
 }
 
-void X11HotKeyService::keyPressed(const xcb_key_press_event_t& event) {
-    _serverTime = milliseconds(event.time);
+HotKeyServiceEvent X11HotKeyService::eventFrom(const xcb_key_press_event_t& event) {
+    // The server counts milliseconds in 32 bits and begins again after seven weeks.
+    const auto step = event.time - static_cast<std::uint32_t>(_serverTime.count());
+    _serverTime += milliseconds(static_cast<std::int32_t>(step));
     _serverTimeTaken = _runLoop.now();
+    return {0, static_cast<double>(event.root_x), static_cast<double>(event.root_y),
+            _modifiers.flags(event.state), _serverTime};
+}
+
+void X11HotKeyService::keyPressed(const xcb_key_press_event_t& event) {
+    HotKeyServiceEvent told = eventFrom(event);
     // While a hot key is down, every key comes here.
     const auto handle = find(event.detail, _modifiers.held(event.state));
     if (!handle || _held.contains(event.detail) || _downBefore.contains(event.detail)) {
         return;
     }
     _held[event.detail] = {*handle, ++_lastNumber};
-    HotKeyServiceEvent told = eventFrom(event, _modifiers);
     told.id = _registrations.at(*handle).id;
     // A copy, since what is called may set other handlers.
     if (const Handler handler = _pressed) {
@@ -216,10 +218,9 @@ void X11HotKeyService::keyPressed(const xcb_key_press_event_t& event) {
 }
 
 void X11HotKeyService::keyReleased(const xcb_key_press_event_t& event) {
-    _serverTime = milliseconds(event.time);
-    _serverTimeTaken = _runLoop.now();
+    const HotKeyServiceEvent told = eventFrom(event);
     _downBefore.erase(event.detail);
-    release(event.detail, eventFrom(event, _modifiers));
+    release(event.detail, told);
     // The grab that began with the first of several keys ends with it, and with it the events.
     if (!_held.empty()) {
         lookUntilReleased();
