@@ -44,6 +44,7 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     setWindowTitle(QCoreApplication::translate("Panel", "Tonquil"));
     setWindowIcon(programIcon());
     setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_AlwaysShowToolTips);
     setAcceptDrops(true);
     _appearance.allowsVibrancy = windowSystem.isCompositing();
     _appearance.options.reduceTransparency = !_appearance.allowsVibrancy;
@@ -92,6 +93,7 @@ void ControlPanel::connectControls() {
         }
     });
     contents.titleStrip->setCloseAction([this] { close(); });
+    contents.titleStrip->setHasWindowManager([this] { return _windowSystem.hasWindowManager(); });
     contents.titleStrip->setRemoteAction([this] { _actions->openPreferences(); });
     contents.titleStrip->setSubjectAction(
         [this](bool isAll) { _actions->setAffectsAllScreens(isAll); });
@@ -145,17 +147,21 @@ void ControlPanel::updateTouchBarSlider() {
 }
 
 void ControlPanel::_setControlsEnabled(bool enabled) {
-    const bool wasEnabled = _contents->blendingModePopUp->isEnabled();
-    if (wasEnabled && !enabled) {
+    // A control that is disabled would hand the focus to whichever is next, and the next key would
+    // act there.
+    if (!enabled && !_focusToReturn && focusWidget() != nullptr) {
         _focusToReturn = focusWidget();
+        setFocus();
     }
     _contents->sliders.setEnabled(enabled);
     _contents->channelStrip->_setControlsEnabled(enabled);
     _contents->blendingModePopUp->setEnabled(enabled);
     _contents->resetButton->setEnabled(enabled);
     _menu.setEditingEnabled(enabled);
-    if (enabled && !wasEnabled && _focusToReturn) {
-        _focusToReturn->setFocus();
+    if (_focusToReturn && _focusToReturn->isEnabled()) {
+        if (focusWidget() == this) {
+            _focusToReturn->setFocus();
+        }
         _focusToReturn = nullptr;
     }
 }
@@ -298,9 +304,11 @@ std::vector<QWidget*> ControlPanel::vibrantViews() const {
 }
 
 void ControlPanel::_setAdvancedPanel(bool advanced) {
+    const bool becomesCompact = _isAdvanced && !advanced;
     _isAdvanced = advanced;
     fitForm(true);
-    if (!advanced && focusWidget() != nullptr && isCutOff(*focusWidget())) {
+    // In the compact form the channel strip itself puts the focus on fields that are cut off.
+    if (becomesCompact && focusWidget() != nullptr && isCutOff(*focusWidget())) {
         focusMasterOfSelectedTab();
     }
     _menu.showForm(advanced, _appearance.isDark, !_contents->channelStrip->isHidden());

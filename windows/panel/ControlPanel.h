@@ -87,6 +87,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     [[nodiscard]] bool isCutOff(const QWidget& control) const;
     void takeKeyboard();
     void setAcceptsKeyboard(bool accepts);
+    void updateAcceptsKeyboard();
     void setAppearances();
     void fitForm(bool mayGlide);
     void setHeight(int height);
@@ -105,7 +106,8 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     std::int32_t _blendingMode = KVBlendingModeBaseTable;
     bool _observesFirstResponder = false;
     QPointer<QWidget> _firstResponder;
-    /// What had the focus when the controls were disabled.
+    bool _isFieldUnderMouse = false;
+    /// What had the focus when the controls were disabled; the panel itself has it meanwhile.
     QPointer<QWidget> _focusToReturn;
     QTimer _plotTimer;
     /// Ends an edit that no button holds: a run of steps, or a typed number.

@@ -87,13 +87,18 @@ bool ControlPanel::focusNextPrevChild(bool next) {
 }
 
 bool ControlPanel::event(QEvent* event) {
-    // Only while the pointer is on it does the panel refuse the keyboard: a click then leaves it
-    // where it is, and yet the panel can be reached by switching between windows.
+    // The panel refuses the keyboard only while the pointer is on it and not on a number field: a
+    // click on a slider leaves the keyboard where it is, and yet the panel can be reached by
+    // switching between windows.
     if (event->type() == QEvent::Enter || event->type() == QEvent::Leave ||
         event->type() == QEvent::WindowDeactivate) {
-        setAcceptsKeyboard(isActiveWindow() || event->type() == QEvent::Leave || !underMouse());
+        updateAcceptsKeyboard();
     }
     return QWidget::event(event);
+}
+
+void ControlPanel::updateAcceptsKeyboard() {
+    setAcceptsKeyboard(isActiveWindow() || !underMouse() || _isFieldUnderMouse);
 }
 
 bool ControlPanel::eventFilter(QObject* watched, QEvent* event) {
@@ -101,6 +106,12 @@ bool ControlPanel::eventFilter(QObject* watched, QEvent* event) {
     if (field != nullptr && event->type() == QEvent::MouseButtonPress) {
         takeKeyboard();
         firstResponderChanged(field);
+    } else if (field != nullptr &&
+               (event->type() == QEvent::Enter || event->type() == QEvent::Leave)) {
+        // A window manager decides at the press whether a window takes the keyboard, before we
+        // hear of it.
+        _isFieldUnderMouse = event->type() == QEvent::Enter && field->isEnabled();
+        updateAcceptsKeyboard();
     }
     return QWidget::eventFilter(watched, event);
 }
