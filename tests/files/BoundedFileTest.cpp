@@ -35,24 +35,20 @@ TEST(BoundedFile, ReadsUpToTheLimitWhateverSizeTheFileClaims) {
 TEST(BoundedFile, RefusesWhatIsNoRegularFileWithoutWaitingForIt) {
     const ScratchFolder folder;
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
-    std::filesystem::create_symlink("circle", folder / "circle");
-    putContents(folder / "secret", "x");
-    std::filesystem::permissions(folder / "secret", std::filesystem::perms::none);
-    std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
     const std::vector<std::pair<std::filesystem::path, const char*>> rows = {
         {folder / "pipe", "pipe is not a regular file."},
         {"/dev/zero", "/dev/zero is not a regular file."},
         {folder.path(), " is a folder, not a file."},
         {folder / "none", "No such file: "},
-        {folder / "circle", "leads in a circle."},
-        {folder / std::string(300, 'n'), "The file name is too long"},
         {std::string("/proc/self/status\0", 18), "has a NUL in it"}};
     for (const auto& [path, words] : rows) {
         EXPECT_NE(problemWith(path).find(words), std::string::npos) << problemWith(path);
     }
+    putContents(folder / "secret", "x");
+    std::filesystem::permissions(folder / "secret", std::filesystem::perms::none);
+    std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
     const OrdinaryUser user;
-    EXPECT_EQ(problemWith(folder / "secret"),
-              (folder / "secret").native() + " is not readable by you.");
+    EXPECT_TRUE(problemWith(folder / "secret").ends_with(" is not readable by you."));
 }
 
 }  // namespace
