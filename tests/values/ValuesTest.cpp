@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "values/PropertyValue.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
+
+#include "values/BoundedJson.h"
+#include "values/PropertyValue.h"
 
 namespace tonquil {
 namespace {
@@ -42,6 +44,21 @@ TEST(PropertyValue, GivesAnIntegerHeldAtTheEndsOfTheRange) {
         EXPECT_EQ(integerValue(row[0]), row[1].get<std::int64_t>()) << row[0];
     }
     EXPECT_EQ(integerValue(std::numeric_limits<double>::quiet_NaN()), 0);
+}
+
+TEST(BoundedJson, ReadsUpToItsBoundsAndNoFurther) {
+    std::string separated = "[0";
+    for (int separator = 0; separator < 4096; ++separator) {
+        separated += ",0";
+    }
+    EXPECT_TRUE(readBoundedJson(std::string(16, '[') + std::string(16, ']')));
+    EXPECT_TRUE(readBoundedJson(separated + "]"));
+    for (const std::string& text :
+         {std::string(17, '[') + std::string(17, ']'), std::string(1'000'000, '['),
+          separated + ",0]", std::string("1\0", 2), std::string(), std::string("[]]"),
+          std::string("\"\xFF\""), std::string("1e999")}) {
+        EXPECT_FALSE(readBoundedJson(text)) << text.substr(0, 40);
+    }
 }
 
 }  // namespace
