@@ -139,17 +139,14 @@ TEST_F(RemoteCommands, SetIsConfirmedByWhatTheServerThenAnnounces) {
     EXPECT_FALSE(bench.displays.statesSet[0].second.contains("content"));
     EXPECT_EQ(display(0).gamma.dump(), "[0.0,0.3,1.7,1.0,0.0,1.0,1.0,0.0,1.0,1.0,0.0,1.0,1.0]");
 
-    // From a file for the one display of several.
-    arguments = set("9-9-9");
-    arguments.file = propertyListFile(
-        {{"Format", 1},
-         {"Screens",
-          {{"9-9-9",
-            TQExtendedGammaCurve::gammaCurveWithCompactArray({1, 0.4})->gammaCurveDictionary()}}}});
+    arguments = set("1-2-3");
+    const auto other = TQExtendedGammaCurve::gammaCurveWithCompactArray({1, 0.4});
+    arguments.file =
+        propertyListFile({{"Format", 1}, {"Screens", {{"9-9-9", other->gammaCurveDictionary()}}}});
+    EXPECT_EQ(run(arguments), "The file has no curve for the display 1-2-3.");
+    arguments.referenceID = "9-9-9";
     EXPECT_EQ(run(arguments), "");
     EXPECT_EQ(display(0).gamma[1], 0.4);
-    arguments.referenceID = "1-2-3";
-    EXPECT_EQ(run(arguments), "The file has no curve for the display 1-2-3.");
     arguments.file = fileWith(std::string(768, 'x'));
     EXPECT_EQ(run(arguments), "A raw table cannot be sent: only curves of 13 numbers travel.");
     Arguments content = set("1-2-3");
