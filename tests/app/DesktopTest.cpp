@@ -185,7 +185,7 @@ TEST(LoginItem, IsReliableWhereProgramsAreInstalled) {
          {"/usrlocal", "/usr/../srv", "/home/lee/.local/bin", "/home/kim/tonquil/build/bin"}) {
         EXPECT_FALSE(isInstalledReliably(std::string(folder) + "/tonquil", "/home/kim")) << folder;
     }
-    EXPECT_FALSE(isInstalledReliably("/.local/bin/tonquil", ""));
+    EXPECT_FALSE(isInstalledReliably(".local/bin/tonquil", ""));
 }
 
 TEST(CommandLine, IsReadAndPassedOn) {
