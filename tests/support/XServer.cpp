@@ -11,30 +11,16 @@ namespace tonquil {
 
 namespace {
 
-constexpr const char* configuration = R"(Section "ServerFlags"
-    Option "AutoAddDevices" "false"
-    Option "AllowMouseOpenFail" "true"
+constexpr const char* configuration = R"(
+Section "ServerFlags" Option "AutoAddDevices" "false" Option "AllowMouseOpenFail" "true"
     Option "DontVTSwitch" "true"
 EndSection
-Section "Device"
-    Identifier "dummy device"
-    Driver "dummy"
-    VideoRam 256000
-EndSection
-Section "Monitor"
-    Identifier "dummy monitor"
-    HorizSync 5.0-1000.0
+Section "Device" Identifier "device" Driver "dummy" VideoRam 256000 EndSection
+Section "Monitor" Identifier "monitor" HorizSync 5.0-1000.0
     VertRefresh 5.0-200.0
 EndSection
-Section "Screen"
-    Identifier "dummy screen"
-    Device "dummy device"
-    Monitor "dummy monitor"
-    DefaultDepth 24
-    SubSection "Display"
-        Depth 24
-        Virtual 5760 1080
-    EndSubSection
+Section "Screen" Identifier "screen" Device "device" Monitor "monitor" DefaultDepth 24
+    SubSection "Display" Depth 24 Virtual 5760 1080 EndSubSection
 EndSection
 )";
 
