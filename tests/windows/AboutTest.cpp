@@ -8,7 +8,6 @@
 
 #include "app/about/AboutTexts.h"
 #include "app/about/AboutWindow.h"
-#include "app/about/KVAboutBoxBackground.h"
 #include "app/about/KVAboutBoxController.h"
 #include "app/about/KVAboutBoxScrollView.h"
 #include "tests/files/FolderContents.h"
@@ -89,21 +88,6 @@ TEST_F(AboutBox, OpensInTheMiddleAtTheBeginningAndClosesByEscape) {
         pressKey(*controller.textView(), Qt::Key_Escape);
         EXPECT_FALSE(window.isVisible());
     }
-}
-
-TEST_F(AboutBox, HasAGradientBehindItOnlyWhileItsWindowIsActive) {
-    const QColor former = KVAboutBoxBackground::backgroundColor();
-    KVAboutBoxBackground::setBackgroundColor(QColor(248, 234, 198));
-    KVAboutBoxBackground background;
-    background.resize(20, 101);
-    const auto at = [&](int y) { return background.grab().toImage().pixelColor(10, y); };
-    EXPECT_EQ(at(0), QColor(252, 245, 227));
-    EXPECT_EQ(at(100), at(0));
-    present(background);
-    EXPECT_TRUE(isNear(at(0), Qt::white));
-    EXPECT_TRUE(isNear(at(50), QColor(252, 245, 227)));
-    EXPECT_TRUE(isNear(at(100), QColor(248, 234, 198)));
-    KVAboutBoxBackground::setBackgroundColor(former);
 }
 
 }  // namespace

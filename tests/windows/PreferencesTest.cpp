@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QRadioButton>
-#include <tuple>
 
 #include "app/SettingsKeys.h"
 #include "app/preferences/PreferencesWindow.h"
@@ -146,18 +145,12 @@ TEST_F(Preferences, RecordAHotKeyThatIsSwitchedOnButNotThere) {
     EXPECT_EQ(window.focusWidget(), &window);
 }
 
-TEST_F(Preferences, ReadAStoredHotKeyByItsLowBits) {
-    for (const auto& [code, modifiers, expected] :
-         {std::tuple(0x10000, 0, -1), {0, 0x100000, 0}, {0x1000C, 0x100000, 12}, {122, 0, 122}}) {
-        SCOPED_TRACE(code);
-        store.stored["UseHotKeyCode"] = code;
-        store.stored["UseHotKeyModifiers"] = modifiers;
-        const auto hotKey = open().hotKeyField->hotKey();
-        EXPECT_EQ(hotKey ? hotKey->keyCode() : -1, expected);
-        EXPECT_EQ(hotKey ? hotKey->modifierFlags() : 0, hotKey ? modifiers : 0);
-    }
-    // Taken away again, it leaves zeros.
-    controller->window().hotKeyField->findChild<QAbstractButton*>()->click();
+TEST_F(Preferences, ReadAStoredHotKeyByItsLowBitsAndLeaveZerosOfOneTakenAway) {
+    store.stored.update({{"UseHotKeyCode", 0x1000C}, {"UseHotKeyModifiers", 0x100000}});
+    DDHotKeyTextField& field = *open().hotKeyField;
+    EXPECT_EQ(field.hotKey()->keyCode(), 12);
+    EXPECT_EQ(field.hotKey()->modifierFlags(), 0x100000);
+    field.findChild<QAbstractButton*>()->click();
     EXPECT_EQ(stored("UseHotKeyCode"), 0);
     EXPECT_EQ(stored("UseHotKeyModifiers"), 0);
 }
