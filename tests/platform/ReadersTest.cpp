@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/edid/Edid.h"
-#include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/x11/X11RampJournal.h"
 #include "tests/support/EdidBuilder.h"
 
@@ -38,13 +37,6 @@ TEST(Edid, NeedsAWholeBlockWithItsHeader) {
     EXPECT_EQ(parseEdid(bytes)->modelNumber, 0xA0B1U);
     bytes[7] = 1;
     EXPECT_FALSE(parseEdid(bytes));
-}
-
-TEST(SimulatedDeskReader, RefusesWhatIsNoDesk) {
-    for (const char* text : {"", "{}", "[1, 2", R"([{"id": 3}, {"id": 3}])", R"([{"id": 0}])"}) {
-        EXPECT_FALSE(readSimulatedDesk(text)) << text;
-    }
-    EXPECT_TRUE(readSimulatedDesk("[]")) << "a desk without displays is one";
 }
 
 TEST(X11RampJournal, KeepsTheLastSystemRampOfEachCrtc) {

@@ -129,19 +129,19 @@ TEST(AutostartLoginItem, WritesAndRemovesTheDesktopFileAndHeedsTheDesktop) {
 
 TEST(Launcher, StartsTheProgramBesideItAndElseTheOneInPath) {
     const ScratchFolder folder;
-    std::filesystem::create_directory(folder / "path");
     const auto launcher = folder / "tonquil-launcher";
     std::filesystem::copy_file(TONQUIL_LAUNCHER, launcher);
+    std::filesystem::create_directory(folder / "path");
     const auto output = [&] {
-        const auto ended = run({.command = {launcher, "--ignored"},
-                                .environment = {{"PATH", (folder / "path").native()}}});
-        return ended ? ended->standardOutput + ended->standardError : "";
+        return run({.command = {launcher, "--ignored"},
+                    .environment = {{"PATH", (folder / "path").native()}}})
+            .value();
     };
-    EXPECT_NE(output().find("Tonquil could not be started"), std::string::npos);
+    EXPECT_NE(output().standardError.find("Tonquil could not be started"), std::string::npos);
     putProgram(folder / "path/tonquil", "from PATH");
-    EXPECT_EQ(output(), "from PATH 0\n");
+    EXPECT_EQ(output().standardOutput, "from PATH 0\n");
     putProgram(folder / "tonquil", "beside");
-    EXPECT_EQ(output(), "beside 0\n");
+    EXPECT_EQ(output().standardOutput, "beside 0\n");
 }
 
 }  // namespace
