@@ -11,11 +11,8 @@
 #include <QMessageBox>
 #include <QToolButton>
 #include <algorithm>
-#include <set>
 #include <tuple>
 
-#include "app/about/KVAboutBoxController.h"
-#include "app/about/KVAboutBoxScrollView.h"
 #include "app/alerts/AlertWindow.h"
 #include "app/panel/ControlPanel.h"
 #include "app/panel/PanelFileDialogs.h"
@@ -81,22 +78,6 @@ TEST(Windows, SpeakGermanAndWriteNumbersAsBefore) {
     EXPECT_THAT(texts.filter(QStringLiteral("Dusk ist auf diesem Computer vorhanden.")), SizeIs(1));
     EXPECT_THAT(texts.filter(QStringLiteral("Dusk ändert dieselben Farbtabellen wie Tonquil")),
                 SizeIs(1));
-}
-
-TEST(Windows, HaveCreditsInEveryLanguage) {
-    const BundleInformation ourselves{
-        .path = "/usr/bin/tonquil", .shortVersion = "1", .build = "1"};
-    std::set<QString> seen;
-    const QStringList names = translatedLanguages() + QStringList{QString()};
-    for (const QString& name : names) {
-        const Language language(name);
-        KVAboutBoxController about(ourselves);
-        (void)about.window();
-        const QString text = about.textView()->toPlainText();
-        EXPECT_TRUE(text.contains(QStringLiteral("xkbcommon")));
-        EXPECT_TRUE(seen.insert(text).second) << "Another language has the same text.";
-    }
-    EXPECT_THAT(seen, SizeIs(5));
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialog>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QToolButton>
@@ -12,7 +11,6 @@
 #include <stdexcept>
 
 #include "app/panel/ControlPanel.h"
-#include "app/panel/PanelFileDialogs.h"
 #include "platform/missing/MissingWindowSystem.h"
 #include "tests/ui/Input.h"
 #include "ui/TQNumericTextField.h"
@@ -202,20 +200,6 @@ TEST_F(Panel, TakesOneLocalFileThatIsDroppedOnIt) {
         }
     }
     EXPECT_THAT(actions.calls, ElementsAre("/a folder/b%20&c.tonquil"));
-}
-
-TEST_F(Panel, HasOneFileDialogAtATimeButEveryAlert) {
-    PanelFileDialogs dialogs(panel);
-    const auto countOfDialogs = [this] { return panel.findChildren<QDialog*>().size(); };
-    dialogs.chooseFileToSave(SettingsFormat::MultiDisplay, {});
-    dialogs.chooseFileToOpen({});
-    EXPECT_EQ(countOfDialogs(), 1);
-    dialogs.alert("Saving failed", "Could not save settings at this location.", {});
-    EXPECT_EQ(countOfDialogs(), 2);
-    panel.findChild<QDialog*>()->reject();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    dialogs.chooseFileToOpen({});
-    EXPECT_EQ(countOfDialogs(), 2) << "The alert, and the dialog that came after the first.";
 }
 
 }  // namespace

@@ -101,12 +101,10 @@ TEST_F(NumericFieldTest, NeverRoundsAValueThatNobodyChanged) {
     EXPECT_THAT(sent, ElementsAre());
 }
 
-TEST_F(NumericFieldTest, KeepsWhatIsBeingTypedWhileTheSliderIsDrawn) {
+TEST_F(NumericFieldTest, KeepsWhatIsBeingTypedWhileTheSliderIsDrawnOrAMenuIsUp) {
     typeOver(*field, QStringLiteral("0.7"));
     slider->setFloatValue(0.2F);
     static_cast<void>(drawn(*slider));
-    EXPECT_EQ(shown(), "0.7");
-    // A menu takes the focus for a while.
     QFocusEvent popup(QEvent::FocusOut, Qt::PopupFocusReason);
     QApplication::sendEvent(field, &popup);
     EXPECT_EQ(shown(), "0.7");
