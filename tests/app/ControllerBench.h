@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "app/preferences/SettingsKeys.h"
 #include "app/TQController.h"
+#include "app/preferences/SettingsKeys.h"
 #include "model/KVGammaPoint.h"
 #include "platform/simulated/SimulatedDisplayService.h"
 #include "tests/app/DesktopFakes.h"

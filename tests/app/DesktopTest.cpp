@@ -2,8 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/desktop/LoginItem.h"
 #include "app/Requests.h"
+#include "app/desktop/LoginItem.h"
 #include "app/desktop/TextFormat.h"
 #include "tests/app/ControllerBench.h"
 

@@ -13,10 +13,10 @@
 #include <algorithm>
 #include <tuple>
 
+#include "platform/missing/MissingWindowSystem.h"
 #include "windows/alerts/AlertWindow.h"
 #include "windows/panel/ControlPanel.h"
 #include "windows/panel/PanelFileDialogs.h"
-#include "platform/missing/MissingWindowSystem.h"
 
 namespace tonquil {
 namespace {

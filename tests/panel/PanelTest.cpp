@@ -10,13 +10,13 @@
 #include <QUrl>
 #include <stdexcept>
 
-#include "windows/panel/ControlPanel.h"
 #include "platform/missing/MissingWindowSystem.h"
 #include "tests/ui/Input.h"
 #include "ui/TQNumericTextField.h"
 #include "ui/TQSlider.h"
 #include "ui/TQTabButtonCell.h"
 #include "ui/TQVibrantMatrix.h"
+#include "windows/panel/ControlPanel.h"
 
 namespace tonquil {
 namespace {

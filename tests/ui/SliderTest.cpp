@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "tests/ui/Input.h"
-#include "ui/theme/Appearance.h"
 #include "ui/TQSlider.h"
+#include "ui/theme/Appearance.h"
 
 namespace tonquil {
 namespace {

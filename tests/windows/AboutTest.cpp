@@ -6,12 +6,12 @@
 #include <QScrollBar>
 #include <QTextDocument>
 
+#include "tests/files/FolderContents.h"
+#include "tests/ui/Input.h"
 #include "windows/about/AboutTexts.h"
 #include "windows/about/AboutWindow.h"
 #include "windows/about/KVAboutBoxController.h"
 #include "windows/about/KVAboutBoxScrollView.h"
-#include "tests/files/FolderContents.h"
-#include "tests/ui/Input.h"
 
 namespace tonquil {
 namespace {

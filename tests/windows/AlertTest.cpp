@@ -6,9 +6,9 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "tests/ui/Input.h"
 #include "windows/alerts/AlertWindow.h"
 #include "windows/alerts/ModalAlerts.h"
-#include "tests/ui/Input.h"
 
 namespace tonquil {
 namespace {

@@ -10,13 +10,13 @@
 #include <QRadioButton>
 
 #include "app/preferences/SettingsKeys.h"
-#include "windows/preferences/PreferencesWindow.h"
-#include "windows/preferences/RadioMatrix.h"
-#include "windows/preferences/TQPrefController.h"
 #include "hotkeys/field/DDHotKeyTextField.h"
 #include "tests/app/PlainStore.h"
 #include "tests/hotkeys/TableLayout.h"
 #include "ui/theme/Appearance.h"
+#include "windows/preferences/PreferencesWindow.h"
+#include "windows/preferences/RadioMatrix.h"
+#include "windows/preferences/TQPrefController.h"
 
 namespace tonquil {
 namespace {
