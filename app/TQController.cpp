@@ -86,6 +86,7 @@ void TQController::applicationDidFinishLaunching() {
     }
     _panelFrame.restore();
     applyAppearance();
+    _panelFrame.keepWhole();
     setApplyCorrection(_with.preferences.boolForKey(settingsKey::rememberSettings));
     _statusItem.setReady();
     updateStatusItem();
@@ -205,23 +206,16 @@ void TQController::updateScreens() {
         }
         _correction.activateScreens();
     }
-    if (!_panelFrame.isPlaced()) {
-        _panelFrame.restore();
-    }
-    bringPanelBack();
+    _panelFrame.bringBack();
     _view._changeScreen();
     _with.targets.displaysChanged();
 }
 
 void TQController::showPanel() {
-    bringPanelBack();
-    _with.panel.makeKeyAndOrderFront();
-}
-
-void TQController::bringPanelBack() {
-    if (!_currentScreens.displayUnderPanel()) {
-        _panelFrame.restore();
+    if (!_panelFrame.isWithinReach()) {
+        _panelFrame.bringBack();
     }
+    _with.panel.makeKeyAndOrderFront();
 }
 
 void TQController::showTarget(std::optional<TargetKind> kind, const std::string& referenceID) {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/panel/PanelUnderMouse.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
+
+#include "app/panel/PanelFrame.h"
 
 namespace tonquil {
 
@@ -28,14 +29,6 @@ Point PanelUnderMouse::knobCentre(const PanelSliderGeometry& slider) {
     const double fraction = (slider.value - slider.minimum) / (slider.maximum - slider.minimum);
     return {frame.x + margin + fraction * (frame.width - 2 * margin),
             frame.y + (1 - knobHeight) * frame.height};
-}
-
-Rectangle PanelUnderMouse::keptInside(Rectangle frame, const Rectangle& screen) {
-    frame.x = std::min(frame.x, screen.x + screen.width - frame.width);
-    frame.x = std::max(frame.x, screen.x);
-    frame.y = std::min(frame.y, screen.y + screen.height - frame.height);
-    frame.y = std::max(frame.y, screen.y);
-    return frame;
 }
 
 Rectangle PanelUnderMouse::constrained(const Rectangle& frame, const Point& pointer) const {

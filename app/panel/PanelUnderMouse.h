@@ -41,8 +41,6 @@ class PanelUnderMouse {
 
     /// Where the knob of a slider is: its fill's end, in the coordinates of `slider.frame`.
     [[nodiscard]] static Point knobCentre(const PanelSliderGeometry& slider);
-    /// `frame` moved into `screen`; the upper left corner counts where it does not fit.
-    [[nodiscard]] static Rectangle keptInside(Rectangle frame, const Rectangle& screen);
 
  private:
     /// What a press has found, and where it has put the pointer.

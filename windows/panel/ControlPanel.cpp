@@ -46,9 +46,9 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_AlwaysShowToolTips);
     setAcceptDrops(true);
-    _appearance.allowsVibrancy = windowSystem.isCompositing();
-    _appearance.options.reduceTransparency = !_appearance.allowsVibrancy;
-    setAttribute(Qt::WA_TranslucentBackground, _appearance.allowsVibrancy);
+    // Whether a window has an alpha channel is settled when it is made; whether anybody blends by
+    // it may change at any time.
+    setAttribute(Qt::WA_TranslucentBackground);
     _plotTimer.setSingleShot(true);
     _plotTimer.setInterval(plotMilliseconds);
     QObject::connect(&_plotTimer, &QTimer::timeout, this, [this] { drawPlot(); });
@@ -57,7 +57,8 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     _glide.setDuration(glideMilliseconds);
     QObject::connect(&_glide, &QVariantAnimation::valueChanged, this,
                      [this](const QVariant& height) { setHeight(height.toInt()); });
-    setAppearances();
+    _appearance.allowsVibrancy = windowSystem.isCompositing();
+    setAccessibilityOptions({});
     fitForm(false);
 }
 
@@ -115,9 +116,19 @@ void ControlPanel::connectControls() {
 }
 
 void ControlPanel::setAccessibilityOptions(const AccessibilityOptions& options) {
+    _wantedOptions = options;
     _appearance.options = options;
     _appearance.options.reduceTransparency |= !_appearance.allowsVibrancy;
     setAppearances();
+}
+
+void ControlPanel::updateCompositing() {
+    const bool isCompositing = _windowSystem.isCompositing();
+    if (isCompositing != _appearance.allowsVibrancy) {
+        _appearance.allowsVibrancy = isCompositing;
+        setAccessibilityOptions(_wantedOptions);
+        update();
+    }
 }
 
 PanelValues ControlPanel::values() const {
@@ -354,7 +365,7 @@ void ControlPanel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const Theme& theme = themeFor(_appearance);
     QColor background = theme.panel;
-    const bool isBlended = testAttribute(Qt::WA_TranslucentBackground);
+    const bool isBlended = _appearance.allowsVibrancy;
     if (isBlended && !_appearance.options.reduceTransparency) {
         background.setAlphaF(static_cast<float>(theme.panelOpacity));
     }

@@ -36,6 +36,8 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     }
     /// What the person asked of the whole desktop.
     void setAccessibilityOptions(const AccessibilityOptions& options);
+    /// To be called when the blending of translucent windows may have been switched on or off.
+    void updateCompositing();
 
     [[nodiscard]] PanelValues values() const override;
     void setValues(const PanelValues& values) override;
@@ -96,6 +98,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
 
     WindowSystem& _windowSystem;
     PanelActions* _actions = nullptr;
+    AccessibilityOptions _wantedOptions;
     Appearance _appearance;
     PanelMenu _menu;
     /// Lies at the window's upper edge and is as high as the advanced form; the compact form cuts
