@@ -19,7 +19,7 @@ namespace tonquil {
 namespace {
 
 constexpr int rowHeight = 24;
-constexpr int preferredWidth = 160;
+constexpr int preferredSliderWidth = 160;
 constexpr int leastWidth = 48;
 /// How far from the fill's end, in points, a press still takes hold of the end.
 constexpr double endReach = 3;
@@ -137,7 +137,7 @@ void TQSlider::_updateToAuxiliaryValue(TQNumericTextField& sender) {
 }
 
 QSize TQSlider::sizeHint() const {
-    return {preferredWidth, rowHeight};
+    return {preferredSliderWidth, rowHeight};
 }
 QSize TQSlider::minimumSizeHint() const {
     return {leastWidth, rowHeight};
