@@ -82,6 +82,9 @@ void describe(X11Display& display, const xcb_randr_get_output_info_reply_t& info
         display.identity.modelNumber = edid->modelNumber;
         display.identity.vendorNumber = edid->vendorNumber;
         display.productName = edid->productName;
+    } else {
+        // All outputs without an EDID would otherwise be one display of that size.
+        display.identity.modelNumber = numberOf(display.connector);
     }
 }
 
