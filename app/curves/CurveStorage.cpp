@@ -1,12 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "app/curves/CurveStorage.h"
 
+#include <iterator>
+#include <string>
 #include <utility>
 
 #include "app/preferences/SettingsKeys.h"
 #include "values/PropertyValue.h"
 
 namespace tonquil {
+
+namespace {
+
+// A file that has only one curve for all twins means them all: their older curves go.
+void eraseReplaced(PropertyValue& stored, const PropertyValue& curves) {
+    for (auto each = stored.begin(); each != stored.end();) {
+        const std::string& key = each.key();
+        const bool isReplaced =
+            curves.contains(key) || curves.contains(key.substr(0, key.rfind('@')));
+        each = isReplaced ? stored.erase(each) : std::next(each);
+    }
+}
+
+}  // namespace
 
 CurveStorage::CurveStorage(ScreenRegistry& registry, PreferencesStore& preferences,
                            CurveRecovery& recovery, RunLoop& runLoop, Log log)
@@ -53,11 +69,10 @@ void CurveStorage::_updateDefaultCurves() {
 // What is kept beside would otherwise have the last word.
 void CurveStorage::storeCurves(const PropertyValue& curves) {
     PropertyValue all = storedCurves();
-    all.update(curves);
-    for (const auto& [key, curve] : curves.items()) {
-        _left.erase(key);
-        _kept.erase(key);
+    for (PropertyValue* stored : {&all, &_left, &_kept}) {
+        eraseReplaced(*stored, curves);
     }
+    all.update(curves);
     _preferences.setValue(settingsKey::screens, std::move(all));
 }
 
@@ -76,7 +91,7 @@ void CurveStorage::keepPendingEdits() {
 
 void CurveStorage::keepCurves() {
     _timer.reset();
-    _kept = _registry.gammaCurveDictionaryExtendingDictionary(_kept);
+    _kept.update(_registry.gammaCurveDictionaryOver(storedCurves()));
     PropertyValue all = _left;
     all.update(_kept);
     const Result<void> kept = _recovery.keep(all);
