@@ -212,12 +212,6 @@ TEST(ScreenRegistry, LetsATwinThatComesLaterShareTheScreen) {
     }
     EXPECT_THAT(idsOf(late.registry.screensWithRect({0, 0, 1920, 1080})), ElementsAre(2))
         << "found where either display is";
-    late.desk.unplug(2);
-    late.registry.updateScreenList();
-    EXPECT_THAT(idsOf(late.registry.screens()), ElementsAre(1));
-    late.desk.plug(second);
-    late.registry.screens()[0]->applyGammaCurve();
-    EXPECT_NE(late.ramp(2).channel(0)[128], middleEntry(0.5F)) << "not its display any more";
 }
 
 TEST(ScreenRegistry, ListsNoMoreThan25Displays) {
