@@ -67,9 +67,9 @@ class ScreenRegistry {
                                    const KVScreen::CurvePointer& initialCurve);
     /// The curves of the listed screens by reference ID; those of twins also by twin reference ID.
     [[nodiscard]] nlohmann::json gammaCurveDictionary();
-    /// The same as they are to be laid over a stored all-screens dictionary. A twin's entry there
-    /// is kept up while its twin is away. It is left alone when the display shows a screen that it
-    /// took over, until that screen gets another curve: the display never had its own.
+    /// The same, for merging into a stored all-screens dictionary. A twin's entry in there is
+    /// updated even while its twin is unplugged. But a display that took over its twin's screen
+    /// keeps its stored entry until that screen gets another curve: nobody chose to replace it.
     [[nodiscard]] nlohmann::json gammaCurveDictionaryOver(const nlohmann::json& stored);
     /// These laid over the given all-screens dictionary, whose other entries stay as they are.
     [[nodiscard]] nlohmann::json gammaCurveDictionaryExtendingDictionary(

@@ -49,7 +49,7 @@ void CurveStorage::_adoptDefaultCurves() {
     _registry.adoptGammaCurveDictionary(curves, nullptr);
 }
 
-// They belong to the run that crashed, and once stored they are as old as the rest.
+// Once these are in the preferences, the recovery file of the crashed run is no longer needed.
 void CurveStorage::saveLeftCurves() {
     if (_left.empty()) {
         return;
@@ -66,7 +66,7 @@ void CurveStorage::_updateDefaultCurves() {
                           _registry.gammaCurveDictionaryExtendingDictionary(storedCurves()));
 }
 
-// What is kept beside would otherwise have the last word.
+// The opened file must win over curves that are still waiting to be saved.
 void CurveStorage::storeCurves(const PropertyValue& curves) {
     PropertyValue all = storedCurves();
     for (PropertyValue* stored : {&all, &_left, &_kept}) {
@@ -77,7 +77,7 @@ void CurveStorage::storeCurves(const PropertyValue& curves) {
 }
 
 void CurveStorage::curvesWereEdited() {
-    // Not put off by the edits of a long drag: the first one counts.
+    // Do not restart a running timer, or a long drag would never be saved.
     if (!_timer) {
         _timer = _runLoop.callOnce(keepingDelay, [this] { keepCurves(); });
     }
@@ -106,7 +106,7 @@ void CurveStorage::close() {
     // Another program may have stored curves of other displays, unseen.
     static_cast<void>(_preferences.synchronize());
     _updateDefaultCurves();
-    // As long as the preferences cannot be saved, the other file is all there is.
+    // If the preferences cannot be saved, the recovery file is the only copy.
     if (_preferences.synchronize()) {
         _recovery.forget();
     }

@@ -83,7 +83,7 @@ void describe(X11Display& display, const xcb_randr_get_output_info_reply_t& info
         display.identity.vendorNumber = edid->vendorNumber;
         display.productName = edid->productName;
     } else {
-        // All outputs without an EDID would otherwise be one display of that size.
+        // Otherwise all outputs of one size without an EDID would share a reference ID.
         display.identity.modelNumber = numberOf(display.connector);
     }
 }
