@@ -23,7 +23,7 @@ class ControllerHotKeys {
         /// Called with the time stamp of the key's event.
         std::function<void(std::chrono::milliseconds time)> showPanelAndCenterMouse;
         std::function<void(std::chrono::milliseconds time)> showPanelAndCenterMouseRelease;
-        /// Says why the hot key of a role does not work, or with an empty sentence that it does.
+        /// Says why the hot key of a role does not work; an empty sentence means that it works.
         std::function<void(HotKeyRole, const std::string& sentence)> showProblem;
     };
 

@@ -60,7 +60,7 @@ void PanelUnderMouse::showPanelAndCenterMouse(milliseconds time) {
     frame = constrained(frame, *pointer);
     _.panel.setFrameOrigin({frame.x, frame.y});
     _.showPanel();
-    // Whatever became of the wish for a place, the pointer goes where the knob is.
+    // The window system may have put the panel elsewhere; the pointer goes where the knob is.
     const Rectangle placed = _.panel.frame();
     _.service.warpPointer(rounded({placed.x + knob.x, placed.y + knob.y}));
     _press->modifiedMouseLocationForPanelHotKey = _.windowSystem.pointerLocation();
@@ -77,7 +77,7 @@ void PanelUnderMouse::showPanelAndCenterMouseRelease(milliseconds time) {
 }
 
 void PanelUnderMouse::putBack(const Press& press) {
-    // A pointer that the person has moved stays where it is.
+    // If the person has moved the pointer, it stays where it is.
     if (_.windowSystem.pointerLocation() == press.modifiedMouseLocationForPanelHotKey) {
         _.service.warpPointer(press.initialMouseLocationForPanelHotKey);
     }

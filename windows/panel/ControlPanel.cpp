@@ -62,8 +62,8 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     fitForm(false);
 }
 
-// With the window the keyboard goes, which would commit what is being typed to a panel that is half
-// gone.
+// The window loses the keyboard as it goes, and that would commit what is being typed while half of
+// the panel is already destroyed.
 ControlPanel::~ControlPanel() {
     _contents->sliders.revertTyping();
 }
@@ -238,7 +238,7 @@ void ControlPanel::heldSlider(PanelSlider slider, bool isHeld) {
                                 CurvePlot::CurvePoint::White};
     _contents->plot->setMarkedPoint(
         CurvePlot::MarkedPoint{points.at(static_cast<std::size_t>(place.tab)), place.channel});
-    // Held through the strip, it has the focus already, and so its channel.
+    // A slider that is held through the channel strip has the focus already.
     if (_contents->sliders.slider(slider).isInteracting()) {
         firstResponderChanged(&_contents->sliders.slider(slider));
     }
@@ -247,8 +247,8 @@ void ControlPanel::heldSlider(PanelSlider slider, bool isHeld) {
 void ControlPanel::pickTab(int tab) {
     const Channel channel = _contents->sliders.channelForResponder(_firstResponder);
     _actions->setSelectedTab(tab);
-    // The control that had the focus is hidden now; the one in its place takes it over. A
-    // selector that has it keeps it.
+    // The control that had the focus is hidden now, so the one in its place gets it. If the tab
+    // selector has the focus, it keeps it.
     if (channel != Channel::None) {
         makeFirstResponder(*_contents->sliders.row(tab, channel).field);
     }
@@ -276,8 +276,8 @@ void ControlPanel::makeFirstResponder(QWidget& control) {
     firstResponderChanged(&control);
 }
 
-// The toolkit tells of the focus only while the window has the keyboard, which the panel mostly
-// has not.
+// The toolkit reports focus changes only while the window has the keyboard, and the panel mostly
+// does not have it.
 void ControlPanel::firstResponderChanged(QWidget* control) {
     _firstResponder = control;
     if (_observesFirstResponder) {

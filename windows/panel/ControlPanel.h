@@ -5,7 +5,6 @@
 #include <QTimer>
 #include <QVariantAnimation>
 #include <QWidget>
-#include <memory>
 #include <vector>
 
 #include "app/panel/PanelActions.h"
@@ -19,8 +18,7 @@
 namespace tonquil {
 
 /// The control panel: a floating window of sliders that is used without taking the keyboard from
-/// the program in front of which it floats. Only a number field takes the keyboard, and only when
-/// it is clicked.
+/// the program in front of which it floats. Only a click on a number field takes the keyboard.
 class ControlPanel final : public QWidget, public PanelControls, public PanelWindow {
  public:
     /// The window system must outlive the panel.
@@ -28,8 +26,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     ~ControlPanel() override;
     Q_DISABLE_COPY_MOVE(ControlPanel)
 
-    /// Who is told of what the person does; must be set before anything is shown, and outlive the
-    /// panel's being used.
+    /// Hears what the person does. To be set before the panel is shown; must outlive its use.
     void setActions(PanelActions& actions);
     void showWebSites(bool hasSite, bool hasBoardSite) {
         _menu.showWebSites(hasSite, hasBoardSite);
@@ -101,8 +98,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     AccessibilityOptions _wantedOptions;
     Appearance _appearance;
     PanelMenu _menu;
-    /// Lies at the window's upper edge and is as high as the advanced form; the compact form cuts
-    /// it off.
+    /// As high as the advanced form; the compact form cuts it off.
     PanelContents* _contents;
     bool _isAdvanced = true;
     int _selectedTab = 1;

@@ -30,7 +30,7 @@ void ControlPanel::setFrameOrigin(const Point& origin) {
 }
 
 void ControlPanel::makeKeyAndOrderFront() {
-    // Asking for the number makes the window, which must exist to be told anything.
+    // winId() creates the window if needed; it must exist before its properties can be set.
     _windowSystem.keepOnAllWorkspaces(winId());
     setAcceptsKeyboard(true);
     show();
@@ -71,7 +71,7 @@ void ControlPanel::setAcceptsKeyboard(bool accepts) {
     }
 }
 
-// The window's height, while it glides to it, is not yet what the form has.
+// While the window is gliding, its height is not yet that of its form.
 bool ControlPanel::isCutOff(const QWidget& control) const {
     return !_isAdvanced && control.mapTo(this, QPoint()).y() >= minimumHeight();
 }
@@ -125,7 +125,7 @@ void ControlPanel::moveEvent(QMoveEvent* event) {
 
 void ControlPanel::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    // The greater part of it may lie on another display now.
+    // Most of it may be on another display now.
     if (_actions != nullptr) {
         _actions->panelMoved();
     }

@@ -161,14 +161,14 @@ int PanelContents::advancedHeight() const {
 }
 
 void PanelContents::fit() {
-    // What was shown or hidden just now has told its own layout only.
+    // A child that was just shown or hidden has invalidated only its own layout so far.
     layout()->invalidate();
     resize(width(), advancedHeight());
     layout()->activate();
 }
 
-// The layouts inside this one are otherwise carried out when the window is shown, and those of a
-// page when the page is.
+// The toolkit runs nested layouts only when the window is shown, and those of a page only when the
+// page is shown.
 QRect PanelContents::placeOf(const QWidget& control) const {
     std::vector<QLayout*> layouts;
     for (const QWidget* outer = control.parentWidget(); outer != parentWidget();

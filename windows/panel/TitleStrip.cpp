@@ -10,7 +10,6 @@
 #include <QPainter>
 #include <QToolButton>
 #include <QWindow>
-#include <utility>
 
 #include "ui/theme/Drawing.h"
 #include "ui/theme/Theme.h"
@@ -57,7 +56,7 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     _subjectButton->setAutoRaise(true);
     _subjectButton->setFocusPolicy(Qt::TabFocus);
     _subjectButton->installEventFilter(this);
-    // Given to the buttons, the menus would bring an arrow of the style's own.
+    // A button that has a menu of its own is drawn with an arrow of the style's.
     openBelow(*_menuButton, menu);
     buildSubjectMenu();
     QObject::connect(_closeButton, &QToolButton::clicked, this, [this] {
@@ -154,8 +153,8 @@ void TitleStrip::mouseReleaseEvent(QMouseEvent* /*event*/) {
     _hold.reset();
 }
 
-// The window manager moves the window best. Where there is none the toolkit asks for it all the
-// same, and says that it has succeeded.
+// The window manager moves the window best. The toolkit still asks one that has quit, and says that
+// this has worked.
 void TitleStrip::beginMove(const QPoint& pointer) {
     QWindow* const handle = window()->windowHandle();
     const bool isMoved = handle != nullptr && (!_hasWindowManager || _hasWindowManager()) &&

@@ -167,7 +167,8 @@ std::optional<HotKeyHandle> X11HotKeyService::find(xcb_keycode_t key, std::uint1
     return found != _registrations.end() ? std::optional(found->first) : std::nullopt;
 }
 
-// Events that came with an answer are in memory, where the descriptor does not show them.
+// Events that arrived together with a reply are already in memory, so the descriptor is not
+// readable.
 void X11HotKeyService::takeEventsSoon() {
     _early = _runLoop.callOnce(milliseconds(0), [this] { takeEvents(); });
 }
@@ -182,7 +183,7 @@ void X11HotKeyService::takeEvents() {
 }
 
 void X11HotKeyService::take(const xcb_generic_event_t& event) {
-    // Bit 7 says that another client sent the event: such keys nobody pressed.
+    // Bit 7 marks an event that another client sent: nobody pressed that key.
     const int type = event.response_type;
     if (type == XCB_KEY_PRESS) {
         keyPressed(as<xcb_key_press_event_t>(event));
@@ -239,8 +240,8 @@ void X11HotKeyService::release(xcb_keycode_t key, HotKeyServiceEvent event) {
     }
 }
 
-// A key that is down while it is registered, perhaps since somebody just recorded it, was not
-// pressed as a hot key; its repeats look as if it were.
+// A key may be down while it is registered, for example because somebody has just recorded it. That
+// press is not a hot key, although its repeats look like one.
 void X11HotKeyService::noteIfDown(xcb_keycode_t key) {
     const auto keymap = queryKeymap();
     if (keymap && isDown(*keymap, key)) {
