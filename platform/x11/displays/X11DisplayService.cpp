@@ -16,6 +16,15 @@ bool isIn(const std::vector<X11Display>& displays, const X11Display& display) {
     return std::find(displays.begin(), displays.end(), display) != displays.end();
 }
 
+/// Whether the display's CRTC was set up in another way in between.
+bool wasOtherwise(const X11Reconfiguration::CrtcStates& passed, const X11Display& display) {
+    return std::any_of(passed.begin(), passed.end(), [&](const auto& state) {
+        const Rectangle bounds{static_cast<double>(state.x), static_cast<double>(state.y),
+                               static_cast<double>(state.width), static_cast<double>(state.height)};
+        return state.crtc == display.crtc && bounds != display.bounds;
+    });
+}
+
 }  // namespace
 
 Result<std::unique_ptr<X11DisplayService>> X11DisplayService::open(const char* display,
@@ -293,7 +302,7 @@ std::unique_ptr<DisplayService::Subscription> X11DisplayService::registerReconfi
         // since the displays were listed is told like any other change.
         _reconfiguration = std::make_unique<X11Reconfiguration>(
             *_connection, *_runLoop, _log,
-            [this](const X11Reconfiguration::Changed& changed) { displaysChanged(changed); });
+            [this](const X11Reconfiguration::CrtcStates& passed) { displaysChanged(passed); });
         const bool isListed = _layout.has_value();
         _announced = layout();
         readLayout();
@@ -307,7 +316,7 @@ std::unique_ptr<DisplayService::Subscription> X11DisplayService::registerReconfi
     return subscription;
 }
 
-void X11DisplayService::displaysChanged(const X11Reconfiguration::Changed& changed) {
+void X11DisplayService::displaysChanged(const X11Reconfiguration::CrtcStates& passed) {
     readLayout();
     const auto before = std::exchange(_announced, layout());
     std::vector<DisplayID> affected;
@@ -317,8 +326,7 @@ void X11DisplayService::displaysChanged(const X11Reconfiguration::Changed& chang
         }
     }
     for (const X11Display& display : _announced) {
-        const bool isChanged = changed.crtcs.contains(display.crtc) ||
-                               changed.outputs.contains(display.output) || !isIn(before, display);
+        const bool isChanged = wasOtherwise(passed, display) || !isIn(before, display);
         if (isChanged &&
             std::find(affected.begin(), affected.end(), display.id) == affected.end()) {
             affected.push_back(display.id);

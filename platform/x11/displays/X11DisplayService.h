@@ -69,7 +69,7 @@ class X11DisplayService : public DisplayService {
     /// The calibration of the display's profile, else its ramp without our correction. Looks at
     /// both as `lookAtRamp` does; null when there is no ramp.
     [[nodiscard]] std::optional<HardwareRamp> systemCalibration(const X11Display& display);
-    void displaysChanged(const X11Reconfiguration::Changed& changed);
+    void displaysChanged(const X11Reconfiguration::CrtcStates& passed);
     void report(DisplayID display, const std::string& text);
 
     std::unique_ptr<X11Connection> _connection;

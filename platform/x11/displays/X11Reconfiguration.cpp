@@ -8,7 +8,7 @@
 namespace tonquil {
 
 X11Reconfiguration::X11Reconfiguration(const X11Connection& connection, RunLoop& runLoop, Log log,
-                                       std::function<void(const Changed&)> becameQuiet)
+                                       std::function<void(const CrtcStates&)> becameQuiet)
     : _connection(connection),
       _runLoop(runLoop),
       _log(std::move(log)),
@@ -51,9 +51,12 @@ void X11Reconfiguration::take(const xcb_generic_event_t& event) {
         xcb_randr_notify_event_t change{};
         std::memcpy(&change, &event, sizeof change);
         if (change.subCode == XCB_RANDR_NOTIFY_CRTC_CHANGE) {
-            _changed.crtcs.insert(change.u.cc.crtc);
-        } else if (change.subCode == XCB_RANDR_NOTIFY_OUTPUT_CHANGE) {
-            _changed.outputs.insert(change.u.oc.output);
+            const xcb_randr_crtc_change_t& crtc = change.u.cc;
+            _passed.insert({.crtc = crtc.crtc,
+                            .x = crtc.x,
+                            .y = crtc.y,
+                            .width = crtc.mode == XCB_NONE ? std::uint16_t{0} : crtc.width,
+                            .height = crtc.mode == XCB_NONE ? std::uint16_t{0} : crtc.height});
         }
         waitForQuiet();
     } else if (type == XCB_RANDR_SCREEN_CHANGE_NOTIFY) {
@@ -79,7 +82,7 @@ void X11Reconfiguration::callWhenDue() {
         return;
     }
     _timer.reset();
-    _becameQuiet(std::exchange(_changed, {}));
+    _becameQuiet(std::exchange(_passed, {}));
 }
 
 }  // namespace tonquil

@@ -3,6 +3,8 @@
 
 #include <xcb/randr.h>
 
+#include <compare>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <set>
@@ -18,8 +20,8 @@ namespace tonquil {
 ///
 /// One plug or mode change comes as 33 to 200 events within a moment, and what they say one by one
 /// is half of the truth: the caller reads everything anew. Only what it cannot read from the result
-/// is told: which displays were changed, even if they are as before. A display that was off for a
-/// moment may have lost its ramp.
+/// is told: what the CRTCs went through since the last call. A display that was off for a moment is
+/// as before, but may have lost its ramp.
 class X11Reconfiguration {
  public:
     /// How long the server must have been silent.
@@ -27,13 +29,20 @@ class X11Reconfiguration {
     /// How long after the first event it is called at the latest.
     static constexpr std::chrono::milliseconds longestWait{400};
 
-    struct Changed {
-        std::set<xcb_randr_crtc_t> crtcs;
-        std::set<xcb_randr_output_t> outputs;
+    /// How a CRTC was set up at some moment; of no size while it was dark.
+    struct CrtcState {
+        xcb_randr_crtc_t crtc;
+        std::int16_t x;
+        std::int16_t y;
+        std::uint16_t width;
+        std::uint16_t height;
+
+        auto operator<=>(const CrtcState&) const = default;
     };
+    using CrtcStates = std::set<CrtcState>;
 
     X11Reconfiguration(const X11Connection& connection, RunLoop& runLoop, Log log,
-                       std::function<void(const Changed&)> becameQuiet);
+                       std::function<void(const CrtcStates&)> becameQuiet);
 
     /// Takes note of events that came along with replies: these never make the descriptor readable.
     /// To be called after each exchange with the server.
@@ -49,8 +58,8 @@ class X11Reconfiguration {
     const X11Connection& _connection;
     RunLoop& _runLoop;
     Log _log;
-    std::function<void(const Changed&)> _becameQuiet;
-    Changed _changed;
+    std::function<void(const CrtcStates&)> _becameQuiet;
+    CrtcStates _passed;
     RunLoop::Clock::time_point _firstEvent;
     RunLoop::Clock::time_point _lastEvent;
     std::unique_ptr<RunLoop::Handle> _watch;
