@@ -156,13 +156,16 @@ void X11CrtcRamps::setSystemRamp(xcb_randr_crtc_t crtc, const HardwareRamp& ramp
 
 void X11CrtcRamps::send(xcb_randr_crtc_t crtc, CrtcRamp& state, const HardwareRamp& ramp,
                         bool isCorrection) {
+    Pending pending;
+    pending.crtc = crtc;
     const bool wasHeld = std::exchange(state.isHeld, isCorrection);
-    _pending.push_back({.crtc = crtc,
-                        .replaced = xcb_randr_get_crtc_gamma(_connection.get(), crtc),
-                        .set = xcb_randr_set_crtc_gamma_checked(
-                            _connection.get(), crtc, static_cast<std::uint16_t>(ramp.size()),
-                            ramp.channel(0).data(), ramp.channel(1).data(), ramp.channel(2).data()),
-                        .beginsToHold = isCorrection && !wasHeld});
+    if (isCorrection && !wasHeld) {
+        pending.replaced = xcb_randr_get_crtc_gamma(_connection.get(), crtc);
+    }
+    pending.set = xcb_randr_set_crtc_gamma_checked(
+        _connection.get(), crtc, static_cast<std::uint16_t>(ramp.size()), ramp.channel(0).data(),
+        ramp.channel(1).data(), ramp.channel(2).data());
+    _pending.push_back(pending);
     state.present = ramp;
 }
 
@@ -220,18 +223,18 @@ std::vector<xcb_randr_crtc_t> X11CrtcRamps::finish() {
     if (!_journal.isIntact()) {
         saveAgain();
     }
-    for (const auto& [crtc, replacedCookie, set, beginsToHold] : _pending) {
-        const XcbPointer<xcb_randr_get_crtc_gamma_reply_t> replaced(
-            xcb_randr_get_crtc_gamma_reply(connection, replacedCookie, nullptr));
-        const XcbPointer<xcb_generic_error_t> error(xcb_request_check(connection, set));
-        if (!replaced || error) {
-            refused.push_back(crtc);
-            // Whatever was known of it is in doubt.
-            _crtcs.erase(crtc);
-            continue;
+    for (const Pending& pending : _pending) {
+        const XcbPointer<xcb_generic_error_t> error(xcb_request_check(connection, pending.set));
+        XcbPointer<xcb_randr_get_crtc_gamma_reply_t> replaced;
+        if (pending.replaced) {
+            replaced.reset(xcb_randr_get_crtc_gamma_reply(connection, *pending.replaced, nullptr));
         }
-        if (beginsToHold) {
-            examineReplaced(crtc, rampOf(replaced.get()));
+        if (error || (pending.replaced && !replaced)) {
+            refused.push_back(pending.crtc);
+            // Whatever was known of it is in doubt.
+            _crtcs.erase(pending.crtc);
+        } else if (replaced) {
+            examineReplaced(pending.crtc, rampOf(replaced.get()));
         }
     }
     _pending.clear();

@@ -23,8 +23,9 @@ namespace tonquil {
 /// does not hold, a ramp that no program of ours has set is the system's.
 ///
 /// Everything that is set between two calls of `finish` goes out together and is waited for once.
-/// Together with each set the ramp that it replaces is asked for: the server answers in order, so
-/// a system ramp that came since the last look is found without a round trip of its own.
+/// Together with a correction that begins to hold a CRTC, the ramp that it replaces is asked for:
+/// the server answers in order, so a system ramp that came since the last look is found without a
+/// round trip of its own.
 class X11CrtcRamps {
  public:
     explicit X11CrtcRamps(const X11Connection& connection)
@@ -65,11 +66,10 @@ class X11CrtcRamps {
         std::uint64_t correctionFingerprint = 0;
     };
     struct Pending {
-        xcb_randr_crtc_t crtc;
-        xcb_randr_get_crtc_gamma_cookie_t replaced;
-        xcb_void_cookie_t set;
-        /// A correction, on a CRTC that was not held before.
-        bool beginsToHold;
+        xcb_randr_crtc_t crtc = XCB_NONE;
+        xcb_void_cookie_t set{};
+        /// Asked for by the first correction on a CRTC that is not held.
+        std::optional<xcb_randr_get_crtc_gamma_cookie_t> replaced;
     };
 
     void look(xcb_randr_crtc_t crtc, HardwareRamp present, RampHistory history,
