@@ -152,12 +152,33 @@ void TQController::observeSurroundings() {
     _with.panel.observeFirstResponder();
     _preferencesSubscription = _with.preferences.subscribe([this] { _changedDefaults(); });
     for (SessionEvents* events : _with.sessionEvents) {
-        events->start([this](SessionEvent) { _applyCurvesToScreen(); });
+        events->start([this](SessionEvent event) { sessionEvent(event); });
     }
+    // A profile may have been loaded after the curves were, and before anybody watched for it.
+    _with.runLoop.post([this] {
+        if (adoptCalibration()) {
+            _applyCurvesToScreen();
+        }
+    });
     _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
         [this](DisplayID, ReconfigurationFlags flags) {
             _reconfigurations.displayReconfigured(flags);
         });
+}
+
+void TQController::sessionEvent(SessionEvent event) {
+    if (event == SessionEvent::ColourSpaceChanged) {
+        adoptCalibration();
+    }
+    _applyCurvesToScreen();
+}
+
+bool TQController::adoptCalibration() {
+    const bool hasChanged = _correction.readBases();
+    if (hasChanged) {
+        _with.controls.updatePlot();
+    }
+    return hasChanged;
 }
 
 void TQController::_changedDefaults() {
