@@ -52,9 +52,11 @@ class RecordedWindows final : public ProgramWindows {
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence) override {
         problems[role] = sentence;
     }
+    void showRemoteProblem(const std::string& sentence) override { remoteProblem = sentence; }
     void saveFrames() override {}
 
     std::map<HotKeyRole, std::string> problems;
+    std::string remoteProblem;
 
  private:
     Journal& _journal;
