@@ -29,7 +29,18 @@ ModifierFlags modifierFlags(const QKeyEvent& event) {
     return flags;
 }
 
+// A layout may put a switch of groups on a modifier, alone or with another one held, and the
+// toolkit has no name for that; it is a modifier by its place or by what X calls it.
 bool isModifierEvent(const QKeyEvent& event) {
+    // XKB_KEY_ISO_Lock to XKB_KEY_ISO_Level5_Lock.
+    constexpr quint32 firstLevelOrGroup = 0xFE01;
+    constexpr quint32 lastLevelOrGroup = 0xFE13;
+    const auto keyCode = virtualKeyCode(event);
+    const quint32 keysym = event.nativeVirtualKey();
+    if ((keyCode && isModifierKey(*keyCode)) ||
+        (keysym >= firstLevelOrGroup && keysym <= lastLevelOrGroup)) {
+        return true;
+    }
     switch (event.key()) {
         case Qt::Key_Shift:
         case Qt::Key_Control:

@@ -78,7 +78,10 @@ class RecordedAlerts final : public Alerts {
 class ScriptedWindowSystem final : public WindowSystem {
  public:
     void keepOnAllWorkspaces(WindowID /*window*/) override {}
+    void bringToActiveWorkspace(WindowID /*window*/) override {}
     void skipTaskbar(WindowID /*window*/, bool /*skip*/) override {}
+    void keepProportions(WindowID /*window*/, std::uint32_t /*width*/,
+                         std::uint32_t /*height*/) override {}
     [[nodiscard]] bool isOnActiveWorkspace(WindowID /*window*/) const override { return true; }
     [[nodiscard]] std::optional<Point> pointerLocation() const override { return pointer; }
     [[nodiscard]] bool isCompositing() const override { return false; }

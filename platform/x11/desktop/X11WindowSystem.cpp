@@ -14,6 +14,12 @@ constexpr std::uint32_t allWorkspaces = 0xFFFFFFFF;
 // In messages to the window manager: who sends them.
 constexpr std::uint32_t fromApplication = 1;
 
+// The size hints of a window (ICCCM 4.1.2.3): flags first, each aspect a width and a height.
+constexpr std::size_t sizeHintCount = 18;
+constexpr std::uint32_t hasAspect = 1U << 7U;
+constexpr std::size_t leastAspect = 11;
+constexpr std::size_t mostAspect = 13;
+
 std::string compositorName(const X11Connection& connection) {
     auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection.get()));
     int number = 0;
@@ -54,6 +60,15 @@ void X11WindowSystem::keepOnAllWorkspaces(WindowID window) {
     }
 }
 
+// A window that no manager looks after appears on the active workspace anyway.
+void X11WindowSystem::bringToActiveWorkspace(WindowID window) {
+    const auto id = static_cast<xcb_window_t>(window);
+    const auto current = property(_connection->root(), _currentDesktop);
+    if (!current.empty() && isManaged(id) && !isOnActiveWorkspace(window)) {
+        sendToManager(id, _desktop, {current.front(), fromApplication});
+    }
+}
+
 void X11WindowSystem::skipTaskbar(WindowID window, bool skip) {
     const auto id = static_cast<xcb_window_t>(window);
     if (isManaged(id)) {
@@ -68,6 +83,19 @@ void X11WindowSystem::skipTaskbar(WindowID window, bool skip) {
         states.insert(states.end(), {_skipTaskbar, _skipPager});
     }
     setProperty(id, _state, XCB_ATOM_ATOM, states);
+}
+
+void X11WindowSystem::keepProportions(WindowID window, std::uint32_t width, std::uint32_t height) {
+    const auto id = static_cast<xcb_window_t>(window);
+    auto hints = property(id, XCB_ATOM_WM_NORMAL_HINTS);
+    hints.resize(sizeHintCount);
+    const auto before = hints;
+    hints[0] |= hasAspect;
+    hints[leastAspect] = hints[mostAspect] = width;
+    hints[leastAspect + 1] = hints[mostAspect + 1] = height;
+    if (hints != before) {
+        setProperty(id, XCB_ATOM_WM_NORMAL_HINTS, XCB_ATOM_WM_SIZE_HINTS, hints);
+    }
 }
 
 bool X11WindowSystem::isOnActiveWorkspace(WindowID window) const {

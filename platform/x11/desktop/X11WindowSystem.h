@@ -21,7 +21,9 @@ class X11WindowSystem final : public WindowSystem {
     [[nodiscard]] static Result<std::unique_ptr<X11WindowSystem>> open(const char* display);
 
     void keepOnAllWorkspaces(WindowID window) override;
+    void bringToActiveWorkspace(WindowID window) override;
     void skipTaskbar(WindowID window, bool skip) override;
+    void keepProportions(WindowID window, std::uint32_t width, std::uint32_t height) override;
     [[nodiscard]] bool isOnActiveWorkspace(WindowID window) const override;
     [[nodiscard]] std::optional<Point> pointerLocation() const override;
     [[nodiscard]] bool isCompositing() const override;
