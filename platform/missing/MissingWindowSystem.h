@@ -10,6 +10,7 @@ class MissingWindowSystem final : public WindowSystem {
  public:
     void keepOnAllWorkspaces(WindowID /*window*/) override {}
     void bringToActiveWorkspace(WindowID /*window*/) override {}
+    void activate(WindowID /*window*/) override {}
     void skipTaskbar(WindowID /*window*/, bool /*skip*/) override {}
     void keepProportions(WindowID /*window*/, std::uint32_t /*width*/,
                          std::uint32_t /*height*/) override {}

@@ -51,6 +51,7 @@ class RecordedDesktop final : public DesktopPresence,
 
     void keepOnAllWorkspaces(WindowID /*window*/) override {}
     void bringToActiveWorkspace(WindowID /*window*/) override {}
+    void activate(WindowID /*window*/) override {}
     void skipTaskbar(WindowID /*window*/, bool /*skip*/) override {}
     void keepProportions(WindowID /*window*/, std::uint32_t /*width*/,
                          std::uint32_t /*height*/) override {}

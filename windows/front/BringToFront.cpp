@@ -13,6 +13,9 @@ void bringToFront(QWidget& window, WindowSystem& windowSystem, Workspaces worksp
     } else if (window.isVisible()) {
         windowSystem.bringToActiveWorkspace(window.winId());
     }
+    if (window.isVisible()) {
+        windowSystem.activate(window.winId());
+    }
     // To the toolkit a minimised window is still visible, and showing it does nothing.
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
