@@ -81,6 +81,7 @@ class RecordedDesktop final : public DesktopPresence,
 
     bool isRemoteShown = false;
     std::map<HotKeyRole, std::string> problems;
+    std::string remoteProblem;
     std::optional<Point> pointer = Point{500, 400};
     /// The desktop file of the only program that is installed.
     std::string installed;
