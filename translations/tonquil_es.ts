@@ -597,6 +597,10 @@
         <source>Type a shortcut</source>
         <translation>Pulse un atajo</translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
 </context>
 <context>
     <name>tonquil::HotKeyClearButton</name>

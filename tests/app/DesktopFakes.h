@@ -46,10 +46,15 @@ class RecordedDesktop final : public DesktopPresence,
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence) override {
         problems[role] = sentence;
     }
+    void showRemoteProblem(const std::string& sentence) override { remoteProblem = sentence; }
     void saveFrames() override {}
 
     void keepOnAllWorkspaces(WindowID /*window*/) override {}
+    void bringToActiveWorkspace(WindowID /*window*/) override {}
+    void activate(WindowID /*window*/) override {}
     void skipTaskbar(WindowID /*window*/, bool /*skip*/) override {}
+    void keepProportions(WindowID /*window*/, std::uint32_t /*width*/,
+                         std::uint32_t /*height*/) override {}
     [[nodiscard]] bool isOnActiveWorkspace(WindowID /*window*/) const override { return true; }
     [[nodiscard]] std::optional<Point> pointerLocation() const override { return pointer; }
     [[nodiscard]] bool isCompositing() const override { return false; }
@@ -76,6 +81,7 @@ class RecordedDesktop final : public DesktopPresence,
 
     bool isRemoteShown = false;
     std::map<HotKeyRole, std::string> problems;
+    std::string remoteProblem;
     std::optional<Point> pointer = Point{500, 400};
     /// The desktop file of the only program that is installed.
     std::string installed;

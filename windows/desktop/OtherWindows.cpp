@@ -55,6 +55,7 @@ void OtherWindows::makePreferences() {
     _prefs->window().setWindowIcon(programIcon());
     _prefs->showHotKeyProblem(HotKeyRole::ToggleCorrection, _toggleProblem);
     _prefs->showHotKeyProblem(HotKeyRole::ShowPanel, _panelProblem);
+    _prefs->showRemoteProblem(_remoteProblem);
     const auto frame =
         windowFrameFrom(_.preferences.preferences.stringForKey(settingsKey::preferencesFrame));
     if (frame && !_.service.displaysWithPoint(frame->centre(), 1).empty()) {
@@ -76,7 +77,7 @@ bool OtherWindows::isPreferencesWindowShown() const {
 
 void OtherWindows::openAboutBox() {
     if (!_about) {
-        _about = std::make_unique<KVAboutBoxController>(_.bundle);
+        _about = std::make_unique<KVAboutBoxController>(_.bundle, _.preferences.windowSystem);
         _.windowMade(_about->window());
     }
     _about->showWindow();
@@ -99,6 +100,13 @@ void OtherWindows::showHotKeyProblem(HotKeyRole role, const std::string& sentenc
     (isToggle ? _toggleProblem : _panelProblem) = sentence;
     if (_prefs) {
         _prefs->showHotKeyProblem(role, sentence);
+    }
+}
+
+void OtherWindows::showRemoteProblem(const std::string& sentence) {
+    _remoteProblem = sentence;
+    if (_prefs) {
+        _prefs->showRemoteProblem(sentence);
     }
 }
 

@@ -10,6 +10,7 @@
 
 #include "ui/TQNumericTextField.h"
 #include "ui/TQSlider.h"
+#include "windows/front/BringToFront.h"
 #include "windows/panel/ControlPanel.h"
 #include "windows/panel/DevicePixels.h"
 #include "windows/panel/TitleStrip.h"
@@ -30,12 +31,8 @@ void ControlPanel::setFrameOrigin(const Point& origin) {
 }
 
 void ControlPanel::makeKeyAndOrderFront() {
-    // winId() creates the window if needed; it must exist before its properties can be set.
-    _windowSystem.keepOnAllWorkspaces(winId());
     setAcceptsKeyboard(true);
-    show();
-    raise();
-    takeKeyboard();
+    bringToFront(*this, _windowSystem, Workspaces::All);
 }
 
 bool ControlPanel::isOnActiveWorkspace() const {

@@ -11,6 +11,7 @@
 #include "foundation/TranslatableText.h"
 #include "hotkeys/DDHotKey.h"
 #include "hotkeys/field/DDHotKeyTextField.h"
+#include "windows/front/BringToFront.h"
 #include "windows/preferences/PreferencesWindow.h"
 #include "windows/preferences/RadioMatrix.h"
 #include "windows/preferences/SettingBinding.h"
@@ -21,6 +22,11 @@ namespace {
 
 constexpr int firstWithStatusItems = 1138;
 constexpr int firstWithDarkTheme = 1343;
+
+void showProblem(QLabel& label, const std::string& sentence) {
+    label.setText(QCoreApplication::translate("Problem", sentence.c_str()));
+    label.setVisible(!sentence.empty());
+}
 
 }  // namespace
 
@@ -136,9 +142,7 @@ void TQPrefController::showWindow() {
     if (!_window->isVisible() && std::exchange(_hasBeenShown, true)) {
         _window->setGeometry(_window->geometry());
     }
-    _window->show();
-    _window->raise();
-    _window->activateWindow();
+    bringToFront(*_window, _surroundings.windowSystem);
     _window->clearFirstResponder();
 }
 
@@ -160,10 +164,12 @@ void TQPrefController::setClosed(std::function<void()> closed) {
 }
 
 void TQPrefController::showHotKeyProblem(HotKeyRole role, const std::string& sentence) {
-    QLabel* const label =
-        role == HotKeyRole::ToggleCorrection ? _window->hotKeyProblem : _window->panelHotKeyProblem;
-    label->setText(QCoreApplication::translate("Problem", sentence.c_str()));
-    label->setVisible(!sentence.empty());
+    const bool isToggle = role == HotKeyRole::ToggleCorrection;
+    showProblem(isToggle ? *_window->hotKeyProblem : *_window->panelHotKeyProblem, sentence);
+}
+
+void TQPrefController::showRemoteProblem(const std::string& sentence) {
+    showProblem(*_window->remoteProblem, sentence);
 }
 
 void TQPrefController::setRecordingHooks(std::function<void()> began, std::function<void()> ended) {

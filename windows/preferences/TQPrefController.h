@@ -11,6 +11,7 @@
 
 #include "app/desktop/Alerts.h"
 #include "app/desktop/LoginItem.h"
+#include "app/panel/WindowSystem.h"
 #include "app/preferences/PreferencesStore.h"
 #include "app/preferences/StoredHotKey.h"
 #include "foundation/Log.h"
@@ -32,6 +33,7 @@ struct PreferencesSurroundings {
     LoginItem& loginItem;
     Alerts& alerts;
     const KeyboardLayout& layout;
+    WindowSystem& windowSystem;
     /// The absolute path of the running program, and the person's home folder.
     std::filesystem::path program;
     std::filesystem::path home;
@@ -68,6 +70,8 @@ class TQPrefController {
 
     /// Says beside its field why a hot key does not work; an empty sentence takes that back.
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence);
+    /// The same below the box that lets companions in.
+    void showRemoteProblem(const std::string& sentence);
     /// Called around each recording: the program's hot keys should be given up meanwhile.
     void setRecordingHooks(std::function<void()> began, std::function<void()> ended);
     /// What the person asked of the whole desktop.
