@@ -15,7 +15,8 @@ namespace tonquil {
 /// The curves of several displays, as a settings file holds them.
 class MultiDisplayFile {
  public:
-    /// Reads the file's "Screens": what is no dictionary in it is passed over.
+    /// Reads the file's "Screens": what is no dictionary in it, or has a key that is no text, is
+    /// passed over.
     explicit MultiDisplayFile(const PropertyValue& screens);
 
     /// The curves as an all-screens dictionary, in the form that is written today.

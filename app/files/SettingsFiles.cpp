@@ -52,7 +52,8 @@ bool SettingsFiles::_openFile(const std::filesystem::path& file) {
 }
 
 bool SettingsFiles::refuseFile(const Problem& problem) {
-    _with.dialogs.alert(TONQUIL_TEXT("Problem", "The file was not opened"), problem.sentence, {});
+    _with.dialogs.alert(TONQUIL_TEXT("Problem", "The file was not opened"), problem.key(),
+                        problem.arguments);
     return false;
 }
 
@@ -84,9 +85,6 @@ bool SettingsFiles::openSettings(const MultiDisplaySettings& settings) {
 
 bool SettingsFiles::openSettings(const RawTableSettings& settings) {
     const auto curve = KVTableGammaCurve::tableGammaCurveWithData(settings.bytes);
-    if (settings.failedPropertyList) {
-        return refuseFile(*settings.failedPropertyList);
-    }
     if (!curve) {
         return refuseFile(
             {.sentence = TONQUIL_TEXT("Problem",

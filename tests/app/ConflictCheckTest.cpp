@@ -7,7 +7,7 @@
 #include <tuple>
 
 #include "app/desktop/LoginItem.h"
-#include "app/desktop/TextFormat.h"
+#include "foundation/TextFormat.h"
 #include "tests/app/PlainStore.h"
 
 namespace tonquil {

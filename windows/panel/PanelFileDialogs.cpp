@@ -5,7 +5,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
-#include "app/desktop/TextFormat.h"
+#include "foundation/TextFormat.h"
 
 namespace tonquil {
 
