@@ -11,6 +11,11 @@ bool Correction::applyCorrection() const {
 }
 
 void Correction::setApplyCorrection(bool isOn) {
+    switchTo(isOn);
+    _preferences.setValue(settingsKey::applyCorrection, isOn);
+}
+
+void Correction::switchTo(bool isOn) {
     _isActive = isOn;
     activateScreens();
     if (!isOn) {
@@ -19,7 +24,6 @@ void Correction::setApplyCorrection(bool isOn) {
     if (show) {
         show(isOn);
     }
-    _preferences.setValue(settingsKey::applyCorrection, isOn);
 }
 
 void Correction::activateScreens() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/curves/CurveStorage.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "app/preferences/SettingsKeys.h"
@@ -9,12 +10,11 @@
 namespace tonquil {
 
 CurveStorage::CurveStorage(ScreenRegistry& registry, PreferencesStore& preferences,
-                           CurveRecovery& recovery, RunLoop& runLoop, Log log)
+                           CurveRecovery& recovery, RunLoop& runLoop)
     : _registry(registry),
       _preferences(preferences),
       _recovery(recovery),
       _runLoop(runLoop),
-      _log(std::move(log)),
       _left(recovery.leftCurves()) {}
 
 PropertyValue CurveStorage::storedCurves() const {
@@ -25,7 +25,6 @@ PropertyValue CurveStorage::storedCurves() const {
 }
 
 void CurveStorage::_adoptDefaultCurves() {
-    saveLeftCurves();
     const PropertyValue curves = storedCurves();
     for (const auto& screen : _registry.screens()) {
         screen->retriveExtendedGammaCurve();
@@ -33,30 +32,32 @@ void CurveStorage::_adoptDefaultCurves() {
     _registry.adoptGammaCurveDictionary(curves, nullptr);
 }
 
-// They belong to the run that crashed, and once stored they are as old as the rest.
-void CurveStorage::saveLeftCurves() {
-    if (_left.empty()) {
-        return;
-    }
-    _preferences.setValue(settingsKey::screens, storedCurves());
-    if (_preferences.synchronize()) {
-        _recovery.forget();
-        _left = PropertyValue::object();
-    }
-}
-
 void CurveStorage::_updateDefaultCurves() {
     _preferences.setValue(settingsKey::screens,
                           _registry.gammaCurveDictionaryExtendingDictionary(storedCurves()));
 }
 
-// What is kept beside would otherwise have the last word.
+bool CurveStorage::hasRoomFor(const PropertyValue& curves) const {
+    PropertyValue all = storedCurves();
+    const std::size_t before = all.size();
+    all.update(curves);
+    return all.size() <= std::max(mostStored, before);
+}
+
+// What is kept beside has the last word after a crash, so that it must say the same.
 void CurveStorage::storeCurves(const PropertyValue& curves) {
     PropertyValue all = storedCurves();
     all.update(curves);
+    bool isKept = _timer != nullptr;
     for (const auto& [key, curve] : curves.items()) {
-        _left.erase(key);
-        _kept.erase(key);
+        if (_left.contains(key) || _kept.contains(key)) {
+            _left.erase(key);
+            _kept[key] = curve;
+            isKept = true;
+        }
+    }
+    if (isKept) {
+        keepCurves();
     }
     _preferences.setValue(settingsKey::screens, std::move(all));
 }
@@ -79,11 +80,7 @@ void CurveStorage::keepCurves() {
     _kept = _registry.gammaCurveDictionaryExtendingDictionary(_kept);
     PropertyValue all = _left;
     all.update(_kept);
-    const Result<void> kept = _recovery.keep(all);
-    if (!kept && !_hasFailed && _log) {
-        _log(kept.error().sentence);
-    }
-    _hasFailed = !kept;
+    _recovery.keep(std::move(all));
 }
 
 void CurveStorage::close() {

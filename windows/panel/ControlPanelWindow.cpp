@@ -12,6 +12,7 @@
 #include "ui/TQSlider.h"
 #include "windows/panel/ControlPanel.h"
 #include "windows/panel/DevicePixels.h"
+#include "windows/panel/ProblemText.h"
 #include "windows/panel/TitleStrip.h"
 
 namespace tonquil {
@@ -52,6 +53,11 @@ PanelSliderGeometry ControlPanel::masterSliderOfSelectedTab() const {
             .minimum = slider.minValue(),
             .maximum = slider.maxValue(),
             .scale = scale};
+}
+
+void ControlPanel::showStorageProblem(const std::optional<Problem>& problem) {
+    _contents->titleStrip->showStorageProblem(
+        problem ? translatedProblem(problem->key(), problem->arguments) : QString());
 }
 
 void ControlPanel::showRemoteConfiguration(bool isOn) {
