@@ -62,6 +62,7 @@ void PreferencesSave::run() {
 Result<void> PreferencesSave::merge() {
     PropertyListFile::Contents contents = file.read();
     if (contents.state == PropertyListFile::State::Unreadable) {
+        contents.problem.sentence += " Settings are not saved.";
         return tl::unexpected(std::move(contents.problem));
     }
     PropertyValue merged = contents.dictionary;

@@ -16,12 +16,26 @@
 
 namespace tonquil {
 
+/// A disk that is never waited for.
+class PromptDisk final : public DiskQueue {
+ public:
+    void add(Work work, Work done) override {
+        work();
+        done();
+    }
+    void finish() override {}
+};
+
 /// A store on a real file, with a run loop and a log of its own.
 struct PreferencesProcess {
     explicit PreferencesProcess(const std::filesystem::path& file,
                                 std::chrono::milliseconds longestWait = {})
         : store(std::make_unique<PropertyListPreferences>(
-              file, loop, [this](std::string_view line) { log.emplace_back(line); }, longestWait)),
+              file, loop, disk,
+              SaveReports{
+                  .log = [this](std::string_view line) { log.emplace_back(line); },
+                  .showProblem = [this](const auto& problem) { sign = problem.has_value(); }},
+              longestWait)),
           subscription(store->subscribe([this] { ++told; })) {}
 
     void set(std::string_view key, PropertyValue value) {
@@ -29,10 +43,11 @@ struct PreferencesProcess {
         loop.runPosted();
     }
     /// Handles what the system has to tell of the folder: it tells at once, so nothing is waited
-    /// for. Gives how often the store told of a change.
+    /// for but by the store itself. Gives how often the store told of a change.
     int handleEvents() {
         const int before = told;
         while (loop.pollReadable(std::chrono::milliseconds(0)) > 0) {
+            loop.advance(std::chrono::milliseconds(500));
         }
         return told - before;
     }
@@ -41,6 +56,9 @@ struct PreferencesProcess {
     }
 
     ManualRunLoop loop;
+    PromptDisk disk;
+    /// Whether the panel tells that saving fails.
+    bool sign = false;
     std::vector<std::string> log;
     int told = 0;
     std::unique_ptr<PropertyListPreferences> store;
