@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,14 +17,28 @@
 
 namespace tonquil {
 
-/// A disk that is never waited for.
-class PromptDisk final : public DiskQueue {
+/// A disk that a test holds up; otherwise it is never waited for.
+class ManualDisk final : public DiskQueue {
  public:
     void add(Work work, Work done) override {
-        work();
-        done();
+        _jobs.emplace_back(std::move(work), std::move(done));
+        if (!isHeldUp) {
+            finish();
+        }
     }
-    void finish() override {}
+    void finish() override {
+        while (!_jobs.empty()) {
+            const auto [work, done] = std::move(_jobs.front());
+            _jobs.pop_front();
+            work();
+            done();
+        }
+    }
+
+    bool isHeldUp = false;
+
+ private:
+    std::deque<std::pair<Work, Work>> _jobs;
 };
 
 /// A store on a real file, with a run loop and a log of its own.
@@ -46,9 +61,9 @@ struct PreferencesProcess {
     /// for but by the store itself. Gives how often the store told of a change.
     int handleEvents() {
         const int before = told;
-        while (loop.pollReadable(std::chrono::milliseconds(0)) > 0) {
+        do {
             loop.advance(std::chrono::milliseconds(500));
-        }
+        } while (loop.pollReadable(std::chrono::milliseconds(0)) > 0);
         return told - before;
     }
     [[nodiscard]] std::int64_t operator[](std::string_view key) const {
@@ -56,7 +71,7 @@ struct PreferencesProcess {
     }
 
     ManualRunLoop loop;
-    PromptDisk disk;
+    ManualDisk disk;
     /// Whether the panel tells that saving fails.
     bool sign = false;
     std::vector<std::string> log;

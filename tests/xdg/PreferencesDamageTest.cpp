@@ -123,7 +123,7 @@ struct RecoveryRun {
                 .showProblem = [this](const auto& problem) { sign = problem.has_value(); }}) {}
 
     ManualRunLoop loop;
-    PromptDisk disk;
+    ManualDisk disk;
     std::vector<std::string> log;
     bool sign = false;
     CurveRecoveryFile file;
