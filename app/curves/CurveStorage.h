@@ -18,7 +18,7 @@ class CurveStorage {
     static constexpr std::chrono::milliseconds keepingDelay{500};
 
     /// The most displays whose curves are kept for the day that they come back.
-    static constexpr std::size_t mostStored = 1024;
+    static constexpr std::size_t mostStored = 512;
 
     /// Takes over what a program that crashed has left.
     CurveStorage(ScreenRegistry& registry, PreferencesStore& preferences, CurveRecovery& recovery,
