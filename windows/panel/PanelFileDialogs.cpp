@@ -84,7 +84,7 @@ void PanelFileDialogs::alert(const std::string& title, const std::string& messag
                              const std::vector<std::string>& arguments) {
     const QString titleText = QCoreApplication::translate("Problem", title.c_str());
     const QString text = translatedProblem(message, arguments);
-    if (_alert) {
+    if (_alert && _alert->isVisible()) {
         _alert->setWindowTitle(titleText);
         _alert->setText(titleText);
         _alert->setInformativeText(text);
