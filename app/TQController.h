@@ -106,7 +106,6 @@ class TQController final : public PanelActions {
     void updateHotKey() { _hotKeys.updateHotKey(); }
     void updateScreens();
     /// Puts the panel back into view when the display that it was on has gone.
-    void bringPanelBack();
     [[nodiscard]] int storedTab() const;
     void showCorrection(bool isOn);
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence);

@@ -251,6 +251,7 @@ void Program::openWindowSystem() {
                                          [this] { _controller->applicationWillTerminate(); });
     if (events) {
         _desktopEvents = std::move(*events);
+        _desktopEvents->setCompositingChanged([this] { _panel->updateCompositing(); });
     }
     if (!_windowSystem->hasWindowManager()) {
         logLine("There is no window manager; the panel is moved without one.");

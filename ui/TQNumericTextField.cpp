@@ -16,8 +16,8 @@ namespace tonquil {
 namespace {
 
 // In points.
-constexpr int padding = 4;
-constexpr int leastHeight = 24;
+constexpr int fieldPadding = 4;
+constexpr int leastFieldHeight = 24;
 
 constexpr int longestEntry = 24;
 
@@ -36,7 +36,7 @@ QString textFor(float value, int decimals) {
 
 TQNumericTextField::TQNumericTextField(QWidget* parent) : QLineEdit(parent) {
     setFrame(false);
-    setTextMargins(padding, 0, padding, 0);
+    setTextMargins(fieldPadding, 0, fieldPadding, 0);
     setMaxLength(longestEntry);
     // Numbers are set to the right in both reading directions.
     setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
@@ -132,8 +132,9 @@ void TQNumericTextField::decrementValueOf() {
 QSize TQNumericTextField::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
     // The inner margin of a line edit is 2 points, and the cursor needs one.
-    const int width = metrics.horizontalAdvance(QStringLiteral("-0.000")) + 2 * (padding + 2) + 1;
-    return {(width + 3) / 4 * 4, std::max(leastHeight, metrics.height() + padding)};
+    const int width =
+        metrics.horizontalAdvance(QStringLiteral("-0.000")) + 2 * (fieldPadding + 2) + 1;
+    return {(width + 3) / 4 * 4, std::max(leastFieldHeight, metrics.height() + fieldPadding)};
 }
 
 QSize TQNumericTextField::minimumSizeHint() const {
@@ -167,7 +168,7 @@ void TQNumericTextField::paintEvent(QPaintEvent* event) {
 }
 
 void TQNumericTextField::mousePressEvent(QMouseEvent* event) {
-    _isFirstClick = !hasFocus();
+    _isFirstClick = _isFirstClick || !hasFocus();
     QLineEdit::mousePressEvent(event);
 }
 
@@ -179,6 +180,7 @@ void TQNumericTextField::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void TQNumericTextField::keyPressEvent(QKeyEvent* event) {
+    _isFirstClick = false;
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isEscape = event->key() == Qt::Key_Escape;
     if (!isEditing() || (!isReturn && !isEscape)) {
@@ -199,6 +201,10 @@ void TQNumericTextField::focusInEvent(QFocusEvent* event) {
         showValue();
     }
     QLineEdit::focusInEvent(event);
+    // The click's own events come after the focus that it brings; a window manager may give the
+    // window the keyboard first.
+    _isFirstClick =
+        event->reason() == Qt::MouseFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
 }
 
 void TQNumericTextField::focusOutEvent(QFocusEvent* event) {

@@ -2,12 +2,31 @@
 #include "app/curves/CurveStorage.h"
 
 #include <algorithm>
+#include <iterator>
+#include <string>
 #include <utility>
 
 #include "app/preferences/SettingsKeys.h"
 #include "values/PropertyValue.h"
 
 namespace tonquil {
+
+namespace {
+
+// A file that has only one curve for all twins means them all: their older curves go. Returns how
+// many went.
+std::size_t eraseReplaced(PropertyValue& stored, const PropertyValue& curves) {
+    const std::size_t before = stored.size();
+    for (auto each = stored.begin(); each != stored.end();) {
+        const std::string& key = each.key();
+        const bool isReplaced =
+            curves.contains(key) || curves.contains(key.substr(0, key.rfind('@')));
+        each = isReplaced ? stored.erase(each) : std::next(each);
+    }
+    return before - stored.size();
+}
+
+}  // namespace
 
 CurveStorage::CurveStorage(ScreenRegistry& registry, PreferencesStore& preferences,
                            CurveRecovery& recovery, RunLoop& runLoop)
@@ -44,26 +63,25 @@ bool CurveStorage::hasRoomFor(const PropertyValue& curves) const {
     return all.size() <= std::max(mostStored, before);
 }
 
-// What is kept beside has the last word after a crash, so that it must say the same.
+// The opened file must win over curves that are still waiting to be saved. What the recovery file
+// holds has the last word after a crash, so it must hold the same.
 void CurveStorage::storeCurves(const PropertyValue& curves) {
     PropertyValue all = storedCurves();
-    all.update(curves);
-    bool isKept = _timer != nullptr;
-    for (const auto& [key, curve] : curves.items()) {
-        if (_left.contains(key) || _kept.contains(key)) {
-            _left.erase(key);
-            _kept[key] = curve;
-            isKept = true;
-        }
+    std::size_t replaced = 0;
+    for (PropertyValue* stored : {&_left, &_kept}) {
+        replaced += eraseReplaced(*stored, curves);
     }
-    if (isKept) {
+    eraseReplaced(all, curves);
+    all.update(curves);
+    _preferences.setValue(settingsKey::screens, std::move(all));
+    if (_timer || replaced > 0) {
+        _kept.update(curves);
         keepCurves();
     }
-    _preferences.setValue(settingsKey::screens, std::move(all));
 }
 
 void CurveStorage::curvesWereEdited() {
-    // Not put off by the edits of a long drag: the first one counts.
+    // Do not restart a running timer, or a long drag would never be saved.
     if (!_timer) {
         _timer = _runLoop.callOnce(keepingDelay, [this] { keepCurves(); });
     }
@@ -77,7 +95,7 @@ void CurveStorage::keepPendingEdits() {
 
 void CurveStorage::keepCurves() {
     _timer.reset();
-    _kept = _registry.gammaCurveDictionaryExtendingDictionary(_kept);
+    _kept.update(_registry.gammaCurveDictionaryOver(storedCurves()));
     PropertyValue all = _left;
     all.update(_kept);
     _recovery.keep(std::move(all));
@@ -88,7 +106,7 @@ void CurveStorage::close() {
     // Another program may have stored curves of other displays, unseen.
     static_cast<void>(_preferences.synchronize());
     _updateDefaultCurves();
-    // As long as the preferences cannot be saved, the other file is all there is.
+    // If the preferences cannot be saved, the recovery file is the only copy.
     if (_preferences.synchronize()) {
         _recovery.forget();
     }

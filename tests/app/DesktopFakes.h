@@ -108,13 +108,15 @@ class ScriptedHotKeys final : public HotKeyService {
     void unregisterHotKey(HotKeyHandle handle) override {
         std::erase_if(ids, [handle](const auto& each) { return each.second == handle; });
     }
-    void press(std::uint16_t keyCode) { _pressed({.id = ids.at(keyCode)}); }
-    void release(std::uint16_t keyCode) { _released({.id = ids.at(keyCode)}); }
+    void press(std::uint16_t keyCode) { _pressed({.id = ids.at(keyCode), .timestamp = time}); }
+    void release(std::uint16_t keyCode) { _released({.id = ids.at(keyCode), .timestamp = time}); }
 
     /// By key code.
     std::map<std::uint16_t, std::uint32_t> ids;
     std::set<std::uint16_t> refused;
     int registrations = 0;
+    /// What the keys' events bear, whatever the run loop's clock says.
+    std::chrono::milliseconds time{0};
 
  private:
     Handler _pressed;

@@ -34,7 +34,7 @@ TEST(X11DisplayService, KnowsDisplaysByTheirEdidOrTheirSize) {
     }
     EXPECT_EQ(found, (std::vector<std::string>{"DUMMY2  2680 1166364645-42-4268",
                                                "DUMMY0 Left 0 77-41-4268",
-                                               "DUMMY1  1400 600.000000x340.000000-0-0"}));
+                                               "DUMMY1  1400 600.000000x340.000000-3263106238-0"}));
     EXPECT_EQ(service->description(0).rampSize, 256U);
 
     // Without a primary output the main display is the one at the origin.

@@ -14,17 +14,17 @@ constexpr std::uint32_t allWorkspaces = 0xFFFFFFFF;
 // In messages to the window manager: who sends them.
 constexpr std::uint32_t fromApplication = 1;
 
-std::string compositorName(const X11Connection& connection) {
+}  // namespace
+
+xcb_atom_t compositorSelection(const X11Connection& connection) {
     auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection.get()));
     int number = 0;
     for (; screens.rem > 1 && screens.data->root != connection.root(); ++number) {
         xcb_screen_next(&screens);
     }
     std::string name = "_NET_WM_CM_S";
-    return name.append(std::to_string(number));
+    return connection.atom(name.append(std::to_string(number)));
 }
-
-}  // namespace
 
 Result<std::unique_ptr<X11WindowSystem>> X11WindowSystem::open(const char* display) {
     auto connection = X11Connection::open(display);
@@ -43,7 +43,7 @@ X11WindowSystem::X11WindowSystem(std::unique_ptr<X11Connection> connection)
       _skipPager(_connection->atom("_NET_WM_STATE_SKIP_PAGER")),
       _managerState(_connection->atom("WM_STATE")),
       _managerCheck(_connection->atom("_NET_SUPPORTING_WM_CHECK")),
-      _compositor(_connection->atom(compositorName(*_connection))) {}
+      _compositor(compositorSelection(*_connection)) {}
 
 void X11WindowSystem::keepOnAllWorkspaces(WindowID window) {
     const auto id = static_cast<xcb_window_t>(window);

@@ -11,6 +11,9 @@
 
 namespace tonquil {
 
+/// The selection that whoever blends the windows of the connection's screen holds meanwhile.
+[[nodiscard]] xcb_atom_t compositorSelection(const X11Connection& connection);
+
 /// Asks an X11 window manager by the conventions that all of them share (EWMH).
 ///
 /// A window that a window manager looks after, shown or minimised, is changed by a message to it;
