@@ -105,9 +105,14 @@ tl::unexpected<Problem> unknown(std::string_view what) {
 
 Result<CommandLine> readCommandLine(std::span<const char* const> arguments) {
     CommandLine line;
+    bool areAllFiles = false;
     for (std::size_t index = 0; index < arguments.size(); ++index) {
         const std::string_view argument = arguments[index];
-        if (argument == "--help" || argument == "-h") {
+        if (areAllFiles || !argument.starts_with('-')) {
+            line.requests.push_back(openRequest(argument));
+        } else if (argument == "--") {
+            areAllFiles = true;
+        } else if (argument == "--help" || argument == "-h") {
             line.wantsHelp = true;
         } else if (argument == "--version") {
             line.wantsVersion = true;
@@ -120,8 +125,6 @@ Result<CommandLine> readCommandLine(std::span<const char* const> arguments) {
         } else if (argument == "-session") {
             // A session manager starts programs so, with its own name for them.
             ++index;
-        } else if (!argument.starts_with('-')) {
-            line.requests.push_back(openRequest(argument));
         } else if (const RequestName* name =
                        argument.starts_with("--") ? findName(argument.substr(2)) : nullptr) {
             line.requests.push_back({.kind = name->kind});
@@ -156,6 +159,7 @@ std::string commandLineHelp() {
     }
     addOption("--targets", "show test patterns; --targets=color or =grayscale chooses them,");
     addOption("", "--display REFERENCE-ID after it covers that display with them");
+    addOption("--", "what follows are files, whatever they begin with");
     addOption("--help", "show this text");
     addOption("--version", "show the version");
     text +=

@@ -49,7 +49,8 @@ struct CommandLine {
     bool wantsVersion = false;
 };
 
-/// Reads a command line without the program's name; what is no option is a file. The problem is
+/// Reads a command line without the program's name; what is no option, or comes after "--", is a
+/// file. The problem is
 /// one of usage.
 [[nodiscard]] Result<CommandLine> readCommandLine(std::span<const char* const> arguments);
 [[nodiscard]] std::string commandLineHelp();

@@ -16,7 +16,7 @@ TQController::TQController(const ControllerSurroundings& surroundings)
                       _with.whyNoDisplays),
       _currentCurve(_with.controls),
       _correction(_with.service, _with.registry, _with.preferences),
-      _storage(_with.registry, _with.preferences, _with.recovery, _with.runLoop, _with.log),
+      _storage(_with.registry, _with.preferences, _with.recovery, _with.runLoop),
       _view({.service = _with.service,
              .registry = _with.registry,
              .controls = _with.controls,
@@ -189,10 +189,11 @@ void TQController::_changedDefaults() {
     }
 }
 
-// The switch of the correction is a preference like the others: whoever turns it means it.
+// The switch of the correction is a preference like the others: whoever turns it means it. It is
+// only followed: written back, it would undo what another program has turned again since.
 void TQController::_applyDefaultsToPanel() {
     if (applyCorrection() != _correction.isActive()) {
-        setApplyCorrection(applyCorrection());
+        _correction.switchTo(applyCorrection());
     }
     applyAppearance();
     if (_with.preferences.boolForKey(settingsKey::continuouslyApply) && applyCorrection()) {

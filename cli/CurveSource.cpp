@@ -34,10 +34,6 @@ Result<Curves> curveFromText(const std::string& text) {
 }
 
 Result<Curves> curvesFromRawTable(const RawTableSettings& raw, const std::string& file) {
-    if (raw.failedPropertyList) {
-        return problem(file + " cannot be used. " + raw.failedPropertyList->sentence,
-                       raw.failedPropertyList->detail);
-    }
     auto curve = KVTableGammaCurve::tableGammaCurveWithData(raw.bytes);
     if (!curve) {
         return problem(file + " is neither a settings file nor a raw table, which has 768 bytes.");

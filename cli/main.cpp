@@ -73,7 +73,8 @@ int main(int argc, char** argv) {
                      .remote = remote,
                      .notes = notes});
     if (!result) {
-        const auto& [sentence, detail] = result.error();
+        const std::string& sentence = result.error().sentence;
+        const std::string& detail = result.error().detail;
         say(detail.empty() ? sentence : sentence + " (" + detail + ")");
         return failed;
     }

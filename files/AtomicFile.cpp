@@ -9,8 +9,10 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "files/FileHandle.h"
+#include "foundation/TranslatableText.h"
 
 namespace tonquil {
 
@@ -35,31 +37,32 @@ Step checked(int result) {
     return result == 0 ? Step() : failed(errno);
 }
 
+/// In lower case and without a full stop, to end a sentence. Keys of the context "Problem".
 std::string reason(const Failure& failure) {
     switch (failure.error) {
         case 0:
             return failure.words;
         case ENOSPC:
-            return "no space is left on the disk";
+            return TONQUIL_TEXT("Problem", "no space is left on the disk");
         case EDQUOT:
-            return "your share of the disk is used up";
+            return TONQUIL_TEXT("Problem", "your share of the disk is used up");
         case EFBIG:
-            return "the file would be larger than is allowed";
+            return TONQUIL_TEXT("Problem", "the file would be larger than is allowed");
         case EACCES:
         case EPERM:
-            return "you may not write there";
+            return TONQUIL_TEXT("Problem", "you may not write there");
         case EROFS:
-            return "the disk is read-only";
+            return TONQUIL_TEXT("Problem", "the disk is read-only");
         case ENOENT:
-            return "its folder does not exist";
+            return TONQUIL_TEXT("Problem", "its folder does not exist");
         case ENOTDIR:
-            return "a part of its path is not a folder";
+            return TONQUIL_TEXT("Problem", "a part of its path is not a folder");
         case ENAMETOOLONG:
-            return "its name is too long";
+            return TONQUIL_TEXT("Problem", "its name is too long");
         case ELOOP:
-            return "its symbolic links lead in a circle";
+            return TONQUIL_TEXT("Problem", "its symbolic links lead in a circle");
         default:
-            return "the system reports: " + std::generic_category().message(failure.error);
+            return std::generic_category().message(failure.error);
     }
 }
 
@@ -88,7 +91,8 @@ tl::expected<fs::path, Failure> followLinks(fs::path path) {
 /// One save: steps in order, each of which may fail.
 class Save {
  public:
-    explicit Save(const AtomicFileOptions& options) : _mode(options.mode) {}
+    explicit Save(const AtomicFileOptions& options)
+        : _mode(options.mode), _isFlushed(options.isFlushed), _canFlushFolder(options.isFlushed) {}
     ~Save() { removeTemporary(); }
     Save(const Save&) = delete;
     Save& operator=(const Save&) = delete;
@@ -101,7 +105,7 @@ class Save {
             .and_then([this] { return createTemporary(); })
             .and_then([this] { return setPermissions(); })
             .and_then([this, contents] { return write(contents); })
-            .and_then([this] { return checked(::fsync(_file.get())); })
+            .and_then([this] { return _isFlushed ? checked(::fsync(_file.get())) : Step(); })
             .and_then([this] { return replace(); });
     }
 
@@ -115,7 +119,7 @@ class Save {
             return tl::unexpected(end.error());
         }
         if (!end->has_filename() || end->filename() == "." || end->filename() == "..") {
-            return failed(std::string("it is a folder"));
+            return failed(std::string(TONQUIL_TEXT("Problem", "it is a folder")));
         }
         _name = end->filename().native();
         _temporary = "." + _name + ".tonquil-new";
@@ -134,16 +138,17 @@ class Save {
             return errno == ENOENT ? Step() : failed(errno);
         }
         if (S_ISDIR(_older.st_mode)) {
-            return failed(std::string("it is a folder"));
+            return failed(std::string(TONQUIL_TEXT("Problem", "it is a folder")));
         }
         if (!S_ISREG(_older.st_mode)) {
-            return failed(std::string("it is not a regular file"));
+            return failed(std::string(TONQUIL_TEXT("Problem", "it is not a regular file")));
         }
         _hasOlder = true;
         // Taking its place needs no permission on the file itself, yet a file that its owner made
         // read-only is not to change.
         if (::faccessat(_folder.get(), _name.c_str(), W_OK, AT_EACCESS) != 0) {
-            return errno == EACCES ? failed(std::string("it is read-only")) : failed(errno);
+            return errno == EACCES ? failed(std::string(TONQUIL_TEXT("Problem", "it is read-only")))
+                                   : failed(errno);
         }
         return {};
     }
@@ -175,7 +180,10 @@ class Save {
         return {};
     }
 
-    static Step busy() { return failed(std::string("another program is saving it right now")); }
+    static Step busy() {
+        return failed(
+            std::string(TONQUIL_TEXT("Problem", "another program is saving it right now")));
+    }
 
     /// The lock tells a temporary that is being written from one whose writer has gone. Where the
     /// file system has no locks, every one that is found counts as stale.
@@ -262,7 +270,8 @@ class Save {
     FileHandle _folder;
     FileHandle _file;
     struct stat _older {};
-    bool _canFlushFolder = true;
+    bool _isFlushed;
+    bool _canFlushFolder;
     bool _hasOlder = false;
     bool _ownsTemporary = false;
     bool _isReplaced = false;
@@ -274,7 +283,8 @@ Result<void> writeFileAtomically(const std::filesystem::path& target,
                                  std::span<const std::uint8_t> contents,
                                  const AtomicFileOptions& options) {
     if (target.empty() || target.native().find('\0') != std::string::npos) {
-        return problem("The file could not be saved: its name is empty or has a NUL in it.");
+        return problem(TONQUIL_TEXT(
+            "Problem", "The file could not be saved: its name is empty or has a NUL in it."));
     }
     Save save(options);
     const Step done = save.run(target, contents);
@@ -283,14 +293,18 @@ Result<void> writeFileAtomically(const std::filesystem::path& target,
     }
     const std::string detail =
         done.error().error == 0 ? "" : std::generic_category().message(done.error().error);
+    const std::vector<std::string> arguments = {target.native(), reason(done.error())};
     if (save.isReplaced()) {
-        return problem(target.native() + " was saved, but the disk may not have kept it: " +
-                           reason(done.error()) + ".",
-                       detail);
+        return problemWith(
+            TONQUIL_TEXT("Problem", "%@ was saved, but the disk may not have kept it: %@."),
+            arguments, detail);
     }
-    return problem(target.native() + " could not be saved: " + reason(done.error()) + "." +
-                       (save.hasOlder() ? " The older file was kept." : ""),
-                   detail);
+    if (save.hasOlder()) {
+        return problemWith(
+            TONQUIL_TEXT("Problem", "%@ could not be saved: %@. The older file was kept."),
+            arguments, detail);
+    }
+    return problemWith(TONQUIL_TEXT("Problem", "%@ could not be saved: %@."), arguments, detail);
 }
 
 }  // namespace tonquil

@@ -17,6 +17,9 @@ struct AtomicFileOptions {
     /// The permission bits that the file has afterwards, whatever the umask. Nothing keeps those
     /// (and, where allowed, the owner and group) of an older file, else leaves it to the umask.
     std::optional<mode_t> mode = 0600;
+    /// Whether to wait until the disk has it, so that a power failure takes nothing. Without it
+    /// the file outlives the program's crash, but perhaps not the machine's.
+    bool isFlushed = true;
 
     /// For documents that a person chose the place of: permissions as any editor would leave them.
     [[nodiscard]] static AtomicFileOptions document() { return {.mode = std::nullopt}; }

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "files/FileHandle.h"
 #include "foundation/TranslatableText.h"
@@ -20,25 +21,40 @@ std::string systemWords(int error) {
     return std::generic_category().message(error);
 }
 
+auto notRegular(const std::string& name, std::string detail) {
+    return problemWith(TONQUIL_TEXT("Problem", "%@ is not a regular file."), {name},
+                       std::move(detail));
+}
+
+auto notRead(const std::string& name, int error) {
+    return problemWith(TONQUIL_TEXT("Problem", "%@ could not be read: %@."),
+                       {name, systemWords(error)});
+}
+
 auto cannotOpen(const std::string& name, int error) {
     switch (error) {
         case ENOENT:
         case ENOTDIR:
-            return problem("No such file: " + name + ".", systemWords(error));
+            return problemWith(TONQUIL_TEXT("Problem", "No such file: %@."), {name},
+                               systemWords(error));
         case EACCES:
         case EPERM:
-            return problem(name + " is not readable by you.", systemWords(error));
+            return problemWith(TONQUIL_TEXT("Problem", "%@ is not readable by you."), {name},
+                               systemWords(error));
         case ELOOP:
-            return problem(name + " is a symbolic link that leads in a circle.",
-                           systemWords(error));
+            return problemWith(
+                TONQUIL_TEXT("Problem", "%@ is a symbolic link that leads in a circle."), {name},
+                systemWords(error));
         case ENAMETOOLONG:
-            return problem("The file name is too long: " + name + ".", systemWords(error));
+            return problemWith(TONQUIL_TEXT("Problem", "The file name is too long: %@."), {name},
+                               systemWords(error));
         case ENXIO:
         case ENODEV:
             // A socket, or a device that is not there.
-            return problem(name + " is not a regular file.", systemWords(error));
+            return notRegular(name, systemWords(error));
         default:
-            return problem(name + " could not be opened: " + systemWords(error) + ".");
+            return problemWith(TONQUIL_TEXT("Problem", "%@ could not be opened: %@."),
+                               {name, systemWords(error)});
     }
 }
 
@@ -48,50 +64,38 @@ std::string limitText(std::size_t bytes) {
                                  : std::to_string(bytes) + " bytes";
 }
 
-auto tooLarge(const std::string& name, std::size_t mostBytes) {
-    return problem(name + " is larger than " + limitText(mostBytes) + ".");
-}
-
 Result<void> checkKind(const std::string& name, const struct stat& status) {
     if (S_ISDIR(status.st_mode)) {
-        return problem(name + " is a folder, not a file.");
+        return problemWith(TONQUIL_TEXT("Problem", "%@ is a folder, not a file."), {name});
     }
     if (!S_ISREG(status.st_mode)) {
-        return problem(name + " is not a regular file.");
+        return notRegular(name, {});
     }
     return {};
 }
 
+/// Reads up to one byte beyond the limit, which tells whether there is more.
 Result<std::vector<std::uint8_t>> readToLimit(const FileHandle& file, const std::string& name,
                                               std::size_t mostBytes) {
     constexpr std::size_t step = std::size_t{64} * 1024;
     std::vector<std::uint8_t> bytes;
     std::size_t used = 0;
-    for (;;) {
-        bytes.resize(used + step);
-        const ssize_t count = ::read(file.get(), bytes.data() + used, step);
-        if (count < 0) {
-            if (errno == EINTR) {
-                continue;
-            }
-            return problem(name + " could not be read: " + systemWords(errno) + ".");
+    while (used <= mostBytes) {
+        bytes.resize(used + std::min(step, mostBytes + 1 - used));
+        const ssize_t count = ::read(file.get(), bytes.data() + used, bytes.size() - used);
+        if (count < 0 && errno != EINTR) {
+            return notRead(name, errno);
         }
         if (count == 0) {
-            bytes.resize(used);
-            return bytes;
+            break;
         }
-        used += static_cast<std::size_t>(count);
-        if (used > mostBytes) {
-            return tooLarge(name, mostBytes);
-        }
+        used += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
     }
+    bytes.resize(used);
+    return bytes;
 }
 
-}  // namespace
-
-Result<std::vector<std::uint8_t>> readBoundedFile(const std::filesystem::path& path,
-                                                  std::size_t mostBytes) {
-    const std::string& name = path.native();
+Result<FileHandle> openRegular(const std::string& name) {
     // A NUL would make the system open another file than the one that is named.
     if (name.empty() || name.find('\0') != std::string::npos) {
         return problem(TONQUIL_TEXT("Problem", "The file name is empty or has a NUL in it."));
@@ -103,18 +107,45 @@ Result<std::vector<std::uint8_t>> readBoundedFile(const std::filesystem::path& p
     if (descriptor < 0) {
         return cannotOpen(name, errno);
     }
-    const FileHandle file(descriptor);
+    FileHandle file(descriptor);
     struct stat status {};
     if (::fstat(file.get(), &status) != 0) {
-        return problem(name + " could not be read: " + systemWords(errno) + ".");
+        return notRead(name, errno);
     }
     if (auto kind = checkKind(name, status); !kind) {
         return tl::unexpected(kind.error());
     }
-    if (status.st_size > 0 && static_cast<std::uint64_t>(status.st_size) > mostBytes) {
-        return tooLarge(name, mostBytes);
+    return file;
+}
+
+}  // namespace
+
+tl::unexpected<Problem> fileTooLarge(const std::filesystem::path& path, std::size_t mostBytes) {
+    return problemWith(TONQUIL_TEXT("Problem", "%@ is larger than %@."),
+                       {path.native(), limitText(mostBytes)});
+}
+
+Result<FileBeginning> readFileBeginning(const std::filesystem::path& path, std::size_t mostBytes) {
+    return openRegular(path.native())
+        .and_then(
+            [&](const FileHandle& file) { return readToLimit(file, path.native(), mostBytes); })
+        .map([mostBytes](std::vector<std::uint8_t> bytes) {
+            const bool isWhole = bytes.size() <= mostBytes;
+            bytes.resize(std::min(bytes.size(), mostBytes));
+            return FileBeginning{.bytes = std::move(bytes), .isWhole = isWhole};
+        });
+}
+
+Result<std::vector<std::uint8_t>> readBoundedFile(const std::filesystem::path& path,
+                                                  std::size_t mostBytes) {
+    auto beginning = readFileBeginning(path, mostBytes);
+    if (!beginning) {
+        return tl::unexpected(std::move(beginning.error()));
     }
-    return readToLimit(file, name, mostBytes);
+    if (!beginning->isWhole) {
+        return fileTooLarge(path, mostBytes);
+    }
+    return std::move(beginning->bytes);
 }
 
 }  // namespace tonquil

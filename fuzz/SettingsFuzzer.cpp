@@ -27,15 +27,17 @@ void use(const PropertyValue& dictionary) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const Settings settings = readSettings({data, data + size});
-    if (const auto* single = std::get_if<SingleDisplaySettings>(&settings)) {
+    const Result<Settings> settings = readSettings({data, data + size});
+    if (!settings) {
+        require(!settings.error().sentence.empty());
+    } else if (const auto* single = std::get_if<SingleDisplaySettings>(&*settings)) {
         use(single->curve);
-    } else if (const auto* multi = std::get_if<MultiDisplaySettings>(&settings)) {
+    } else if (const auto* multi = std::get_if<MultiDisplaySettings>(&*settings)) {
         for (const auto& screen : multi->screens) {
             use(screen);
         }
     } else {
-        const auto& raw = std::get<RawTableSettings>(settings);
+        const auto& raw = std::get<RawTableSettings>(*settings);
         require(raw.bytes.size() == size);
         require((KVTableGammaCurve::tableGammaCurveWithData(raw.bytes) != nullptr) ==
                 (size >= KVTableGammaCurve::dataSize));

@@ -59,11 +59,16 @@ Text textOf(std::span<const std::uint8_t> bytes) {
     return {bytes};
 }
 
-bool beginsLikeXml(const Text& text) {
-    std::size_t start = 0;
-    while (start < text.size() && isXmlSpace(text.at(start))) {
-        ++start;
+std::size_t leadingSpaces(const Text& text) {
+    std::size_t count = 0;
+    while (count < text.size() && isXmlSpace(text.at(count))) {
+        ++count;
     }
+    return count;
+}
+
+bool beginsLikeXml(const Text& text) {
+    const std::size_t start = leadingSpaces(text);
     return std::any_of(xmlBeginnings.begin(), xmlBeginnings.end(), [&](std::string_view beginning) {
         if (text.size() - start < beginning.size()) {
             return false;
@@ -94,7 +99,11 @@ Result<PropertyValue> readPropertyList(std::span<const std::uint8_t> bytes,
     if (!beginsLikePropertyList(bytes)) {
         return problem(TONQUIL_TEXT("Problem", "This is not a property list."));
     }
-    return readXmlPropertyList(bytes, budget);
+    // Where people paste a list, white space gets before the declaration, which XML forbids.
+    const Text text = textOf(bytes);
+    const std::size_t mark = bytes.size() - text.bytes.size();
+    return readXmlPropertyList(bytes.first(mark),
+                               text.bytes.subspan(leadingSpaces(text) * text.unit), budget);
 }
 
 }  // namespace tonquil

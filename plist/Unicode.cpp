@@ -90,4 +90,14 @@ std::optional<std::string> utf8FromUtf16(std::span<const std::uint8_t> bytes) {
     return text;
 }
 
+bool isPropertyListText(std::string_view text) {
+    while (!text.empty()) {
+        const auto character = takeCharacter(text);
+        if (!character || !isXmlCharacter(*character)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace tonquil

@@ -23,4 +23,7 @@ namespace tonquil {
            (c >= 0xE000 && c < 0xFFFE) || (c >= 0x10000 && c <= 0x10FFFF);
 }
 
+/// Whether a property list can hold the text: valid UTF-8 that XML 1.0 can carry.
+[[nodiscard]] bool isPropertyListText(std::string_view text);
+
 }  // namespace tonquil

@@ -89,13 +89,20 @@ void setHandlers(XML_Parser parser) {
     XML_SetSkippedEntityHandler(parser, onEntitySkipped);
 }
 
+XML_Status feed(XML_Parser parser, std::span<const std::uint8_t> bytes, XML_Bool isFinal) {
+    // The bytes are only looked at as bytes, which any type of character may do.
+    const auto* const text = reinterpret_cast<const char*>(bytes.data());  // NOLINT
+    return XML_Parse(parser, text, static_cast<int>(bytes.size()), isFinal);
+}
+
 std::string lineOf(XML_Parser parser) {
     return " in line " + std::to_string(XML_GetCurrentLineNumber(parser));
 }
 
 }  // namespace
 
-Result<PropertyValue> readXmlPropertyList(std::span<const std::uint8_t> bytes,
+Result<PropertyValue> readXmlPropertyList(std::span<const std::uint8_t> mark,
+                                          std::span<const std::uint8_t> bytes,
                                           const PropertyListBudget& budget) {
     if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
         return problem(TONQUIL_TEXT("Problem", "The property list is too large."));
@@ -109,10 +116,10 @@ Result<PropertyValue> readXmlPropertyList(std::span<const std::uint8_t> bytes,
     XML_SetUserData(parser.get(), &parse);
     setHandlers(parser.get());
 
-    // The bytes are only looked at as bytes, which any type of character may do.
-    const auto* const text = reinterpret_cast<const char*>(bytes.data());  // NOLINT
-    const XML_Status status =
-        XML_Parse(parser.get(), text, static_cast<int>(bytes.size()), /*isFinal=*/XML_TRUE);
+    XML_Status status = feed(parser.get(), mark, /*isFinal=*/XML_FALSE);
+    if (status == XML_STATUS_OK) {
+        status = feed(parser.get(), bytes, /*isFinal=*/XML_TRUE);
+    }
     if (parse.problem) {
         parse.problem->detail += lineOf(parser.get());
         return tl::unexpected(std::move(*parse.problem));

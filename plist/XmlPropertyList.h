@@ -14,7 +14,9 @@ namespace tonquil {
 ///
 /// The usual document type is accepted and nothing is ever loaded for it; one that declares
 /// entities or attributes of its own is refused, as is any entity that XML itself does not name.
-[[nodiscard]] Result<PropertyValue> readXmlPropertyList(std::span<const std::uint8_t> bytes,
+/// A byte order mark, if there is one, is given by itself.
+[[nodiscard]] Result<PropertyValue> readXmlPropertyList(std::span<const std::uint8_t> mark,
+                                                        std::span<const std::uint8_t> bytes,
                                                         const PropertyListBudget& budget);
 
 }  // namespace tonquil

@@ -36,8 +36,10 @@ void saveAtExit() {
 }  // namespace
 
 Program::Program(const XdgFolders& folders)
-    : _preferences(folders.config() / "preferences.plist", _runLoop, logLine),
-      _recovery(folders.state() / ("recovery-" + instanceName() + ".plist"), logLine),
+    : _preferences(folders.config() / "preferences.plist", _runLoop, _disk,
+                   saveReports(_preferencesProblem)),
+      _recovery(folders.state() / ("recovery-" + instanceName() + ".plist"), _runLoop, _disk,
+                saveReports(_recoveryProblem)),
       _busEvents(_runLoop, logLine),
       _loginItem(folders.config().parent_path() / "autostart",
                  programFile().parent_path() / "tonquil-launcher"),
@@ -54,6 +56,8 @@ Program::Program(const XdgFolders& folders)
 
 void Program::makeWindows() {
     _panel = std::make_unique<ControlPanel>(*_windowSystem);
+    _problemPanel = _panel.get();
+    showSaveProblem();
     _dialogs = std::make_unique<PanelFileDialogs>(*_panel);
     _presence = std::make_unique<TrayPresence>(*_windowSystem, logLine);
     _presence->watch(*_panel);
@@ -82,9 +86,25 @@ void Program::makeWindows() {
                                        }
                                    }});
 }
+
+SaveReports Program::saveReports(std::optional<Problem>& latest) {
+    return {.log = logLine, .showProblem = [this, &latest](const std::optional<Problem>& problem) {
+                latest = problem;
+                showSaveProblem();
+            }};
+}
+
+void Program::showSaveProblem() {
+    if (_problemPanel != nullptr) {
+        _problemPanel->showStorageProblem(_preferencesProblem ? _preferencesProblem
+                                                              : _recoveryProblem);
+    }
+}
+
 // Nothing may call what goes before it.
 Program::~Program() {
     controllerToSave = nullptr;
+    _problemPanel = nullptr;
     _panel->hide();
     _controller.reset();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "app/TQController.h"
 #include "platform/dbus/BusSessionEvents.h"
 #include "platform/dbus/DesktopAppearance.h"
+#include "platform/posix/DiskThread.h"
 #include "platform/qt/QtRunLoop.h"
 #include "platform/qt/ScreenEventLimit.h"
 #include "platform/x11/desktop/X11DesktopEvents.h"
@@ -52,8 +54,17 @@ class Program {
     [[nodiscard]] std::unique_ptr<TQPlayerServer> openServer();
     [[nodiscard]] SessionRestoration::Storage sessionStorage();
 
+    [[nodiscard]] SaveReports saveReports(std::optional<Problem>& latest);
+    void showSaveProblem();
+
     QtRunLoop _runLoop;
     ScreenEventLimit _screenEventLimit{_runLoop};
+    DiskThread _disk{_runLoop};
+    /// What keeps preferences and curves from being saved.
+    std::optional<Problem> _preferencesProblem;
+    std::optional<Problem> _recoveryProblem;
+    /// Where that is shown; null while there is no panel.
+    ControlPanel* _problemPanel = nullptr;
     PropertyListPreferences _preferences;
     CurveRecoveryFile _recovery;
     BusSessionEvents _busEvents;

@@ -113,7 +113,7 @@ int start(int argc, char** argv) {
     // The toolkit has options of its own, and would take some of ours for them. The session
     // manager's is for it.
     std::vector<char*> ours{argv[0]};
-    for (int index = 1; index + 1 < argc; ++index) {
+    for (int index = 1; index + 1 < argc && std::string_view(argv[index]) != "--"; ++index) {
         if (std::string_view(argv[index]) == "-session") {
             ours.insert(ours.end(), {argv[index], argv[index + 1]});
         }

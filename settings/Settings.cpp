@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Settings.h"
 
+#include <string>
 #include <utility>
 
 #include "files/BoundedFile.h"
@@ -11,6 +12,8 @@ namespace tonquil {
 
 namespace {
 
+constexpr std::size_t mostDisplays = 256;
+
 bool isMultiDisplay(const PropertyValue& root) {
     const PropertyValue* format = entry(root, "Format");
     return format != nullptr && isNumber(*format) && integerValue(*format) == 1;
@@ -18,36 +21,43 @@ bool isMultiDisplay(const PropertyValue& root) {
 
 }  // namespace
 
-Settings readSettings(std::vector<std::uint8_t> bytes) {
+Result<Settings> readSettings(std::vector<std::uint8_t> bytes) {
     if (!beginsLikePropertyList(bytes)) {
-        return RawTableSettings{.bytes = std::move(bytes), .failedPropertyList = {}};
+        return RawTableSettings{.bytes = std::move(bytes)};
     }
     auto root = readPropertyList(bytes);
     if (!root) {
-        return RawTableSettings{.bytes = std::move(bytes),
-                                .failedPropertyList = std::move(root.error())};
+        return tl::unexpected(std::move(root.error()));
     }
     if (!root->is_object()) {
-        return RawTableSettings{
-            .bytes = std::move(bytes),
-            .failedPropertyList =
-                Problem{TONQUIL_TEXT("Problem", "This property list holds no settings."), {}}};
+        return RawTableSettings{.bytes = std::move(bytes)};
     }
     if (!isMultiDisplay(*root)) {
         return SingleDisplaySettings{.curve = std::move(*root)};
     }
     const PropertyValue* screens = entry(*root, "Screens");
-    return MultiDisplaySettings{
-        .screens = screens != nullptr && screens->is_object() ? *screens : PropertyValue(nullptr)};
+    if (screens == nullptr || !screens->is_object()) {
+        return MultiDisplaySettings{.screens = nullptr};
+    }
+    // All of them would be kept in the preferences, and saved with them from then on.
+    if (screens->size() > mostDisplays) {
+        return problemWith(
+            TONQUIL_TEXT("Problem", "The file has curves for more than %@ displays."),
+            {std::to_string(mostDisplays)});
+    }
+    return MultiDisplaySettings{.screens = *screens};
 }
 
 Result<Settings> readSettingsFile(const std::filesystem::path& path) {
     constexpr std::size_t mostBytes = std::size_t{1} << 20U;
-    auto bytes = readBoundedFile(path, mostBytes);
-    if (!bytes) {
-        return tl::unexpected(std::move(bytes.error()));
+    auto file = readFileBeginning(path, mostBytes);
+    if (!file) {
+        return tl::unexpected(std::move(file.error()));
     }
-    return readSettings(std::move(*bytes));
+    if (!file->isWhole && beginsLikePropertyList(file->bytes)) {
+        return fileTooLarge(path, mostBytes);
+    }
+    return readSettings(std::move(file->bytes));
 }
 
 }  // namespace tonquil

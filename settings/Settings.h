@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <variant>
 #include <vector>
 
@@ -23,11 +22,10 @@ struct MultiDisplaySettings {
     PropertyValue screens;
 };
 
-/// Bytes that are no settings dictionary: a transfer table, if there are at least 768 of them.
+/// What holds no settings: a transfer table, if there are at least 768 bytes.
 struct RawTableSettings {
+    /// From the file's beginning; of what follows a table, not all need be here.
     std::vector<std::uint8_t> bytes;
-    /// Set where the bytes set out to be a property list: why they are no settings all the same.
-    std::optional<Problem> failedPropertyList;
 };
 
 /// What a settings file holds.
@@ -35,9 +33,12 @@ using Settings = std::variant<SingleDisplaySettings, MultiDisplaySettings, RawTa
 
 /// Tells the kinds apart. A property-list dictionary whose "Format" is the number 1 is for several
 /// displays, any other dictionary is one curve, anything else is a raw table.
-[[nodiscard]] Settings readSettings(std::vector<std::uint8_t> bytes);
+///
+/// Refuses a property list that is damaged, and one with curves of more than 256 displays.
+[[nodiscard]] Result<Settings> readSettings(std::vector<std::uint8_t> bytes);
 
-/// The same for a regular file of at most 1 MiB.
+/// The same for a regular file. A property list may have 1 MiB at most; a table may be followed by
+/// any number of bytes.
 [[nodiscard]] Result<Settings> readSettingsFile(const std::filesystem::path& path);
 
 }  // namespace tonquil

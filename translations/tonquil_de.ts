@@ -314,6 +314,10 @@
         <source>Edited: %1</source>
         <translation>Bearbeitet: %1</translation>
     </message>
+    <message>
+        <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
+        <translation>Änderungen werden zurzeit nicht gespeichert. Tonquil versucht es weiter.</translation>
+    </message>
 </context>
 <context>
     <name>PanelSubject</name>
@@ -560,8 +564,124 @@
         <translation>Der Speicher reicht nicht aus, um die Eigenschaftsliste zu lesen.</translation>
     </message>
     <message>
-        <source>This property list holds no settings.</source>
-        <translation>Diese Eigenschaftsliste enthält keine Einstellungen.</translation>
+        <source>There is no room for the curves of so many more displays.</source>
+        <translation>Für die Kurven so vieler weiterer Bildschirme ist kein Platz.</translation>
+    </message>
+    <message>
+        <source>no space is left on the disk</source>
+        <translation>auf dem Datenträger ist kein Platz mehr</translation>
+    </message>
+    <message>
+        <source>your share of the disk is used up</source>
+        <translation>Ihr Anteil am Datenträger ist aufgebraucht</translation>
+    </message>
+    <message>
+        <source>the file would be larger than is allowed</source>
+        <translation>die Datei würde größer als erlaubt</translation>
+    </message>
+    <message>
+        <source>you may not write there</source>
+        <translation>Sie dürfen dort nicht schreiben</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation>der Datenträger ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>ihr Ordner ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>a part of its path is not a folder</source>
+        <translation>ein Teil des Pfads ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>ihr Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>its symbolic links lead in a circle</source>
+        <translation>ihre symbolischen Links führen im Kreis</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>das ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is read-only</source>
+        <translation>sie ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>another program is saving it right now</source>
+        <translation>ein anderes Programm speichert sie gerade</translation>
+    </message>
+    <message>
+        <source>The file could not be saved: its name is empty or has a NUL in it.</source>
+        <translation>Die Datei konnte nicht gespeichert werden: Ihr Name ist leer oder enthält ein NUL-Zeichen.</translation>
+    </message>
+    <message>
+        <source>%@ was saved, but the disk may not have kept it: %@.</source>
+        <translation>%@ wurde gespeichert, ist aber vielleicht nicht auf dem Datenträger angekommen: %@.</translation>
+    </message>
+    <message>
+        <source>%@ could not be saved: %@. The older file was kept.</source>
+        <translation>%@ konnte nicht gespeichert werden: %@. Die ältere Datei blieb erhalten.</translation>
+    </message>
+    <message>
+        <source>%@ could not be saved: %@.</source>
+        <translation>%@ konnte nicht gespeichert werden: %@.</translation>
+    </message>
+    <message>
+        <source>%@ is not a regular file.</source>
+        <translation>%@ ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>%@ could not be read: %@.</source>
+        <translation>%@ konnte nicht gelesen werden: %@.</translation>
+    </message>
+    <message>
+        <source>No such file: %@.</source>
+        <translation>Diese Datei gibt es nicht: %@.</translation>
+    </message>
+    <message>
+        <source>%@ is not readable by you.</source>
+        <translation>Sie dürfen %@ nicht lesen.</translation>
+    </message>
+    <message>
+        <source>%@ is a symbolic link that leads in a circle.</source>
+        <translation>%@ ist ein symbolischer Link, der im Kreis führt.</translation>
+    </message>
+    <message>
+        <source>The file name is too long: %@.</source>
+        <translation>Der Dateiname ist zu lang: %@.</translation>
+    </message>
+    <message>
+        <source>%@ could not be opened: %@.</source>
+        <translation>%@ konnte nicht geöffnet werden: %@.</translation>
+    </message>
+    <message>
+        <source>%@ is a folder, not a file.</source>
+        <translation>%@ ist ein Ordner, keine Datei.</translation>
+    </message>
+    <message>
+        <source>%@ is larger than %@.</source>
+        <translation>%@ ist größer als %@.</translation>
+    </message>
+    <message>
+        <source>The folder %@ could not be made: %@.</source>
+        <translation>Der Ordner %@ konnte nicht angelegt werden: %@.</translation>
+    </message>
+    <message>
+        <source>%@ is damaged and cannot be moved aside: %@.</source>
+        <translation>%@ ist beschädigt und kann nicht beiseitegelegt werden: %@.</translation>
+    </message>
+    <message>
+        <source>The file has curves for more than %@ displays.</source>
+        <translation>Die Datei enthält Kurven für mehr als %@ Bildschirme.</translation>
     </message>
 </context>
 <context>

@@ -314,6 +314,10 @@
         <source>Edited: %1</source>
         <translation>Se edita: %1</translation>
     </message>
+    <message>
+        <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
+        <translation>Los cambios no se guardan por el momento. Tonquil lo sigue intentando.</translation>
+    </message>
 </context>
 <context>
     <name>PanelSubject</name>
@@ -560,8 +564,124 @@
         <translation>No hay memoria suficiente para leer la lista de propiedades.</translation>
     </message>
     <message>
-        <source>This property list holds no settings.</source>
-        <translation>Esta lista de propiedades no contiene ajustes.</translation>
+        <source>There is no room for the curves of so many more displays.</source>
+        <translation>No hay sitio para las curvas de tantas pantallas más.</translation>
+    </message>
+    <message>
+        <source>no space is left on the disk</source>
+        <translation>no queda espacio en el disco</translation>
+    </message>
+    <message>
+        <source>your share of the disk is used up</source>
+        <translation>su cuota de disco está agotada</translation>
+    </message>
+    <message>
+        <source>the file would be larger than is allowed</source>
+        <translation>el archivo sería mayor de lo permitido</translation>
+    </message>
+    <message>
+        <source>you may not write there</source>
+        <translation>no tiene permiso para escribir allí</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation>el disco es de solo lectura</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>su carpeta no existe</translation>
+    </message>
+    <message>
+        <source>a part of its path is not a folder</source>
+        <translation>una parte de su ruta no es una carpeta</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>su nombre es demasiado largo</translation>
+    </message>
+    <message>
+        <source>its symbolic links lead in a circle</source>
+        <translation>sus enlaces simbólicos forman un círculo</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it is read-only</source>
+        <translation>es de solo lectura</translation>
+    </message>
+    <message>
+        <source>another program is saving it right now</source>
+        <translation>otro programa lo está guardando ahora mismo</translation>
+    </message>
+    <message>
+        <source>The file could not be saved: its name is empty or has a NUL in it.</source>
+        <translation>No se pudo guardar el archivo: su nombre está vacío o contiene un NUL.</translation>
+    </message>
+    <message>
+        <source>%@ was saved, but the disk may not have kept it: %@.</source>
+        <translation>%@ se guardó, pero puede que el disco no lo haya conservado: %@.</translation>
+    </message>
+    <message>
+        <source>%@ could not be saved: %@. The older file was kept.</source>
+        <translation>No se pudo guardar %@: %@. Se conservó el archivo anterior.</translation>
+    </message>
+    <message>
+        <source>%@ could not be saved: %@.</source>
+        <translation>No se pudo guardar %@: %@.</translation>
+    </message>
+    <message>
+        <source>%@ is not a regular file.</source>
+        <translation>%@ no es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>%@ could not be read: %@.</source>
+        <translation>No se pudo leer %@: %@.</translation>
+    </message>
+    <message>
+        <source>No such file: %@.</source>
+        <translation>No existe el archivo: %@.</translation>
+    </message>
+    <message>
+        <source>%@ is not readable by you.</source>
+        <translation>No tiene permiso para leer %@.</translation>
+    </message>
+    <message>
+        <source>%@ is a symbolic link that leads in a circle.</source>
+        <translation>%@ es un enlace simbólico que forma un círculo.</translation>
+    </message>
+    <message>
+        <source>The file name is too long: %@.</source>
+        <translation>El nombre del archivo es demasiado largo: %@.</translation>
+    </message>
+    <message>
+        <source>%@ could not be opened: %@.</source>
+        <translation>No se pudo abrir %@: %@.</translation>
+    </message>
+    <message>
+        <source>%@ is a folder, not a file.</source>
+        <translation>%@ es una carpeta, no un archivo.</translation>
+    </message>
+    <message>
+        <source>%@ is larger than %@.</source>
+        <translation>%@ supera los %@.</translation>
+    </message>
+    <message>
+        <source>The folder %@ could not be made: %@.</source>
+        <translation>No se pudo crear la carpeta %@: %@.</translation>
+    </message>
+    <message>
+        <source>%@ is damaged and cannot be moved aside: %@.</source>
+        <translation>%@ está dañado y no se puede apartar: %@.</translation>
+    </message>
+    <message>
+        <source>The file has curves for more than %@ displays.</source>
+        <translation>El archivo contiene curvas para más de %@ pantallas.</translation>
     </message>
 </context>
 <context>

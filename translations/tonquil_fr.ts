@@ -314,6 +314,10 @@
         <source>Edited: %1</source>
         <translation>Modifié&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
+        <translation>Les modifications ne sont pas enregistrées pour le moment. Tonquil continue d’essayer.</translation>
+    </message>
 </context>
 <context>
     <name>PanelSubject</name>
@@ -560,8 +564,124 @@
         <translation>La mémoire est insuffisante pour lire la liste de propriétés.</translation>
     </message>
     <message>
-        <source>This property list holds no settings.</source>
-        <translation>Cette liste de propriétés ne contient pas de réglages.</translation>
+        <source>There is no room for the curves of so many more displays.</source>
+        <translation>Il n’y a pas de place pour les courbes d’autant d’écrans supplémentaires.</translation>
+    </message>
+    <message>
+        <source>no space is left on the disk</source>
+        <translation>il n’y a plus de place sur le disque</translation>
+    </message>
+    <message>
+        <source>your share of the disk is used up</source>
+        <translation>votre part du disque est épuisée</translation>
+    </message>
+    <message>
+        <source>the file would be larger than is allowed</source>
+        <translation>le fichier serait plus grand que permis</translation>
+    </message>
+    <message>
+        <source>you may not write there</source>
+        <translation>vous n’avez pas le droit d’y écrire</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation>le disque est en lecture seule</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>son dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>a part of its path is not a folder</source>
+        <translation>une partie de son chemin n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>son nom est trop long</translation>
+    </message>
+    <message>
+        <source>its symbolic links lead in a circle</source>
+        <translation>ses liens symboliques tournent en rond</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it is read-only</source>
+        <translation>il est en lecture seule</translation>
+    </message>
+    <message>
+        <source>another program is saving it right now</source>
+        <translation>un autre programme est en train de l’enregistrer</translation>
+    </message>
+    <message>
+        <source>The file could not be saved: its name is empty or has a NUL in it.</source>
+        <translation>Le fichier n’a pas pu être enregistré : son nom est vide ou contient un caractère NUL.</translation>
+    </message>
+    <message>
+        <source>%@ was saved, but the disk may not have kept it: %@.</source>
+        <translation>%@ a été enregistré, mais le disque ne l’a peut-être pas conservé : %@.</translation>
+    </message>
+    <message>
+        <source>%@ could not be saved: %@. The older file was kept.</source>
+        <translation>%@ n’a pas pu être enregistré : %@. L’ancien fichier a été conservé.</translation>
+    </message>
+    <message>
+        <source>%@ could not be saved: %@.</source>
+        <translation>%@ n’a pas pu être enregistré : %@.</translation>
+    </message>
+    <message>
+        <source>%@ is not a regular file.</source>
+        <translation>%@ n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>%@ could not be read: %@.</source>
+        <translation>%@ n’a pas pu être lu : %@.</translation>
+    </message>
+    <message>
+        <source>No such file: %@.</source>
+        <translation>Ce fichier n’existe pas : %@.</translation>
+    </message>
+    <message>
+        <source>%@ is not readable by you.</source>
+        <translation>Vous n’avez pas le droit de lire %@.</translation>
+    </message>
+    <message>
+        <source>%@ is a symbolic link that leads in a circle.</source>
+        <translation>%@ est un lien symbolique qui tourne en rond.</translation>
+    </message>
+    <message>
+        <source>The file name is too long: %@.</source>
+        <translation>Le nom du fichier est trop long : %@.</translation>
+    </message>
+    <message>
+        <source>%@ could not be opened: %@.</source>
+        <translation>%@ n’a pas pu être ouvert : %@.</translation>
+    </message>
+    <message>
+        <source>%@ is a folder, not a file.</source>
+        <translation>%@ est un dossier, pas un fichier.</translation>
+    </message>
+    <message>
+        <source>%@ is larger than %@.</source>
+        <translation>%@ dépasse %@.</translation>
+    </message>
+    <message>
+        <source>The folder %@ could not be made: %@.</source>
+        <translation>Le dossier %@ n’a pas pu être créé : %@.</translation>
+    </message>
+    <message>
+        <source>%@ is damaged and cannot be moved aside: %@.</source>
+        <translation>%@ est endommagé et ne peut pas être mis de côté : %@.</translation>
+    </message>
+    <message>
+        <source>The file has curves for more than %@ displays.</source>
+        <translation>Le fichier contient des courbes pour plus de %@ écrans.</translation>
     </message>
 </context>
 <context>

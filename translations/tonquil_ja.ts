@@ -314,6 +314,10 @@
         <source>Edited: %1</source>
         <translation>編集対象: %1</translation>
     </message>
+    <message>
+        <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
+        <translation>現在、変更は保存されていません。Tonquil は保存を試み続けます。</translation>
+    </message>
 </context>
 <context>
     <name>PanelSubject</name>
@@ -560,8 +564,124 @@
         <translation>メモリが足りないため、プロパティリストを読み込めません。</translation>
     </message>
     <message>
-        <source>This property list holds no settings.</source>
-        <translation>このプロパティリストには設定が含まれていません。</translation>
+        <source>There is no room for the curves of so many more displays.</source>
+        <translation>これほど多くのディスプレイの曲線を追加する余地はありません。</translation>
+    </message>
+    <message>
+        <source>no space is left on the disk</source>
+        <translation>ディスクに空きがありません</translation>
+    </message>
+    <message>
+        <source>your share of the disk is used up</source>
+        <translation>ディスクの割り当てを使い切っています</translation>
+    </message>
+    <message>
+        <source>the file would be larger than is allowed</source>
+        <translation>ファイルが許可された大きさを超えます</translation>
+    </message>
+    <message>
+        <source>you may not write there</source>
+        <translation>そこに書き込む権限がありません</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation>ディスクは読み取り専用です</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>フォルダがありません</translation>
+    </message>
+    <message>
+        <source>a part of its path is not a folder</source>
+        <translation>パスの一部がフォルダではありません</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>名前が長すぎます</translation>
+    </message>
+    <message>
+        <source>its symbolic links lead in a circle</source>
+        <translation>シンボリックリンクが循環しています</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>それはフォルダです</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is read-only</source>
+        <translation>読み取り専用です</translation>
+    </message>
+    <message>
+        <source>another program is saving it right now</source>
+        <translation>別のプログラムが保存中です</translation>
+    </message>
+    <message>
+        <source>The file could not be saved: its name is empty or has a NUL in it.</source>
+        <translation>ファイルを保存できませんでした。名前が空か、NUL を含んでいます。</translation>
+    </message>
+    <message>
+        <source>%@ was saved, but the disk may not have kept it: %@.</source>
+        <translation>%@ は保存されましたが、ディスクに残っていない可能性があります: %@。</translation>
+    </message>
+    <message>
+        <source>%@ could not be saved: %@. The older file was kept.</source>
+        <translation>%@ を保存できませんでした: %@。以前のファイルは残っています。</translation>
+    </message>
+    <message>
+        <source>%@ could not be saved: %@.</source>
+        <translation>%@ を保存できませんでした: %@。</translation>
+    </message>
+    <message>
+        <source>%@ is not a regular file.</source>
+        <translation>%@ は通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>%@ could not be read: %@.</source>
+        <translation>%@ を読み込めませんでした: %@。</translation>
+    </message>
+    <message>
+        <source>No such file: %@.</source>
+        <translation>ファイルがありません: %@。</translation>
+    </message>
+    <message>
+        <source>%@ is not readable by you.</source>
+        <translation>%@ を読み取る権限がありません。</translation>
+    </message>
+    <message>
+        <source>%@ is a symbolic link that leads in a circle.</source>
+        <translation>%@ は循環するシンボリックリンクです。</translation>
+    </message>
+    <message>
+        <source>The file name is too long: %@.</source>
+        <translation>ファイル名が長すぎます: %@。</translation>
+    </message>
+    <message>
+        <source>%@ could not be opened: %@.</source>
+        <translation>%@ を開けませんでした: %@。</translation>
+    </message>
+    <message>
+        <source>%@ is a folder, not a file.</source>
+        <translation>%@ はファイルではなくフォルダです。</translation>
+    </message>
+    <message>
+        <source>%@ is larger than %@.</source>
+        <translation>%@ は %@ を超えています。</translation>
+    </message>
+    <message>
+        <source>The folder %@ could not be made: %@.</source>
+        <translation>フォルダ %@ を作成できませんでした: %@。</translation>
+    </message>
+    <message>
+        <source>%@ is damaged and cannot be moved aside: %@.</source>
+        <translation>%@ は壊れており、退避できません: %@。</translation>
+    </message>
+    <message>
+        <source>The file has curves for more than %@ displays.</source>
+        <translation>このファイルには %@ 台を超えるディスプレイの曲線が含まれています。</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,11 @@ bool Correction::applyCorrection() const {
 }
 
 void Correction::setApplyCorrection(bool isOn) {
+    switchTo(isOn);
+    _preferences.setValue(settingsKey::applyCorrection, isOn);
+}
+
+void Correction::switchTo(bool isOn) {
     if (isOn && std::exchange(_wasSwitchedOff, false)) {
         // What others set in the meantime is the system's.
         readBases();
@@ -26,7 +31,6 @@ void Correction::setApplyCorrection(bool isOn) {
     if (show) {
         show(isOn);
     }
-    _preferences.setValue(settingsKey::applyCorrection, isOn);
 }
 
 void Correction::activateScreens() {

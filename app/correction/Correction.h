@@ -19,8 +19,10 @@ class Correction {
 
     [[nodiscard]] bool applyCorrection() const;
     /// On: every display takes its curve, now and whenever it is given one. Off: the displays are
-    /// given back to the system's calibration at once.
+    /// given back to the system's calibration at once. The preferences keep it.
     void setApplyCorrection(bool isOn);
+    /// The same, where the preferences say so already.
+    void switchTo(bool isOn);
     /// Puts every display's curve on it, whatever is there now; does nothing while off.
     void _applyCurvesToScreen();
     /// Takes the system's present calibration of every display for its base; tells whether one has
@@ -34,7 +36,7 @@ class Correction {
     /// Lets every listed display take part in what was switched on or off, new ones too.
     void activateScreens();
 
-    /// Called with the new state by each `setApplyCorrection`, before it is stored.
+    /// Called with the new state whenever the correction is switched, before it is stored.
     std::function<void(bool)> show;
 
  private:

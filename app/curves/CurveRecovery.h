@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "foundation/Problem.h"
 #include "values/PropertyValue.h"
 
 namespace tonquil {
@@ -16,9 +15,10 @@ class CurveRecovery {
     /// What a program that did not end in order has left; an empty dictionary when there is
     /// nothing, or nothing that can be read.
     [[nodiscard]] virtual PropertyValue leftCurves() = 0;
-    /// Replaces what is kept; on the disk when it returns.
-    [[nodiscard]] virtual Result<void> keep(const PropertyValue& curves) = 0;
-    /// Forgets what is kept.
+    /// Replaces what is kept, as soon as the disk allows: of what is asked for meanwhile, only the
+    /// newest is kept.
+    virtual void keep(PropertyValue curves) = 0;
+    /// Forgets what is kept; done when it returns.
     virtual void forget() = 0;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/curves/CurveStorage.h"
 
+#include <algorithm>
 #include <iterator>
 #include <string>
 #include <utility>
@@ -12,25 +13,27 @@ namespace tonquil {
 
 namespace {
 
-// A file that has only one curve for all twins means them all: their older curves go.
-void eraseReplaced(PropertyValue& stored, const PropertyValue& curves) {
+// A file that has only one curve for all twins means them all: their older curves go. Returns how
+// many went.
+std::size_t eraseReplaced(PropertyValue& stored, const PropertyValue& curves) {
+    const std::size_t before = stored.size();
     for (auto each = stored.begin(); each != stored.end();) {
         const std::string& key = each.key();
         const bool isReplaced =
             curves.contains(key) || curves.contains(key.substr(0, key.rfind('@')));
         each = isReplaced ? stored.erase(each) : std::next(each);
     }
+    return before - stored.size();
 }
 
 }  // namespace
 
 CurveStorage::CurveStorage(ScreenRegistry& registry, PreferencesStore& preferences,
-                           CurveRecovery& recovery, RunLoop& runLoop, Log log)
+                           CurveRecovery& recovery, RunLoop& runLoop)
     : _registry(registry),
       _preferences(preferences),
       _recovery(recovery),
       _runLoop(runLoop),
-      _log(std::move(log)),
       _left(recovery.leftCurves()) {}
 
 PropertyValue CurveStorage::storedCurves() const {
@@ -41,7 +44,6 @@ PropertyValue CurveStorage::storedCurves() const {
 }
 
 void CurveStorage::_adoptDefaultCurves() {
-    saveLeftCurves();
     const PropertyValue curves = storedCurves();
     for (const auto& screen : _registry.screens()) {
         screen->retriveExtendedGammaCurve();
@@ -49,31 +51,33 @@ void CurveStorage::_adoptDefaultCurves() {
     _registry.adoptGammaCurveDictionary(curves, nullptr);
 }
 
-// Once these are in the preferences, the recovery file of the crashed run is no longer needed.
-void CurveStorage::saveLeftCurves() {
-    if (_left.empty()) {
-        return;
-    }
-    _preferences.setValue(settingsKey::screens, storedCurves());
-    if (_preferences.synchronize()) {
-        _recovery.forget();
-        _left = PropertyValue::object();
-    }
-}
-
 void CurveStorage::_updateDefaultCurves() {
     _preferences.setValue(settingsKey::screens,
                           _registry.gammaCurveDictionaryExtendingDictionary(storedCurves()));
 }
 
-// The opened file must win over curves that are still waiting to be saved.
+bool CurveStorage::hasRoomFor(const PropertyValue& curves) const {
+    PropertyValue all = storedCurves();
+    const std::size_t before = all.size();
+    all.update(curves);
+    return all.size() <= std::max(mostStored, before);
+}
+
+// The opened file must win over curves that are still waiting to be saved. What the recovery file
+// holds has the last word after a crash, so it must hold the same.
 void CurveStorage::storeCurves(const PropertyValue& curves) {
     PropertyValue all = storedCurves();
-    for (PropertyValue* stored : {&all, &_left, &_kept}) {
-        eraseReplaced(*stored, curves);
+    std::size_t replaced = 0;
+    for (PropertyValue* stored : {&_left, &_kept}) {
+        replaced += eraseReplaced(*stored, curves);
     }
+    eraseReplaced(all, curves);
     all.update(curves);
     _preferences.setValue(settingsKey::screens, std::move(all));
+    if (_timer || replaced > 0) {
+        _kept.update(curves);
+        keepCurves();
+    }
 }
 
 void CurveStorage::curvesWereEdited() {
@@ -94,11 +98,7 @@ void CurveStorage::keepCurves() {
     _kept.update(_registry.gammaCurveDictionaryOver(storedCurves()));
     PropertyValue all = _left;
     all.update(_kept);
-    const Result<void> kept = _recovery.keep(all);
-    if (!kept && !_hasFailed && _log) {
-        _log(kept.error().sentence);
-    }
-    _hasFailed = !kept;
+    _recovery.keep(std::move(all));
 }
 
 void CurveStorage::close() {

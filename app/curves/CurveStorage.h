@@ -5,7 +5,6 @@
 
 #include "app/curves/CurveRecovery.h"
 #include "app/preferences/PreferencesStore.h"
-#include "foundation/Log.h"
 #include "foundation/RunLoop.h"
 #include "screens/ScreenRegistry.h"
 
@@ -18,9 +17,12 @@ class CurveStorage {
     /// Within this time after an edit the curves are on the disk.
     static constexpr std::chrono::milliseconds keepingDelay{500};
 
+    /// The most displays whose curves are kept for the day that they come back.
+    static constexpr std::size_t mostStored = 512;
+
     /// Loads the recovery file that a crashed run left behind, if any.
     CurveStorage(ScreenRegistry& registry, PreferencesStore& preferences, CurveRecovery& recovery,
-                 RunLoop& runLoop, Log log);
+                 RunLoop& runLoop);
 
     /// The curves by reference ID: those in the preferences, overlaid with edits that have not been
     /// saved there yet.
@@ -30,7 +32,10 @@ class CurveStorage {
     /// Writes the displays' curves into the preferences. Those stored for displays that are not
     /// attached now stay.
     void _updateDefaultCurves();
-    /// Adds the curves of an opened file to the stored ones, replacing those with the same key.
+    /// Whether there is room for these beside those that are stored.
+    [[nodiscard]] bool hasRoomFor(const PropertyValue& curves) const;
+    /// Adds the curves of an opened file to the stored ones, replacing those with the same key. To
+    /// be called once the displays have them.
     void storeCurves(const PropertyValue& curves);
     /// To be called after each edit.
     void curvesWereEdited();
@@ -40,20 +45,17 @@ class CurveStorage {
     void close();
 
  private:
-    void saveLeftCurves();
     void keepCurves();
 
     ScreenRegistry& _registry;
     PreferencesStore& _preferences;
     CurveRecovery& _recovery;
     RunLoop& _runLoop;
-    Log _log;
-    /// What a run that crashed has left, until it is stored.
+    /// What a run that crashed has left, until this one ends.
     PropertyValue _left;
-    /// Edited in this run.
+    /// Edited in this run, or opened over what was.
     PropertyValue _kept = PropertyValue::object();
     std::unique_ptr<RunLoop::Handle> _timer;
-    bool _hasFailed = false;
 };
 
 }  // namespace tonquil

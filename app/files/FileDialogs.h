@@ -28,9 +28,10 @@ class FileDialogs {
     virtual void chooseFileToOpen(Chosen chosen) = 0;
     /// Begins with `format`; the person may choose the other one.
     virtual void chooseFileToSave(SettingsFormat format, ChosenWithFormat chosen) = 0;
-    /// One sentence with a title above it, and the button "OK". Both are keys of the context
-    /// "Problem"; `arguments` are put into the translated message (see `formattedText`). A
-    /// message that nobody has translated is shown as it is.
+    /// One sentence with a title above it, and the button "OK"; while one is up, it shows the new
+    /// sentence instead. Both are keys of the context "Problem"; `arguments` are put into the
+    /// translated message (see `formattedText`). A message that nobody has translated is shown as
+    /// it is.
     virtual void alert(const std::string& title, const std::string& message,
                        const std::vector<std::string>& arguments) = 0;
 };

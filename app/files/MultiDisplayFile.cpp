@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "app/files/FileDialogs.h"
+#include "plist/Unicode.h"
 
 namespace tonquil {
 
@@ -12,7 +13,9 @@ MultiDisplayFile::MultiDisplayFile(const PropertyValue& screens) {
         return;
     }
     for (const auto& [key, value] : screens.items()) {
-        if (value.is_object()) {
+        // A key of control characters could not be stored, and all that is stored beside it
+        // neither.
+        if (value.is_object() && isPropertyListText(key)) {
             _curves[key] = TQExtendedGammaCurve::gammaCurveWithDictionary(value);
         }
     }

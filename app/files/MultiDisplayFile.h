@@ -15,7 +15,8 @@ namespace tonquil {
 /// The curves of several displays, as a settings file holds them.
 class MultiDisplayFile {
  public:
-    /// Reads the file's "Screens". Entries that are not dictionaries are skipped.
+    /// Reads the file's "Screens". Entries that are not dictionaries, or whose key a property list
+    /// cannot hold, are skipped.
     explicit MultiDisplayFile(const PropertyValue& screens);
 
     /// The curves as an all-screens dictionary, in the form that is written today.

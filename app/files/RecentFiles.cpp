@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "app/preferences/SettingsKeys.h"
+#include "plist/Unicode.h"
 #include "values/PropertyValue.h"
 
 namespace tonquil {
@@ -23,6 +24,10 @@ std::vector<std::filesystem::path> RecentFiles::files() const {
 void RecentFiles::add(const std::filesystem::path& file) {
     std::error_code unknown;
     const std::filesystem::path whole = std::filesystem::absolute(file, unknown).lexically_normal();
+    // A file's name may be any bytes, of which the preferences can hold only text.
+    if (!isPropertyListText(whole.native())) {
+        return;
+    }
     std::vector<std::string> texts{whole.string()};
     for (const std::string& text : _preferences.stringsForKey(settingsKey::recentFiles)) {
         if (text != texts.front() && texts.size() < most) {

@@ -20,6 +20,7 @@ class RecentFiles {
 
     /// Newest first; those that are gone are left out.
     [[nodiscard]] std::vector<std::filesystem::path> files() const;
+    /// Does nothing for a name that is no text.
     void add(const std::filesystem::path& file);
 
  private:

@@ -52,7 +52,9 @@ bool SettingsFiles::_openFile(const std::filesystem::path& file) {
 }
 
 bool SettingsFiles::refuseFile(const Problem& problem) {
-    _with.dialogs.alert(TONQUIL_TEXT("Problem", "The file was not opened"), problem.sentence, {});
+    _with.log(problem.sentence);
+    _with.dialogs.alert(TONQUIL_TEXT("Problem", "The file was not opened"), problem.key(),
+                        problem.arguments);
     return false;
 }
 
@@ -65,9 +67,17 @@ bool SettingsFiles::openSettings(const SingleDisplaySettings& settings) {
 bool SettingsFiles::openSettings(const MultiDisplaySettings& settings) {
     if (settings.screens.is_object()) {
         const MultiDisplayFile file(settings.screens);
-        _with.storage.storeCurves(file.allScreensDictionary());
+        const PropertyValue curves = file.allScreensDictionary();
+        if (!_with.storage.hasRoomFor(curves)) {
+            return refuseFile({.sentence = TONQUIL_TEXT("Problem",
+                                                        "There is no room for the curves of so "
+                                                        "many more displays."),
+                               .detail = {}});
+        }
         _with.editing.willEdit(_with.registry.sightedScreens(), editSubject::openedFile);
-        if (file.applyTo(_with.registry) == 0) {
+        const std::size_t count = file.applyTo(_with.registry);
+        _with.storage.storeCurves(curves);
+        if (count == 0) {
             _with.dialogs.alert(
                 TONQUIL_TEXT("Problem", "No Matching Screens"),
                 TONQUIL_TEXT("Problem",
@@ -84,9 +94,6 @@ bool SettingsFiles::openSettings(const MultiDisplaySettings& settings) {
 
 bool SettingsFiles::openSettings(const RawTableSettings& settings) {
     const auto curve = KVTableGammaCurve::tableGammaCurveWithData(settings.bytes);
-    if (settings.failedPropertyList) {
-        return refuseFile(*settings.failedPropertyList);
-    }
     if (!curve) {
         return refuseFile(
             {.sentence = TONQUIL_TEXT("Problem",

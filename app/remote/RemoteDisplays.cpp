@@ -113,8 +113,10 @@ void RemoteDisplays::setCurve(KVScreen& screen, const PropertyValue& compactArra
         _log(line.append(screen.referenceID()).append(": no display can show it."));
         return;
     }
-    // Companions repeat what they have sent, since nobody tells them that it came.
+    // Companions repeat what they have sent, since nobody tells them that it came. It is no edit,
+    // yet the display may have been disturbed.
     if (compactArrayOf(screen) == curve->gammaCurveCompactArray()) {
+        screen.setGammaCurve(curve);
         return;
     }
     const auto& screens = _registry.screens();

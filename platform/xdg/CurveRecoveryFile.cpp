@@ -11,29 +11,79 @@
 
 namespace tonquil {
 
-CurveRecoveryFile::CurveRecoveryFile(std::filesystem::path file, Log log)
-    : _file(std::move(file)), _log(std::move(log)) {}
+/// One write, with what came of it.
+struct CurveRecoveryFile::Job {
+    PropertyListFile file;
+    PropertyValue curves;
+    Result<void> kept = {};
+};
+
+CurveRecoveryFile::CurveRecoveryFile(std::filesystem::path file, RunLoop& runLoop, DiskQueue& disk,
+                                     SaveReports reports)
+    : _file(std::move(file)),
+      _runLoop(runLoop),
+      _disk(disk),
+      _log(reports.log),
+      _keeping(std::move(reports)) {}
+
+CurveRecoveryFile::~CurveRecoveryFile() {
+    // What it adds calls back.
+    _disk.finish();
+}
 
 PropertyValue CurveRecoveryFile::leftCurves() {
     PropertyListFile::Contents contents = _file.read();
     if (contents.state == PropertyListFile::State::Damaged) {
         const auto aside = _file.moveAside();
-        log(aside ? contents.reason + " It was kept as " + aside->native() + "."
-                  : contents.reason + " " + aside.error().sentence);
+        log(aside ? contents.reason() + " It was kept as " + aside->native() + "."
+                  : contents.reason() + " " + aside.error().sentence);
     } else if (contents.state == PropertyListFile::State::Unreadable) {
-        log(contents.reason);
+        log(contents.reason());
     }
     return std::move(contents.dictionary);
 }
 
-Result<void> CurveRecoveryFile::keep(const PropertyValue& curves) {
-    if (!curves.is_object()) {
-        return problem("What is kept for recovery must be a dictionary.");
+void CurveRecoveryFile::keep(PropertyValue curves) {
+    _wanted = std::move(curves);
+    startKeeping();
+}
+
+void CurveRecoveryFile::startKeeping() {
+    _retry.reset();
+    if (_isKeeping || !_wanted) {
+        return;
     }
-    return makeFolder(_file.path().parent_path()).and_then([&] { return _file.write(curves); });
+    _isKeeping = true;
+    const auto job = std::make_shared<Job>(Job{_file, *std::exchange(_wanted, std::nullopt)});
+    _disk.add(
+        [job] {
+            job->kept = makeFolder(job->file.path().parent_path()).and_then([&job] {
+                return job->file.write(job->curves, /*isFlushed=*/false);
+            });
+        },
+        [this, job] { endKeeping(*job); });
+}
+
+void CurveRecoveryFile::endKeeping(Job& job) {
+    _isKeeping = false;
+    if (job.kept) {
+        _keeping.end();
+        startKeeping();
+        return;
+    }
+    constexpr std::chrono::seconds retryAfterFailure(2);
+    _keeping.begin(job.kept.error());
+    if (!_wanted) {
+        _wanted = std::move(job.curves);
+    }
+    _retry = _runLoop.callOnce(retryAfterFailure, [this] { startKeeping(); });
 }
 
 void CurveRecoveryFile::forget() {
+    _disk.finish();
+    _wanted.reset();
+    _retry.reset();
+    _keeping.end();
     const std::filesystem::path& path = _file.path();
     // A kill may have left the half of a newer one as well.
     std::string temporary = ".";

@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <system_error>
 
+#include "foundation/TranslatableText.h"
+
 namespace tonquil {
 
 namespace {
@@ -15,7 +17,8 @@ constexpr mode_t ownerOnly = 0700;
 
 auto notMade(const std::filesystem::path& folder, int error) {
     const std::string words = std::generic_category().message(error);
-    return problem(folder.native() + " could not be made as a folder: " + words + ".");
+    return problemWith(TONQUIL_TEXT("Problem", "The folder %@ could not be made: %@."),
+                       {folder.native(), words});
 }
 
 }  // namespace

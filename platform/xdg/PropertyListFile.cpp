@@ -11,6 +11,7 @@
 
 #include "files/AtomicFile.h"
 #include "files/BoundedFile.h"
+#include "foundation/TranslatableText.h"
 #include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
 
@@ -18,26 +19,21 @@ namespace tonquil {
 
 namespace {
 
-std::string textOf(const Problem& problem) {
-    return problem.detail.empty() ? problem.sentence
-                                  : problem.sentence + " (" + problem.detail + ")";
-}
-
-PropertyListFile::Contents damaged(std::string reason) {
-    return {.state = PropertyListFile::State::Damaged, .reason = std::move(reason)};
+PropertyListFile::Contents damaged(Problem problem) {
+    return {.state = PropertyListFile::State::Damaged, .problem = std::move(problem)};
 }
 
 /// What a file is that could not be read at all.
-PropertyListFile::Contents unread(const std::filesystem::path& path, std::string reason) {
+PropertyListFile::Contents unread(const std::filesystem::path& path, Problem problem) {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR)) {
         return {};
     }
     if (S_ISREG(status.st_mode) &&
         static_cast<std::uint64_t>(status.st_size) > PropertyListFile::budget().mostBytes) {
-        return damaged(std::move(reason));
+        return damaged(std::move(problem));
     }
-    return {.state = PropertyListFile::State::Unreadable, .reason = std::move(reason)};
+    return {.state = PropertyListFile::State::Unreadable, .problem = std::move(problem)};
 }
 
 std::string timeText() {
@@ -66,23 +62,31 @@ PropertyListBudget PropertyListFile::budget() {
 }
 
 PropertyListFile::Contents PropertyListFile::read() const {
-    const auto bytes = readBoundedFile(_path, budget().mostBytes);
+    auto bytes = readBoundedFile(_path, budget().mostBytes);
     if (!bytes) {
-        return unread(_path, textOf(bytes.error()));
+        return unread(_path, std::move(bytes.error()));
     }
     auto list = readPropertyList(*bytes, budget());
     if (!list) {
-        return damaged(_path.native() + " cannot be understood. " + textOf(list.error()));
+        return damaged(
+            {.sentence = _path.native() + " cannot be understood. " + list.error().sentence,
+             .detail = std::move(list.error().detail)});
     }
     if (!list->is_object()) {
-        return damaged(_path.native() + " holds no dictionary.");
+        return damaged({.sentence = _path.native() + " holds no dictionary.", .detail = {}});
     }
-    return {.state = State::Read, .dictionary = std::move(*list), .reason = {}};
+    return {.state = State::Read, .dictionary = std::move(*list)};
 }
 
-Result<void> PropertyListFile::write(const PropertyValue& dictionary) const {
-    return writePropertyList(dictionary, budget()).and_then([this](const std::string& text) {
-        return writeFileAtomically(_path, std::vector<std::uint8_t>(text.begin(), text.end()));
+std::string PropertyListFile::Contents::reason() const {
+    return problem.detail.empty() ? problem.sentence
+                                  : problem.sentence + " (" + problem.detail + ")";
+}
+
+Result<void> PropertyListFile::write(const PropertyValue& dictionary, bool isFlushed) const {
+    return writePropertyList(dictionary, budget()).and_then([&](const std::string& text) {
+        return writeFileAtomically(_path, std::vector<std::uint8_t>(text.begin(), text.end()),
+                                   {.isFlushed = isFlushed});
     });
 }
 
@@ -98,8 +102,12 @@ Result<std::filesystem::path> PropertyListFile::moveAside() const {
             return aside;
         }
     }
-    return problem(_path.native() + " is damaged and cannot be moved aside: " +
-                   std::generic_category().message(error) + ".");
+    return problemWith(TONQUIL_TEXT("Problem", "%@ is damaged and cannot be moved aside: %@."),
+                       {_path.native(), std::generic_category().message(error)});
+}
+
+bool isSame(const PropertyValue& a, const PropertyValue& b) {
+    return PropertyValue::to_cbor(a) == PropertyValue::to_cbor(b);
 }
 
 }  // namespace tonquil

@@ -24,8 +24,11 @@ class PropertyListFile {
         State state = State::Missing;
         /// Empty unless it was read.
         PropertyValue dictionary = PropertyValue::object();
-        /// A line for the log, of what is damaged or unreadable.
-        std::string reason;
+        /// What is damaged or unreadable.
+        Problem problem = {};
+
+        /// The same as a line for the log.
+        [[nodiscard]] std::string reason() const;
     };
 
     explicit PropertyListFile(std::filesystem::path path) : _path(std::move(path)) {}
@@ -35,8 +38,9 @@ class PropertyListFile {
     [[nodiscard]] const std::filesystem::path& path() const { return _path; }
 
     [[nodiscard]] Contents read() const;
-    /// Replaces it as a whole, mode 0600; on the disk on return. Its folder must exist.
-    [[nodiscard]] Result<void> write(const PropertyValue& dictionary) const;
+    /// Replaces it as a whole, mode 0600; on the disk on return, unless it is not flushed. Its
+    /// folder must exist.
+    [[nodiscard]] Result<void> write(const PropertyValue& dictionary, bool isFlushed = true) const;
     /// Renames it to <name>.damaged-<time, UTC>, or to that with a number behind it where the name
     /// is taken, and gives the new path.
     [[nodiscard]] Result<std::filesystem::path> moveAside() const;
@@ -44,5 +48,9 @@ class PropertyListFile {
  private:
     std::filesystem::path _path;
 };
+
+/// Equality to the byte: the library's own has no not-a-number equal to another, and an integer
+/// equal to a real.
+[[nodiscard]] bool isSame(const PropertyValue& a, const PropertyValue& b);
 
 }  // namespace tonquil

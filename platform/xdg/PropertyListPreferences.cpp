@@ -1,13 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/xdg/PropertyListPreferences.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <exception>
-#include <thread>
 #include <utility>
 
 #include "platform/xdg/Folder.h"
@@ -19,14 +14,11 @@ namespace {
 
 using std::chrono::milliseconds;
 
+// While another process saves.
 constexpr milliseconds firstRetry(20);
 constexpr milliseconds longestRetry(1000);
-
-/// Equality to the byte: the library's own has no not-a-number equal to another, and an integer
-/// equal to a real.
-bool isSame(const PropertyValue& a, const PropertyValue& b) {
-    return PropertyValue::to_cbor(a) == PropertyValue::to_cbor(b);
-}
+// While the disk is full, or cannot be written to.
+constexpr milliseconds retryAfterFailure(2000);
 
 }  // namespace
 
@@ -39,25 +31,23 @@ class PropertyListPreferences::OwnSubscription final : public Subscription {
     std::shared_ptr<Subscriber> _subscriber;
 };
 
-void PropertyListPreferences::Trouble::begin(const PropertyListPreferences& store,
-                                             std::string_view line) {
-    if (!std::exchange(_isKnown, true)) {
-        store.log(line);
-    }
-}
-
 PropertyListPreferences::PropertyListPreferences(std::filesystem::path file, RunLoop& runLoop,
-                                                 Log log, milliseconds longestWait)
+                                                 DiskQueue& disk, SaveReports reports,
+                                                 milliseconds longestWait)
     : _file(std::move(file)),
       _runLoop(runLoop),
-      _log(std::move(log)),
+      _disk(disk),
+      _log(reports.log),
       _longestWait(longestWait),
-      _watch(runLoop, _file.path(), [this] { take(_file.read()); }) {
+      _watch(runLoop, _file.path(), [this] { readAgain(); }),
+      _watching({.log = reports.log}),
+      _reading({.log = reports.log}),
+      _saving(std::move(reports)) {
     // Before the file is read, so that nothing happens unseen in between.
     watchFolder();
     PropertyListFile::Contents contents = _file.read();
     if (contents.state == PropertyListFile::State::Damaged) {
-        saveOrRetry();
+        save();
     } else {
         take(std::move(contents));
     }
@@ -125,7 +115,7 @@ void PropertyListPreferences::noteChange() {
 void PropertyListPreferences::endEvent() {
     _isEndPosted = false;
     if (!_unsaved.empty()) {
-        saveOrRetry();
+        save();
     }
     std::erase_if(_subscribers, [](const auto& subscriber) { return subscriber.expired(); });
     // A handler may set values, which is another event, subscribe, unsubscribe, or end the store.
@@ -150,7 +140,7 @@ void PropertyListPreferences::watchFolder() {
     if (watched) {
         _watching.end();
     } else {
-        _watching.begin(*this, watched.error().sentence);
+        _watching.begin(watched.error());
     }
 }
 
@@ -160,7 +150,8 @@ void PropertyListPreferences::take(PropertyListFile::Contents contents) {
         _reading.end();
         adopt(std::move(contents.dictionary));
     } else {
-        _reading.begin(*this, contents.reason + " The program goes on without it.");
+        _reading.begin(
+            {.sentence = contents.reason() + " The program goes on without it.", .detail = {}});
     }
 }
 
@@ -178,86 +169,84 @@ void PropertyListPreferences::adopt(PropertyValue dictionary) {
     }
 }
 
-std::optional<FileHandle> PropertyListPreferences::lock() const {
-    const std::string path = _file.path().native() + ".lock";
-    FileHandle file(::open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
-    if (::flock(file.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-        return std::nullopt;
+// While a save is under way, the file may be between two names: it is read after that.
+void PropertyListPreferences::readAgain() {
+    if (!_isSaving) {
+        take(_file.read());
     }
-    // Where there can be no lock, the file is still replaced as a whole.
-    return file;
 }
 
-void PropertyListPreferences::saveOrRetry() {
-    watchFolder();
-    if (const auto held = lock()) {
-        save();
+// What is set during a save goes with the next one.
+void PropertyListPreferences::save() {
+    _retry.reset();
+    if (std::exchange(_isSaving, true)) {
         return;
     }
-    _retryDelay = std::clamp(2 * _retryDelay, firstRetry, longestRetry);
-    _retry = _runLoop.callOnce(_retryDelay, [this] { saveOrRetry(); });
+    const auto job = std::make_shared<PreferencesSave>(newSave());
+    _disk.add([job] { job->run(); },
+              [this, job, alive = std::weak_ptr(_alive)] {
+                  if (!alive.expired()) {
+                      endSave(*job);
+                  }
+              });
+}
+
+PreferencesSave PropertyListPreferences::newSave() {
+    _underway = std::exchange(_unsaved, {});
+    return {.file = _file, .values = _values, .changed = _underway};
+}
+
+void PropertyListPreferences::endSave(const PreferencesSave& save) {
+    for (const std::string& note : save.notes) {
+        log(note);
+    }
+    const bool isSaved = save.outcome == PreferencesSave::Outcome::Saved;
+    if (!isSaved) {
+        _unsaved.merge(_underway);
+    }
+    if (!isSaved && save.hasMovedAside) {
+        for (const auto& item : _values.items()) {
+            _unsaved.insert(item.key());
+        }
+    }
+    _underway.clear();
+    _isSaving = false;
+    watchFolder();
+    // Others may have saved since, and told of it while nobody listened.
+    take(_file.read());
+    if (save.outcome == PreferencesSave::Outcome::Locked) {
+        retryIn(std::clamp(2 * _retryDelay, firstRetry, longestRetry));
+        return;
+    }
+    if (!isSaved) {
+        _saving.begin(save.problem);
+        retryIn(retryAfterFailure);
+        return;
+    }
+    _retryDelay = {};
+    _saving.end();
+    if (!_unsaved.empty()) {
+        this->save();
+    }
+}
+
+void PropertyListPreferences::retryIn(milliseconds delay) {
+    _retryDelay = delay;
+    _retry = _runLoop.callOnce(delay, [this] { save(); });
 }
 
 bool PropertyListPreferences::synchronize() {
-    if (!_unsaved.empty()) {
-        watchFolder();
-        const auto held = lockWithinLimit();
-        save();
-    } else {
+    _disk.finish();
+    if (_unsaved.empty()) {
         // A network's file systems tell nothing of what others write.
         take(_file.read());
+    } else {
+        PreferencesSave save = newSave();
+        save.longestWait = _longestWait;
+        save.run();
+        endSave(save);
     }
     return _unsaved.empty() && _refused.empty();
-}
-
-std::optional<FileHandle> PropertyListPreferences::lockWithinLimit() const {
-    constexpr milliseconds step(10);
-    auto held = lock();
-    for (milliseconds waited{}; !held && waited < _longestWait; waited += step) {
-        std::this_thread::sleep_for(step);
-        held = lock();
-    }
-    if (!held) {
-        log(_file.path().native() + " stays locked by another program and is saved all the same.");
-    }
-    return held;
-}
-
-void PropertyListPreferences::save() {
-    _retry.reset();
-    _retryDelay = {};
-    PropertyListFile::Contents contents = _file.read();
-    if (contents.state == PropertyListFile::State::Unreadable) {
-        _saving.begin(*this, contents.reason + " Settings are not saved.");
-        return;
-    }
-    if (contents.state == PropertyListFile::State::Damaged && !moveAside(contents.reason)) {
-        return;
-    }
-    _reading.end();
-    adopt(contents.dictionary);
-    if (!isSame(_values, contents.dictionary)) {
-        if (const auto written = _file.write(_values); !written) {
-            _saving.begin(*this, written.error().sentence);
-            return;
-        }
-    }
-    _unsaved.clear();
-    _saving.end();
-}
-
-bool PropertyListPreferences::moveAside(const std::string& reason) {
-    const auto aside = _file.moveAside();
-    if (!aside) {
-        _saving.begin(*this, reason + " " + aside.error().sentence);
-        return false;
-    }
-    log(reason + " It was kept as " + aside->native() + ".");
-    // What was read before the damage is in no file any more.
-    for (const auto& item : _values.items()) {
-        _unsaved.insert(item.key());
-    }
-    return true;
 }
 
 void PropertyListPreferences::log(std::string_view line) const {

@@ -3,25 +3,26 @@
 
 #include <chrono>
 #include <cstdint>
-#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "app/preferences/PreferencesStore.h"
-#include "files/FileHandle.h"
-#include "foundation/Log.h"
+#include "files/DiskQueue.h"
 #include "foundation/RunLoop.h"
 #include "platform/xdg/FileWatch.h"
+#include "platform/xdg/PreferencesSave.h"
 #include "platform/xdg/PropertyListFile.h"
+#include "platform/xdg/SaveReports.h"
 
 namespace tonquil {
 
 /// Settings in a property list, mode 0600, that several processes may use at once.
 ///
 /// Saving lays the keys that were set here over what the file holds by then; a side file
-/// <name>.lock keeps others from saving meanwhile. What cannot be saved stays readable, has one
-/// line in the log, and is tried again with the next value and by `synchronize`. A damaged file is
+/// <name>.lock keeps others from saving meanwhile. It is done away from the event loop, which no
+/// slow disk holds up. What cannot be saved stays readable, is reported once, and is tried again
+/// every two seconds, with the next value and by `synchronize`. A damaged file is
 /// moved aside at the start, and later when something has to be saved; until then the values that
 /// were read from it before count. One that may not be read is left as it is. Of a file that is
 /// removed, no values remain.
@@ -31,9 +32,10 @@ namespace tonquil {
 class PropertyListPreferences final : public PreferencesStore {
  public:
     /// Reads the file, and makes its folder, so that others' changes in it can be seen. `runLoop`
-    /// must outlive the store. Only `synchronize` waits for a lock, `longestWait` of real time at
-    /// most, and then saves without it.
-    PropertyListPreferences(std::filesystem::path file, RunLoop& runLoop, Log log,
+    /// and `disk` must outlive the store. Only `synchronize` waits for a lock, `longestWait` of
+    /// real time at most, and then saves without it.
+    PropertyListPreferences(std::filesystem::path file, RunLoop& runLoop, DiskQueue& disk,
+                            SaveReports reports,
                             std::chrono::milliseconds longestWait = std::chrono::seconds(2));
     /// Saves what still waits to be saved.
     ~PropertyListPreferences() override;
@@ -55,16 +57,6 @@ class PropertyListPreferences final : public PreferencesStore {
     };
     class OwnSubscription;
 
-    /// Something that fails again and again, and has one line in the log until it works.
-    class Trouble {
-     public:
-        void begin(const PropertyListPreferences& store, std::string_view line);
-        void end() { _isKnown = false; }
-
-     private:
-        bool _isKnown = false;
-    };
-
     [[nodiscard]] const PropertyValue* valueForKey(std::string_view key) const override;
     void log(std::string_view line) const;
 
@@ -74,15 +66,16 @@ class PropertyListPreferences final : public PreferencesStore {
     void take(PropertyListFile::Contents contents);
     /// Lays what is not saved yet over what the file holds.
     void adopt(PropertyValue dictionary);
-    /// Nothing while another program holds the lock.
-    [[nodiscard]] std::optional<FileHandle> lock() const;
-    [[nodiscard]] std::optional<FileHandle> lockWithinLimit() const;
-    void saveOrRetry();
+    void readAgain();
     void save();
-    [[nodiscard]] bool moveAside(const std::string& reason);
+    /// Takes the changes along that are not saved yet.
+    [[nodiscard]] PreferencesSave newSave();
+    void endSave(const PreferencesSave& save);
+    void retryIn(std::chrono::milliseconds delay);
 
     PropertyListFile _file;
     RunLoop& _runLoop;
+    DiskQueue& _disk;
     Log _log;
     std::chrono::milliseconds _longestWait;
     FileWatch _watch;
@@ -92,6 +85,9 @@ class PropertyListPreferences final : public PreferencesStore {
     PropertyValue _values = PropertyValue::object();
     /// The keys that were set, or taken away, since the last save.
     std::set<std::string> _unsaved;
+    /// Those of them that are being saved now.
+    std::set<std::string> _underway;
+    bool _isSaving = false;
     /// The keys that were last given a value that cannot be saved.
     std::set<std::string> _refused;
 
@@ -101,9 +97,9 @@ class PropertyListPreferences final : public PreferencesStore {
 
     std::chrono::milliseconds _retryDelay{};
     std::unique_ptr<RunLoop::Handle> _retry;
-    Trouble _watching;
-    Trouble _reading;
-    Trouble _saving;
+    RepeatedProblem _watching;
+    RepeatedProblem _reading;
+    RepeatedProblem _saving;
     /// Posted work holds it weakly, and does nothing once the store is gone.
     std::shared_ptr<const bool> _alive = std::make_shared<const bool>(true);
 };

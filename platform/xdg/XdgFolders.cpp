@@ -62,8 +62,9 @@ Result<XdgFolders> XdgFolders::fromEnvironment() {
     folders._config /= "tonquil";
     folders._state /= "tonquil";
     folders._runtime = pathFromEnvironment("XDG_RUNTIME_DIR");
-    folders._runtime =
-        folders._runtime.empty() ? runtimeInTemporary() : folders._runtime / "tonquil";
+    std::error_code unknown;
+    folders._runtime = fs::is_directory(folders._runtime, unknown) ? folders._runtime / "tonquil"
+                                                                   : runtimeInTemporary();
     return folders;
 }
 

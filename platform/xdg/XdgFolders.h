@@ -22,7 +22,7 @@ class XdgFolders {
     [[nodiscard]] const std::filesystem::path& state() const { return _state; }
 
     /// Sockets and locks of running programs: $XDG_RUNTIME_DIR/tonquil, else tonquil-<user number>
-    /// in the folder for temporary files.
+    /// in the folder for temporary files, as also where the variable names a missing folder.
     ///
     /// Makes it, and refuses one that others could have a hand in.
     [[nodiscard]] Result<std::filesystem::path> makeRuntime() const;

@@ -73,10 +73,7 @@ class RecordedDesktop final : public DesktopPresence,
     }
 
     [[nodiscard]] PropertyValue leftCurves() override { return recovery; }
-    [[nodiscard]] Result<void> keep(const PropertyValue& curves) override {
-        recovery = curves;
-        return {};
-    }
+    void keep(PropertyValue curves) override { recovery = std::move(curves); }
     void forget() override { recovery = PropertyValue::object(); }
 
     bool isRemoteShown = false;

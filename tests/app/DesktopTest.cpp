@@ -4,7 +4,7 @@
 
 #include "app/Requests.h"
 #include "app/desktop/LoginItem.h"
-#include "app/desktop/TextFormat.h"
+#include "foundation/TextFormat.h"
 #include "tests/app/ControllerBench.h"
 
 namespace tonquil {
@@ -190,9 +190,9 @@ TEST(LoginItem, IsReliableWhereProgramsAreInstalled) {
 }
 
 TEST(CommandLine, IsReadAndPassedOn) {
-    const std::vector<const char*> arguments{"--on",         "-session",      "10ab",
-                                             "--show-panel", "/a\n100%nfile", "--targets=grayscale",
-                                             "--display",    "101-0-0"};
+    const std::vector<const char*> arguments{
+        "--on",      "-session", "10ab", "--show-panel", "/a\n100%nfile", "--targets=grayscale",
+        "--display", "101-0-0",  "--",   "--on"};
     const Request on{.kind = Request::Kind::On};
     const Request showPanel{.kind = Request::Kind::ShowPanel};
     const Request cover{
@@ -200,11 +200,12 @@ TEST(CommandLine, IsReadAndPassedOn) {
     const Request open{.kind = Request::Kind::Open, .file = "/a\n100%nfile"};
     const auto line = readCommandLine(arguments);
     ASSERT_TRUE(line);
-    EXPECT_THAT(line->requests, ElementsAre(on, showPanel, open, cover));
-    EXPECT_THAT(requestsFromText(textFromRequests(line->requests)).value(),
-                ElementsAre(on, showPanel, open, cover));
+    const Request dashed{.kind = Request::Kind::Open,
+                         .file = std::filesystem::current_path() / "--on"};
+    EXPECT_THAT(line->requests, ElementsAre(on, showPanel, open, cover, dashed));
+    EXPECT_EQ(requestsFromText(textFromRequests(line->requests)).value(), line->requests);
     EXPECT_THAT(readCommandLine({})->requests, ElementsAre(Request{}));
-    for (const char* const refused : {"--of", "--", "--display"}) {
+    for (const char* const refused : {"--of", "-", "--display"}) {
         EXPECT_FALSE(readCommandLine(std::vector{refused, "101-0-0"})) << refused;
     }
     EXPECT_FALSE(requestsFromText("on\n\n"));

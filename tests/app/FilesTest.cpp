@@ -51,13 +51,27 @@ TEST_F(Files, ForOneDisplayGoToTheOneUnderThePanel) {
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.25F);
     bench.controller().undo();
     EXPECT_EQ(bench.red(left), 0);
-    // A raw table passes over the displays and leaves the way back.
-    bench.edit(PanelSlider::BlackRed, 0.5F);
-    open(fileWith(std::string(768, '\x40')));
-    EXPECT_EQ(bench.panel.shown, PanelValues{});
+    // What has these values is given them again, with nothing to undo.
+    open(fileWith(curve(0)));
+    EXPECT_FALSE(bench.panel.canUndo);
+}
+
+TEST_F(Files, WithoutADictionaryAreRawTablesWhateverFollows) {
+    const auto list = writePropertyList(PropertyValue::array({std::string(768, 'x')})).value();
+    // With a name that no preferences can hold: what else they hold is still saved.
+    const auto huge = fileWith(std::string(std::size_t{2} << 20U, '\x40'));
+    const auto strange = folder.path() / "\xFF";
+    std::filesystem::rename(huge, strange);
+    for (const auto& file : {fileWith(std::string(768, '\x40')), fileWith(list), strange}) {
+        SCOPED_TRACE(file);
+        bench.edit(PanelSlider::BlackRed, 0.5F);
+        open(file);
+        EXPECT_EQ(bench.panel.shown, PanelValues{});
+        bench.controller().undo();
+        EXPECT_EQ(bench.red(left), 0.5F);
+    }
     EXPECT_THAT(bench.dialogs.alerts, IsEmpty());
-    bench.controller().undo();
-    EXPECT_EQ(bench.red(left), 0.5F);
+    EXPECT_EQ(bench.controller().recentFiles().size(), 2U);
 }
 
 TEST_F(Files, ForSeveralDisplaysGoToTheirOwnAndWaitForTheOthers) {
@@ -92,10 +106,26 @@ TEST_F(Files, ForDisplaysThatAreNotHereSaySoAndAreKept) {
     EXPECT_EQ(bench.red(right), 0.5F);
 }
 
+TEST_F(Files, AreNotUndoneByWhatACrashLeaves) {
+    bench.movePanel(1100);
+    bench.edit(PanelSlider::BlackRed, 0.25F);
+    bench.desk.unplug(right);
+    ASSERT_TRUE(bench.desktop.recovery.contains(ControllerBench::referenceID(right)));
+    open(fileWith(PropertyValue{
+        {"Format", 1}, {"Screens", {{ControllerBench::referenceID(right), curve(0.5F)}}}}));
+    bench.desk.plug(ControllerBench::makeDisplay(right, 1000));
+    bench.launchAndSettle();  // The program before ended without a word.
+    EXPECT_EQ(bench.red(right), 0.5F);
+}
+
 TEST_F(Files, ThatAreNoSettingsChangeNothing) {
     bench.edit(PanelSlider::BlackRed, 0.25F);
+    PropertyValue many = {{"Format", 1}};
+    for (int display = 0; display <= 256; ++display) {
+        many["Screens"][std::to_string(display)] = PropertyValue::object();
+    }
     for (const auto& file :
-         {folder.path() / "missing", fileWith(std::string(767, 'x')),
+         {folder.path() / "missing", fileWith(std::string(767, 'x')), fileWith(many),
           fileWith("<?xml version=\"1.0\"?><plist><dict>" + std::string(1000, ' '))}) {
         SCOPED_TRACE(file);
         bench.dialogs.alerts.clear();

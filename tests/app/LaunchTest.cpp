@@ -110,11 +110,16 @@ TEST(Launch, PrefersWhatACrashLeftToWhatIsStored) {
     bench.loop.advance(std::chrono::milliseconds(500));
     bench.launchAndSettle();  // The program before ended without a word.
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.5F);
-    EXPECT_THAT(bench.desktop.recovery, IsEmpty()) << "It is stored now.";
     bench.edit(PanelSlider::BlackRed, 0.75F);
     bench.preferences.isWritable = false;
     bench.controller().applicationWillTerminate();
     EXPECT_FALSE(bench.desktop.recovery.empty()) << "It was all there was.";
+    bench.preferences.isWritable = true;
+    bench.launchAndSettle();
+    bench.controller().applicationWillTerminate();
+    EXPECT_THAT(bench.desktop.recovery, IsEmpty()) << "It is stored now.";
+    bench.launchAndSettle();
+    EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.75F);
 }
 
 TEST(Launch, ReopeningShowsThePanelOrTogglesAsThePreferencesSay) {

@@ -54,7 +54,9 @@ TEST_F(Remote, ACurveFromTheNetworkIsOneEdit) {
             {"number", 1}, {"local", false}, {"gamma", gamma(0.25F)}, {"content", "transparent"}}));
     bench.network.sent.clear();
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.25F);
+    bench.desk.setForeignRamp(left, HardwareRamp::straight(256));
     setState(left, {{"gamma", gamma(0.25F)}});
+    EXPECT_GT(bench.firstEntry(left), 16000) << "It is put on the display again.";
     bench.controller().undo();
     EXPECT_EQ(bench.red(left), 0) << "A repeated order is no second edit.";
     EXPECT_THAT(bench.network.sent, IsEmpty());

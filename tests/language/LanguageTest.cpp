@@ -64,6 +64,18 @@ TEST(Windows, SpeakGermanAndWriteNumbersAsBefore) {
     EXPECT_TRUE(panel.findChild<QMessageBox*>()->informativeText().startsWith(
         QStringLiteral("Es ist kein Bildschirm mit der Referenz-ID 4-%@ angeschlossen.")));
 
+    // In one window however many there are, with parts of the sentence translated as well, and as
+    // plain text.
+    dialogs.alert("Saving failed", "%@ could not be saved: %@.",
+                  {"<b>%@</b>", "no space is left on the disk"});
+    ASSERT_THAT(panel.findChildren<QMessageBox*>(), SizeIs(1));
+    const QString full = QStringLiteral(
+        "<b>%@</b> konnte nicht gespeichert werden: auf dem Datenträger ist kein Platz mehr.");
+    const auto labels = panel.findChild<QMessageBox*>()->findChildren<QLabel*>();
+    EXPECT_TRUE(std::ranges::any_of(labels, [&](const QLabel* label) {
+        return label->text() == full && label->textFormat() == Qt::PlainText;
+    }));
+
     AlertWindow alert({.table = "KVFluxCheck",
                        .message = "%@ is present on this computer.",
                        .messageArguments = {"Dusk"},

@@ -78,11 +78,13 @@ TEST(XmlPropertyList, RefusesWhatIsNotAPropertyListInWhole) {
 TEST(XmlPropertyList, IsReadInEveryUsualEncodingAndToldFromOtherFilesByItsBeginning) {
     const std::string utf8 = "<plist version='1.0' a='b'><string>é</string></plist>";
     std::vector<std::string> rows = {
-        "\xEF\xBB\xBF" + utf8, "<?xml version='1.0' encoding='UTF-8'?>\n<!-- -->\n" + utf8 + "\n",
+        "\xEF\xBB\xBF" + utf8,
+        " \t\r\n<?xml version='1.0' encoding='UTF-8'?>\n<!-- -->\n" + utf8 + "\n",
         "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" \"http://x/y.dtd\">\n" + utf8,
         "<?xml version='1.0' encoding='ISO-8859-1'?><plist><string>\xE9</string></plist>"};
     for (const bool bigEndian : {false, true}) {
-        rows.push_back(utf16(u"\uFEFF<plist><string>é</string></plist>", bigEndian));
+        rows.push_back(
+            utf16(u"\uFEFF\n<?xml version='1.0'?><plist><string>é</string></plist>", bigEndian));
         rows.push_back(utf16(u"<?xml version='1.0'?><plist><string>é</string></plist>", bigEndian));
     }
     for (const std::string& text : rows) {

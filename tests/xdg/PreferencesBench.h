@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,12 +17,40 @@
 
 namespace tonquil {
 
+/// A disk that a test holds up; otherwise it is never waited for.
+class ManualDisk final : public DiskQueue {
+ public:
+    void add(Work work, Work done) override {
+        _jobs.emplace_back(std::move(work), std::move(done));
+        if (!isHeldUp) {
+            finish();
+        }
+    }
+    void finish() override {
+        while (!_jobs.empty()) {
+            const auto [work, done] = std::move(_jobs.front());
+            _jobs.pop_front();
+            work();
+            done();
+        }
+    }
+
+    bool isHeldUp = false;
+
+ private:
+    std::deque<std::pair<Work, Work>> _jobs;
+};
+
 /// A store on a real file, with a run loop and a log of its own.
 struct PreferencesProcess {
     explicit PreferencesProcess(const std::filesystem::path& file,
                                 std::chrono::milliseconds longestWait = {})
         : store(std::make_unique<PropertyListPreferences>(
-              file, loop, [this](std::string_view line) { log.emplace_back(line); }, longestWait)),
+              file, loop, disk,
+              SaveReports{
+                  .log = [this](std::string_view line) { log.emplace_back(line); },
+                  .showProblem = [this](const auto& problem) { sign = problem.has_value(); }},
+              longestWait)),
           subscription(store->subscribe([this] { ++told; })) {}
 
     void set(std::string_view key, PropertyValue value) {
@@ -29,11 +58,12 @@ struct PreferencesProcess {
         loop.runPosted();
     }
     /// Handles what the system has to tell of the folder: it tells at once, so nothing is waited
-    /// for. Gives how often the store told of a change.
+    /// for but by the store itself. Gives how often the store told of a change.
     int handleEvents() {
         const int before = told;
-        while (loop.pollReadable(std::chrono::milliseconds(0)) > 0) {
-        }
+        do {
+            loop.advance(std::chrono::milliseconds(500));
+        } while (loop.pollReadable(std::chrono::milliseconds(0)) > 0);
         return told - before;
     }
     [[nodiscard]] std::int64_t operator[](std::string_view key) const {
@@ -41,6 +71,9 @@ struct PreferencesProcess {
     }
 
     ManualRunLoop loop;
+    ManualDisk disk;
+    /// Whether the panel tells that saving fails.
+    bool sign = false;
     std::vector<std::string> log;
     int told = 0;
     std::unique_ptr<PropertyListPreferences> store;

@@ -105,47 +105,66 @@ TEST(UnreadablePreferences, StayWhereTheyAre) {
         EXPECT_FALSE(process.store->synchronize());
         EXPECT_EQ(process.log.size(), static_cast<std::size_t>(number));
         EXPECT_NE(storedIn(file)["a"], number);
+        EXPECT_TRUE(process.sign);
         ::chmod(folder.path().c_str(), 0700);
-        EXPECT_TRUE(process.store->synchronize());
+        process.loop.advance(std::chrono::seconds(2));
         EXPECT_EQ(storedIn(file)["a"], number);
+        EXPECT_FALSE(process.sign);
     }
 }
 
 const PropertyValue curves = {{"display", {{"white", 0.25}, {"flags", {1, 2}}}}};
 
+/// A recovery file in a run of its own.
+struct RecoveryRun {
+    explicit RecoveryRun(const std::filesystem::path& path)
+        : file(path, loop, disk,
+               {.log = [this](std::string_view line) { log.emplace_back(line); },
+                .showProblem = [this](const auto& problem) { sign = problem.has_value(); }}) {}
+
+    ManualRunLoop loop;
+    ManualDisk disk;
+    std::vector<std::string> log;
+    bool sign = false;
+    CurveRecoveryFile file;
+};
+
 TEST(CurveRecoveryFile, GivesTheNextRunWhatWasKeptLastAndNotForgotten) {
     const ScratchFolder folder;
-    const auto file = folder / "state/recovery.plist";
-    const Log fail = [](std::string_view line) { ADD_FAILURE() << line; };
-    CurveRecoveryFile(file, fail).forget();
-    EXPECT_EQ(CurveRecoveryFile(file, fail).leftCurves(), PropertyValue::object());
-    EXPECT_TRUE(succeeded(CurveRecoveryFile(file, fail).keep({{"older", 1}})));
-    EXPECT_TRUE(succeeded(CurveRecoveryFile(file, fail).keep(curves)));
-    EXPECT_EQ(CurveRecoveryFile(file, fail).leftCurves(), curves);
+    const auto path = folder / "state/recovery.plist";
+    RecoveryRun run(path);
+    run.file.forget();
+    EXPECT_EQ(RecoveryRun(path).file.leftCurves(), PropertyValue::object());
+    run.file.keep({{"older", 1}});
+    run.file.keep(curves);
+    EXPECT_EQ(RecoveryRun(path).file.leftCurves(), curves);
     // What a killed program leaves goes as well.
     putContents(folder / "state/.recovery.plist.tonquil-new", "half");
-    CurveRecoveryFile(file, fail).forget();
+    run.file.forget();
     EXPECT_EQ(entriesIn(folder / "state"), 0);
+    EXPECT_THAT(run.log, IsEmpty());
 }
 
-TEST(CurveRecoveryFile, MovesADamagedFileAsideAndKeepsOneThatItCannotReplace) {
+TEST(CurveRecoveryFile, MovesADamagedFileAsideAndKeepsTryingWhereItCannotWrite) {
     const OrdinaryUser user;
     const ScratchFolder folder;
-    std::vector<std::string> log;
-    CurveRecoveryFile recovery(folder / "recovery.plist",
-                               [&](std::string_view line) { log.emplace_back(line); });
+    RecoveryRun run(folder / "recovery.plist");
     putContents(folder / "recovery.plist", "damaged");
-    EXPECT_EQ(recovery.leftCurves(), PropertyValue::object());
+    EXPECT_EQ(run.file.leftCurves(), PropertyValue::object());
     const auto aside = std::filesystem::directory_iterator(folder.path())->path();
-    EXPECT_THAT(log, ElementsAre(HasSubstr("kept as " + aside.native())));
+    EXPECT_THAT(run.log, ElementsAre(HasSubstr("kept as " + aside.native())));
     EXPECT_EQ(contentsOf(aside), "damaged");
-    EXPECT_TRUE(succeeded(recovery.keep(curves)));
+    run.file.keep(curves);
     ::chmod(folder.path().c_str(), 0500);
-    EXPECT_FALSE(recovery.keep({{"newer", 1}}));
-    recovery.forget();
+    run.file.keep({{"newer", 1}});
+    run.loop.advance(std::chrono::seconds(10));
+    EXPECT_EQ(run.log.size(), 2U);
+    EXPECT_TRUE(run.sign);
+    EXPECT_EQ(run.file.leftCurves(), curves);
     ::chmod(folder.path().c_str(), 0700);
-    EXPECT_EQ(recovery.leftCurves(), curves);
-    EXPECT_THAT(log.back(), HasSubstr("could not be removed"));
+    run.loop.advance(std::chrono::seconds(2));
+    EXPECT_EQ(run.file.leftCurves(), PropertyValue({{"newer", 1}}));
+    EXPECT_FALSE(run.sign);
 }
 
 }  // namespace

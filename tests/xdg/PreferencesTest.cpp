@@ -129,7 +129,30 @@ TEST(PreferencesChanges, OfOtherProgramsAreSeenWhicheverWayTheyAreMade) {
     expectTold(1, 3);
     store(folder / "away/preferences.plist", {{"a", 4}});
     expectTold(0, 3);
-    // With the folder, the values go; it is made again and watched when something is saved.
+    // With the folder, the values go. Where there is none, it is looked for.
+    std::filesystem::remove_all(folder / "config");
+    expectTold(1, 10);
+    std::filesystem::create_directory(folder / "config");
+    store(file, {{"a", 6}});
+    process.loop.advance(milliseconds(5500));
+    expectTold(0, 6);
+    // The folder above goes, and takes the watched one along.
+    std::filesystem::rename(folder.path(), folder.path().native() + "-away");
+    std::filesystem::create_directories(folder / "config");
+    store(file, {{"a", 8}});
+    expectTold(1, 8);
+    std::filesystem::remove_all(folder.path().native() + "-away");
+    // A burst is read now and then, and at its end.
+    const int before = process.told;
+    for (int number = 0; number <= 500; ++number) {
+        store(file, {{"a", number}});
+        process.loop.pollReadable(milliseconds(0));
+        process.loop.advance(milliseconds(2));
+    }
+    EXPECT_LE(process.told - before, 3);
+    EXPECT_LE(process.handleEvents(), 1);
+    EXPECT_EQ(process["a"], 500);
+    // It is made again and watched when something is saved.
     std::filesystem::remove_all(folder / "config");
     expectTold(1, 10);
     process.set("b", 1);
@@ -163,6 +186,28 @@ TEST(PreferencesSaving, KeepsWhatOthersHaveDoneMeanwhile) {
         }
         EXPECT_EQ(process->handleEvents(), 0);
     }
+}
+
+TEST(PreferencesSaving, TakesChangesWhileASlowDiskIsAtWork) {
+    const ScratchFolder folder;
+    const auto file = folder / "file";
+    PreferencesProcess process(file);
+    process.set("a", 1);
+    process.disk.isHeldUp = true;
+    process.set("a", 2);
+    process.set("b", 2);
+    EXPECT_EQ(storedIn(file), PropertyValue({{"a", 1}}));
+    store(file, {{"a", 1}, {"c", 3}});
+    process.handleEvents();
+    process.disk.finish();
+    EXPECT_EQ(storedIn(file), PropertyValue({{"a", 2}, {"b", 2}, {"c", 3}}));
+    EXPECT_EQ(process["c"], 3);
+    // What others save after ours, before we hear that ours is done, is the last word.
+    process.set("a", 4);
+    process.disk.finish();
+    store(file, {{"a", 5}});
+    process.handleEvents();
+    EXPECT_EQ(process["a"], 5);
 }
 
 TEST(PreferencesSaving, LosesNothingWhenProcessesSaveAtOnce) {

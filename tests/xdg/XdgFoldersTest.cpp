@@ -54,7 +54,7 @@ TEST(XdgFolders, HaveARuntimeFolderThatOnlyTheUserCanUse) {
     const std::string place = folder.path();
     const auto session = foldersWith({{"XDG_RUNTIME_DIR", place}, {"TMPDIR", "/nowhere"}});
     EXPECT_EQ(session->makeRuntime().value_or(""), folder / "tonquil");
-    const auto folders = foldersWith({{"XDG_RUNTIME_DIR", "relative"}, {"TMPDIR", place}});
+    const auto folders = foldersWith({{"XDG_RUNTIME_DIR", place + "/gone"}, {"TMPDIR", place}});
     const auto own = folder / ("tonquil-" + std::to_string(::geteuid()));
     for (int time = 0; time < 2; ++time) {
         EXPECT_EQ(folders->makeRuntime().value_or(""), own);

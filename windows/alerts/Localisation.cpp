@@ -3,7 +3,7 @@
 
 #include <QCoreApplication>
 
-#include "app/desktop/TextFormat.h"
+#include "foundation/TextFormat.h"
 
 namespace tonquil {
 

@@ -5,12 +5,14 @@
 #include <QTimer>
 #include <QVariantAnimation>
 #include <QWidget>
+#include <optional>
 #include <vector>
 
 #include "app/panel/PanelActions.h"
 #include "app/panel/PanelControls.h"
 #include "app/panel/PanelWindow.h"
 #include "app/panel/WindowSystem.h"
+#include "foundation/Problem.h"
 #include "ui/theme/Appearance.h"
 #include "windows/panel/PanelContents.h"
 #include "windows/panel/PanelMenu.h"
@@ -31,6 +33,8 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void showWebSites(bool hasSite, bool hasBoardSite) {
         _menu.showWebSites(hasSite, hasBoardSite);
     }
+    /// Says quietly that changes cannot be saved, and why; nothing takes the sign away.
+    void showStorageProblem(const std::optional<Problem>& problem);
     /// What the person asked of the whole desktop.
     void setAccessibilityOptions(const AccessibilityOptions& options);
     /// To be called when the blending of translucent windows may have been switched on or off.

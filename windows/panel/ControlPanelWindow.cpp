@@ -13,6 +13,7 @@
 #include "windows/front/BringToFront.h"
 #include "windows/panel/ControlPanel.h"
 #include "windows/panel/DevicePixels.h"
+#include "windows/panel/ProblemText.h"
 #include "windows/panel/TitleStrip.h"
 
 namespace tonquil {
@@ -49,6 +50,11 @@ PanelSliderGeometry ControlPanel::masterSliderOfSelectedTab() const {
             .minimum = slider.minValue(),
             .maximum = slider.maxValue(),
             .scale = scale};
+}
+
+void ControlPanel::showStorageProblem(const std::optional<Problem>& problem) {
+    _contents->titleStrip->showStorageProblem(
+        problem ? translatedProblem(problem->key(), problem->arguments) : QString());
 }
 
 void ControlPanel::showRemoteConfiguration(bool isOn) {

@@ -3,9 +3,10 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 
-#include "app/desktop/TextFormat.h"
+#include "windows/panel/ProblemText.h"
 
 namespace tonquil {
 
@@ -77,20 +78,30 @@ void PanelFileDialogs::chooseFileToSave(SettingsFormat format, ChosenWithFormat 
     present(dialog);
 }
 
-// An alert may follow a dialog that is only about to close.
+// An alert may follow a dialog that is only about to close. Files may be opened by the hundred, and
+// what is wrong with them is told in one window.
 void PanelFileDialogs::alert(const std::string& title, const std::string& message,
                              const std::vector<std::string>& arguments) {
-    const QString text = QCoreApplication::translate("Problem", title.c_str());
-    auto* box = new QMessageBox(QMessageBox::NoIcon, text, text, QMessageBox::NoButton, &_window);
-    const QString format = QCoreApplication::translate("Problem", message.c_str());
-    // A sentence with a file's name in it may hold what looks like a place for an argument.
-    box->setInformativeText(
-        arguments.empty() ? format
-                          : QString::fromStdString(formattedText(format.toStdString(), arguments)));
-    box->addButton(QCoreApplication::translate("Files", "OK"), QMessageBox::AcceptRole);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowModality(Qt::WindowModal);
-    box->show();
+    const QString titleText = QCoreApplication::translate("Problem", title.c_str());
+    const QString text = translatedProblem(message, arguments);
+    if (_alert && _alert->isVisible()) {
+        _alert->setWindowTitle(titleText);
+        _alert->setText(titleText);
+        _alert->setInformativeText(text);
+        return;
+    }
+    _alert =
+        new QMessageBox(QMessageBox::NoIcon, titleText, titleText, QMessageBox::NoButton, &_window);
+    _alert->setInformativeText(text);
+    // A file's name may look like markup.
+    for (QLabel* label : _alert->findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    _alert->addButton(QCoreApplication::translate("Files", "OK"), QMessageBox::AcceptRole);
+    _alert->setAttribute(Qt::WA_DeleteOnClose);
+    _alert->setWindowModality(Qt::WindowModal);
+    _alert->show();
 }
 
 }  // namespace tonquil

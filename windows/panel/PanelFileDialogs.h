@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QMessageBox>
+#include <QPointer>
+
 #include "app/files/FileDialogs.h"
 
 class QDialog;
@@ -25,6 +28,8 @@ class PanelFileDialogs final : public FileDialogs {
 
     QWidget& _window;
     bool _isDialogUp = false;
+    /// While one is up.
+    QPointer<QMessageBox> _alert;
 };
 
 }  // namespace tonquil

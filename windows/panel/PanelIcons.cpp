@@ -80,6 +80,19 @@ void drawRemote(QPainter& painter) {
     painter.drawEllipse(QPointF(8, 8), 1.25, 1.25);
 }
 
+/// A triangle with a stroke and a dot in it.
+void drawUnsaved(QPainter& painter) {
+    QPainterPath triangle(QPointF(8, 2.5));
+    triangle.lineTo(14.5, 13.5);
+    triangle.lineTo(1.5, 13.5);
+    triangle.closeSubpath();
+    painter.drawPath(triangle);
+    painter.drawLine(QPointF(8, 6.5), QPointF(8, 9));
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(QPointF(8, 11.3), 0.9, 0.9);
+}
+
 /// The curve from black to white of the point's pictures; below 8 it is dark.
 QPointF curvePoint(double input) {
     return {2 + input * 12, 14 - input * input * 12};
@@ -116,6 +129,10 @@ QIcon panelIcon(PanelIcon icon, const Appearance& appearance) {
                 break;
             case PanelIcon::Remote:
                 drawRemote(painter);
+                break;
+            case PanelIcon::Unsaved:
+                painter.setPen(penOf(themeFor(appearance).secondaryText, 1.4));
+                drawUnsaved(painter);
                 break;
         }
     });

@@ -11,7 +11,7 @@ class QPainter;
 namespace tonquil {
 
 /// The pictures on the panel's buttons, drawn for an appearance.
-enum class PanelIcon { Close, Menu, Reset, Targets, Remote };
+enum class PanelIcon { Close, Menu, Reset, Targets, Remote, Unsaved };
 [[nodiscard]] QIcon panelIcon(PanelIcon icon, const Appearance& appearance);
 
 /// The channel strip's pictures for a tab (0 black, 2 white, anything else middle), in the order

@@ -8,7 +8,9 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <QToolButton>
+#include <QToolTip>
 #include <QWindow>
 
 #include "ui/theme/Drawing.h"
@@ -48,6 +50,7 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     : QWidget(parent),
       _closeButton(makeButton(QCoreApplication::translate("Panel", "Close the panel"), this)),
       _subjectButton(new QToolButton(this)),
+      _storageSign(makeButton({}, this)),
       _remoteButton(makeButton(
           QCoreApplication::translate("Panel", "Companions on the network may change the displays"),
           this)),
@@ -65,6 +68,12 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
         }
     });
 
+    _storageSign->hide();
+    // Where nothing hovers, a click tells what is wrong.
+    QObject::connect(_storageSign, &QToolButton::clicked, this, [this] {
+        QToolTip::showText(_storageSign->mapToGlobal(_storageSign->rect().bottomLeft()),
+                           _storageSign->toolTip(), _storageSign);
+    });
     _remoteButton->hide();
     QObject::connect(_remoteButton, &QToolButton::clicked, this, [this] { _openRemote(); });
 
@@ -75,6 +84,7 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     layout->addStretch(1);
     layout->addWidget(_subjectButton);
     layout->addStretch(1);
+    layout->addWidget(_storageSign);
     layout->addWidget(_remoteButton);
     layout->addWidget(_menuButton);
     updateIcons();
@@ -116,10 +126,23 @@ void TitleStrip::showRemoteConfiguration(bool isOn) {
     updateTitle();
 }
 
+void TitleStrip::showStorageProblem(const QString& sentence) {
+    const QString name = QCoreApplication::translate(
+        "Panel", "Changes are not saved at the moment. Tonquil keeps trying.");
+    _storageSign->setVisible(!sentence.isEmpty());
+    _storageSign->setAccessibleName(name);
+    _storageSign->setAccessibleDescription(sentence);
+    // The sentence may name a file, whose name may look like markup.
+    _storageSign->setToolTip(
+        Qt::convertFromPlainText(name + QLatin1Char('\n') + sentence, Qt::WhiteSpaceNormal));
+    updateTitle();
+}
+
 void TitleStrip::updateTitle() {
     const QString arrow = QStringLiteral(" \u25BE");
     // What the round buttons and the margins leave.
-    const int buttons = _remoteButton->isHidden() ? 2 : 3;
+    const int buttons =
+        2 + (_storageSign->isHidden() ? 0 : 1) + (_remoteButton->isHidden() ? 0 : 1);
     const int room = width() - buttons * (24 + 4 + 4) - 16 - fontMetrics().horizontalAdvance(arrow);
     _subjectButton->setText(fontMetrics().elidedText(_title, Qt::ElideMiddle, room) + arrow);
     _subjectButton->setAccessibleName(
@@ -129,6 +152,7 @@ void TitleStrip::updateTitle() {
 void TitleStrip::updateIcons() {
     const Appearance appearance = effectiveAppearance(*this);
     _closeButton->setIcon(panelIcon(PanelIcon::Close, appearance));
+    _storageSign->setIcon(panelIcon(PanelIcon::Unsaved, appearance));
     _remoteButton->setIcon(panelIcon(PanelIcon::Remote, appearance));
     _menuButton->setIcon(panelIcon(PanelIcon::Menu, appearance));
     setAppearance(*_subjectMenu, appearance);

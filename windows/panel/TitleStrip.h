@@ -25,6 +25,8 @@ class TitleStrip : public QWidget {
     void setSubjectAction(std::function<void(bool)> action) { _chooseSubject = std::move(action); }
     /// Shows a sign that opens what the action opens.
     void showRemoteConfiguration(bool isOn);
+    /// Shows a sign that tells why changes are not saved; none where the sentence is empty.
+    void showStorageProblem(const QString& sentence);
     void setRemoteAction(std::function<void()> action) { _openRemote = std::move(action); }
     void setCloseAction(std::function<void()> action) { _close = std::move(action); }
     /// Asked at each drag: whether there is a window manager to move the window.
@@ -51,6 +53,7 @@ class TitleStrip : public QWidget {
 
     QToolButton* _closeButton;
     QToolButton* _subjectButton;
+    QToolButton* _storageSign;
     QToolButton* _remoteButton;
     QToolButton* _menuButton;
     QMenu* _subjectMenu = nullptr;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/desktop/TextFormat.h"
+#include "foundation/TextFormat.h"
 
 #include <charconv>
 #include <cstddef>

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "windows/panel/ProblemText.h"
+
+#include <QCoreApplication>
+
+#include "foundation/TextFormat.h"
+
+namespace tonquil {
+
+QString translatedProblem(const std::string& key, const std::vector<std::string>& arguments) {
+    const QString format = QCoreApplication::translate("Problem", key.c_str());
+    // A sentence with a file's name in it may hold what looks like a place for an argument.
+    if (arguments.empty()) {
+        return format;
+    }
+    std::vector<std::string> translated;
+    for (const std::string& argument : arguments) {
+        translated.push_back(
+            QCoreApplication::translate("Problem", argument.c_str()).toStdString());
+    }
+    return QString::fromStdString(formattedText(format.toStdString(), translated));
+}
+
+}  // namespace tonquil
