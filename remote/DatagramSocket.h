@@ -26,7 +26,8 @@ class DatagramSocket {
     /// cannot be watched. However much comes in, the run loop gets its turns.
     [[nodiscard]] virtual std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& runLoop,
                                                                      Receiver receiver) = 0;
-    /// Sends one datagram at once or not at all. Gives 0, or the system's error code.
+    /// Sends one datagram at once or not at all, from the recipient's `ownHost` where it has one.
+    /// To 255.255.255.255 it goes out on every network. Gives 0, or the system's error code.
     [[nodiscard]] virtual int send(std::string_view bytes, const SocketAddress& recipient) = 0;
 };
 

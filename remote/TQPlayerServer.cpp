@@ -101,7 +101,9 @@ void TQPlayerServer::_selfTestEnd() {
 }
 
 void TQPlayerServer::_receiveData(std::string_view bytes, const SocketAddress& source) {
-    if (source.host() == SocketAddress::broadcastHost) {
+    // An answer to such a source would reach everybody.
+    if (source.host() == SocketAddress::broadcastHost ||
+        _environment.host->isBroadcastAddress(source.host())) {
         return;
     }
     switch (remote::kindOf(bytes)) {

@@ -162,6 +162,7 @@ class ScriptedHost final : public LocalHost {
         return std::nullopt;
     }
     [[nodiscard]] bool hasAddress(std::uint32_t /*host*/) const override { return false; }
+    [[nodiscard]] bool isBroadcastAddress(std::uint32_t /*host*/) const override { return false; }
 };
 
 }  // namespace tonquil
