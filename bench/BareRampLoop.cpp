@@ -5,14 +5,14 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "tests/support/XcbOutputs.h"
+#include "tests/support/RampReader.h"
 
 namespace tonquil {
 
 BareRampLoop::BareRampLoop(const std::string& display)
     : _connection(xcb_connect(display.c_str(), nullptr)) {
-    const auto outputs = XcbOutputs::connect(display).and_then(
-        [](const XcbOutputs& connected) { return connected.all(); });
+    const auto outputs = RampReader::connect(display).and_then(
+        [](const RampReader& connected) { return connected.all(); });
     if (!outputs || xcb_connection_has_error(_connection.get()) != 0) {
         std::fputs("The X server's outputs cannot be listed.\n", stderr);
         std::exit(1);  // NOLINT(concurrency-mt-unsafe)

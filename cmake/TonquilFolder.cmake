@@ -22,9 +22,14 @@ function(tonquil_folder folder)
     string(REPLACE "/" "_" name "tonquil_${folder}")
     tonquil_include_directory("${folder}" directory)
 
-    # A folder of headers alone still gets a library that compiles each of them by itself.
+    # Each header compiles by itself. A source includes its own header first, so only headers
+    # without a source are left to check.
     set(header_checks "")
     foreach(header IN LISTS arg_HEADERS)
+        cmake_path(REPLACE_EXTENSION header LAST_ONLY .cpp OUTPUT_VARIABLE source)
+        if(source IN_LIST arg_SOURCES)
+            continue()
+        endif()
         set(check "${CMAKE_BINARY_DIR}/header_checks/${folder}/${header}.cpp")
         file(CONFIGURE OUTPUT "${check}" CONTENT "#include \"${folder}/${header}\"\n")
         list(APPEND header_checks "${check}")
@@ -46,6 +51,8 @@ function(tonquil_folder folder)
     # Once is enough: the preset without sanitizers does it.
     if(header_checks AND TONQUIL_TESTS AND NOT TONQUIL_SANITIZE)
         add_library(${name}_headers OBJECT ${header_checks})
+        set_target_properties(${name}_headers PROPERTIES UNITY_BUILD OFF)
+        target_compile_options(${name}_headers PRIVATE -fsyntax-only)
         target_link_libraries(${name}_headers PRIVATE ${name})
     endif()
 endfunction()

@@ -5,47 +5,6 @@
 
 namespace tonquil {
 
-void MemoryPreferences::registerDefaults(PropertyValue defaults) {
-    _journal.emplace_back("defaults registered");
-    _defaults = std::move(defaults);
-}
-
-void MemoryPreferences::setValue(std::string_view key, PropertyValue value) {
-    if (key == settingsKey::applyCorrection) {
-        _journal.push_back(value == true ? "correction on" : "correction off");
-    }
-    stored[std::string(key)] = std::move(value);
-    if (_changed) {
-        _runLoop.post([this] {
-            if (_changed) {
-                _changed();
-            }
-        });
-    }
-}
-
-std::unique_ptr<PreferencesStore::Subscription> MemoryPreferences::subscribe(
-    std::function<void()> changed) {
-    class End final : public Subscription {
-     public:
-        explicit End(std::function<void()>& handler) : _handler(handler) {}
-        End(const End&) = delete;
-        End& operator=(const End&) = delete;
-        ~End() override { _handler = nullptr; }
-
-     private:
-        std::function<void()>& _handler;
-    };
-    _journal.emplace_back("preferences observed");
-    _changed = std::move(changed);
-    return std::make_unique<End>(_changed);
-}
-
-const PropertyValue* MemoryPreferences::valueForKey(std::string_view key) const {
-    const PropertyValue* value = entry(stored, key);
-    return value != nullptr ? value : entry(_defaults, key);
-}
-
 void RecordedService::setTransferTable(DisplayID display, const GammaTable& table) {
     _journal.push_back("table " + std::to_string(display));
     SimulatedDisplayService::setTransferTable(display, table);
@@ -60,6 +19,14 @@ std::unique_ptr<DisplayService::Subscription> RecordedService::registerReconfigu
 ControllerBench::ControllerBench() {
     desk.plug(makeDisplay(left, 0));
     desk.plug(makeDisplay(right, 1000));
+    preferences.wasSet = [this](std::string_view key) {
+        if (key == settingsKey::applyCorrection) {
+            journal.emplace_back(preferences.boolForKey(key) ? "correction on" : "correction off");
+        }
+        if (!preferences.subscribers.empty()) {
+            loop.post([this] { preferences.tell(); });
+        }
+    };
 }
 
 SimulatedDisplay ControllerBench::makeDisplay(DisplayID display, double x) {
@@ -74,31 +41,31 @@ SimulatedDisplay ControllerBench::makeDisplay(DisplayID display, double x) {
 
 void ControllerBench::launch() {
     _program.reset();
+    preferences.subscribers.clear();
     _program.emplace();
     Program& program = *_program;
-    program.service = std::make_unique<RecordedService>(desk, journal, windowSystem);
+    program.service = std::make_unique<RecordedService>(desk, journal, desktop);
     program.registry = std::make_unique<ScreenRegistry>(*program.service);
-    program.events = std::make_unique<ScriptedEvents>(journal);
     program.center = std::make_unique<DDHotKeyCenter>(hotKeys);
     program.controller = std::make_unique<TQController>(
         ControllerSurroundings{*program.service,
                                *program.registry,
                                program.counter,
                                preferences,
-                               recovery,
-                               recordedLoop,
+                               desktop,
+                               loop,
                                panel,
                                panel,
                                dialogs,
                                targets,
-                               windows,
+                               desktop,
                                alerts,
-                               presence,
-                               windowSystem,
-                               programs,
+                               desktop,
+                               desktop,
+                               desktop,
                                *program.center,
                                [this] { return openServer(); },
-                               {program.events.get()},
+                               {&desktop},
                                "",
                                [this] { hasEnded = true; },
                                [this](std::string_view line) { log.emplace_back(line); }});
@@ -128,12 +95,34 @@ void ControllerBench::edit(PanelSlider slider, float value, bool isLinked) {
     loop.runPosted();
 }
 
+void ControllerBench::set(std::string_view key, PropertyValue value) {
+    preferences.setValue(key, std::move(value));
+    loop.runPosted();
+}
+
+void ControllerBench::movePanel(double x) {
+    panel.place.x = x;
+    controller().panelMoved();
+}
+
 int ControllerBench::firstEntry(DisplayID display) {
     return desk.find(display)->ramp.channel(0).front();
 }
 
 std::shared_ptr<KVGammaCurve> ControllerBench::curve(DisplayID display) {
     return _program->registry->screenWithDirectDisplayID(display)->gammaCurve();
+}
+
+std::chrono::milliseconds ControllerBench::timeToReapply() {
+    constexpr std::chrono::milliseconds step(100);
+    const int corrected = firstEntry(left);
+    desk.setForeignRamp(left, HardwareRamp::straight(256));
+    std::chrono::milliseconds waited{};
+    while (firstEntry(left) != corrected && waited < std::chrono::seconds(10)) {
+        loop.advance(step);
+        waited += step;
+    }
+    return waited;
 }
 
 }  // namespace tonquil

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <map>
 #include <memory>
 #include <optional>
@@ -9,8 +10,10 @@
 
 #include "app/TQController.h"
 #include "app/preferences/SettingsKeys.h"
+#include "model/KVGammaPoint.h"
 #include "platform/simulated/SimulatedDisplayService.h"
 #include "tests/app/DesktopFakes.h"
+#include "tests/app/PlainStore.h"
 #include "tests/support/ManualRunLoop.h"
 
 namespace tonquil {
@@ -70,40 +73,6 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
 
  private:
     Journal& _journal;
-};
-
-/// Preferences in memory, told of as the real ones tell.
-class MemoryPreferences final : public PreferencesStore {
- public:
-    MemoryPreferences(RunLoop& runLoop, Journal& journal) : _runLoop(runLoop), _journal(journal) {}
-
-    void registerDefaults(PropertyValue defaults) override;
-    void setValue(std::string_view key, PropertyValue value) override;
-    bool synchronize() override { return isWritable; }
-    [[nodiscard]] std::unique_ptr<Subscription> subscribe(std::function<void()> changed) override;
-
-    PropertyValue stored = PropertyValue::object();
-    bool isWritable = true;
-
- private:
-    [[nodiscard]] const PropertyValue* valueForKey(std::string_view key) const override;
-
-    RunLoop& _runLoop;
-    Journal& _journal;
-    PropertyValue _defaults = PropertyValue::object();
-    std::function<void()> _changed;
-};
-
-class MemoryRecovery final : public CurveRecovery {
- public:
-    [[nodiscard]] PropertyValue leftCurves() override { return left; }
-    [[nodiscard]] Result<void> keep(const PropertyValue& curves) override {
-        left = curves;
-        return {};
-    }
-    void forget() override { left = PropertyValue::object(); }
-
-    PropertyValue left = PropertyValue::object();
 };
 
 /// Dialogs in which a test decides at once.
@@ -168,57 +137,19 @@ class RecordedTargets final : public TargetWindows {
     std::vector<std::function<void()>> closings;
 };
 
-/// Events that a test makes.
-class ScriptedEvents final : public SessionEvents {
- public:
-    explicit ScriptedEvents(Journal& journal) : _journal(journal) {}
-    void start(Handler handler) override {
-        _journal.emplace_back("session observed");
-        tell = std::move(handler);
-    }
-    Handler tell;
-
- private:
-    Journal& _journal;
-};
-
 /// Tells what is asked of a display service.
 class RecordedService final : public SimulatedDisplayService {
  public:
-    RecordedService(SimulatedDesk& desk, Journal& journal, ScriptedWindowSystem& windowSystem)
-        : SimulatedDisplayService(desk), _journal(journal), _windowSystem(windowSystem) {}
-    void warpPointer(const Point& point) override { _windowSystem.pointer = point; }
+    RecordedService(SimulatedDesk& desk, Journal& journal, RecordedDesktop& desktop)
+        : SimulatedDisplayService(desk), _journal(journal), _desktop(desktop) {}
+    void warpPointer(const Point& point) override { _desktop.pointer = point; }
     void setTransferTable(DisplayID display, const GammaTable& table) override;
     [[nodiscard]] std::unique_ptr<Subscription> registerReconfigurationCallback(
         ReconfigurationCallback callback) override;
 
  private:
     Journal& _journal;
-    ScriptedWindowSystem& _windowSystem;
-};
-
-/// Tells what is asked of a run loop.
-class RecordedLoop final : public RunLoop {
- public:
-    RecordedLoop(ManualRunLoop& loop, Journal& journal) : _loop(loop), _journal(journal) {}
-    [[nodiscard]] Clock::time_point now() const override { return _loop.now(); }
-    [[nodiscard]] std::unique_ptr<Handle> callOnce(std::chrono::milliseconds delay,
-                                                   Call call) override {
-        return _loop.callOnce(delay, std::move(call));
-    }
-    [[nodiscard]] std::unique_ptr<Handle> callRepeatedly(std::chrono::milliseconds interval,
-                                                         Call call) override {
-        _journal.push_back("every " + std::to_string(interval.count()) + " ms");
-        return _loop.callRepeatedly(interval, std::move(call));
-    }
-    [[nodiscard]] std::unique_ptr<Handle> watchReadable(int descriptor, Call call) override {
-        return _loop.watchReadable(descriptor, std::move(call));
-    }
-    void post(Call call) override { _loop.post(std::move(call)); }
-
- private:
-    ManualRunLoop& _loop;
-    Journal& _journal;
+    RecordedDesktop& _desktop;
 };
 
 /// A desk of two displays side by side, 1000 by 800 each, and one program after the other at it.
@@ -233,51 +164,50 @@ class ControllerBench {
     [[nodiscard]] TQController& controller() { return *_program->controller; }
     /// Moves a slider as a person does.
     void edit(PanelSlider slider, float value, bool isLinked = false);
+    /// Changes a preference, as another program would, and lets the program take notice.
+    void set(std::string_view key, PropertyValue value);
+    void movePanel(double x);
     /// The first level that a display's red hardware ramp has, in entries.
     [[nodiscard]] int firstEntry(DisplayID display);
-    /// The curve that a display has been given.
+    /// The curve that a display has been given, and its red black level, which tests tell it by.
     [[nodiscard]] std::shared_ptr<KVGammaCurve> curve(DisplayID display);
+    [[nodiscard]] float red(DisplayID display) { return curve(display)->blackPoint()->redValue(); }
+    /// Puts another program's ramp on the left display; gives how long it stays, at most 10 s.
+    [[nodiscard]] std::chrono::milliseconds timeToReapply();
 
     static constexpr DisplayID left = 1;
     static constexpr DisplayID right = 2;
     static SimulatedDisplay makeDisplay(DisplayID display, double x);
+    [[nodiscard]] static std::string referenceID(DisplayID display) {
+        return std::to_string(100 + display) + "-0-0";
+    }
 
     Journal journal;
     SimulatedDesk desk;
     ManualRunLoop loop;
-    RecordedLoop recordedLoop{loop, journal};
-    MemoryPreferences preferences{loop, journal};
-    MemoryRecovery recovery;
+    PlainStore preferences;
+    RecordedDesktop desktop{journal};
     RecordedPanel panel{journal};
     ScriptedDialogs dialogs;
     RecordedTargets targets;
-    RecordedPresence presence{journal};
-    RecordedWindows windows{journal};
-    RecordedAlerts alerts;
-    ScriptedWindowSystem windowSystem;
-    ScriptedPrograms programs;
+    ScriptedAlerts alerts;
     ScriptedHotKeys hotKeys;
     ScriptedNetwork network;
     std::vector<std::string> log;
     bool hasEnded = false;
 
  private:
-    [[nodiscard]] std::unique_ptr<TQPlayerServer> openServer();
-
     struct Program {
         std::unique_ptr<RecordedService> service;
         std::unique_ptr<ScreenRegistry> registry;
         ReconfigurationCounter counter;
-        std::unique_ptr<ScriptedEvents> events;
         std::unique_ptr<DDHotKeyCenter> center;
         MachineGuid guid;
         std::unique_ptr<TQController> controller;
     };
 
- public:
-    [[nodiscard]] ScriptedEvents& events() { return *_program->events; }
+    [[nodiscard]] std::unique_ptr<TQPlayerServer> openServer();
 
- private:
     std::optional<Program> _program;
 };
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -16,37 +18,29 @@ namespace tonquil {
 /// What happened, in order.
 using Journal = std::vector<std::string>;
 
-/// Tells what the status item and the task bar are asked to show.
-class RecordedPresence final : public DesktopPresence {
+/// A desktop without windows: tells what it is asked to show, and does as a test says.
+class RecordedDesktop final : public DesktopPresence,
+                              public ProgramWindows,
+                              public WindowSystem,
+                              public InstalledPrograms,
+                              public SessionEvents,
+                              public CurveRecovery {
  public:
-    explicit RecordedPresence(Journal& journal) : _journal(journal) {}
-    void showStatusItem(bool isShown) override {
-        _journal.emplace_back(isShown ? "status item" : "no status item");
+    explicit RecordedDesktop(Journal& journal) : _journal(journal) {}
+
+    void showStatusItem(bool isOn) override { note(isOn ? "status item" : "no status item"); }
+    void setStatusItemActive(bool isOn) override {
+        note(isOn ? "status active" : "status inactive");
     }
-    void setStatusItemActive(bool isActive) override {
-        _journal.emplace_back(isActive ? "status active" : "status inactive");
-    }
-    void setInTaskBar(bool isInTaskBar) override {
-        _journal.emplace_back(isInTaskBar ? "in task bar" : "not in task bar");
-    }
+    void setInTaskBar(bool isThere) override { note(isThere ? "in task bar" : "not in task bar"); }
     void showRemoteConfiguration(bool isOn) override { isRemoteShown = isOn; }
 
-    bool isRemoteShown = false;
-
- private:
-    Journal& _journal;
-};
-
-/// Tells which windows are asked for.
-class RecordedWindows final : public ProgramWindows {
- public:
-    explicit RecordedWindows(Journal& journal) : _journal(journal) {}
     void setAboutBackground(double /*red*/, double green, double /*blue*/) override {
-        _journal.push_back("about " + std::to_string(std::lround(green * 255)));
+        note("about " + std::to_string(std::lround(green * 255)));
     }
-    void openPreferences() override { _isLoaded = true; }
-    [[nodiscard]] bool isPreferencesWindowLoaded() const override { return _isLoaded; }
-    [[nodiscard]] bool isPreferencesWindowShown() const override { return _isLoaded; }
+    void openPreferences() override { _hasPreferences = true; }
+    [[nodiscard]] bool isPreferencesWindowLoaded() const override { return _hasPreferences; }
+    [[nodiscard]] bool isPreferencesWindowShown() const override { return _hasPreferences; }
     void openAboutBox() override {}
     void openAddress(std::string_view /*key*/) override {}
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence) override {
@@ -54,27 +48,6 @@ class RecordedWindows final : public ProgramWindows {
     }
     void saveFrames() override {}
 
-    std::map<HotKeyRole, std::string> problems;
-
- private:
-    Journal& _journal;
-    bool _isLoaded = false;
-};
-
-/// A person who presses the same button of every alert.
-class RecordedAlerts final : public Alerts {
- public:
-    [[nodiscard]] std::size_t runModal(const Alert& alert) override {
-        messages.emplace_back(alert.message);
-        return button;
-    }
-    std::size_t button = 0;
-    Journal messages;
-};
-
-/// A pointer, and no window manager.
-class ScriptedWindowSystem final : public WindowSystem {
- public:
     void keepOnAllWorkspaces(WindowID /*window*/) override {}
     void skipTaskbar(WindowID /*window*/, bool /*skip*/) override {}
     [[nodiscard]] bool isOnActiveWorkspace(WindowID /*window*/) const override { return true; }
@@ -82,16 +55,40 @@ class ScriptedWindowSystem final : public WindowSystem {
     [[nodiscard]] bool isCompositing() const override { return false; }
     [[nodiscard]] bool hasWindowManager() const override { return false; }
 
-    std::optional<Point> pointer = Point{500, 400};
-};
-
-class ScriptedPrograms final : public InstalledPrograms {
- public:
     [[nodiscard]] std::optional<InstalledProgram> firstInstalled(
-        std::span<const std::string_view> /*candidates*/) const override {
-        return installed;
+        std::span<const std::string_view> candidates) const override {
+        return std::ranges::find(candidates, installed) == candidates.end()
+                   ? std::nullopt
+                   : std::optional(InstalledProgram{.name = "Dusk", .icon = "dusk"});
     }
-    std::optional<InstalledProgram> installed;
+
+    void start(Handler handler) override {
+        note("session observed");
+        tell = std::move(handler);
+    }
+
+    [[nodiscard]] PropertyValue leftCurves() override { return recovery; }
+    [[nodiscard]] Result<void> keep(const PropertyValue& curves) override {
+        recovery = curves;
+        return {};
+    }
+    void forget() override { recovery = PropertyValue::object(); }
+
+    bool isRemoteShown = false;
+    std::map<HotKeyRole, std::string> problems;
+    std::optional<Point> pointer = Point{500, 400};
+    /// The desktop file of the only program that is installed.
+    std::string installed;
+    /// Makes an event of the session.
+    Handler tell;
+    /// The curves that a crash would leave.
+    PropertyValue recovery = PropertyValue::object();
+
+ private:
+    void note(std::string_view line) { _journal.emplace_back(line); }
+
+    Journal& _journal;
+    bool _hasPreferences = false;
 };
 
 /// Hot keys that a test presses.
@@ -131,16 +128,13 @@ class ScriptedHotKeys final : public HotKeyService {
 struct ScriptedNetwork {
     std::vector<std::pair<std::string, SocketAddress>> sent;
     DatagramSocket::Receiver receive;
-    bool canBind = true;
 };
 
 class ScriptedSocket final : public DatagramSocket {
  public:
     explicit ScriptedSocket(ScriptedNetwork& network) : _network(network) {}
     [[nodiscard]] int enableBroadcast() override { return 0; }
-    [[nodiscard]] int bind(const SocketAddress& /*address*/) override {
-        return _network.canBind ? 0 : 98;
-    }
+    [[nodiscard]] int bind(const SocketAddress& /*address*/) override { return 0; }
     [[nodiscard]] std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& /*runLoop*/,
                                                              Receiver receiver) override {
         _network.receive = std::move(receiver);
@@ -158,9 +152,7 @@ class ScriptedSocket final : public DatagramSocket {
 class ScriptedHost final : public LocalHost {
  public:
     [[nodiscard]] std::string localizedName() const override { return "desk"; }
-    [[nodiscard]] std::optional<HardwareAddress> hardwareAddress() const override {
-        return std::nullopt;
-    }
+    [[nodiscard]] std::optional<HardwareAddress> hardwareAddress() const override { return {}; }
     [[nodiscard]] bool hasAddress(std::uint32_t /*host*/) const override { return false; }
     [[nodiscard]] bool isBroadcastAddress(std::uint32_t /*host*/) const override { return false; }
 };

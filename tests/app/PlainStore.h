@@ -10,25 +10,29 @@
 
 namespace tonquil {
 
-/// Settings in memory, of whose changes nobody is told before `tell`.
+/// Settings in memory, of whose changes nobody is told before `tell`. The defaults lie among them.
 class PlainStore final : public PreferencesStore {
  public:
-    void registerDefaults(PropertyValue defaults) override { stored.update(defaults); }
+    void registerDefaults(PropertyValue defaults) override {
+        defaults.update(stored);
+        stored = std::move(defaults);
+    }
     void setValue(std::string_view key, PropertyValue value) override {
         stored[std::string(key)] = std::move(value);
         written.emplace_back(key);
+        wasSet(key);
     }
     bool synchronize() override {
         saved = stored;
-        return true;
+        return isWritable;
     }
     [[nodiscard]] std::unique_ptr<Subscription> subscribe(std::function<void()> changed) override {
-        _changed.push_back(std::move(changed));
+        subscribers.push_back(std::move(changed));
         return std::make_unique<Subscription>();
     }
     /// Ends an event in which something was changed.
     void tell() const {
-        for (const auto& changed : _changed) {
+        for (const auto& changed : subscribers) {
             changed();
         }
     }
@@ -38,13 +42,14 @@ class PlainStore final : public PreferencesStore {
     PropertyValue saved = PropertyValue::object();
     /// The keys that were set, in order.
     std::vector<std::string> written;
+    std::vector<std::function<void()>> subscribers;
+    std::function<void(std::string_view key)> wasSet = [](std::string_view) {};
+    bool isWritable = true;
 
  private:
     [[nodiscard]] const PropertyValue* valueForKey(std::string_view key) const override {
         return entry(stored, key);
     }
-
-    std::vector<std::function<void()>> _changed;
 };
 
 /// The person in front of the alerts, who chooses `answer` each time.

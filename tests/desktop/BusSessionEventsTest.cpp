@@ -2,17 +2,12 @@
 #include "platform/dbus/BusSessionEvents.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
-#include <algorithm>
-#include <optional>
-#include <string>
-#include <vector>
 
 #include "platform/dbus/DesktopAppearance.h"
 #include "tests/desktop/PrivateBus.h"
@@ -26,16 +21,20 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
+QVariant object(const char* path) {
+    return QVariant::fromValue(QDBusObjectPath(QLatin1String(path)));
+}
+
 class BusEvents : public testing::Test {
  protected:
     ~BusEvents() override { qunsetenv("XDG_SESSION_ID"); }
 
     /// Starts, and waits until everything is watched whose watching waits for no answer.
     void start() {
-        bus.start([this](SessionEvent event) { told.push_back(event); });
+        bus.start(tell);
         ASSERT_TRUE(processUntil([this] { return !log.empty(); }));
         ASSERT_TRUE(processUntil([this] {
-            session->takeAndLeave("org.example.Probe");
+            session.takeAndLeave("org.example.Probe");
             loop.advance(BusSessionEvents::coalescingTime);
             return !told.empty();
         }));
@@ -43,53 +42,46 @@ class BusEvents : public testing::Test {
         loop.advance(BusSessionEvents::coalescingTime);
         told.clear();
     }
-    [[nodiscard]] bool isTold(SessionEvent event) const {
-        return std::find(told.begin(), told.end(), event) != told.end();
+    void await(SessionEvent event) {
+        EXPECT_TRUE(processUntil([&] { return std::erase(told, event) != 0; }));
     }
     /// Waits until everything sent on the session bus has come, which a last event shows.
     void markSession() {
         screenSaver("org.freedesktop.ScreenSaver", false);
-        EXPECT_TRUE(processUntil([this] { return isTold(SessionEvent::ScreenSaverStopped); }));
-        std::erase(told, SessionEvent::ScreenSaverStopped);
+        await(SessionEvent::ScreenSaverStopped);
     }
     /// The same for the system bus.
-    void markSystem() {
-        colours("DeviceAdded");
-        awaitColours();
-    }
-    void awaitColours() {
+    void markSystem(const char* signal = "DeviceAdded") {
+        system.emitSignal("/org/freedesktop/ColorManager", "org.freedesktop.ColorManager", signal,
+                          {object("/a")});
         EXPECT_TRUE(processUntil([this] {
             loop.advance(BusSessionEvents::coalescingTime);
-            return isTold(SessionEvent::ColourSpaceChanged);
+            return std::erase(told, SessionEvent::ColourSpaceChanged) != 0;
         }));
-        std::erase(told, SessionEvent::ColourSpaceChanged);
     }
     void sleep(bool isFallingAsleep) {
-        system->emitSignal("/org/freedesktop/login1", "org.freedesktop.login1.Manager",
-                           "PrepareForSleep", {isFallingAsleep});
-    }
-    void colours(const char* signal) {
-        system->emitSignal("/org/freedesktop/ColorManager", "org.freedesktop.ColorManager", signal,
-                           {QVariant::fromValue(QDBusObjectPath(QStringLiteral("/a")))});
+        system.emitSignal("/org/freedesktop/login1", "org.freedesktop.login1.Manager",
+                          "PrepareForSleep", {isFallingAsleep});
     }
     void screenSaver(const char* interface, bool isActive) {
-        session->emitSignal("/ScreenSaver", interface, "ActiveChanged", {isActive});
+        session.emitSignal("/ScreenSaver", interface, "ActiveChanged", {isActive});
     }
     void sessionActive(const char* path, bool isActive) {
-        system->emitSignal(path, "org.freedesktop.DBus.Properties", "PropertiesChanged",
-                           {QStringLiteral("org.freedesktop.login1.Session"),
-                            QVariantMap{{QStringLiteral("Active"), isActive}}, QStringList()});
+        system.emitSignal(path, "org.freedesktop.DBus.Properties", "PropertiesChanged",
+                          {QStringLiteral("org.freedesktop.login1.Session"),
+                           QVariantMap{{QStringLiteral("Active"), isActive}}, QStringList()});
     }
 
-    std::optional<PrivateBus> system{std::in_place, "DBUS_SYSTEM_BUS_ADDRESS"};
-    std::optional<PrivateBus> session{std::in_place, "DBUS_SESSION_BUS_ADDRESS"};
+    PrivateBus system{"DBUS_SYSTEM_BUS_ADDRESS"};
+    PrivateBus session{"DBUS_SESSION_BUS_ADDRESS"};
     ManualRunLoop loop;
     std::vector<std::string> log;
     std::vector<SessionEvent> told;
+    std::function<void(SessionEvent)> tell = [this](auto event) { told.push_back(event); };
     BusSessionEvents bus{loop, [this](std::string_view line) { log.emplace_back(line); }};
 };
 
-TEST_F(BusEvents, WakingIsToldThreeTimesUnlessTheMachineSleepsAgain) {
+TEST_F(BusEvents, TellsOfWakingThreeTimesUnlessTheMachineSleepsAgain) {
     start();
     sleep(true);
     sleep(false);
@@ -108,7 +100,7 @@ TEST_F(BusEvents, WakingIsToldThreeTimesUnlessTheMachineSleepsAgain) {
     EXPECT_EQ(told.size(), count);
 }
 
-TEST_F(BusEvents, EveryDesktopsScreenSaverAndEverySignalOfTheColourServiceIsTold) {
+TEST_F(BusEvents, HearsEveryDesktopsScreenSaverAndEveryColourSignal) {
     start();
     for (const auto* interface :
          {"org.freedesktop.ScreenSaver", "org.gnome.ScreenSaver", "org.cinnamon.ScreenSaver",
@@ -116,22 +108,18 @@ TEST_F(BusEvents, EveryDesktopsScreenSaverAndEverySignalOfTheColourServiceIsTold
         SCOPED_TRACE(interface);
         screenSaver(interface, true);
         screenSaver(interface, false);
-        EXPECT_TRUE(processUntil([&] { return !told.empty(); }));
-        EXPECT_THAT(told, ElementsAre(SessionEvent::ScreenSaverStopped));
-        told.clear();
+        await(SessionEvent::ScreenSaverStopped);
+        EXPECT_THAT(told, ElementsAre());
     }
     for (const auto* signal : {"DeviceAdded", "DeviceChanged", "DeviceRemoved", "ProfileAdded",
                                "ProfileChanged", "ProfileRemoved"}) {
-        colours(signal);
-        awaitColours();
+        SCOPED_TRACE(signal);
+        markSystem(signal);
     }
 }
 
-TEST_F(BusEvents, ASwitchToThisSessionIsToldHoweverTheSessionIsFound) {
+TEST_F(BusEvents, TellsOfASwitchToThisSessionHoweverItIsFound) {
     constexpr const char* path = "/org/freedesktop/login1/session/_37";
-    const auto object = [](const char* at) {
-        return QVariant::fromValue(QDBusObjectPath(QLatin1String(at)));
-    };
     const PrivateBus::Answer byID = [&](const QVariantList& arguments) {
         return arguments.value(0) == QStringLiteral("7") ? object(path) : QVariant();
     };
@@ -142,22 +130,16 @@ TEST_F(BusEvents, ASwitchToThisSessionIsToldHoweverTheSessionIsFound) {
     const PrivateBus::Answer byDesktop = [](const QVariantList&) {
         return QVariant::fromValue(QDBusVariant(QStringLiteral("7")));
     };
-    const auto getSession = QStringLiteral("GetSession");
-    const auto getByProcess = QStringLiteral("GetSessionByPID");
-    struct Row {
-        const char* environment;
-        std::map<QString, PrivateBus::Answer> methods;
-    };
-    const std::vector<Row> rows{{"7", {{getSession, byID}}},
-                                {"stale", {{getSession, byID}, {getByProcess, byProcess}}},
-                                {"", {{getSession, byID}, {QStringLiteral("Get"), byDesktop}}}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.environment);
-        qputenv("XDG_SESSION_ID", row.environment);
-        system->serve("org.freedesktop.login1", "/org/freedesktop/login1", row.methods);
+    const std::vector<std::pair<const char*, PrivateBus::Methods>> rows{
+        {"7", {{"GetSession", byID}}},
+        {"stale", {{"GetSession", byID}, {"GetSessionByPID", byProcess}}},
+        {"", {{"GetSession", byID}, {"Get", byDesktop}}}};
+    for (const auto& [environment, methods] : rows) {
+        SCOPED_TRACE(environment);
+        qputenv("XDG_SESSION_ID", environment);
+        system.serve("org.freedesktop.login1", "/org/freedesktop/login1", methods);
         BusSessionEvents events(loop, {});
-        told.clear();
-        events.start([this](SessionEvent event) { told.push_back(event); });
+        events.start(tell);
         EXPECT_TRUE(processUntil([&] {
             sessionActive(path, true);
             return !told.empty();
@@ -168,46 +150,46 @@ TEST_F(BusEvents, ASwitchToThisSessionIsToldHoweverTheSessionIsFound) {
         sessionActive("/org/freedesktop/login1/session/_38", true);
         sessionActive(path, false);
         sessionActive(path, true);
-        EXPECT_TRUE(processUntil([&] { return !told.empty(); }));
+        markSystem();
         loop.advance(1s);
         EXPECT_THAT(told, ElementsAre(SessionEvent::SessionBecameActive,
                                       SessionEvent::SessionBecameActive));
+        told.clear();
     }
 }
 
-TEST_F(BusEvents, NamesThatLeaveAreOneEventAndMissingServicesAndBusesOneLineEach) {
+TEST_F(BusEvents, TellsOnceOfNamesThatLeaveTogetherAndLogsWhatIsMissing) {
     start();
     EXPECT_THAT(log, ElementsAre(HasSubstr("colour management"), HasSubstr("login service")));
     log.clear();
-    // A name appears; two leave within a moment.
-    session->serve("org.example.New", "/new", {});
+    session.serve("org.example.New", "/new", {});
     markSession();
     loop.advance(1s);
-    EXPECT_THAT(told, ElementsAre());
-    session->takeAndLeave("org.example.One");
-    session->takeAndLeave("org.example.Two");
+    EXPECT_THAT(told, ElementsAre()) << "a name that appears is none that leaves";
+    session.takeAndLeave("org.example.One");
+    session.takeAndLeave("org.example.Two");
     markSession();
     loop.advance(BusSessionEvents::coalescingTime - 1ms);
     EXPECT_THAT(told, ElementsAre());
     loop.advance(1s);
     EXPECT_THAT(told, ElementsAre(SessionEvent::ApplicationTerminated));
-    system->kill();
-    session->kill();
+    system.send(SIGKILL);
+    session.send(SIGKILL);
     EXPECT_TRUE(processUntil([&] { return log.size() >= 2; }));
     processFor(50ms);
     EXPECT_THAT(log, testing::UnorderedElementsAre(HasSubstr("system bus has gone"),
                                                    HasSubstr("session bus has gone")));
 }
 
-TEST_F(BusEvents, ABusThatHangsHoldsNothingUp) {
-    system->suspend();
-    bus.start([this](SessionEvent event) { told.push_back(event); });
+TEST_F(BusEvents, HearsTheOtherBusWhileOneHangs) {
+    system.send(SIGSTOP);
+    bus.start(tell);
     EXPECT_TRUE(processUntil([&] {
         screenSaver("org.freedesktop.ScreenSaver", false);
         return !told.empty();
-    })) << "the other bus is heard";
+    }));
     EXPECT_THAT(log, ElementsAre());
-    system->kill();
+    system.send(SIGKILL);
     EXPECT_TRUE(processUntil([&] { return !log.empty(); }));
     EXPECT_THAT(log, ElementsAre(HasSubstr("system bus cannot be reached")));
 }
@@ -215,18 +197,16 @@ TEST_F(BusEvents, ABusThatHangsHoldsNothingUp) {
 using Settings = DesktopAppearance::Settings;
 using Groups = QMap<QString, QVariantMap>;
 
-TEST(DesktopAppearances, WhatThePortalSaysIsToldOnceAndFollowed) {
+TEST(DesktopAppearances, FollowsThePortalAndTellsOfEachChangeOnce) {
     PrivateBus session("DBUS_SESSION_BUS_ADDRESS");
     qDBusRegisterMetaType<Groups>();
     const Groups groups{
-        {QStringLiteral("org.freedesktop.appearance"),
-         {{QStringLiteral("contrast"), 1U}, {QStringLiteral("color-scheme"), 2U}}},
+        {QStringLiteral("org.freedesktop.appearance"), {{QStringLiteral("contrast"), 1U}}},
         {QStringLiteral("org.gnome.desktop.interface"),
          {{QStringLiteral("enable-animations"), false}, {QStringLiteral("contrast"), 0U}}},
         {QStringLiteral("org.gnome.other"), {{QStringLiteral("enable-animations"), true}}}};
     session.serve("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
-                  {{QStringLiteral("ReadAll"),
-                    [&](const QVariantList&) { return QVariant::fromValue(groups); }}});
+                  {{"ReadAll", [&](const QVariantList&) { return QVariant::fromValue(groups); }}});
     const auto change = [&](const char* group, const char* key, const QVariant& value) {
         session.emitSignal(
             "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings", "SettingChanged",

@@ -6,19 +6,14 @@
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <csignal>
 #include <future>
-#include <map>
-#include <string>
-#include <vector>
 
 #include "tests/support/FileDescriptor.h"
 #include "tests/support/ManualRunLoop.h"
 #include "tests/support/ScratchFolder.h"
-#include "tests/support/Succeeded.h"
 
 namespace tonquil {
 namespace {
@@ -30,28 +25,23 @@ const std::string wholeRequest = std::string("TQL1show").append(1, '\0');
 class InstanceSockets : public testing::Test {
  protected:
     Result<std::unique_ptr<InstanceListener>> claim() {
-        const auto hear = [this](const std::string& request) {
-            requests.push_back(request);
-            return "heard " + request;
-        };
         return InstanceSocket::claim(path, loop, hear,
                                      [this](std::string_view line) { log.emplace_back(line); });
     }
     /// Hands over while this instance goes on.
-    Result<std::string> handOver(const std::string& request) {
+    std::string handOver(const std::string& request) {
         auto answer =
             std::async(std::launch::async, [&] { return InstanceSocket::handOver(path, request); });
         while (answer.wait_for(0s) != std::future_status::ready) {
             loop.pollReadable(10ms);
         }
-        return answer.get();
+        return answer.get().value();
     }
     /// A program that is none of ours sends these bytes.
     [[nodiscard]] FileDescriptor sendRaw(const std::string& bytes) const {
         FileDescriptor client(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        std::copy(path.native().begin(), path.native().end(), std::begin(address.sun_path));
+        sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+        std::ranges::copy(path.native(), std::begin(address.sun_path));
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
         const auto* const generic = reinterpret_cast<const sockaddr*>(&address);
         EXPECT_EQ(connect(client.get(), generic, sizeof address), 0);
@@ -74,9 +64,13 @@ class InstanceSockets : public testing::Test {
     ManualRunLoop loop;
     std::vector<std::string> requests;
     std::vector<std::string> log;
+    std::function<std::string(const std::string&)> hear = [this](const std::string& request) {
+        requests.push_back(request);
+        return "heard " + request;
+    };
 };
 
-TEST_F(InstanceSockets, TheSocketOfAKilledInstanceIsTakenOver) {
+TEST_F(InstanceSockets, TakesOverTheSocketOfAKilledInstanceOnly) {
     const pid_t child = fork();
     if (child == 0) {
         alarm(30);
@@ -93,25 +87,19 @@ TEST_F(InstanceSockets, TheSocketOfAKilledInstanceIsTakenOver) {
     ASSERT_EQ(waitpid(child, nullptr, 0), child);
     ASSERT_TRUE(std::filesystem::exists(path)) << "the killed instance leaves its socket";
 
-    const auto listener = claim();
-    mustSucceed(listener);
-    EXPECT_EQ(handOver("show\nquit").value(), "heard show quit") << "an answer is one line";
+    const auto listener = claim().value();
+    EXPECT_EQ(handOver("show\nquit"), "heard show quit") << "an answer is one line";
     EXPECT_EQ(requests, std::vector<std::string>{"show\nquit"});
-    EXPECT_EQ(handOver(std::string(InstanceSocket::mostBytes, 'x')).value(),
+    EXPECT_EQ(handOver(std::string(InstanceSocket::mostBytes, 'x')),
               std::string("heard ").append(InstanceSocket::mostBytes - 6, 'x'));
 }
 
-TEST_F(InstanceSockets, WhatIsNoRequestIsRefused) {
-    const auto listener = claim();
-    mustSucceed(listener);
-    const std::map<std::string, std::string> rows{
-        {"garbage", "GET / HTTP/1.0\r\n\r\n"},
-        {"too much", std::string("TQL1").append(InstanceSocket::mostBytes + 1, 'x')},
-        {"two requests", wholeRequest + "TQL1"},
-        {"half a request", "TQL1sh"},
-        {"nothing", ""}};
-    for (const auto& [what, bytes] : rows) {
-        SCOPED_TRACE(what);
+TEST_F(InstanceSockets, RefusesWhatIsNoRequest) {
+    const auto listener = claim().value();
+    for (const std::string& bytes : {std::string("GET / HTTP/1.0\r\n\r\n"),
+                                     std::string("TQL1").append(InstanceSocket::mostBytes + 1, 'x'),
+                                     wholeRequest + "TQL1", std::string("TQL1sh"), std::string()}) {
+        SCOPED_TRACE(bytes.substr(0, 30));
         log.clear();
         const auto client = sendRaw(bytes);
         shutdown(client.get(), SHUT_WR);
@@ -122,46 +110,45 @@ TEST_F(InstanceSockets, WhatIsNoRequestIsRefused) {
     EXPECT_TRUE(requests.empty());
     EXPECT_FALSE(InstanceSocket::handOver(path, std::string(InstanceSocket::mostBytes + 1, 'x')));
     EXPECT_FALSE(InstanceSocket::handOver(path, std::string(1, '\0')));
-    EXPECT_EQ(handOver("").value(), "heard ") << "it goes on after all of that";
+    EXPECT_EQ(handOver(""), "heard ") << "it goes on after all of that";
 }
 
-TEST_F(InstanceSockets, SilentClientsHoldNothingUpAndAreDropped) {
-    const auto listener = claim();
-    mustSucceed(listener);
+TEST_F(InstanceSockets, DropsSilentClientsAndServesOthersMeanwhile) {
+    const auto listener = claim().value();
     std::vector<FileDescriptor> silent;
     while (silent.size() + 1 < InstanceSocket::mostClients) {
         silent.push_back(sendRaw("TQL"));
     }
     pollAll();
-    EXPECT_EQ(handOver("one more").value(), "heard one more");
+    EXPECT_EQ(handOver("one more"), "heard one more");
     silent.push_back(sendRaw(""));
     // With eight at once, the ninth waits its turn.
     const auto waiting = sendRaw(wholeRequest);
     pollAll();
     EXPECT_EQ(requests.size(), 1U);
     loop.advance(InstanceSocket::requestTime);
-    EXPECT_TRUE(std::all_of(silent.begin(), silent.end(), isClosed));
+    EXPECT_TRUE(std::ranges::all_of(silent, isClosed));
     pollAll();
     EXPECT_EQ(requests.back(), "show");
 }
 
-TEST_F(InstanceSockets, AHandlerMayDestroyTheListener) {
+TEST_F(InstanceSockets, SurvivesAHandlerThatDestroysTheListener) {
     std::unique_ptr<InstanceListener> listener;
-    listener = InstanceSocket::claim(path, loop, [&](const std::string&) {
-                   listener.reset();
-                   return std::string("quits");
-               }).value();
-    EXPECT_EQ(handOver("quit").value(), "quits");
+    hear = [&](const std::string&) {
+        listener.reset();
+        return std::string("quits");
+    };
+    listener = claim().value();
+    EXPECT_EQ(handOver("quit"), "quits");
     EXPECT_FALSE(std::filesystem::exists(path));
     EXPECT_NE(claim().value(), nullptr) << "the place is free";
 }
 
-TEST_F(InstanceSockets, AnotherUsersProgramIsRefused) {
+TEST_F(InstanceSockets, RefusesAnotherUsersProgramAndAFolderOpenToOthers) {
     if (geteuid() != 0) {
         GTEST_SKIP() << "only root can be two users";
     }
-    const auto listener = claim();
-    mustSucceed(listener);
+    const auto listener = claim().value();
     // As if the folder had been opened behind the program's back.
     for (const auto& entry : {folder.path(), path.parent_path(), path}) {
         ASSERT_EQ(chmod(entry.c_str(), 0777), 0);
@@ -176,10 +163,10 @@ TEST_F(InstanceSockets, AnotherUsersProgramIsRefused) {
     pollAll();
     EXPECT_TRUE(requests.empty());
     EXPECT_EQ(log.size(), 1U);
-    EXPECT_FALSE(InstanceSocket::handOver(path, "show", 30ms)) << "nor is such a folder trusted";
+    EXPECT_FALSE(InstanceSocket::handOver(path, "show", 30ms));
     EXPECT_FALSE(claim());
     path = folder.path() / std::string(120, 'x');
-    EXPECT_FALSE(claim());
+    EXPECT_FALSE(claim()) << "longer than a socket's name may be";
 }
 
 }  // namespace

@@ -2,69 +2,59 @@
 #include "tests/desktop/PrivateBus.h"
 
 #include <QDBusMessage>
+#include <QUuid>
 #include <chrono>
 #include <fstream>
-#include <utility>
+
+#include "tests/support/Succeeded.h"
 
 namespace tonquil {
 
 namespace {
 
-using namespace std::chrono_literals;
-
 /// Answers the methods of a made-up service.
 class Service final : public QDBusVirtualObject {
  public:
-    explicit Service(std::map<QString, PrivateBus::Answer> methods)
-        : _methods(std::move(methods)) {}
+    explicit Service(PrivateBus::Methods methods) : _methods(std::move(methods)) {}
 
     [[nodiscard]] QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
-        const auto method = _methods.find(message.member());
-        const QVariant answer =
-            method == _methods.end() ? QVariant() : method->second(message.arguments());
+        QVariant answer;
+        for (const auto& [name, method] : _methods) {
+            if (message.member() == QLatin1String(name)) {
+                answer = method(message.arguments());
+            }
+        }
         return connection.send(answer.isValid()
                                    ? message.createReply(answer)
                                    : message.createErrorReply(QDBusError::Failed, QString()));
     }
 
  private:
-    std::map<QString, PrivateBus::Answer> _methods;
+    PrivateBus::Methods _methods;
 };
 
-std::unique_ptr<BackgroundProcess> startDaemon(const ScratchFolder& folder) {
-    const std::string configuration = folder.path() / "bus.conf";
+}  // namespace
+
+PrivateBus::PrivateBus(const char* variable) : _variable(variable) {
+    const std::string configuration = _folder.path() / "bus.conf";
     std::ofstream(configuration) << "<busconfig><type>session</type><listen>unix:path="
-                                 << (folder.path() / "bus").native()
+                                 << (_folder.path() / "bus").native()
                                  << "</listen><auth>EXTERNAL</auth><policy context=\"default\">"
                                     "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
                                     "<allow eavesdrop=\"true\"/><allow own=\"*\"/>"
                                     "</policy></busconfig>\n";
-    ProcessRequest request;
-    request.command = {"dbus-daemon", "--config-file", configuration, "--print-address",
-                       "--nofork"};
-    auto daemon = BackgroundProcess::start(request).value();
-    if (!daemon->waitForOutput("\n", 20s)) {
-        qFatal("The bus daemon does not start: %s", daemon->standardError().c_str());
-    }
-    return daemon;
-}
-
-QString newName() {
-    static int count = 0;
-    return QStringLiteral("desktop-%1").arg(++count);
-}
-
-}  // namespace
-
-PrivateBus::PrivateBus(const char* variable)
-    : _variable(variable), _daemon(startDaemon(_folder)), _name(newName()), _connection(QString()) {
+    _daemon = BackgroundProcess::start({.command = {"dbus-daemon", "--config-file", configuration,
+                                                    "--print-address", "--nofork"}})
+                  .value();
+    EXPECT_TRUE(_daemon->waitForOutput("\n", std::chrono::seconds(20))) << _daemon->standardError();
     qputenv(_variable, QByteArray::fromStdString(_daemon->standardOutput()).trimmed());
-    _connection = QDBusConnection::connectToBus(qEnvironmentVariable(_variable), _name);
+    _connection = QDBusConnection::connectToBus(qEnvironmentVariable(_variable),
+                                                QUuid::createUuid().toString());
 }
 
 PrivateBus::~PrivateBus() {
-    QDBusConnection::disconnectFromBus(_name);
+    QDBusConnection::disconnectFromBus(_connection.name());
     qunsetenv(_variable);
 }
 
@@ -81,8 +71,8 @@ void PrivateBus::takeAndLeave(const char* name) {
     _connection.unregisterService(QLatin1String(name));
 }
 
-void PrivateBus::serve(const char* name, const char* path, std::map<QString, Answer> methods) {
-    _object = std::make_unique<Service>(std::move(methods));
+void PrivateBus::serve(const char* name, const char* path, const Methods& methods) {
+    _object = std::make_unique<Service>(methods);
     _connection.registerVirtualObject(QLatin1String(path), _object.get(), QDBusConnection::SubPath);
     _connection.registerService(QLatin1String(name));
 }

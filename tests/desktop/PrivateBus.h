@@ -16,32 +16,29 @@ namespace tonquil {
 /// connection to it that plays the desktop.
 class PrivateBus {
  public:
-    /// Ends the program if no daemon can be started.
     explicit PrivateBus(const char* variable);
     ~PrivateBus();
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
 
     void emitSignal(const char* path, const char* interface, const char* name,
-                    const QVariantList& arguments = {});
+                    const QVariantList& arguments);
     /// Takes a well-known name and gives it up again.
     void takeAndLeave(const char* name);
-    /// Makes the daemon hang.
-    void suspend() { _daemon->send(SIGSTOP); }
-    /// Ends the daemon at once.
-    void kill() { _daemon->kill(); }
+    /// Ends the daemon, or with SIGSTOP makes it hang.
+    void send(int signal) { _daemon->send(signal); }
 
     using Answer = std::function<QVariant(const QVariantList& arguments)>;
+    using Methods = std::map<const char*, Answer>;
     /// Becomes a service whose object at `path`, and all below it, answer these methods; an
     /// invalid answer becomes an error.
-    void serve(const char* name, const char* path, std::map<QString, Answer> methods);
+    void serve(const char* name, const char* path, const Methods& methods);
 
  private:
     const char* _variable;
     ScratchFolder _folder;
     std::unique_ptr<BackgroundProcess> _daemon;
-    QString _name;
-    QDBusConnection _connection;
+    QDBusConnection _connection{QString()};
     std::unique_ptr<QDBusVirtualObject> _object;
 };
 

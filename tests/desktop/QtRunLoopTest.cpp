@@ -5,7 +5,6 @@
 #include <sys/eventfd.h>
 
 #include <array>
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -17,7 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(QtRunLoops, TimersAndWatchesCallUntilTheirHandleGoesAndNothingOnceTheLoopHasGone) {
+TEST(QtRunLoop, CallsInOrderUntilTheHandleOrTheLoopGoes) {
     std::optional<QtRunLoop> made(std::in_place);
     QtRunLoop& loop = *made;
     std::string order;
@@ -55,7 +54,7 @@ TEST(QtRunLoops, TimersAndWatchesCallUntilTheirHandleGoesAndNothingOnceTheLoopHa
     EXPECT_EQ(calls, final);
 }
 
-TEST(QtRunLoops, AHandleMayBeLetGoFromInsideItsOwnCall) {
+TEST(QtRunLoop, LetsAHandleGoFromInsideItsOwnCall) {
     QtRunLoop loop;
     const FileDescriptor readable(eventfd(1, EFD_CLOEXEC));
     std::array<std::unique_ptr<RunLoop::Handle>, 3> handles;
@@ -67,9 +66,8 @@ TEST(QtRunLoops, AHandleMayBeLetGoFromInsideItsOwnCall) {
             calls += text;
         };
     };
-    handles[0] = loop.callOnce(0ms, letGo(0));
-    handles[1] = loop.callRepeatedly(1ms, letGo(1));
-    handles[2] = loop.watchReadable(readable.get(), letGo(2));
+    handles = {loop.callOnce(0ms, letGo(0)), loop.callRepeatedly(1ms, letGo(1)),
+               loop.watchReadable(readable.get(), letGo(2))};
     EXPECT_TRUE(processUntil([&] { return calls.size() >= 300; }));
     processFor(20ms);
     EXPECT_EQ(calls.size(), 300U);

@@ -1,51 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "tests/desktop/QtSurroundings.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QTimer>
-#include <array>
-#include <chrono>
-#include <memory>
 
 namespace tonquil {
 
-namespace {
-
-using namespace std::chrono_literals;
-
-/// The application object that Qt's event loop needs.
-class QtEnvironment : public testing::Environment {
- public:
-    void SetUp() override { _application = std::make_unique<QCoreApplication>(_count, &_name); }
-    void TearDown() override { _application.reset(); }
-
- private:
-    int _count = 1;
-    std::array<char, 8> _letters{"desktop"};
-    char* _name = _letters.data();
-    std::unique_ptr<QCoreApplication> _application;
-};
-
-[[maybe_unused]] const auto* const environment =
-    testing::AddGlobalTestEnvironment(std::make_unique<QtEnvironment>().release());
-
-}  // namespace
-
 bool processUntil(const std::function<bool()>& condition) {
-    const QDeadlineTimer deadline(20s);
+    const QDeadlineTimer deadline(std::chrono::seconds(20));
     QTimer look;
-    look.start(5ms);
-    while (!condition()) {
-        if (deadline.hasExpired()) {
-            return false;
-        }
+    look.start(std::chrono::milliseconds(5));
+    while (!condition() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    return true;
+    return !deadline.hasExpired();
 }
 
 void processFor(std::chrono::milliseconds time) {
@@ -54,3 +26,9 @@ void processFor(std::chrono::milliseconds time) {
 }
 
 }  // namespace tonquil
+
+int main(int argc, char** argv) {
+    testing::InitGoogleMock(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -39,17 +39,14 @@ class GrantingService final : public HotKeyService {
         return _lastHandle;
     }
     void unregisterHotKey(HotKeyHandle handle) override { grants.erase(handle); }
-    void press(std::uint32_t id) const { _pressed(event(id)); }
-    void release(std::uint32_t id) const { _released(event(id)); }
+    void press(std::uint32_t id) const { _pressed({.id = id}); }
+    void release(std::uint32_t id) const { _released({id, 30, 40, ModifierFlag::control, {}}); }
     [[nodiscard]] bool isHeard() const { return _pressed || _released; }
 
     std::map<HotKeyHandle, Grant> grants;
     bool isHeldByOthers = false;
 
  private:
-    static HotKeyServiceEvent event(std::uint32_t id) {
-        return {id, 30, 40, ModifierFlag::control, std::chrono::milliseconds(1234)};
-    }
     HotKeyHandle _lastHandle = 70;
     Handler _pressed;
     Handler _released;
@@ -67,88 +64,66 @@ class HotKeyCenterTest : public testing::Test {
     DDHotKey::Task task() {
         return [this](const HotKeyEvent&) { heard.emplace_back("task"); };
     }
-    void pressAndRelease(std::uint32_t id) const {
-        service.press(id);
-        service.release(id);
-    }
 
     GrantingService service;
-    std::vector<std::string> log;
     std::vector<std::string> heard;
-    HotKeyEvent last;
-    std::unique_ptr<DDHotKeyCenter> center = std::make_unique<DDHotKeyCenter>(
-        service, [this](std::string_view line) { log.emplace_back(line); });
+    std::unique_ptr<DDHotKeyCenter> center = std::make_unique<DDHotKeyCenter>(service, Log());
 };
 
 TEST_F(HotKeyCenterTest, AsksTheServiceForTheFourModifiersAlone) {
-    struct Row {
-        ModifierFlags flags;
-        HotKeyServiceMask mask;
-    };
-    std::uint16_t keyCode = 0;
     service.isHeldByOthers = true;
     EXPECT_FALSE(center->registerHotKeyWithKeyCode(f5, 0, task()));
     EXPECT_EQ(center->lastRefusal()->sentence, "Another program holds it.");
     EXPECT_TRUE(center->registeredHotKeys().empty());
     service.isHeldByOthers = false;
-    for (const Row& row :
-         {Row{ModifierFlag::command, 0x100}, Row{ModifierFlag::shift, 0x200},
-          Row{ModifierFlag::option, 0x800}, Row{ModifierFlag::control, 0x1000},
-          Row{0xFFFFFFFF, 0x1B00}, Row{0xA10000 | ModifierFlag::control, 0x1000}}) {
-        SCOPED_TRACE(row.flags);
-        ASSERT_TRUE(center->registerHotKeyWithKeyCode(++keyCode, row.flags, task()));
-        EXPECT_EQ(service.grants.rbegin()->second.keyCode, keyCode);
-        EXPECT_EQ(service.grants.rbegin()->second.modifiers, row.mask);
-        EXPECT_EQ(service.grants.rbegin()->second.id, keyCode) << "numbers go up by one";
+    std::uint16_t keyCode = 0;
+    for (const auto& [flags, mask] : std::vector<std::pair<ModifierFlags, HotKeyServiceMask>>{
+             {ModifierFlag::command, 0x100},
+             {ModifierFlag::shift, 0x200},
+             {ModifierFlag::option, 0x800},
+             {0xA10000 | ModifierFlag::control, 0x1000}}) {
+        SCOPED_TRACE(flags);
+        ASSERT_TRUE(center->registerHotKeyWithKeyCode(++keyCode, flags, task()));
+        const auto& grant = service.grants.rbegin()->second;
+        EXPECT_EQ(grant.keyCode, keyCode);
+        EXPECT_EQ(grant.modifiers, mask);
+        EXPECT_EQ(grant.id, keyCode) << "numbers go up by one";
     }
 }
 
 TEST_F(HotKeyCenterTest, RefusesACombinationThatIsRegisteredAndComparesAllFlags) {
-    const ModifierFlags plain = ModifierFlag::control;
-    const ModifierFlags withFunction = plain | ModifierFlag::function;
+    const ModifierFlags withFunction = ModifierFlag::control | ModifierFlag::function;
     EXPECT_TRUE(center->registerHotKeyWithKeyCode(f5, withFunction, task()));
     EXPECT_FALSE(center->registerHotKeyWithKeyCode(f5, withFunction, HotKeyReceiver{}));
     EXPECT_TRUE(center->lastRefusal());
-    EXPECT_TRUE(center->hasRegisteredHotKeyWithKeyCode(f5, withFunction));
-    EXPECT_FALSE(center->hasRegisteredHotKeyWithKeyCode(f5, plain));
-    EXPECT_TRUE(center->registerHotKeyWithKeyCode(f5, plain, task()));
+    EXPECT_FALSE(center->hasRegisteredHotKeyWithKeyCode(f5, ModifierFlag::control));
+    EXPECT_TRUE(center->registerHotKeyWithKeyCode(f5, ModifierFlag::control, task()));
     EXPECT_FALSE(center->lastRefusal());
-    EXPECT_EQ(center->registeredHotKeys().size(), 2U);
 }
 
 TEST_F(HotKeyCenterTest, InvokesWhatTheReceiverRespondsTo) {
     const int target = 0;
-    const HotKeyAction deaf{"toggle", {}};
-    struct Row {
-        const char* name;
-        HotKeyReceiver receiver;
-        std::vector<std::string> heard;
-    };
-    const std::vector<Row> rows{
-        {"both", {&target, told("up"), told("down"), std::string("it")}, {"down it", "up it"}},
-        {"no object", {&target, told("up"), {}, {}}, {"up"}},
-        {"no target", {nullptr, told("up"), told("down"), {}}, {}},
-        {"a target that does not respond", {&target, deaf, deaf, {}}, {}},
-    };
-    std::uint32_t id = 0;
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        heard.clear();
-        ASSERT_TRUE(
-            center->registerHotKeyWithKeyCode(static_cast<std::uint16_t>(++id), 0, row.receiver));
-        pressAndRelease(id);
-        EXPECT_EQ(heard, row.heard);
+    const std::vector<HotKeyReceiver> receivers{
+        {&target, told("up"), told("down"), std::string("it")},
+        {&target, told("up"), {}, {}},
+        {nullptr, told("up"), told("down"), {}},
+        {&target, {"toggle", {}}, {"toggle", {}}, {}}};
+    std::uint16_t keyCode = 0;
+    for (const HotKeyReceiver& receiver : receivers) {
+        ASSERT_TRUE(center->registerHotKeyWithKeyCode(++keyCode, 0, receiver));
     }
-    heard.clear();
-    ASSERT_TRUE(center->registerHotKeyWithKeyCode(50, 0, task()));
-    pressAndRelease(++id);
-    EXPECT_THAT(heard, ElementsAre("task")) << "once, on release";
-    pressAndRelease(id + 1);
-    EXPECT_EQ(heard.size(), 1U) << "a number of nobody's";
+    ASSERT_TRUE(center->registerHotKeyWithKeyCode(++keyCode, 0, task()));
+    // The last is a number of nobody's.
+    for (std::uint32_t id = 1; id <= receivers.size() + 2; ++id) {
+        service.press(id);
+        service.release(id);
+    }
+    EXPECT_THAT(heard, ElementsAre("down it", "up it", "up", "task")) << "a task on release";
 }
 
 TEST_F(HotKeyCenterTest, AnActionHearsOfTheKeyAndMayUnregisterAndTheEndGivesEverythingUp) {
-    ASSERT_TRUE(center->registerHotKeyWithKeyCode(f5, 0, [this](const HotKeyEvent& event) {
+    HotKeyEvent last;
+    ASSERT_TRUE(center->registerHotKeyWithKeyCode(f5, 0, [&](const HotKeyEvent& event) {
         center->unregisterAllHotKeys();
         last = event;
     }));
@@ -157,7 +132,6 @@ TEST_F(HotKeyCenterTest, AnActionHearsOfTheKeyAndMayUnregisterAndTheEndGivesEver
     EXPECT_EQ(last.keyCode, f5);
     EXPECT_EQ(last.x, 30);
     EXPECT_EQ(last.modifierFlags, ModifierFlag::control);
-    EXPECT_EQ(last.timestamp, std::chrono::milliseconds(1234));
     EXPECT_TRUE(service.grants.empty());
     ASSERT_TRUE(center->registerHotKeyWithKeyCode(1, 0, task()));
     DDHotKeyCenter::setSharedHotKeyCenter(center.get());
@@ -170,8 +144,7 @@ TEST_F(HotKeyCenterTest, AnActionHearsOfTheKeyAndMayUnregisterAndTheEndGivesEver
 TEST_F(HotKeyCenterTest, UnregistersThoseThatAreMeantAndNoOthers) {
     const int first = 0;
     const int second = 0;
-    using Unregister = std::function<void()>;
-    const std::vector<std::pair<Unregister, std::vector<std::uint16_t>>> rows{
+    const std::vector<std::pair<std::function<void()>, std::vector<std::uint16_t>>> rows{
         {[&] { center->unregisterHotKeysWithTarget(&first); }, {3, 3}},
         {[&] { center->unregisterHotKeysWithTarget(&first, "toggle"); }, {2, 3, 3}},
         {[&] { center->unregisterHotKeyWithKeyCode(3, 0); }, {1, 2, 3}},

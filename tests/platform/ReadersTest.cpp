@@ -2,23 +2,11 @@
 #include <gtest/gtest.h>
 
 #include "platform/edid/Edid.h"
-#include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/x11/displays/X11RampJournal.h"
 #include "tests/support/EdidBuilder.h"
 
 namespace tonquil {
 namespace {
-
-TEST(Edid, TellsVendorProductAndSerialNumber) {
-    const auto edid = parseEdid(buildEdid(
-        {.manufacturer = "DEL", .product = 0xA0B1, .serial = 0x12345678, .name = "DELL U2720Q"}));
-    ASSERT_TRUE(edid);
-    // D, E, L are 4, 5 and 12 in five bits each: 0 00100 00101 01100.
-    EXPECT_EQ(edid->vendorNumber, 0x10ACU);
-    EXPECT_EQ(edid->modelNumber, 0xA0B1U);
-    EXPECT_EQ(edid->serialNumber, 0x12345678U);
-    EXPECT_EQ(edid->productName, "DELL U2720Q");
-}
 
 TEST(Edid, TakesTheSerialTextWhereTheNumberIsAFiller) {
     // FNV-1a of the text, computed apart: offset 0x811C9DC5, prime 0x01000193.
@@ -28,14 +16,12 @@ TEST(Edid, TakesTheSerialTextWhereTheNumberIsAFiller) {
         std::optional<std::string> text;
         std::uint32_t expected;
     };
-    const std::vector<Row> rows{{0, "ABC123", hashOfABC123},
-                                {0x01010101U, "ABC123", hashOfABC123},
-                                {0xFFFFFFFFU, "ABC123", hashOfABC123},
-                                {0x01010102U, "ABC123", 0x01010102U},
-                                {0, std::nullopt, 0},
-                                {0x01010101U, std::nullopt, 0},
-                                {0xFFFFFFFFU, "   ", 0}};
-    for (const Row& row : rows) {
+    for (const Row& row : {Row{0, "ABC123", hashOfABC123},
+                           {0x01010101U, "ABC123", hashOfABC123},
+                           {0xFFFFFFFFU, "ABC123", hashOfABC123},
+                           {0x01010102U, "ABC123", 0x01010102U},
+                           {0x01010101U, std::nullopt, 0},
+                           {0xFFFFFFFFU, "   ", 0}}) {
         SCOPED_TRACE(row.serial);
         EXPECT_EQ(
             parseEdid(buildEdid({.serial = row.serial, .serialText = row.text}))->serialNumber,
@@ -44,20 +30,13 @@ TEST(Edid, TakesTheSerialTextWhereTheNumberIsAFiller) {
 }
 
 TEST(Edid, NeedsAWholeBlockWithItsHeader) {
-    auto bytes = buildEdid({.serial = 5});
+    auto bytes = buildEdid({.product = 0xA0B1, .serial = 5});
     EXPECT_FALSE(parseEdid(std::span(bytes).first(127)));
-    EXPECT_FALSE(parseEdid({}));
     bytes[127] ^= 0xFFU;
-    EXPECT_TRUE(parseEdid(bytes)) << "the checksum is not asked for";
+    ASSERT_TRUE(parseEdid(bytes)) << "the checksum is not asked for";
+    EXPECT_EQ(parseEdid(bytes)->modelNumber, 0xA0B1U);
     bytes[7] = 1;
     EXPECT_FALSE(parseEdid(bytes));
-}
-
-TEST(SimulatedDeskReader, RefusesWhatIsNoDesk) {
-    for (const char* text : {"", "{}", "[1, 2", R"([{"id": 3}, {"id": 3}])", R"([{"id": 0}])"}) {
-        EXPECT_FALSE(readSimulatedDesk(text)) << text;
-    }
-    EXPECT_TRUE(readSimulatedDesk("[]")) << "a desk without displays is one";
 }
 
 TEST(X11RampJournal, KeepsTheLastSystemRampOfEachCrtc) {
@@ -76,11 +55,9 @@ TEST(X11RampJournal, KeepsTheLastSystemRampOfEachCrtc) {
 }
 
 TEST(X11RampJournal, EndsAtABlockThatMakesNoSense) {
-    const std::vector<std::uint32_t> good{62, 2, 1, 1, 1};
     for (const std::uint32_t size : {0U, 1U, 3U, 16'385U, 0xFFFFFFFFU}) {
-        std::vector<std::uint32_t> units = good;
-        units.insert(units.end(), {63, size, 5, 5, 5});
-        const auto histories = X11RampJournal::parse({}, units);
+        const auto histories =
+            X11RampJournal::parse({}, std::vector{62U, 2U, 1U, 1U, 1U, 63U, size, 5U, 5U, 5U});
         EXPECT_EQ(histories.size(), 1U) << size;
         EXPECT_TRUE(histories.contains(62));
     }

@@ -46,23 +46,16 @@ TEST(X11DisplayService, KnowsDisplaysByTheirEdidOrTheirSize) {
 
 TEST(X11DisplayService, SurvivesTheServersDeath) {
     const auto server = XServer::start().value();
-    std::vector<std::string> log;
-    const auto service =
-        X11DisplayService::open(server->display().c_str(), nullptr, [&](std::string_view line) {
-            log.emplace_back(line);
-        }).value();
+    const auto service = X11DisplayService::open(server->display().c_str(), nullptr, {}).value();
     const DisplayID display = service->mainDisplay();
     GammaTable table;
     EXPECT_EQ(service->getTransferTable(display, table), 256U);
     server->kill();
-    for (int call = 0; call < 3; ++call) {
-        service->setTransferTable(display, table);
-        service->restoreSystemCalibration();
-    }
+    service->setTransferTable(display, table);
+    service->restoreSystemCalibration();
     EXPECT_EQ(service->getTransferTable(display, table), 0U);
     EXPECT_TRUE(service->onlineDisplays(25).empty());
     EXPECT_TRUE(service->description(display).connector.empty());
-    EXPECT_LE(log.size(), 3U);
 }
 
 TEST(X11DisplayService, KeepsItsJournalShortDuringALongDrag) {

@@ -3,8 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdio>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <thread>
 
@@ -16,11 +17,7 @@
 namespace tonquil {
 
 bool eventually(const std::function<bool()>& question) {
-    constexpr int tries = 400;
-    for (int count = 0; count < tries; ++count) {
-        if (question()) {
-            return true;
-        }
+    for (int count = 0; count < 400 && !question(); ++count) {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
     return question();
@@ -28,72 +25,69 @@ bool eventually(const std::function<bool()>& question) {
 
 bool stays(const std::function<bool()>& question, std::chrono::milliseconds duration) {
     const auto end = std::chrono::steady_clock::now() + duration;
-    while (std::chrono::steady_clock::now() < end) {
-        if (!question()) {
-            return false;
-        }
+    bool isYes = true;
+    while (isYes && std::chrono::steady_clock::now() < end) {
+        isYes = question();
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
-    return true;
+    return isYes;
 }
 
-Desk::Desk(WindowManager manager) : _server(XServer::start().value()) {
+Desk::Desk(bool hasWindowManager) {
     mustSucceed(_server->setEdid("DUMMY0", buildEdid({.serial = 1})));
     mustSucceed(_server->setEdid("DUMMY1", buildEdid({.serial = 2})));
     mustSucceed(_server->plug("DUMMY1", "1280x1024"));
-    _reader = std::make_unique<RampReader>(RampReader::connect(_server->display()).value());
-    if (manager == WindowManager::Yes) {
-        ProcessRequest openbox = request({"openbox"});
+    std::filesystem::create_directories(folder() / "runtime");
+    std::filesystem::permissions(folder() / "runtime", std::filesystem::perms::owner_all);
+    std::filesystem::create_directories(folder() / "config/tonquil");
+    if (hasWindowManager) {
+        ProcessRequest openbox = requestFor({"openbox"});
         // Its themes are there.
         openbox.environment.erase("XDG_DATA_DIRS");
         _manager = BackgroundProcess::start(openbox).value();
         // It is there when it has put its name up.
         EXPECT_TRUE(eventually([this] {
-            const auto result = run(request({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}));
-            return result && result->standardOutput.find("window id") != std::string::npos;
+            return run({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"})
+                       .standardOutput.find("window id") != std::string::npos;
         }));
     }
 }
 
-ProcessRequest Desk::request(const std::vector<std::string>& command) const {
-    ProcessRequest request;
-    request.command = command;
-    const std::string folder = _folder.path();
-    request.environment = {{"DISPLAY", _server->display()},
-                           {"HOME", folder},
-                           {"XDG_CONFIG_HOME", folder + "/config"},
-                           {"XDG_STATE_HOME", folder + "/state"},
-                           {"XDG_RUNTIME_DIR", folder + "/runtime"},
-                           // No program of this machine that changes ramps is found either.
-                           {"XDG_DATA_HOME", folder + "/data"},
-                           {"XDG_DATA_DIRS", folder + "/none"},
-                           {"LC_ALL", "C.UTF-8"},
-                           // Neither bus is there, whatever this machine has.
-                           {"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + folder + "/none"},
-                           {"DBUS_SESSION_BUS_ADDRESS", "unix:path=" + folder + "/none"}};
-    request.unset = {"LANGUAGE",        "WAYLAND_DISPLAY", "QT_QPA_PLATFORM",
-                     "QT_SCALE_FACTOR", "XAUTHORITY",      "TONQUIL_DISPLAY_SERVICE"};
-    return request;
+ProcessRequest Desk::requestFor(const std::vector<std::string>& command) const {
+    const std::string home = folder();
+    return {.command = command,
+            .environment = {{"DISPLAY", _server->display()},
+                            {"HOME", home},
+                            {"XDG_CONFIG_HOME", home + "/config"},
+                            {"XDG_STATE_HOME", home + "/state"},
+                            {"XDG_RUNTIME_DIR", home + "/runtime"},
+                            // No program of this machine that changes ramps is found either.
+                            {"XDG_DATA_HOME", home + "/data"},
+                            {"XDG_DATA_DIRS", home + "/none"},
+                            {"LC_ALL", "C.UTF-8"},
+                            // Neither bus is there, whatever this machine has.
+                            {"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + home + "/none"},
+                            {"DBUS_SESSION_BUS_ADDRESS", "unix:path=" + home + "/none"}},
+            .unset = {"LANGUAGE", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR",
+                      "XAUTHORITY", "TONQUIL_DISPLAY_SERVICE"}};
 }
 
 void Desk::start(const PropertyValue& preferences) {
-    writePreferences(preferences);
-    startWithoutPanel({});
+    PropertyValue all = {{"Window Frame ControlWindow", "200 200 320 470"}};
+    all.update(this->preferences());
+    all.update(preferences);
+    writePreferences(all);
+    startWithoutPanel();
     EXPECT_TRUE(eventually([this] { return hasPanel(); })) << _program->standardError();
 }
 
-void Desk::startWithoutPanel(const std::vector<std::string>& arguments) {
-    std::filesystem::create_directories(_folder.path() / "runtime");
-    std::filesystem::permissions(_folder.path() / "runtime", std::filesystem::perms::owner_all);
-    std::vector<std::string> command{TONQUIL};
-    command.insert(command.end(), arguments.begin(), arguments.end());
-    _program = BackgroundProcess::start(request(command)).value();
+void Desk::startWithoutPanel() {
+    _program = begin({TONQUIL});
 }
 
-ProcessResult Desk::runBeside(const std::vector<std::string>& arguments) const {
-    std::vector<std::string> command{TONQUIL};
-    command.insert(command.end(), arguments.begin(), arguments.end());
-    return run(request(command)).value();
+void Desk::request(const std::string& argument) const {
+    const ProcessResult result = run({TONQUIL, argument});
+    EXPECT_TRUE(result.succeeded()) << argument << result.standardError;
 }
 
 int Desk::waitForEnd() {
@@ -101,37 +95,28 @@ int Desk::waitForEnd() {
     return result ? result->exitStatus : -1;
 }
 
-void Desk::xdotool(const std::vector<std::string>& arguments) const {
-    std::vector<std::string> command{"xdotool"};
-    command.insert(command.end(), arguments.begin(), arguments.end());
-    const auto result = run(request(command));
-    EXPECT_TRUE(result && result->succeeded());
+ProcessResult Desk::run(const std::vector<std::string>& command) const {
+    return tonquil::run(requestFor(command)).value();
 }
 
-bool Desk::hasPanel() const {
-    const auto result = run(request({"xdotool", "search", "--onlyvisible", "--name", "^Tonquil$"}));
-    return result && result->succeeded();
+std::unique_ptr<BackgroundProcess> Desk::begin(const std::vector<std::string>& command) const {
+    return BackgroundProcess::start(requestFor(command)).value();
+}
+
+void Desk::xdotool(std::vector<std::string> arguments) const {
+    arguments.insert(arguments.begin(), "xdotool");
+    EXPECT_TRUE(run(arguments).succeeded()) << arguments[1];
 }
 
 namespace {
 
-/// From lines as "X=12", of the last window that there are lines of.
+/// Of the last window that the tool tells of.
 Desk::Place placeFrom(const std::string& geometry) {
+    const auto start = geometry.rfind("WINDOW=");
     Desk::Place place;
-    std::istringstream lines(geometry);
-    for (std::string line; std::getline(lines, line);) {
-        const auto value = [&line](const char* name) {
-            return line.starts_with(name) ? line.c_str() + std::string_view(name).size() : nullptr;
-        };
-        const std::map<const char*, int*> parts{{"X=", &place.x},
-                                                {"Y=", &place.y},
-                                                {"WIDTH=", &place.width},
-                                                {"HEIGHT=", &place.height}};
-        for (const auto& [name, part] : parts) {
-            if (const char* text = value(name)) {
-                *part = std::atoi(text);
-            }
-        }
+    if (start != std::string::npos) {
+        std::sscanf(geometry.c_str() + start, "WINDOW=%*d X=%d Y=%d WIDTH=%d HEIGHT=%d", &place.x,
+                    &place.y, &place.width, &place.height);
     }
     return place;
 }
@@ -139,50 +124,41 @@ Desk::Place placeFrom(const std::string& geometry) {
 }  // namespace
 
 Desk::Place Desk::panel() const {
-    const Place place = placeFrom(outputOf({"xdotool", "search", "--onlyvisible", "--name",
-                                            "^Tonquil$", "getwindowgeometry", "--shell"}));
-    EXPECT_GT(place.width, 0) << "There is no panel.";
-    return place;
+    return placeFrom(run({"xdotool", "search", "--onlyvisible", "--name", "^Tonquil$",
+                          "getwindowgeometry", "--shell"})
+                         .standardOutput);
 }
 
 std::vector<Desk::Place> Desk::windows() const {
     std::vector<Place> places;
     std::istringstream ids(
-        outputOf({"xdotool", "search", "--onlyvisible", "--class", "^tonquil$"}));
+        run({"xdotool", "search", "--onlyvisible", "--class", "^tonquil$"}).standardOutput);
     for (std::string id; std::getline(ids, id);) {
-        const Place place = placeFrom(outputOf({"xdotool", "getwindowgeometry", "--shell", id}));
-        if (place.width > 0) {
-            places.push_back(place);
-        }
+        places.push_back(
+            placeFrom(run({"xdotool", "getwindowgeometry", "--shell", id}).standardOutput));
     }
+    // One that has gone meanwhile.
+    std::erase(places, Place{});
     return places;
 }
 
-void Desk::movePanel(int x, int y) const {
-    xdotool({"search", "--onlyvisible", "--name", "^Tonquil$", "windowmove", std::to_string(x),
-             std::to_string(y)});
-    EXPECT_TRUE(eventually([&] { return panel().x == x; }));
+bool Desk::hasWindow(const Place& place) const {
+    return std::ranges::count(windows(), place) != 0;
 }
 
-Desk::Point Desk::pointer() const {
-    Point point;
-    // "X=…", "Y=…", and more.
-    std::istringstream lines(outputOf({"xdotool", "getmouselocation", "--shell"}));
-    for (std::string line; std::getline(lines, line);) {
-        if (line.starts_with("X=") || line.starts_with("Y=")) {
-            (line[0] == 'X' ? point.x : point.y) = std::atoi(line.c_str() + 2);
-        }
-    }
-    return point;
+Desk::Place Desk::pointer() const {
+    Place place;
+    const std::string text = run({"xdotool", "getmouselocation", "--shell"}).standardOutput;
+    std::sscanf(text.c_str(), "X=%d Y=%d", &place.x, &place.y);
+    return place;
 }
 
-void Desk::movePointer(const Point& place) const {
-    xdotool({"mousemove", std::to_string(place.x), std::to_string(place.y)});
+void Desk::movePointer(int x, int y) const {
+    xdotool({"mousemove", std::to_string(x), std::to_string(y)});
 }
 
-std::string Desk::outputOf(const std::vector<std::string>& command) const {
-    const auto result = run(request(command));
-    return result ? result->standardOutput : std::string();
+void Desk::click(int x, int y, const char* button) const {
+    xdotool({"mousemove", std::to_string(x), std::to_string(y), "click", button});
 }
 
 void Desk::drag(int row, double end) const {
@@ -200,25 +176,29 @@ void Desk::drag(int row, double end) const {
     xdotool(moves);
 }
 
+Ramp Desk::correct(const std::string& connector, double end) const {
+    const Ramp before = ramp(connector);
+    Ramp now;
+    drag(masterRow, end);
+    EXPECT_TRUE(eventually([&] {
+        now = ramp(connector);
+        return now != before &&
+               stays([&] { return ramp(connector) == now; }, std::chrono::milliseconds(200));
+    }));
+    return now;
+}
+
 Ramp Desk::ramp(const std::string& connector) const {
-    return _reader->read(connector).value();
-}
-
-void Desk::setForeignRamp(const std::string& connector) const {
-    mustSucceed(_server->xrandr({"--output", connector, "--gamma", "1.5:1:0.5"}));
-}
-
-std::filesystem::path Desk::preferencesFile() const {
-    return _folder.path() / "config/tonquil/preferences.plist";
+    return _reader.read(connector).value();
 }
 
 std::filesystem::path Desk::recoveryFile() const {
-    return _folder.path() /
+    return folder() /
            ("state/tonquil/recovery-instance-_" + _server->display().substr(1) + ".plist");
 }
 
 PropertyValue Desk::preferences() const {
-    std::ifstream file(preferencesFile(), std::ios::binary);
+    std::ifstream file(folder() / "config/tonquil/preferences.plist", std::ios::binary);
     const std::vector<char> characters(std::istreambuf_iterator<char>(file), {});
     const std::vector<std::uint8_t> bytes(characters.begin(), characters.end());
     return readPropertyList(bytes).value_or(PropertyValue::object());
@@ -227,11 +207,10 @@ PropertyValue Desk::preferences() const {
 void Desk::writePreferences(const PropertyValue& changes) const {
     PropertyValue all = preferences();
     all.update(changes);
-    std::filesystem::create_directories(preferencesFile().parent_path());
-    std::filesystem::path beside = preferencesFile();
-    beside += ".other";
+    const auto file = folder() / "config/tonquil/preferences.plist";
+    const auto beside = folder() / "config/tonquil/preferences.plist.other";
     std::ofstream(beside, std::ios::binary) << writePropertyList(all).value();
-    std::filesystem::rename(beside, preferencesFile());
+    std::filesystem::rename(beside, file);
 }
 
 }  // namespace tonquil

@@ -4,7 +4,6 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,59 +20,57 @@ namespace tonquil {
 /// DUMMY1 at 1280x1024), a window manager, a hand at the pointer, and one person's folders.
 class Desk {
  public:
-    enum class WindowManager : bool { No, Yes };
-
-    explicit Desk(WindowManager manager = WindowManager::Yes);
+    explicit Desk(bool hasWindowManager = true);
 
     /// Starts the program and waits for its panel. The preferences are laid over those of an
-    /// earlier run.
+    /// earlier run; unless they say otherwise, the panel is on the left display.
     void start(const PropertyValue& preferences = PropertyValue::object());
-    /// The same without waiting.
-    void startWithoutPanel(const std::vector<std::string>& arguments);
-    /// Runs the program beside the one that runs, to its end.
-    [[nodiscard]] ProcessResult runBeside(const std::vector<std::string>& arguments) const;
+    /// The same without waiting, with the preferences as they are.
+    void startWithoutPanel();
+    /// Runs the program beside the one that runs, which takes it well.
+    void request(const std::string& argument) const;
     [[nodiscard]] BackgroundProcess& program() { return *_program; }
     /// Waits for the program's end and gives its exit status; -1 when it does not end.
     [[nodiscard]] int waitForEnd();
 
-    void xdotool(const std::vector<std::string>& arguments) const;
-    /// Whether the panel can be seen.
-    [[nodiscard]] bool hasPanel() const;
-    /// Where the panel is, in pixels.
+    /// Runs a program of the desk to its end.
+    [[nodiscard]] ProcessResult run(const std::vector<std::string>& command) const;
+    /// Runs a program of the desk until what is given is destroyed.
+    [[nodiscard]] std::unique_ptr<BackgroundProcess> begin(
+        const std::vector<std::string>& command) const;
+    void xdotool(std::vector<std::string> arguments) const;
+
+    /// A window's place, in pixels; nothing of a window that is not there.
     struct Place {
         int x = 0;
         int y = 0;
         int width = 0;
         int height = 0;
+        bool operator==(const Place& other) const = default;
     };
     [[nodiscard]] Place panel() const;
+    [[nodiscard]] bool hasPanel() const { return panel().width > 0; }
     /// All windows of the program that can be seen, an icon in a tray and a menu too.
     [[nodiscard]] std::vector<Place> windows() const;
-    void movePanel(int x, int y) const;
-    /// Where the pointer is, in pixels.
-    struct Point {
-        int x = 0;
-        int y = 0;
-        bool operator==(const Point& other) const = default;
-    };
-    [[nodiscard]] Point pointer() const;
-    void movePointer(const Point& place) const;
-    /// Runs another program of the desk to its end and gives its standard output.
-    [[nodiscard]] std::string outputOf(const std::vector<std::string>& command) const;
-    /// How to run another program on the desk.
-    [[nodiscard]] ProcessRequest request(const std::vector<std::string>& command) const;
+    [[nodiscard]] bool hasWindow(const Place& place) const;
+    /// Where the pointer is; of no size.
+    [[nodiscard]] Place pointer() const;
+    void movePointer(int x, int y) const;
+    void click(int x, int y, const char* button = "1") const;
     /// Drags along a row of the panel (its centre's distance from the upper edge) to the right,
     /// from 40 % of its width to `end` (0 to 1), and lets go.
     void drag(int row, double end) const;
     /// The rows of the panel that a drag can go along, for the font that the tests use.
     static constexpr int masterRow = 76;
     static constexpr int redRow = 156;
+    /// Corrects a display, under the panel, by a drag of the master; gives the ramp that it has
+    /// once all of the drag has arrived.
+    Ramp correct(const std::string& connector = "DUMMY0", double end = 0.6) const;
 
-    [[nodiscard]] Ramp ramp(const std::string& connector) const;
-    void setForeignRamp(const std::string& connector) const;
+    [[nodiscard]] Ramp ramp(const std::string& connector = "DUMMY0") const;
     [[nodiscard]] XServer& server() { return *_server; }
 
-    [[nodiscard]] std::filesystem::path preferencesFile() const;
+    [[nodiscard]] std::filesystem::path folder() const { return _folder.path(); }
     [[nodiscard]] std::filesystem::path recoveryFile() const;
     /// What is stored; an empty dictionary when there is nothing.
     [[nodiscard]] PropertyValue preferences() const;
@@ -81,8 +78,10 @@ class Desk {
     void writePreferences(const PropertyValue& changes) const;
 
  private:
-    std::unique_ptr<XServer> _server;
-    std::unique_ptr<RampReader> _reader;
+    [[nodiscard]] ProcessRequest requestFor(const std::vector<std::string>& command) const;
+
+    std::unique_ptr<XServer> _server = XServer::start().value();
+    RampReader _reader = RampReader::connect(_server->display()).value();
     ScratchFolder _folder;
     std::unique_ptr<BackgroundProcess> _manager;
     std::unique_ptr<BackgroundProcess> _program;

@@ -1,103 +1,76 @@
 // SPDX-License-Identifier: MIT
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <string>
-#include <thread>
 
 #include "tests/program/Desk.h"
-#include "tests/support/Succeeded.h"
 
 namespace tonquil {
 namespace {
-
-using std::chrono::milliseconds;
-using testing::HasSubstr;
-using testing::Not;
 
 /// A tray in the lower left of the first display.
 class Tray : public testing::Test {
  protected:
     void SetUp() override {
-        if (desk.outputOf({"which", "trayer"}).empty()) {
+        if (!desk.run({"which", "trayer"}).succeeded()) {
             GTEST_SKIP() << "There is no trayer here.";
         }
     }
     void startTray() {
-        auto started = BackgroundProcess::start(
-            desk.request({"trayer", "--edge", "bottom", "--align", "left", "--monitor", "0"}));
-        ASSERT_TRUE(succeeded(started));
-        tray = std::move(*started);
+        tray = desk.begin({"trayer", "--edge", "bottom", "--align", "left", "--monitor", "0"});
     }
-    [[nodiscard]] bool has(const std::function<bool(const Desk::Place&)>& kind) const {
-        return std::ranges::any_of(desk.windows(), kind);
+    /// The first window of a height between these, once there is one, or of none.
+    [[nodiscard]] Desk::Place find(int least, int most) const {
+        const auto all = desk.windows();
+        const auto found = std::ranges::find_if(all, [&](const Desk::Place& place) {
+            return place.height >= least && place.height < most;
+        });
+        return found == all.end() ? Desk::Place{} : *found;
     }
     static constexpr int iconHeight = 60;
-    [[nodiscard]] bool hasIcon() const {
-        return has([](const Desk::Place& place) { return place.height < iconHeight; });
+    static constexpr int menuHeight = 300;
+    [[nodiscard]] bool hasIcon() const { return find(1, iconHeight).width > 0; }
+    void clickIcon(const char* button) const {
+        const Desk::Place icon = find(1, iconHeight);
+        desk.click(icon.x + icon.width / 2, icon.y + icon.height / 2, button);
     }
-    [[nodiscard]] bool hasPanelItself() const {
-        return has([](const Desk::Place& place) { return place.height > 300; });
-    }
-    void clickIcon(const std::string& button) const {
-        const auto all = desk.windows();
-        const auto icon = std::ranges::find_if(
-            all, [](const Desk::Place& place) { return place.height < iconHeight; });
-        ASSERT_NE(icon, all.end());
-        desk.movePointer({icon->x + icon->width / 2, icon->y + icon->height / 2});
-        desk.xdotool({"click", button});
-    }
-    [[nodiscard]] std::string panelState() const {
-        return desk.outputOf({"xprop", "-name", "Tonquil", "_NET_WM_STATE"});
+    [[nodiscard]] bool isInTaskBar() const {
+        return desk.run({"xprop", "-name", "Tonquil", "_NET_WM_STATE"})
+                   .standardOutput.find("SKIP_TASKBAR") == std::string::npos;
     }
 
     Desk desk;
     std::unique_ptr<BackgroundProcess> tray;
 };
 
-const PropertyValue inTheTray = {{"ShowStatusItem", 1},
-                                 {"Window Frame ControlWindow", "200 200 320 470"}};
-
-TEST_F(Tray, TheIconsMenuSwitchesTheCorrectionAndAClickShowsThePanel) {
-    const Ramp neutral = desk.ramp("DUMMY0");
+TEST_F(Tray, HasAMenuThatSwitchesTheCorrectionAndAClickShowsThePanel) {
+    const Ramp neutral = desk.ramp();
     startTray();
-    desk.start(inTheTray);
-    ASSERT_TRUE(eventually([&] { return hasIcon() && hasPanelItself(); }));
-    ASSERT_TRUE(desk.runBeside({"--on"}).succeeded());
-    desk.drag(Desk::masterRow, 0.6);
-    ASSERT_TRUE(eventually([&] { return desk.ramp("DUMMY0") != neutral; }));
-
+    desk.start({{"ShowStatusItem", 1}});
+    ASSERT_TRUE(eventually([&] { return hasIcon(); }));
+    desk.correct();
     clickIcon("3");
-    const auto isMenu = [](const Desk::Place& place) {
-        return place.height > iconHeight && place.height < 300;
-    };
-    ASSERT_TRUE(eventually([&] { return has(isMenu); }));
+    ASSERT_TRUE(eventually([&] { return find(iconHeight, menuHeight).width > 0; }));
     // "Apply correction" is the first.
-    const auto places = desk.windows();
-    const auto menu = std::ranges::find_if(places, isMenu);
-    desk.movePointer({menu->x + 40, menu->y + 12});
-    desk.xdotool({"click", "1"});
-    EXPECT_TRUE(eventually([&] { return desk.ramp("DUMMY0") == neutral; }));
+    const Desk::Place menu = find(iconHeight, menuHeight);
+    desk.click(menu.x + 40, menu.y + 12);
+    EXPECT_TRUE(eventually([&] { return desk.ramp() == neutral; }));
 
-    desk.xdotool({"mousemove", "212", "213", "click", "1"});
-    ASSERT_TRUE(eventually([&] { return !hasPanelItself(); })) << "The panel's own button.";
+    desk.click(212, 213);
+    ASSERT_TRUE(eventually([&] { return !desk.hasPanel(); })) << "The panel's own button.";
     clickIcon("1");
-    EXPECT_TRUE(eventually([&] { return hasPanelItself(); }));
+    EXPECT_TRUE(eventually([&] { return desk.hasPanel(); }));
 }
 
-TEST_F(Tray, TheIconComesIntoALateTrayAndTheTaskBarStandsInForIt) {
-    desk.start(inTheTray);
+TEST_F(Tray, MayComeLateAndTheTaskBarStandsInForIt) {
+    desk.start({{"ShowStatusItem", 1}});
     EXPECT_TRUE(stays([&] { return !hasIcon(); }));
-    EXPECT_THAT(panelState(), Not(HasSubstr("SKIP_TASKBAR"))) << "without a tray";
+    EXPECT_TRUE(isInTaskBar()) << "without a tray";
     startTray();
-    EXPECT_TRUE(eventually([&] { return hasIcon(); }));
-    EXPECT_TRUE(eventually([&] { return panelState().find("SKIP_TASKBAR") != std::string::npos; }));
-
+    EXPECT_TRUE(eventually([&] { return hasIcon() && !isInTaskBar(); }));
     desk.writePreferences({{"ShowStatusItem", 0}});
-    EXPECT_TRUE(eventually([&] { return !hasIcon(); }));
-    EXPECT_TRUE(eventually([&] { return panelState().find("SKIP_TASKBAR") == std::string::npos; }));
-    EXPECT_TRUE(hasPanelItself());
+    EXPECT_TRUE(eventually([&] { return !hasIcon() && isInTaskBar(); }));
+    EXPECT_TRUE(desk.hasPanel());
 }
 
 }  // namespace

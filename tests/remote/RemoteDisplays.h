@@ -10,7 +10,8 @@
 
 namespace tonquil {
 
-/// Displays that exist only in memory, as a server's data source.
+/// Displays that exist only in memory, as a server's data source. Of one with the reference ID
+/// "gone" nothing is known.
 class RemoteDisplays final : public TQPlayerServerDataSource {
  public:
     struct Display {
@@ -24,7 +25,6 @@ class RemoteDisplays final : public TQPlayerServerDataSource {
 
     std::vector<std::string> screensForPlayerServer(TQPlayerServer&) override {
         std::vector<std::string> ids;
-        ids.reserve(displays.size());
         for (const Display& display : displays) {
             ids.push_back(display.referenceID);
         }
@@ -36,7 +36,7 @@ class RemoteDisplays final : public TQPlayerServerDataSource {
             beforeInfo();
         }
         for (std::size_t i = 0; i < displays.size(); ++i) {
-            if (displays[i].referenceID == id && id != unknown) {
+            if (displays[i].referenceID == id && id != "gone") {
                 return {{"number", i + 1},
                         {"local", displays[i].isLocal},
                         {"gamma", displays[i].gamma},
@@ -60,9 +60,7 @@ class RemoteDisplays final : public TQPlayerServerDataSource {
             }
         }
         if (afterSet) {
-            // What it does may be the end of this object.
-            const auto call = afterSet;
-            call();
+            afterSet();
         }
     }
     void playerServerFailedBroadcastTest(TQPlayerServer&, std::uint64_t reason) override {
@@ -73,8 +71,6 @@ class RemoteDisplays final : public TQPlayerServerDataSource {
     }
 
     std::vector<Display> displays;
-    /// A listed display of which nothing is known.
-    std::string unknown = "none";
     /// Takes what is set without doing it.
     bool isStubborn = false;
     std::function<void()> beforeInfo;

@@ -18,8 +18,6 @@ namespace tonquil {
 /// `pollReadable`. Handles may outlive the loop.
 class ManualRunLoop final : public RunLoop {
  public:
-    ManualRunLoop() = default;
-
     [[nodiscard]] Clock::time_point now() const override { return _now; }
     [[nodiscard]] std::unique_ptr<Handle> callOnce(std::chrono::milliseconds delay,
                                                    Call call) override;
@@ -27,7 +25,7 @@ class ManualRunLoop final : public RunLoop {
     [[nodiscard]] std::unique_ptr<Handle> callRepeatedly(std::chrono::milliseconds interval,
                                                          Call call) override;
     [[nodiscard]] std::unique_ptr<Handle> watchReadable(int descriptor, Call call) override;
-    void post(Call call) override;
+    void post(Call call) override { _posted.push_back(std::move(call)); }
 
     /// Moves the clock on and fires what falls due on the way, in order of time and of making, what
     /// is posted running in between. During a call the clock shows the time at which it was due.
@@ -42,13 +40,12 @@ class ManualRunLoop final : public RunLoop {
 
  private:
     struct Entry;
-    class EntryHandle;
-    using Entries = std::vector<std::shared_ptr<Entry>>;
+    struct EntryHandle;
+    // The handle owns its entry, which is shared only while it is called.
+    using Entries = std::vector<std::weak_ptr<Entry>>;
 
     std::unique_ptr<Handle> add(Entries& entries, Entry entry);
     std::shared_ptr<Entry> nextTimer(Clock::time_point end);
-    static void call(Entry& entry);
-    static void removeEnded(Entries& entries);
 
     Clock::time_point _now{};
     std::uint64_t _order = 0;

@@ -5,14 +5,12 @@
 #include <poll.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <utility>
 
 namespace tonquil {
 
@@ -20,94 +18,58 @@ namespace {
 
 using SteadyClock = std::chrono::steady_clock;
 
-// Of which the program's own offset says nothing: what is written goes to the end.
-FileDescriptor memoryFile() {
-    FileDescriptor file(memfd_create("tonquil", MFD_CLOEXEC));
-    fcntl(file.get(), F_SETFL, O_APPEND);
-    return file;
-}
-
 std::string contentOf(const FileDescriptor& file) {
-    struct stat status {};
-    if (fstat(file.get(), &status) != 0) {
-        return {};
+    std::string content;
+    char part[4096];
+    for (ssize_t count = 0;
+         (count = pread(file.get(), part, sizeof part, static_cast<off_t>(content.size()))) > 0;) {
+        content.append(part, static_cast<std::size_t>(count));
     }
-    std::string content(static_cast<std::size_t>(status.st_size), '\0');
-    const auto count = pread(file.get(), content.data(), content.size(), 0);
-    content.resize(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
     return content;
-}
-
-std::vector<std::string> environmentFor(const ProcessRequest& request) {
-    std::vector<std::string> result;
-    for (char** entry = environ; *entry != nullptr; ++entry) {
-        const std::string text(*entry);
-        const std::string name = text.substr(0, text.find('='));
-        if (!request.environment.contains(name) &&
-            std::find(request.unset.begin(), request.unset.end(), name) == request.unset.end()) {
-            result.push_back(text);
-        }
-    }
-    for (const auto& [name, value] : request.environment) {
-        std::string entry = name;
-        entry.append("=").append(value);
-        result.push_back(std::move(entry));
-    }
-    return result;
-}
-
-std::vector<char*> pointersTo(std::vector<std::string>& texts) {
-    std::vector<char*> pointers;
-    pointers.reserve(texts.size() + 1);
-    for (auto& text : texts) {
-        pointers.push_back(text.data());
-    }
-    pointers.push_back(nullptr);
-    return pointers;
 }
 
 }  // namespace
 
-BackgroundProcess::BackgroundProcess(pid_t pid, FileDescriptor output, FileDescriptor error)
-    : _pid(pid), _output(std::move(output)), _error(std::move(error)) {}
-
-BackgroundProcess::~BackgroundProcess() {
-    kill();
-}
+BackgroundProcess::BackgroundProcess()
+    : _output(memfd_create("output", MFD_CLOEXEC)), _error(memfd_create("error", MFD_CLOEXEC)) {}
 
 Result<std::unique_ptr<BackgroundProcess>> BackgroundProcess::start(const ProcessRequest& request) {
-    const FileDescriptor input(open("/dev/null", O_RDONLY | O_CLOEXEC));
-    FileDescriptor output = memoryFile();
-    FileDescriptor error = memoryFile();
+    std::unique_ptr<BackgroundProcess> made(new BackgroundProcess);
+    // It sees to the environment, and to the 127.
+    std::vector<std::string> command{"env"};
+    for (const auto& name : request.unset) {
+        command.insert(command.end(), {"-u", name});
+    }
+    for (const auto& [name, value] : request.environment) {
+        command.emplace_back(name).append("=").append(value);
+    }
+    command.insert(command.end(), request.command.begin(), request.command.end());
     // All is made ready before the fork, after which the child must not allocate.
-    auto arguments = request.command;
-    auto environment = environmentFor(request);
-    const auto argumentPointers = pointersTo(arguments);
-    const auto environmentPointers = pointersTo(environment);
+    std::vector<char*> arguments;
+    for (auto& text : command) {
+        arguments.push_back(text.data());
+    }
+    arguments.push_back(nullptr);
+    const FileDescriptor input(open("/dev/null", O_RDONLY | O_CLOEXEC));
     sigset_t none;
     sigemptyset(&none);
     const pid_t parent = getpid();
-    const pid_t pid = fork();
-    if (pid == 0) {
+    made->_pid = fork();
+    if (made->_pid == 0) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         sigprocmask(SIG_SETMASK, &none, nullptr);
         // The parent may have died before it was asked for its death.
-        if (getppid() == parent && dup2(input.get(), 0) == 0 && dup2(output.get(), 1) == 1 &&
-            dup2(error.get(), 2) == 2) {
-            execvpe(argumentPointers.front(), argumentPointers.data(), environmentPointers.data());
+        if (getppid() == parent && dup2(input.get(), 0) == 0 && dup2(made->_output.get(), 1) == 1 &&
+            dup2(made->_error.get(), 2) == 2) {
+            execvp(arguments.front(), arguments.data());
         }
         _exit(127);
     }
-    if (pid < 0) {
+    if (made->_pid < 0) {
+        made->_status = 0;
         return problem("No process can be started.", std::strerror(errno));
     }
-    return std::unique_ptr<BackgroundProcess>(
-        new BackgroundProcess(pid, std::move(output), std::move(error)));
-}
-
-bool BackgroundProcess::isRunning() {
-    using std::chrono::milliseconds;
-    return !wait(milliseconds::zero()).has_value();
+    return made;
 }
 
 std::string BackgroundProcess::standardOutput() const {
@@ -127,21 +89,12 @@ void BackgroundProcess::send(int signal) {
 
 ProcessResult BackgroundProcess::kill() {
     send(SIGKILL);
-    int status = 0;
-    while (!_status) {
-        if (waitpid(_pid, &status, 0) == _pid) {
-            _status = status;
-        } else if (errno != EINTR) {
-            _status = 0;
-        }
-    }
-    return result();
+    return wait(std::chrono::minutes(1)).value();
 }
 
 std::optional<ProcessResult> BackgroundProcess::wait(std::chrono::milliseconds limit) {
     const auto deadline = SteadyClock::now() + limit;
-    while (!_status) {
-        int status = 0;
+    for (int status = 0; !_status; poll(nullptr, 0, 1)) {
         if (waitpid(_pid, &status, WNOHANG) == _pid) {
             _status = status;
             break;
@@ -149,46 +102,27 @@ std::optional<ProcessResult> BackgroundProcess::wait(std::chrono::milliseconds l
         if (SteadyClock::now() >= deadline) {
             return std::nullopt;
         }
-        poll(nullptr, 0, 1);
     }
-    return result();
+    return ProcessResult{standardOutput(), standardError(),
+                         WIFEXITED(*_status) ? WEXITSTATUS(*_status) : -1};
 }
 
 bool BackgroundProcess::waitForOutput(std::string_view text, std::chrono::milliseconds limit) {
-    constexpr auto lookEvery = std::chrono::milliseconds(5);
     const auto deadline = SteadyClock::now() + limit;
-    while (standardOutput().find(text) == std::string::npos) {
-        if (SteadyClock::now() >= deadline) {
-            return false;
-        }
-        if (wait(lookEvery)) {
-            // It may have written the text as the last thing it did.
-            return standardOutput().find(text) != std::string::npos;
+    for (bool goesOn = true; goesOn;) {
+        goesOn = !wait(std::chrono::milliseconds(5)) && SteadyClock::now() < deadline;
+        // It may write the text as the last thing it does, so this comes after.
+        if (standardOutput().find(text) != std::string::npos) {
+            return true;
         }
     }
-    return true;
-}
-
-ProcessResult BackgroundProcess::result() const {
-    ProcessResult result;
-    result.standardOutput = standardOutput();
-    result.standardError = standardError();
-    const int status = _status.value_or(0);
-    if (WIFSIGNALED(status)) {
-        result.signal = WTERMSIG(status);
-    } else {
-        result.exitStatus = WEXITSTATUS(status);
-    }
-    return result;
+    return false;
 }
 
 Result<ProcessResult> run(const ProcessRequest& request) {
-    const auto process = BackgroundProcess::start(request);
-    if (!process) {
-        return tl::unexpected(process.error());
-    }
-    const auto result = (*process)->wait(request.limit);
-    return result ? *result : (*process)->kill();
+    return BackgroundProcess::start(request).map([](const auto& process) {
+        return process->wait(std::chrono::minutes(1)).value_or(process->kill());
+    });
 }
 
 }  // namespace tonquil

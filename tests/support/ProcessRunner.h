@@ -25,8 +25,6 @@ struct ProcessRequest {
     std::map<std::string, std::string> environment = {};
     /// Names taken out of the environment.
     std::vector<std::string> unset = {};
-    /// How long `run` waits before it kills the program.
-    std::chrono::milliseconds limit = std::chrono::seconds(60);
 };
 
 /// How a program ended.
@@ -35,8 +33,6 @@ struct ProcessResult {
     std::string standardError;
     /// The exit status, or -1 when a signal ended the program.
     int exitStatus = -1;
-    /// The signal that ended the program, or 0.
-    int signal = 0;
 
     [[nodiscard]] bool succeeded() const { return exitStatus == 0; }
 };
@@ -47,12 +43,11 @@ class BackgroundProcess {
     /// A program that cannot be run ends with 127.
     [[nodiscard]] static Result<std::unique_ptr<BackgroundProcess>> start(
         const ProcessRequest& request);
-    ~BackgroundProcess();
+    ~BackgroundProcess() { kill(); }
     BackgroundProcess(const BackgroundProcess&) = delete;
     BackgroundProcess& operator=(const BackgroundProcess&) = delete;
 
-    [[nodiscard]] pid_t pid() const { return _pid; }
-    [[nodiscard]] bool isRunning();
+    [[nodiscard]] bool isRunning() { return !wait({}).has_value(); }
     /// What it has written so far.
     [[nodiscard]] std::string standardOutput() const;
     [[nodiscard]] std::string standardError() const;
@@ -67,16 +62,15 @@ class BackgroundProcess {
     [[nodiscard]] bool waitForOutput(std::string_view text, std::chrono::milliseconds limit);
 
  private:
-    BackgroundProcess(pid_t pid, FileDescriptor output, FileDescriptor error);
-    [[nodiscard]] ProcessResult result() const;
+    BackgroundProcess();
 
-    pid_t _pid;
+    pid_t _pid = -1;
     FileDescriptor _output;
     FileDescriptor _error;
     std::optional<int> _status;
 };
 
-/// Runs a program to its end; one that outlives the limit is killed, which `signal` tells.
+/// Runs a program to its end; one that runs for a minute is killed.
 [[nodiscard]] Result<ProcessResult> run(const ProcessRequest& request);
 
 }  // namespace tonquil

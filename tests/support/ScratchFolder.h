@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <string>
 #include <system_error>
-#include <utility>
 
 namespace tonquil {
 
@@ -26,8 +25,8 @@ class ScratchFolder {
         std::error_code ignored;
         std::filesystem::remove_all(_path, ignored);
     }
-    ScratchFolder(ScratchFolder&& other) noexcept : _path(std::exchange(other._path, {})) {}
-    ScratchFolder& operator=(ScratchFolder&& other) = delete;
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
 
     [[nodiscard]] const std::filesystem::path& path() const { return _path; }
 

@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xcb/xcb.h>
-
-#include <cstdint>
-#include <memory>
-#include <string>
+#include "tests/support/RampReader.h"
 
 namespace tonquil {
 
@@ -15,32 +11,26 @@ namespace tonquil {
 /// server has dealt with it.
 class XKeyboard {
  public:
-    explicit XKeyboard(const std::string& display);
-    ~XKeyboard();
-    XKeyboard(const XKeyboard&) = delete;
-    XKeyboard& operator=(const XKeyboard&) = delete;
+    explicit XKeyboard(const std::string& display) : _x(RampReader::connect(display).value()) {}
 
-    void press(std::uint32_t evdevCode) const;
-    void release(std::uint32_t evdevCode) const;
+    void press(int evdevCode) const { fake(XCB_KEY_PRESS, evdevCode + firstKeyCode, 0, 0); }
+    void release(int evdevCode) const { fake(XCB_KEY_RELEASE, evdevCode + firstKeyCode, 0, 0); }
     /// Presses and releases it.
-    void type(std::uint32_t evdevCode) const;
-    /// Switches to another of the layouts that are set, counted from 0.
-    void switchToLayout(std::uint8_t number) const;
-    void movePointer(std::int16_t x, std::int16_t y) const;
+    void type(int evdevCode) const {
+        press(evdevCode);
+        release(evdevCode);
+    }
+    void movePointer(std::int16_t x, std::int16_t y) const { fake(XCB_MOTION_NOTIFY, 0, x, y); }
 
     /// Grabs a key with exactly these modifiers (XCB_MOD_MASK_…); whether that succeeds.
-    [[nodiscard]] bool grab(std::uint32_t evdevCode, std::uint16_t modifiers) const;
-    void ungrab(std::uint32_t evdevCode, std::uint16_t modifiers) const;
+    [[nodiscard]] bool grab(int evdevCode, int modifiers) const;
+    void ungrab(int evdevCode, int modifiers) const;
 
  private:
-    void fake(std::uint8_t type, std::uint8_t detail, std::int16_t x, std::int16_t y) const;
-    void finish() const;
+    static constexpr int firstKeyCode = 8;
+    void fake(std::uint8_t type, int detail, std::int16_t x, std::int16_t y) const;
 
-    struct Disconnect {
-        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-    };
-    std::unique_ptr<xcb_connection_t, Disconnect> _connection;
-    xcb_window_t _root = XCB_NONE;
+    RampReader _x;
 };
 
 }  // namespace tonquil

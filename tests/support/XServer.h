@@ -9,7 +9,6 @@
 #include "foundation/Problem.h"
 #include "tests/support/ProcessRunner.h"
 #include "tests/support/ScratchFolder.h"
-#include "tests/support/XcbOutputs.h"
 
 namespace tonquil {
 
@@ -22,23 +21,20 @@ class XServer {
  public:
     struct Options {
         /// Added to the server's command line, for example {"-extension", "RANDR"}.
-        std::vector<std::string> arguments;
+        std::vector<std::string> arguments = {};
         /// Starts Xvfb instead: one output named "screen", at 1280x1024.
         bool framebufferOnly = false;
     };
 
     [[nodiscard]] static Result<std::unique_ptr<XServer>> start(const Options& options);
     [[nodiscard]] static Result<std::unique_ptr<XServer>> start() { return start(Options{}); }
-    ~XServer();
-    XServer(const XServer&) = delete;
-    XServer& operator=(const XServer&) = delete;
 
     /// What DISPLAY is to be, for example ":7".
     [[nodiscard]] const std::string& display() const { return _display; }
 
     /// Lights an output at one of the server's modes, right of the one plugged in before it.
     [[nodiscard]] Result<void> plug(const std::string& connector, const std::string& mode);
-    /// Turns an output off and takes the modes away that were added to it.
+    /// Turns an output off.
     ///
     /// This driver finds an output connected once it has been looked at while lit, and never
     /// disconnected again: whether a display is there shows in whether it is lit, not in that.
@@ -47,20 +43,22 @@ class XServer {
     [[nodiscard]] Result<void> setPhysicalSize(const std::string& connector, int widthMillimetres,
                                                int heightMillimetres) const;
     [[nodiscard]] Result<void> setEdid(const std::string& connector,
-                                       const std::vector<std::uint8_t>& edid);
+                                       const std::vector<std::uint8_t>& edid) const;
     /// Sets a property of the root window, for example "_ICC_PROFILE"; no bytes delete it.
     [[nodiscard]] Result<void> setRootProperty(const std::string& name,
-                                               const std::vector<std::uint8_t>& bytes);
-    /// Runs xrandr with these arguments and gives its standard output.
-    [[nodiscard]] Result<std::string> xrandr(const std::vector<std::string>& arguments) const;
+                                               const std::vector<std::uint8_t>& bytes) const;
+    /// Runs xrandr with these arguments.
+    [[nodiscard]] Result<void> xrandr(std::vector<std::string> arguments) const;
 
     /// Ends the server at once, as a crash would; every later call fails.
-    void kill();
+    void kill() { _process->kill(); }
+
+    ~XServer();
+    XServer(const XServer&) = delete;
+    XServer& operator=(const XServer&) = delete;
 
  private:
-    XServer(ScratchFolder folder, std::unique_ptr<BackgroundProcess> process, std::string display);
-    static Result<std::unique_ptr<XServer>> startOnce(const Options& options);
-    void removeLeftovers() const;
+    explicit XServer(const Options& options);
 
     ScratchFolder _folder;
     std::unique_ptr<BackgroundProcess> _process;

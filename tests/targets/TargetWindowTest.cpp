@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QCloseEvent>
-#include <QLabel>
 #include <QPointer>
-#include <array>
+#include <functional>
 #include <vector>
 
 #include "targets/TQColorPatternArea.h"
@@ -44,39 +42,28 @@ class FloatingTarget : public testing::Test {
     std::vector<int> kinds;
 };
 
-TEST_F(FloatingTarget, ShowsTheKindThatIsSetAndIgnoresOthers) {
-    controller.setKind(1);
+TEST_F(FloatingTarget, FollowsThePickerAndTheKeysAndIgnoresUnknownKinds) {
+    controller.targetKindPicker()->cell(1)->click();
+    EXPECT_TRUE(showsGrayscale());
     for (const int kind : {2, -1, 1 << 30}) {
         controller.setKind(kind);
         EXPECT_EQ(controller.kind(), 1);
     }
-    EXPECT_TRUE(showsGrayscale());
-    EXPECT_EQ(controller.targetKindPicker()->selectedColumn(), 1);
     EXPECT_EQ(controller.grayscalePatternArea()->width(), controller.window().width());
-    EXPECT_THAT(kinds, ElementsAre(1));
-}
-
-TEST_F(FloatingTarget, FollowsThePickerAndTheKeys) {
-    controller.targetKindPicker()->cell(1)->click();
-    EXPECT_TRUE(showsGrayscale());
     controller.setHintsShown(false);
     for (const auto key : {Qt::Key_1, Qt::Key_2, Qt::Key_Left, Qt::Key_Left, Qt::Key_Right,
                            Qt::Key_Right, Qt::Key_Escape}) {
         pressKey(controller.window(), key);
     }
     EXPECT_THAT(kinds, ElementsAre(1, 0, 1, 0, 1));
+    EXPECT_EQ(controller.targetKindPicker()->selectedColumn(), 1);
     EXPECT_TRUE(controller.isShown());
-}
-
-TEST_F(FloatingTarget, IsClosedByThePersonAndShownAgain) {
     int closings = 0;
     controller.setClosed([&] { ++closings; });
-    controller.setKind(1);
     controller.window().close();
     EXPECT_EQ(closings, 1);
     EXPECT_FALSE(controller.isShown());
     controller.showWindow();
-    EXPECT_TRUE(controller.isShown());
     EXPECT_TRUE(showsGrayscale());
 }
 
@@ -92,47 +79,27 @@ class Covers : public testing::Test {
 
 TEST_F(Covers, AreFoundByTheNumberOrThePlaceOfTheirDisplay) {
     EXPECT_EQ(list.existingTargetWindowControllerForScreen(left), nullptr);
-    TQTargetWindowController& first = list.targetWindowControllerForScreen(left);
-    EXPECT_FALSE(first.isShown());
-    EXPECT_EQ(first.kind(), 0);
-    TQTargetWindowController& second = list.targetWindowControllerForScreen(right);
-    EXPECT_NE(&first, &second);
-    EXPECT_EQ(&list.targetWindowControllerForScreen(left), &first);
-    struct Row {
-        TargetScreen screen;
-        TQTargetWindowController* controller;
-    };
-    for (const Row& row :
-         {Row{{.displayID = 7, .frame = QRect(5, 5, 5, 5)}, &first},
-          Row{{.displayID = 1, .frame = right.frame}, &second},
-          Row{{.displayID = 9, .frame = left.frame}, &first},
-          Row{{.displayID = 1, .frame = QRect(0, 0, 800, 601)}, nullptr}, Row{{}, nullptr}}) {
-        EXPECT_EQ(list.existingTargetWindowControllerForScreen(row.screen), row.controller);
+    TQTargetWindowController* const first = &list.targetWindowControllerForScreen(left);
+    TQTargetWindowController* const second = &list.targetWindowControllerForScreen(right);
+    EXPECT_EQ(&list.targetWindowControllerForScreen(left), first);
+    const std::vector<std::pair<TargetScreen, TQTargetWindowController*>> rows{
+        {{.displayID = 7, .frame = QRect(5, 5, 5, 5)}, first},
+        {{.displayID = 1, .frame = right.frame}, second},
+        {{.displayID = 9, .frame = left.frame}, first},
+        {{.displayID = 1, .frame = QRect(0, 0, 800, 601)}, nullptr},
+        {{}, nullptr}};
+    for (const auto& [screen, controller] : rows) {
+        EXPECT_EQ(list.existingTargetWindowControllerForScreen(screen), controller);
     }
-}
-
-TEST_F(Covers, FillTheirDisplayWithThePatternAlone) {
-    TQTargetWindowController& controller = list.targetWindowControllerForScreen(right);
-    controller.setKind(1);
-    controller.showWindow();
-    QApplication::processEvents();
-    EXPECT_EQ(controller.frame(), right.frame);
-    EXPECT_EQ(controller.grayscalePatternArea()->geometry(), QRect(QPoint(), right.frame.size()));
-    EXPECT_FALSE(controller.targetKindPicker()->isVisible());
-    EXPECT_TRUE(controller.window().windowFlags().testFlag(Qt::FramelessWindowHint));
-    controller.setKind(0);
-    EXPECT_EQ(drawn(controller.window()).pixel(0, 0), qRgb(51, 51, 51));
 }
 
 TEST_F(Covers, AreDismissedByAClickAnywhereOrByEscape) {
     using Dismissal = std::function<void(TQTargetWindowController&)>;
-    const std::array<Dismissal, 5> ways = {
-        [](TQTargetWindowController& each) { click(each.window()); },
-        [](TQTargetWindowController& each) { click(*each.colorPatternArea()->squareRed()); },
-        [](TQTargetWindowController& each) { pressKey(each.window(), Qt::Key_Escape); },
-        [](TQTargetWindowController& each) { each.window().close(); },
-        [](TQTargetWindowController& each) { each.dismissTargetWindowControllerForScreen(); }};
-    for (const Dismissal& dismiss : ways) {
+    for (const Dismissal& dismiss : std::vector<Dismissal>{
+             [](auto& each) { click(*each.colorPatternArea()->squareRed()); },
+             [](auto& each) { pressKey(each.window(), Qt::Key_Escape); },
+             [](auto& each) { each.window().close(); },
+             [](auto& each) { each.dismissTargetWindowControllerForScreen(); }}) {
         TQTargetWindowController& controller = list.targetWindowControllerForScreen(left);
         const QPointer<QWidget> window = &controller.window();
         int closings = 0;
@@ -158,6 +125,11 @@ TEST_F(Covers, AreDismissedByAClickAnywhereOrByEscape) {
 TEST_F(Covers, FollowTheirDisplaysAndGoWithThem) {
     TQTargetWindowController& first = list.targetWindowControllerForScreen(left);
     TQTargetWindowController& second = list.targetWindowControllerForScreen(right);
+    second.showWindow();
+    QApplication::processEvents();
+    EXPECT_EQ(second.colorPatternArea()->geometry(), QRect(QPoint(), right.frame.size()));
+    EXPECT_FALSE(second.targetKindPicker()->isVisible()) << "the pattern alone";
+    EXPECT_FALSE(first.isShown());
     // The displays change places.
     const TargetScreen newLeft{.displayID = right.displayID, .frame = QRect(0, 0, 640, 480)};
     const TargetScreen newRight{.displayID = left.displayID, .frame = QRect(640, 0, 800, 600)};

@@ -26,7 +26,10 @@ void say(std::string_view line) {
     static_cast<void>(std::fflush(stdout));
 }
 
-RemoteDisplays displaysFrom(int argc, char** argv) {
+}  // namespace
+
+int main(int argc, char** argv) {
+    const int port = argc > 1 ? std::atoi(argv[1]) : remote::serverPort;
     RemoteDisplays displays;
     for (int i = 2; i < argc; ++i) {
         displays.displays.push_back({.referenceID = argv[i]});
@@ -35,14 +38,6 @@ RemoteDisplays displaysFrom(int argc, char** argv) {
         displays.displays = {{.referenceID = "1-10-21036"},
                              {.referenceID = "600.000000x340.000000-0-0", .isLocal = true}};
     }
-    return displays;
-}
-
-}  // namespace
-
-int main(int argc, char** argv) {
-    const int port = argc > 1 ? std::atoi(argv[1]) : remote::serverPort;
-    RemoteDisplays displays = displaysFrom(argc, argv);
     PollRunLoop loop;
     MachineGuid guid;
     const auto server = TQPlayerServer::initWithUDPPort(

@@ -1,78 +1,39 @@
 // SPDX-License-Identifier: MIT
-// Gives an output of an X server the identity of a made-up display.
-#include <algorithm>
-#include <charconv>
-#include <cstdint>
+//
+// Gives an output of an X server the identity of a made-up display:
+//
+//   setedid CONNECTOR MANUFACTURER PRODUCT SERIAL [SERIALTEXT] [NAME]
+//
+// MANUFACTURER is three capital letters, PRODUCT a number up to 65535, SERIAL one up to 4294967295.
+// An empty SERIALTEXT or NAME counts as none.
 #include <cstdlib>
 #include <iostream>
-#include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include "tests/support/EdidBuilder.h"
-#include "tests/support/XcbOutputs.h"
-
-namespace {
-
-constexpr const char* usage =
-    "usage: setedid CONNECTOR MANUFACTURER PRODUCT SERIAL [SERIALTEXT] [NAME]\n"
-    "Sets the EDID of an output. MANUFACTURER is three capital letters, PRODUCT a number up to\n"
-    "65535, SERIAL one up to 4294967295. An empty SERIALTEXT or NAME counts as none.\n";
-
-template <typename Number>
-std::optional<Number> numberFrom(std::string_view text) {
-    Number number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size()) {
-        return std::nullopt;
-    }
-    return number;
-}
-
-std::optional<tonquil::EdidDescription> describe(const std::vector<std::string>& arguments) {
-    const auto product = numberFrom<std::uint16_t>(arguments[2]);
-    const auto serial = numberFrom<std::uint32_t>(arguments[3]);
-    if (arguments[1].find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ") != std::string::npos ||
-        arguments[1].size() != 3 || !product || !serial) {
-        return std::nullopt;
-    }
-    tonquil::EdidDescription description;
-    description.manufacturer = arguments[1];
-    description.product = *product;
-    description.serial = *serial;
-    if (arguments.size() > 4 && !arguments[4].empty()) {
-        description.serialText = arguments[4];
-    }
-    if (arguments.size() > 5 && !arguments[5].empty()) {
-        description.name = arguments[5];
-    }
-    return description;
-}
-
-int fail(const std::string& sentence) {
-    std::cerr << "setedid: " << sentence << '\n';
-    return EXIT_FAILURE;
-}
-
-}  // namespace
+#include "tests/support/RampReader.h"
 
 int main(int count, char** values) {
-    const std::vector<std::string> arguments(values + 1, values + std::max(count, 1));
-    const auto description =
-        arguments.size() < 4 || arguments.size() > 6 ? std::nullopt : describe(arguments);
-    if (!description) {
-        std::cerr << usage;
+    std::vector<std::string> arguments(values + 1, values + count);
+    const char* display = std::getenv("DISPLAY");
+    if (arguments.size() < 4 || arguments.size() > 6 || display == nullptr) {
+        std::cerr << "usage: setedid CONNECTOR MANUFACTURER PRODUCT SERIAL [SERIALTEXT] [NAME]\n"
+                     "with the X server in DISPLAY\n";
         return EXIT_FAILURE;
     }
-    const char* display = std::getenv("DISPLAY");
-    if (display == nullptr) {
-        return fail("DISPLAY does not say which X server to look at.");
+    arguments.resize(6);
+    const auto text = [&](std::size_t index) {
+        return arguments[index].empty() ? std::nullopt : std::optional(arguments[index]);
+    };
+    const auto edid = tonquil::buildEdid(
+        {.manufacturer = arguments[1],
+         .product = static_cast<std::uint16_t>(std::strtoul(arguments[2].c_str(), nullptr, 10)),
+         .serial = static_cast<std::uint32_t>(std::strtoul(arguments[3].c_str(), nullptr, 10)),
+         .serialText = text(4),
+         .name = text(5)});
+    const auto done = tonquil::RampReader::connect(display).and_then(
+        [&](const auto& outputs) { return outputs.setEdid(arguments.front(), edid); });
+    if (!done) {
+        std::cerr << "setedid: " << done.error().sentence << '\n';
     }
-    const auto outputs = tonquil::XcbOutputs::connect(display);
-    if (!outputs) {
-        return fail(outputs.error().sentence);
-    }
-    const auto done = outputs->setEdid(arguments.front(), tonquil::buildEdid(*description));
-    return done ? EXIT_SUCCESS : fail(done.error().sentence);
+    return done ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -8,7 +8,6 @@
 
 #include "tests/ui/Input.h"
 #include "windows/alerts/AlertWindow.h"
-#include "windows/alerts/Localisation.h"
 #include "windows/alerts/ModalAlerts.h"
 
 namespace tonquil {
@@ -34,41 +33,27 @@ std::size_t answerTo(const std::function<void(AlertWindow&)>& act) {
 
 TEST(Alert, AnswersWithTheButtonAndWithTheFirstWhenItIsDismissed) {
     EXPECT_EQ(answerTo([](AlertWindow& window) { window.buttons()[1]->click(); }), 1U);
-    EXPECT_EQ(answerTo([](AlertWindow& window) { window.buttons()[0]->click(); }), 0U);
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-        EXPECT_EQ(answerTo([key](AlertWindow& window) { pressKey(window, key); }), 0U);
-    }
+    EXPECT_EQ(answerTo([](AlertWindow& window) { pressKey(window, Qt::Key_Return); }), 0U);
+    EXPECT_EQ(answerTo([](AlertWindow& window) { pressKey(window, Qt::Key_Escape); }), 0U);
     EXPECT_EQ(answerTo([](AlertWindow& window) { window.close(); }), 0U);
 }
 
-TEST(Alert, SaysInWordsWhatTheKeysStandFor) {
-    AlertWindow window(conflictAlert(), Appearance());
-    QStringList texts;
-    for (const QLabel* label : window.findChildren<QLabel*>()) {
-        texts += label->text();
-    }
-    EXPECT_TRUE(texts.contains(QStringLiteral("Dusk is present on this computer.")));
-    const QString information = texts.last();
-    EXPECT_TRUE(
-        information.startsWith(QStringLiteral("Dusk changes the same colour tables as Tonquil, ")))
-        << information.toStdString();
-    EXPECT_FALSE(information.contains(QLatin1Char('%')));
-    EXPECT_FALSE(information.contains(QLatin1Char('[')));
-}
-
-TEST(Alert, GrowsWithItsTexts) {
+TEST(Alert, SaysInWordsWhatTheKeysStandForAndHasRoomForThem) {
     Alert alert = conflictAlert();
-    alert.messageArguments = {std::string("A program with a name that goes on ")
-                                  .append("and on, in a language of long words, ")
-                                  .append("without an end in sight")};
-    alert.informativeArguments.back() = alert.messageArguments.front();
+    const std::string rival =
+        "A program with a name that goes on and on, in a language of long words, without an end";
+    alert.messageArguments = {rival};
+    alert.informativeArguments.back() = rival;
     AlertWindow window(alert, Appearance());
     window.show();
+    std::vector<std::string> texts;
     for (const QLabel* label : window.findChildren<QLabel*>()) {
-        EXPECT_GE(label->height(), label->heightForWidth(label->width()))
-            << label->text().toStdString();
+        texts.push_back(label->text().toStdString());
+        EXPECT_GE(label->height(), label->heightForWidth(label->width())) << texts.back();
     }
-    EXPECT_GT(window.height(), AlertWindow(conflictAlert(), Appearance()).sizeHint().height());
+    EXPECT_TRUE(std::ranges::count(texts, rival + " is present on this computer."));
+    EXPECT_TRUE(texts.back().starts_with(rival + " changes the same colour tables as Tonquil, "));
+    EXPECT_EQ(texts.back().find_first_of("%["), std::string::npos) << texts.back();
 }
 
 }  // namespace

@@ -13,7 +13,6 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::MatchesRegex;
 using testing::UnorderedElementsAreArray;
 
 /// The contents of all files that were moved aside.
@@ -21,8 +20,7 @@ std::vector<std::string> movedAside(const ScratchFolder& folder) {
     std::vector<std::string> contents;
     for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
         const std::string name = entry.path().filename();
-        if (name.starts_with("file.damaged")) {
-            EXPECT_THAT(name, MatchesRegex("file.damaged-[0-9]{8}T[0-9]{6}Z(-[0-9]+)?"));
+        if (name.starts_with("file.damaged-")) {
             contents.push_back(contentsOf(entry.path()));
         }
     }
@@ -80,7 +78,7 @@ TEST(DamagedPreferences, ChangeNothingWhileRunningUntilSomethingMustBeSaved) {
     EXPECT_EQ(process.log.size(), 3U);
 }
 
-TEST(DamagedPreferences, ThatOnlyMayNotBeReadStayWhereTheyAre) {
+TEST(UnreadablePreferences, StayWhereTheyAre) {
     const OrdinaryUser user;
     const ScratchFolder folder;
     const auto file = folder / "file";
@@ -92,19 +90,25 @@ TEST(DamagedPreferences, ThatOnlyMayNotBeReadStayWhereTheyAre) {
     EXPECT_THAT(process.log, ElementsAre(HasSubstr("not readable")));
     process.set("b", 2);
     process.set("b", 3);
-    EXPECT_EQ(process["b"], 3);
     EXPECT_THAT(process.log, ElementsAre(testing::_, HasSubstr("not saved")));
     ::chmod(file.c_str(), 0600);
     EXPECT_EQ(process.handleEvents(), 1);
     EXPECT_EQ(process["a"], 1);
-    process.store->synchronize();
+    EXPECT_TRUE(process.store->synchronize());
     EXPECT_EQ(storedIn(file), PropertyValue({{"a", 1}, {"b", 3}}));
 
-    std::filesystem::create_directories(folder / "folder/file");
-    PreferencesProcess other(folder / "folder");
-    other.set("b", 2);
-    EXPECT_THAT(other.log, ElementsAre(HasSubstr("is a folder"), HasSubstr("not saved")));
-    EXPECT_TRUE(std::filesystem::is_directory(folder / "folder/file"));
+    // What cannot be written is kept in memory until it can, with a line for each trouble.
+    for (const int number : {3, 4}) {
+        ::chmod(folder.path().c_str(), 0500);
+        process.set("a", number);
+        process.set("c", 1);
+        EXPECT_FALSE(process.store->synchronize());
+        EXPECT_EQ(process.log.size(), static_cast<std::size_t>(number));
+        EXPECT_NE(storedIn(file)["a"], number);
+        ::chmod(folder.path().c_str(), 0700);
+        EXPECT_TRUE(process.store->synchronize());
+        EXPECT_EQ(storedIn(file)["a"], number);
+    }
 }
 
 const PropertyValue curves = {{"display", {{"white", 0.25}, {"flags", {1, 2}}}}};
@@ -118,7 +122,6 @@ TEST(CurveRecoveryFile, GivesTheNextRunWhatWasKeptLastAndNotForgotten) {
     EXPECT_TRUE(succeeded(CurveRecoveryFile(file, fail).keep({{"older", 1}})));
     EXPECT_TRUE(succeeded(CurveRecoveryFile(file, fail).keep(curves)));
     EXPECT_EQ(CurveRecoveryFile(file, fail).leftCurves(), curves);
-    EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms{0600});
     // What a killed program leaves goes as well.
     putContents(folder / "state/.recovery.plist.tonquil-new", "half");
     CurveRecoveryFile(file, fail).forget();
@@ -137,7 +140,6 @@ TEST(CurveRecoveryFile, MovesADamagedFileAsideAndKeepsOneThatItCannotReplace) {
     EXPECT_THAT(log, ElementsAre(HasSubstr("kept as " + aside.native())));
     EXPECT_EQ(contentsOf(aside), "damaged");
     EXPECT_TRUE(succeeded(recovery.keep(curves)));
-    EXPECT_FALSE(recovery.keep(PropertyValue::array()));
     ::chmod(folder.path().c_str(), 0500);
     EXPECT_FALSE(recovery.keep({{"newer", 1}}));
     recovery.forget();
