@@ -10,7 +10,7 @@
 #include "app/correction/PeriodicUpdate.h"
 #include "app/correction/ReconfigurationObserver.h"
 #include "app/curves/CurveEditing.h"
-#include "windows/desktop/RestorableWindows.h"
+#include "app/desktop/RestorableWindows.h"
 #include "app/desktop/StatusItem.h"
 #include "app/files/SettingsFiles.h"
 #include "app/panel/ControllerHotKeys.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "windows/desktop/RestorableWindows.h"
+#include "app/desktop/RestorableWindows.h"
 
 #include <string>
 
