@@ -8,7 +8,8 @@ namespace tonquil {
 
 RemoteConfiguration::RemoteConfiguration(const Surroundings& surroundings)
     : _with(surroundings),
-      _displays(surroundings.registry, surroundings.targets, surroundings.log, reactions()) {}
+      _displays(surroundings.registry, surroundings.targets, surroundings.runLoop, surroundings.log,
+                reactions()) {}
 
 void RemoteConfiguration::_applyDefaultsToServer() {
     const bool isAllowed = _with.preferences.boolForKey(settingsKey::allowRemote);
@@ -20,6 +21,7 @@ void RemoteConfiguration::_applyDefaultsToServer() {
         }
     } else if (!isAllowed) {
         _server.reset();
+        _displays.dropWaiting();
     }
     _with.showRunning(_server != nullptr);
 }
@@ -34,10 +36,7 @@ void RemoteConfiguration::pushStateUpdate() {
 
 // A curve from the network is an edit like any other: it can be undone, and it outlives a crash.
 RemoteDisplays::Reactions RemoteConfiguration::reactions() {
-    return {.willEdit =
-                [this](const ScreenRegistry::Screens& screens) {
-                    _with.editing.willEdit(screens, editSubject::remote);
-                },
+    return {.willEdit = [this] { _with.editing.willEditFromAfar(); },
             .didEdit = [this] { _with.editing.curvesWereEdited(); },
             .refreshPanel = [this] { _with.view._updateCurveInPanel(); },
             .targetClosed = [this] { pushStateUpdate(); },
