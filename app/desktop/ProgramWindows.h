@@ -24,6 +24,9 @@ class ProgramWindows {
     virtual void openAddress(std::string_view key) = 0;
     /// Says at the hot key's field why it does not work; an empty sentence says nothing any more.
     virtual void showHotKeyProblem(HotKeyRole role, const std::string& sentence) = 0;
+    /// Says below the box for companions why they cannot reach this computer; an empty sentence
+    /// says nothing any more. The sentence is a text of the table "Problem".
+    virtual void showRemoteProblem(const std::string& sentence) = 0;
     /// Remembers where the windows are for the next run.
     virtual void saveFrames() = 0;
 };

@@ -46,6 +46,7 @@ class RecordedDesktop final : public DesktopPresence,
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence) override {
         problems[role] = sentence;
     }
+    void showRemoteProblem(const std::string& sentence) override { remoteProblem = sentence; }
     void saveFrames() override {}
 
     void keepOnAllWorkspaces(WindowID /*window*/) override {}
@@ -76,6 +77,7 @@ class RecordedDesktop final : public DesktopPresence,
 
     bool isRemoteShown = false;
     std::map<HotKeyRole, std::string> problems;
+    std::string remoteProblem;
     std::optional<Point> pointer = Point{500, 400};
     /// The desktop file of the only program that is installed.
     std::string installed;

@@ -55,6 +55,7 @@ void OtherWindows::makePreferences() {
     _prefs->window().setWindowIcon(programIcon());
     _prefs->showHotKeyProblem(HotKeyRole::ToggleCorrection, _toggleProblem);
     _prefs->showHotKeyProblem(HotKeyRole::ShowPanel, _panelProblem);
+    _prefs->showRemoteProblem(_remoteProblem);
     const auto frame =
         windowFrameFrom(_.preferences.preferences.stringForKey(settingsKey::preferencesFrame));
     if (frame && !_.service.displaysWithPoint(frame->centre(), 1).empty()) {
@@ -99,6 +100,13 @@ void OtherWindows::showHotKeyProblem(HotKeyRole role, const std::string& sentenc
     (isToggle ? _toggleProblem : _panelProblem) = sentence;
     if (_prefs) {
         _prefs->showHotKeyProblem(role, sentence);
+    }
+}
+
+void OtherWindows::showRemoteProblem(const std::string& sentence) {
+    _remoteProblem = sentence;
+    if (_prefs) {
+        _prefs->showRemoteProblem(sentence);
     }
 }
 

@@ -39,6 +39,7 @@ class OtherWindows final : public ProgramWindows {
     void openAboutBox() override;
     void openAddress(std::string_view key) override;
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence) override;
+    void showRemoteProblem(const std::string& sentence) override;
     void saveFrames() override;
 
     /// Whether there is a page behind a key: a copy of the program may have none.
@@ -51,6 +52,7 @@ class OtherWindows final : public ProgramWindows {
     AccessibilityOptions _options;
     std::string _toggleProblem;
     std::string _panelProblem;
+    std::string _remoteProblem;
     std::unique_ptr<TQPrefController> _prefs;
     std::unique_ptr<KVAboutBoxController> _about;
 };

@@ -65,15 +65,20 @@ void addChoice(QGridLayout& grid, QLabel* label, RadioMatrix* matrix) {
     grid.addWidget(matrix, row, 1);
 }
 
+/// The sentence starts below its box's own text.
+void prepareProblem(QLabel& problem, const QCheckBox& box) {
+    problem.setTextFormat(Qt::PlainText);
+    problem.setWordWrap(true);
+    const QStyle& style = *box.style();
+    problem.setIndent(style.pixelMetric(QStyle::PM_IndicatorWidth) +
+                      style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing));
+    problem.hide();
+}
+
 void addHotKey(QGridLayout& grid, QCheckBox* box, DDHotKeyTextField* field, QLabel* problem) {
     const int row = grid.rowCount();
     field->setAccessibleName(box->text());
-    problem->setTextFormat(Qt::PlainText);
-    problem->setWordWrap(true);
-    const QStyle& style = *box->style();
-    problem->setIndent(style.pixelMetric(QStyle::PM_IndicatorWidth) +
-                       style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing));
-    problem->hide();
+    prepareProblem(*problem, *box);
     grid.addWidget(box, row, 0);
     grid.addWidget(field, row, 1);
     grid.addWidget(problem, row + 1, 0, 1, 2);
@@ -114,6 +119,7 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
       panelHotKeyProblem(new QLabel),
       allowRemote(new FlatCheckBox(
           Texts::tr("Let companions on the local network read and set the curves"))),
+      remoteProblem(new QLabel),
       _scrollArea(new QScrollArea) {
     setObjectName(QStringLiteral("Preferences"));
     setWindowTitle(Texts::tr("Preferences"));
@@ -184,7 +190,8 @@ void PreferencesWindow::nameControls() {
         {panelHotKey, "panelHotKey"},
         {panelHotKeyField, "panelHotKeyField"},
         {panelHotKeyProblem, "panelHotKeyProblem"},
-        {allowRemote, "allowRemote"}};
+        {allowRemote, "allowRemote"},
+        {remoteProblem, "remoteProblem"}};
     for (const auto& [control, name] : names) {
         control->setObjectName(QString::fromLatin1(name));
     }
@@ -212,6 +219,9 @@ void PreferencesWindow::addHotKeys(QVBoxLayout& column) const {
 void PreferencesWindow::addRemote(QVBoxLayout& column) const {
     addHeading(column, Texts::tr("Remote"));
     addChecks(column, {allowRemote});
+    prepareProblem(*remoteProblem, *allowRemote);
+    remoteProblem->setContentsMargins(0, spacing / 2, 0, 0);
+    column.addWidget(remoteProblem);
 }
 
 void PreferencesWindow::clearFirstResponder() {

@@ -54,6 +54,8 @@ class PreferencesWindow : public QWidget {
     DDHotKeyTextField* panelHotKeyField;
     QLabel* panelHotKeyProblem;
     QCheckBox* allowRemote;
+    /// Why companions cannot reach this computer, below the box that lets them in.
+    QLabel* remoteProblem;
 
  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -22,6 +22,11 @@ namespace {
 constexpr int firstWithStatusItems = 1138;
 constexpr int firstWithDarkTheme = 1343;
 
+void showProblem(QLabel& label, const std::string& sentence) {
+    label.setText(QCoreApplication::translate("Problem", sentence.c_str()));
+    label.setVisible(!sentence.empty());
+}
+
 }  // namespace
 
 TQPrefController::TQPrefController(PreferencesSurroundings surroundings)
@@ -160,10 +165,12 @@ void TQPrefController::setClosed(std::function<void()> closed) {
 }
 
 void TQPrefController::showHotKeyProblem(HotKeyRole role, const std::string& sentence) {
-    QLabel* const label =
-        role == HotKeyRole::ToggleCorrection ? _window->hotKeyProblem : _window->panelHotKeyProblem;
-    label->setText(QCoreApplication::translate("Problem", sentence.c_str()));
-    label->setVisible(!sentence.empty());
+    const bool isToggle = role == HotKeyRole::ToggleCorrection;
+    showProblem(isToggle ? *_window->hotKeyProblem : *_window->panelHotKeyProblem, sentence);
+}
+
+void TQPrefController::showRemoteProblem(const std::string& sentence) {
+    showProblem(*_window->remoteProblem, sentence);
 }
 
 void TQPrefController::setRecordingHooks(std::function<void()> began, std::function<void()> ended) {

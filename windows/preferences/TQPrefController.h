@@ -68,6 +68,8 @@ class TQPrefController {
 
     /// Says beside its field why a hot key does not work; an empty sentence takes that back.
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence);
+    /// The same below the box that lets companions in.
+    void showRemoteProblem(const std::string& sentence);
     /// Called around each recording: the program's hot keys should be given up meanwhile.
     void setRecordingHooks(std::function<void()> began, std::function<void()> ended);
     /// What the person asked of the whole desktop.
