@@ -48,7 +48,7 @@ class Program {
     void makeWindows();
     void makeController();
     void end();
-    [[nodiscard]] std::unique_ptr<TQPlayerServer> openServer();
+    [[nodiscard]] Result<std::unique_ptr<TQPlayerServer>> openServer(Log log);
     [[nodiscard]] SessionRestoration::Storage sessionStorage();
 
     QtRunLoop _runLoop;

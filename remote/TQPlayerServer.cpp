@@ -62,6 +62,7 @@ std::optional<Problem> TQPlayerServer::setUp() {
     };
     auto socket = _environment.openSocket();
     if (!socket) {
+        log(socket.error().detail);
         return std::move(socket.error());
     }
     _socket = std::move(*socket);

@@ -49,7 +49,7 @@ class TQPlayerServer {
 
     /// Opens the socket, binds it to `port` of all addresses and starts the self-test.
     ///
-    /// A problem when the socket cannot be had; the log then has a line about it. Set the data
+    /// A problem when there is no socket or no port; its detail is also in the log. Set the data
     /// source before the run loop turns.
     [[nodiscard]] static Result<std::unique_ptr<TQPlayerServer>> initWithUDPPort(
         Environment environment, std::uint16_t port);

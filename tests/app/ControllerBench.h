@@ -206,7 +206,7 @@ class ControllerBench {
         std::unique_ptr<TQController> controller;
     };
 
-    [[nodiscard]] std::unique_ptr<TQPlayerServer> openServer();
+    [[nodiscard]] Result<std::unique_ptr<TQPlayerServer>> openServer(Log log);
 
     std::optional<Program> _program;
 };
