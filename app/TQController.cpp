@@ -55,23 +55,22 @@ TQController::TQController(const ControllerSurroundings& surroundings)
                         .runLoop = _with.runLoop,
                         .showCurveAt = [this](const Point& point) { _view.showCurveAt(point); },
                         .showPanel = [this] { _with.panel.makeKeyAndOrderFront(); }}),
-      _remote(
-          {.registry = _with.registry,
-           .preferences = _with.preferences,
-           .runLoop = _with.runLoop,
-           .targets = _with.targets,
-           .alerts = _with.alerts,
-           .editing = _editing,
-           .view = _view,
-           .openServer = _with.openServer,
-           .showRunning =
-               [this](bool isRunning) {
-                   _with.panel.showRemoteConfiguration(isRunning);
-                   _with.presence.showRemoteConfiguration(isRunning);
-               },
-           .showProblem =
-               [this](const std::string& sentence) { _with.windows.showRemoteProblem(sentence); },
-           .log = _with.log}) {
+      _remote({.registry = _with.registry,
+               .preferences = _with.preferences,
+               .runLoop = _with.runLoop,
+               .targets = _with.targets,
+               .alerts = _with.alerts,
+               .editing = _editing,
+               .view = _view,
+               .openServer = _with.openServer,
+               .showRunning =
+                   [this](bool isRunning) {
+                       _with.panel.showRemoteConfiguration(isRunning);
+                       _with.presence.showRemoteConfiguration(isRunning);
+                   },
+               .showProblem =
+                   [this](const std::string& text) { _with.windows.showRemoteProblem(text); },
+               .log = _with.log}) {
     _correction.show = [this](bool isOn) { showCorrection(isOn); };
 }
 
