@@ -15,7 +15,7 @@ namespace tonquil {
 
 namespace {
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
     std::string result = "\"";
     result.append(text).append("\"");
     return result;
@@ -61,7 +61,7 @@ Result<std::uint32_t> sampleCount(std::string_view text) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), count);
     if (error != std::errc() || end != text.data() + text.size() || count < 1 ||
         count > GammaTable::capacity) {
-        return problem("--samples takes a whole number from 1 to 256, not " + quoted(text) + ".");
+        return problem("--samples takes a whole number from 1 to 256, not " + inQuotes(text) + ".");
     }
     return count;
 }
@@ -72,7 +72,8 @@ Result<std::chrono::milliseconds> timeoutFrom(std::string_view text) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
     if (error != std::errc() || end != text.data() + text.size() ||
         !(seconds > 0 && seconds <= longest)) {
-        return problem("--timeout takes a number of seconds up to 3600, not " + quoted(text) + ".");
+        return problem("--timeout takes a number of seconds up to 3600, not " + inQuotes(text) +
+                       ".");
     }
     return std::chrono::ceil<std::chrono::milliseconds>(std::chrono::duration<double>(seconds));
 }
@@ -88,7 +89,7 @@ std::optional<Problem> takeRemote(int letter, Arguments& arguments) {
     } else if (letter == 'k') {
         if (!isContent(optarg)) {
             return Problem{"--content is colorTargets, grayscaleTargets or transparent, not " +
-                               quoted(optarg) + ".",
+                               inQuotes(optarg) + ".",
                            {}};
         }
         arguments.content = optarg;
@@ -109,7 +110,7 @@ std::optional<Problem> take(int letter, const CommandForm& form, Arguments& argu
         const auto* const known = std::find_if(
             options.begin(), options.end(), [=](const option& each) { return each.val == letter; });
         return Problem{
-            "--" + std::string(known->name) + " is not an option of " + quoted(form.name) + ".",
+            "--" + std::string(known->name) + " is not an option of " + inQuotes(form.name) + ".",
             {}};
     }
     switch (letter) {
@@ -155,7 +156,7 @@ std::optional<Problem> takeOperands(const CommandForm& form, int argc, char* con
     for (const char operand : form.operands) {
         if (optind >= argc) {
             if (operand == 'h' || operand == 'i') {
-                return Problem{quoted(form.name) +
+                return Problem{inQuotes(form.name) +
                                    (operand == 'h' ? " needs a host." : " needs a reference ID."),
                                {}};
             }
@@ -167,7 +168,7 @@ std::optional<Problem> takeOperands(const CommandForm& form, int argc, char* con
         taken = argv[optind++];
     }
     if (optind < argc) {
-        return Problem{quoted(argv[optind]) + " is one argument too many.", {}};
+        return Problem{inQuotes(argv[optind]) + " is one argument too many.", {}};
     }
     return std::nullopt;
 }
@@ -180,12 +181,12 @@ std::optional<Problem> checkCurve(const CommandForm& form, const Arguments& argu
     const bool mayHaveNone =
         form.command == Arguments::Command::remoteSet && arguments.content.has_value();
     if (arguments.file && arguments.curve) {
-        return Problem{quoted(form.name) + " takes either a file or --curve.", {}};
+        return Problem{inQuotes(form.name) + " takes either a file or --curve.", {}};
     }
     if (!arguments.file && !arguments.curve && !mayHaveNone) {
-        return Problem{quoted(form.name) + (form.command == Arguments::Command::remoteSet
-                                                ? " needs a file, --curve or --content."
-                                                : " takes either a file or --curve."),
+        return Problem{inQuotes(form.name) + (form.command == Arguments::Command::remoteSet
+                                                  ? " needs a file, --curve or --content."
+                                                  : " takes either a file or --curve."),
                        {}};
     }
     return std::nullopt;
@@ -224,7 +225,7 @@ Result<Arguments> parseArguments(int argc, char* const* argv) {
         if (name == "remote") {
             return problem("\"remote\" is followed by scan, get, set or watch.");
         }
-        return problem(quoted(name) + " is not a command.");
+        return problem(inQuotes(name) + " is not a command.");
     }
     arguments.command = form->command;
     opterr = 0;
@@ -236,7 +237,7 @@ Result<Arguments> parseArguments(int argc, char* const* argv) {
             const std::string culprit = optopt != 0 && !word.starts_with("--")
                                             ? std::string("-") + static_cast<char>(optopt)
                                             : std::string(word);
-            return problem(letter == '?' ? quoted(culprit) + " is not an option."
+            return problem(letter == '?' ? inQuotes(culprit) + " is not an option."
                                          : culprit + " needs a value.");
         }
         if (auto wrong = take(letter, *form, arguments)) {

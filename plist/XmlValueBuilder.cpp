@@ -13,7 +13,7 @@ namespace tonquil {
 
 namespace {
 
-auto damaged(std::string detail) {
+auto damagedElement(std::string detail) {
     return problem(TONQUIL_TEXT("Problem", "The property list is damaged."), std::move(detail));
 }
 
@@ -40,7 +40,7 @@ std::optional<XmlValueBuilder::Element> XmlValueBuilder::elementNamed(std::strin
 
 Result<void> XmlValueBuilder::checkPlace(Element element) const {
     if (_open.empty() != (element == Element::List)) {
-        return damaged("the root element, and no other, has to be plist");
+        return damagedElement("the root element, and no other, has to be plist");
     }
     if (_open.empty()) {
         return {};
@@ -49,21 +49,21 @@ Result<void> XmlValueBuilder::checkPlace(Element element) const {
     switch (parent.element) {
         case Element::List:
             if (_value) {
-                return damaged("more than one value in plist");
+                return damagedElement("more than one value in plist");
             }
             break;
         case Element::Dictionary:
             if (parent.key.has_value() == (element == Element::Key)) {
-                return damaged("keys and values do not alternate in dict");
+                return damagedElement("keys and values do not alternate in dict");
             }
             return {};
         case Element::Array:
             break;
         default:
-            return damaged("an element within text");
+            return damagedElement("an element within text");
     }
     if (element == Element::Key) {
-        return damaged("a key outside dict");
+        return damagedElement("a key outside dict");
     }
     return {};
 }
@@ -71,7 +71,7 @@ Result<void> XmlValueBuilder::checkPlace(Element element) const {
 Result<void> XmlValueBuilder::begin(std::string_view name) {
     const auto element = elementNamed(name);
     if (!element) {
-        return damaged("unknown element");
+        return damagedElement("unknown element");
     }
     if (auto fits = checkPlace(*element); !fits) {
         return fits;
@@ -102,7 +102,7 @@ Result<void> XmlValueBuilder::text(std::string_view piece) {
         case Element::True:
         case Element::False:
             if (!std::all_of(piece.begin(), piece.end(), isXmlSpace)) {
-                return damaged("text where there can be none");
+                return damagedElement("text where there can be none");
             }
             return {};
         default:
@@ -115,7 +115,7 @@ Result<void> XmlValueBuilder::end() {
     Open open = std::move(_open.back());
     _open.pop_back();
     if (open.element == Element::List) {
-        return _value ? Result<void>() : damaged("no value in plist");
+        return _value ? Result<void>() : damagedElement("no value in plist");
     }
     if (open.element == Element::Key) {
         if (auto counted = _meter.countText(_text.size()); !counted) {
@@ -138,12 +138,12 @@ Result<PropertyValue> XmlValueBuilder::valueOf(Open& open) {
             if (auto integer = integerFromText(_text)) {
                 return std::move(*integer);
             }
-            return damaged("an integer that is none or is out of range");
+            return damagedElement("an integer that is none or is out of range");
         case Element::Real:
             if (const auto real = realFromText(_text)) {
                 return PropertyValue(*real);
             }
-            return damaged("a real that is none or is out of range");
+            return damagedElement("a real that is none or is out of range");
         case Element::True:
             return PropertyValue(true);
         case Element::False:
@@ -155,7 +155,7 @@ Result<PropertyValue> XmlValueBuilder::valueOf(Open& open) {
             return textValue();
         default:
             if (open.key) {
-                return damaged("a key without a value");
+                return damagedElement("a key without a value");
             }
             return std::move(open.container);
     }
@@ -171,7 +171,7 @@ Result<PropertyValue> XmlValueBuilder::textValue() {
 Result<PropertyValue> XmlValueBuilder::dataValue() {
     auto bytes = bytesFromBase64(_text);
     if (!bytes) {
-        return damaged("data that is not Base64");
+        return damagedElement("data that is not Base64");
     }
     if (auto counted = _meter.countText(bytes->size()); !counted) {
         return tl::unexpected(counted.error());

@@ -19,13 +19,13 @@ namespace {
 constexpr std::array channels = {Channel::Red, Channel::Green, Channel::Blue};
 
 // In points.
-constexpr double padding = 8;
+constexpr double plotPadding = 8;
 constexpr double labelGap = 4;
 constexpr double curveWidth = 1.5;
 constexpr double baseWidth = 1;
 constexpr double markRadius = 4;
 constexpr int leastLabelSize = 11;
-constexpr int preferredWidth = 296;
+constexpr int plotWidth = 296;
 constexpr int preferredHeight = 232;
 constexpr int leastExtent = 120;
 
@@ -64,7 +64,7 @@ CurvePlot::CurvePlot(QWidget* parent) : QWidget(parent) {
 }
 
 QSize CurvePlot::sizeHint() const {
-    return {preferredWidth, preferredHeight};
+    return {plotWidth, preferredHeight};
 }
 QSize CurvePlot::minimumSizeHint() const {
     return {leastExtent, leastExtent};
@@ -151,10 +151,10 @@ QFont CurvePlot::labelFont() const {
 // On whole points, so that the graph's outer lines are as sharp as the others.
 QRectF CurvePlot::graphRect() const {
     const QFontMetrics metrics(labelFont());
-    const double left = padding + metrics.horizontalAdvance(QStringLiteral("0.5")) + labelGap;
-    const double bottom = padding / 2 + metrics.height() + labelGap / 2;
-    const double top = std::max<double>(padding, metrics.height() / 2.0);
-    return QRectF(rect()).adjusted(left, std::ceil(top), -padding - markRadius, -bottom);
+    const double left = plotPadding + metrics.horizontalAdvance(QStringLiteral("0.5")) + labelGap;
+    const double bottom = plotPadding / 2 + metrics.height() + labelGap / 2;
+    const double top = std::max<double>(plotPadding, metrics.height() / 2.0);
+    return QRectF(rect()).adjusted(left, std::ceil(top), -plotPadding - markRadius, -bottom);
 }
 
 QPointF CurvePlot::pointAt(std::size_t channel, double input) const {
@@ -267,7 +267,7 @@ void CurvePlot::drawMessage(QPainter& painter) const {
     const Theme& theme = themeOf(*this);
     fillRounded(painter, rect(), fieldRadius, theme.field);
     painter.setPen(theme.text);
-    const double inset = 2 * padding;
+    const double inset = 2 * plotPadding;
     painter.drawText(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
                      Qt::AlignCenter | Qt::TextWordWrap, _message);
 }

@@ -16,8 +16,8 @@ namespace tonquil {
 namespace {
 
 // In points.
-constexpr int padding = 4;
-constexpr int leastHeight = 24;
+constexpr int fieldPadding = 4;
+constexpr int leastFieldHeight = 24;
 
 constexpr int longestEntry = 24;
 
@@ -36,7 +36,7 @@ QString textFor(float value, int decimals) {
 
 TQNumericTextField::TQNumericTextField(QWidget* parent) : QLineEdit(parent) {
     setFrame(false);
-    setTextMargins(padding, 0, padding, 0);
+    setTextMargins(fieldPadding, 0, fieldPadding, 0);
     setMaxLength(longestEntry);
     // Numbers are set to the right in both reading directions.
     setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
@@ -132,8 +132,9 @@ void TQNumericTextField::decrementValueOf() {
 QSize TQNumericTextField::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
     // The inner margin of a line edit is 2 points, and the cursor needs one.
-    const int width = metrics.horizontalAdvance(QStringLiteral("-0.000")) + 2 * (padding + 2) + 1;
-    return {(width + 3) / 4 * 4, std::max(leastHeight, metrics.height() + padding)};
+    const int width =
+        metrics.horizontalAdvance(QStringLiteral("-0.000")) + 2 * (fieldPadding + 2) + 1;
+    return {(width + 3) / 4 * 4, std::max(leastFieldHeight, metrics.height() + fieldPadding)};
 }
 
 QSize TQNumericTextField::minimumSizeHint() const {

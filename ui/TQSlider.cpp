@@ -18,7 +18,7 @@ namespace tonquil {
 namespace {
 
 constexpr int rowHeight = 24;
-constexpr int preferredWidth = 160;
+constexpr int preferredSliderWidth = 160;
 constexpr int leastWidth = 48;
 
 constexpr double stepPerLine = 0.01;
@@ -134,7 +134,7 @@ void TQSlider::_updateToAuxiliaryValue(TQNumericTextField& sender) {
 }
 
 QSize TQSlider::sizeHint() const {
-    return {preferredWidth, rowHeight};
+    return {preferredSliderWidth, rowHeight};
 }
 QSize TQSlider::minimumSizeHint() const {
     return {leastWidth, rowHeight};

@@ -15,8 +15,8 @@ namespace tonquil {
 namespace {
 
 // In points.
-constexpr int padding = 12;
-constexpr int leastHeight = 28;
+constexpr int tabPadding = 12;
+constexpr int leastTabHeight = 28;
 
 constexpr float selectedGrey = 0.2F;
 constexpr float pressedGrey = 0.3F;
@@ -34,11 +34,11 @@ TQTabButtonCell::TQTabButtonCell(const QString& title, QWidget* parent) : QAbstr
 
 QSize TQTabButtonCell::sizeHint() const {
     const QSize title = fontMetrics().size(Qt::TextShowMnemonic, text());
-    return {title.width() + 2 * padding, std::max(leastHeight, title.height() + padding)};
+    return {title.width() + 2 * tabPadding, std::max(leastTabHeight, title.height() + tabPadding)};
 }
 
 QSize TQTabButtonCell::minimumSizeHint() const {
-    return {fontMetrics().size(Qt::TextShowMnemonic, text()).width() + padding,
+    return {fontMetrics().size(Qt::TextShowMnemonic, text()).width() + tabPadding,
             sizeHint().height()};
 }
 

@@ -211,4 +211,7 @@ class ControllerBench {
     std::optional<Program> _program;
 };
 
+inline constexpr DisplayID left = ControllerBench::left;
+inline constexpr DisplayID right = ControllerBench::right;
+
 }  // namespace tonquil

@@ -11,9 +11,6 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr DisplayID left = ControllerBench::left;
-constexpr DisplayID right = ControllerBench::right;
-
 class Edit : public testing::Test {
  protected:
     Edit() { bench.launchAndSettle(); }

@@ -15,9 +15,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr DisplayID left = ControllerBench::left;
-constexpr DisplayID right = ControllerBench::right;
-
 class Files : public testing::Test {
  protected:
     Files() { bench.launchAndSettle(); }

@@ -10,7 +10,6 @@ namespace {
 using testing::IsEmpty;
 using testing::SizeIs;
 
-constexpr DisplayID left = ControllerBench::left;
 const SocketAddress companion(0x0A000002, 5000);
 
 class Remote : public testing::Test {

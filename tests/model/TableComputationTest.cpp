@@ -71,7 +71,7 @@ TEST(TableComputation, GivesTheWorkedValues) {
     EXPECT_NEAR(table.channel(1)[1], (1.0F - 0.99609375F) / 255.0F, 1e-9F);
 }
 
-float uniform(std::mt19937& random, float low, float high) {
+float randomBetween(std::mt19937& random, float low, float high) {
     return std::uniform_real_distribution<float>(low, high)(random);
 }
 
@@ -94,7 +94,8 @@ CurveValues randomCurveValues(std::mt19937& random) {
     const bool shareExponent = random() % 3 == 0;
     const bool isWild = random() % 4 == 0;
     for (ChannelCurve& channel : curve.channels) {
-        channel = {uniform(random, 0, 0.5F), uniform(random, 0.2F, 4), uniform(random, 0.5F, 1)};
+        channel = {randomBetween(random, 0, 0.5F), randomBetween(random, 0.2F, 4),
+                   randomBetween(random, 0.5F, 1)};
         if (shareExponent) {
             channel.middle = curve.channels[0].middle;
         }
@@ -102,8 +103,8 @@ CurveValues randomCurveValues(std::mt19937& random) {
             channel.middle = 1;
         }
         if (isWild) {
-            channel.black += uniform(random, -1, 1);
-            channel.white += uniform(random, -1, 1);
+            channel.black += randomBetween(random, -1, 1);
+            channel.white += randomBetween(random, -1, 1);
             *std::array{&channel.black, &channel.middle, &channel.white}[random() % 3] =
                 strange[random() % strange.size()];
         }

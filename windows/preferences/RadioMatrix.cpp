@@ -10,14 +10,14 @@
 namespace tonquil {
 
 namespace {
-constexpr int spacing = 4;
+constexpr int radioSpacing = 4;
 }  // namespace
 
 RadioMatrix::RadioMatrix(const QStringList& titles, QWidget* parent)
     : QWidget(parent), _cells(new QButtonGroup(this)) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(spacing);
+    column->setSpacing(radioSpacing);
     for (const QString& title : titles) {
         auto* cell = new FlatRadioButton(title);
         cell->setChecked(_cells->buttons().isEmpty());
