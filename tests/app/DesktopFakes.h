@@ -130,13 +130,16 @@ class ScriptedHotKeys final : public HotKeyService {
 struct ScriptedNetwork {
     std::vector<std::pair<std::string, SocketAddress>> sent;
     DatagramSocket::Receiver receive;
+    bool canBind = true;
 };
 
 class ScriptedSocket final : public DatagramSocket {
  public:
     explicit ScriptedSocket(ScriptedNetwork& network) : _network(network) {}
     [[nodiscard]] int enableBroadcast() override { return 0; }
-    [[nodiscard]] int bind(const SocketAddress& /*address*/) override { return 0; }
+    [[nodiscard]] int bind(const SocketAddress& /*address*/) override {
+        return _network.canBind ? 0 : 98;
+    }
     [[nodiscard]] std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& /*runLoop*/,
                                                              Receiver receiver) override {
         _network.receive = std::move(receiver);
