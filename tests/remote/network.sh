@@ -128,15 +128,15 @@ expect "the link is up again" scan_finds 2
 # A second network, when there is a default route for the first.
 ip link add tq1 netns "$left" type veth peer name tq1 netns "$right"
 ip -n "$left" address add 10.97.0.1/24 brd + dev tq1
-ip -n "$right" address add 10.97.0.2/24 brd + dev tq1
+ip -n "$right" address add 10.97.0.2/23 brd + dev tq1
 ip -n "$left" link set tq1 up
 ip -n "$right" link set tq1 up
 ip -n "$left" route add default dev tq0
 in_left "$tonquilctl" remote scan > "$folder/scan"
 expect "a scan goes to every network" grep -q '^10\.99\.0\.2' "$folder/scan"
 expect "also past the default route" grep -q '^10\.97\.0\.2' "$folder/scan"
-# A neighbour that claims to be everybody.
-ip -n "$right" address add 10.97.0.255/32 dev tq1
+# What is a neighbour for the right one is everybody for the left one.
+ip -n "$right" address add 10.97.0.255/23 dev tq1
 everybody='import socket as s; c = s.socket(s.AF_INET, s.SOCK_DGRAM); c.bind(("10.97.0.255", 0))
 c.settimeout(0.5); c.sendto(b"Kantivel scan ", ("10.97.0.1", 44188)); c.recv(1)'
 expect "everybody is not answered" eval '! in_right python3 -c "$everybody" 2> /dev/null'
