@@ -13,7 +13,7 @@ namespace tonquil {
 /// An IPv4 datagram socket that never makes its caller wait.
 class DatagramSocket {
  public:
-    /// Takes one datagram, whole. It may destroy the socket and the handle of the watch.
+    /// Called with one whole datagram. It may destroy the socket and the handle of the watch.
     using Receiver = std::function<void(std::string_view bytes, const SocketAddress& source)>;
 
     virtual ~DatagramSocket() = default;
@@ -23,7 +23,7 @@ class DatagramSocket {
     /// Gives 0, or the system's error code; a port that another socket has is an error.
     [[nodiscard]] virtual int bind(const SocketAddress& address) = 0;
     /// Passes on what comes in, in order, for as long as the handle lives; null when the socket
-    /// cannot be watched. However much comes in, the run loop gets its turns.
+    /// cannot be watched. However much comes in, other work of the run loop is not held up.
     [[nodiscard]] virtual std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& runLoop,
                                                                      Receiver receiver) = 0;
     /// Sends one datagram at once or not at all, from the recipient's `ownHost` where it has one.
