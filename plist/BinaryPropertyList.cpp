@@ -21,7 +21,7 @@ namespace tonquil {
 
 namespace {
 
-auto damaged(const char* detail) {
+auto damagedObject(const char* detail) {
     return problem(TONQUIL_TEXT("Problem", "The property list is damaged."), detail);
 }
 
@@ -46,14 +46,14 @@ Result<PropertyValue> integerOf(std::span<const std::uint8_t> contents) {
     if (high == std::numeric_limits<std::uint64_t>::max() && number < 0) {
         return integer(number);
     }
-    return damaged("an integer out of range");
+    return damagedObject("an integer out of range");
 }
 
 Result<PropertyValue> identifierOf(std::span<const std::uint8_t> contents) {
     const std::size_t leading = contents.size() - std::min<std::size_t>(contents.size(), 8);
     if (std::any_of(contents.begin(), contents.begin() + static_cast<std::ptrdiff_t>(leading),
                     [](std::uint8_t byte) { return byte != 0; })) {
-        return damaged("an identifier out of range");
+        return damagedObject("an identifier out of range");
     }
     return PropertyValue(bigEndian(contents.subspan(leading)));
 }
@@ -132,7 +132,7 @@ class Reader {
     Result<PropertyValue> date(const BinaryObject& object) {
         auto text = dateText(realOf(object.contents));
         if (!text) {
-            return damaged("a date out of range");
+            return damagedObject("a date out of range");
         }
         if (auto counted = _meter.countText(text->size()); !counted) {
             return tl::unexpected(counted.error());
@@ -156,7 +156,7 @@ class Reader {
             text.emplace(object.contents.begin(), object.contents.end());
         }
         if (!text) {
-            return damaged("text in the wrong encoding, or with NUL");
+            return damagedObject("text in the wrong encoding, or with NUL");
         }
         if (auto counted = _meter.countText(text->size()); !counted) {
             return tl::unexpected(counted.error());
@@ -170,7 +170,7 @@ class Reader {
             return tl::unexpected(object.error());
         }
         if (object->type() != 0x5 && object->type() != 0x6) {
-            return damaged("a key that is not text");
+            return damagedObject("a key that is not text");
         }
         return text(*object);
     }

@@ -37,17 +37,15 @@ Result<void> AutostartLoginItem::write() const {
         return problem("Tonquil cannot be started at login, for its launcher " +
                        _launcher.native() + " is missing.");
     }
-    std::string text =
-        "[Desktop Entry]\n"
-        "Type=Application\n"
-        "Name=Tonquil\n"
-        "Comment=Correct the tone and colour of every display\n"
-        "Icon=tonquil\n"
-        "Terminal=false\n"
-        "NoDisplay=true\n"
-        "Exec=";
-    text += DesktopEntry::quotedArgument(_launcher.native());
-    text += '\n';
+    DesktopEntry entry;
+    entry.setValue("Type", "Application");
+    entry.setValue("Name", "Tonquil");
+    entry.setValue("Comment", "Correct the tone and colour of every display");
+    entry.setValue("Icon", "tonquil");
+    entry.setValue("Terminal", "false");
+    entry.setValue("NoDisplay", "true");
+    entry.setValue("Exec", DesktopEntry::quotedArgument(_launcher.native()));
+    const std::string text = entry.text();
     return makeFolder(_file.parent_path()).and_then([&] {
         return writeFileAtomically(_file, std::vector<std::uint8_t>(text.begin(), text.end()),
                                    AtomicFileOptions::document());

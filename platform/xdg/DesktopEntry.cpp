@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/xdg/DesktopEntry.h"
 
-#include <algorithm>
-#include <cstddef>
+#include <utility>
 
 #include "files/BoundedFile.h"
 
@@ -11,116 +10,79 @@ namespace tonquil {
 namespace {
 
 constexpr std::size_t mostBytes = 65536;
-constexpr std::string_view blanks = " \t\r";
+constexpr const char* group = G_KEY_FILE_DESKTOP_GROUP;
 
-std::string_view trimmed(std::string_view text) {
-    const std::size_t start = text.find_first_not_of(blanks);
-    return start == std::string_view::npos
-               ? std::string_view()
-               : text.substr(start, text.find_last_not_of(blanks) - start + 1);
-}
+struct FreeError {
+    void operator()(GError* error) const { g_error_free(error); }
+};
 
-std::string unescaped(std::string_view text) {
-    std::string plain;
-    for (std::size_t index = 0; index < text.size(); ++index) {
-        if (text[index] != '\\' || index + 1 == text.size()) {
-            plain += text[index];
-            continue;
-        }
-        ++index;
-        constexpr std::string_view letters = "sntr\\";
-        constexpr std::string_view meanings = " \n\t\r\\";
-        const std::size_t letter = letters.find(text[index]);
-        if (letter == std::string_view::npos) {
-            plain += '\\';
-            plain += text[index];
-        } else {
-            plain += meanings[letter];
-        }
-    }
-    return plain;
+struct FreeText {
+    void operator()(gchar* text) const { g_free(text); }
+};
+
+/// Takes over what GLib has allocated; empty for null.
+std::string taken(gchar* text) {
+    const std::unique_ptr<gchar, FreeText> owner(text);
+    return owner ? owner.get() : std::string();
 }
 
 }  // namespace
 
 Result<DesktopEntry> DesktopEntry::read(const std::filesystem::path& file) {
-    return readBoundedFile(file, mostBytes).map([](const auto& bytes) {
+    return readBoundedFile(file, mostBytes).and_then([](const auto& bytes) {
         return parse(std::string(bytes.begin(), bytes.end()));
     });
 }
 
-DesktopEntry DesktopEntry::parse(std::string_view text) {
+Result<DesktopEntry> DesktopEntry::parse(std::string_view text) {
     DesktopEntry entry;
-    bool isInGroup = false;
-    while (!text.empty()) {
-        const std::size_t end = text.find('\n');
-        const std::string_view line = trimmed(text.substr(0, end));
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-        const std::size_t equals = line.find('=');
-        if (line.starts_with('[')) {
-            isInGroup = line == "[Desktop Entry]";
-        } else if (isInGroup && !line.starts_with('#') && equals != std::string_view::npos) {
-            entry._values.try_emplace(std::string(trimmed(line.substr(0, equals))),
-                                      trimmed(line.substr(equals + 1)));
-        }
+    GError* error = nullptr;
+    // Else it keeps the process's own languages only.
+    if (g_key_file_load_from_data(entry._keys.get(), text.data(), text.size(),
+                                  G_KEY_FILE_KEEP_TRANSLATIONS, &error) == FALSE) {
+        const std::unique_ptr<GError, FreeError> owner(error);
+        return problem("The desktop file is damaged.", owner->message);
     }
     return entry;
 }
 
 std::string DesktopEntry::value(const std::string& key) const {
-    const auto found = _values.find(key);
-    return found == _values.end() ? std::string() : unescaped(found->second);
+    return taken(g_key_file_get_string(_keys.get(), group, key.c_str(), nullptr));
 }
 
-std::string DesktopEntry::localizedValue(const std::string& key, std::string_view locale) const {
-    // language[_COUNTRY][.ENCODING][@MODIFIER]
-    const std::size_t at = locale.find('@');
-    const std::string modifier(at == std::string_view::npos ? "" : locale.substr(at));
-    const std::string_view place = locale.substr(0, std::min(locale.find('.'), at));
-    const std::string country(place);
-    const std::string language(place.substr(0, place.find('_')));
-    for (const std::string& each : {country + modifier, country, language + modifier, language}) {
-        if (std::string text = value(key + "[" + each + "]"); !text.empty()) {
-            return text;
-        }
-    }
-    return value(key);
+std::string DesktopEntry::localizedValue(const std::string& key, const std::string& locale) const {
+    return taken(
+        g_key_file_get_locale_string(_keys.get(), group, key.c_str(), locale.c_str(), nullptr));
 }
 
 bool DesktopEntry::boolValue(const std::string& key, bool otherwise) const {
-    const std::string text = value(key);
-    return text == "true" || (text != "false" && otherwise);
+    GError* error = nullptr;
+    const bool value = g_key_file_get_boolean(_keys.get(), group, key.c_str(), &error) == TRUE;
+    if (error == nullptr) {
+        return value;
+    }
+    g_error_free(error);
+    return otherwise;
 }
 
-// A backslash is doubled twice over: for the argument's quotes, and for the value as a whole.
+void DesktopEntry::setValue(const std::string& key, const std::string& value) {
+    g_key_file_set_string(_keys.get(), group, key.c_str(), value.c_str());
+}
+
+std::string DesktopEntry::text() const {
+    return taken(g_key_file_to_data(_keys.get(), nullptr, nullptr));
+}
+
+// The rules are the desktop's own: a shell's quoting has others.
 std::string DesktopEntry::quotedArgument(std::string_view argument) {
     std::string text = "\"";
     for (const char c : argument) {
-        switch (c) {
-            case '"':
-            case '`':
-            case '$':
-                text += "\\\\";
-                text += c;
-                break;
-            case '\\':
-                text += "\\\\\\\\";
-                break;
-            case '%':
-                text += "%%";
-                break;
-            case '\n':
-                text += "\\n";
-                break;
-            case '\r':
-                text += "\\r";
-                break;
-            case '\t':
-                text += "\\t";
-                break;
-            default:
-                text += c;
+        if (std::string_view("\"`$\\").find(c) != std::string_view::npos) {
+            text += '\\';
+        } else if (c == '%') {
+            text += '%';
         }
+        text += c;
     }
     text += '"';
     return text;

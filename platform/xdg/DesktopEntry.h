@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <glib.h>
+
 #include <filesystem>
-#include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -10,30 +12,38 @@
 
 namespace tonquil {
 
-/// What a desktop file says of its program: the keys of its group "Desktop Entry".
+/// The group "Desktop Entry" of a desktop file.
 class DesktopEntry {
  public:
     /// Reads a file of at most 64 KiB.
     [[nodiscard]] static Result<DesktopEntry> read(const std::filesystem::path& file);
-    /// Never fails: lines that are no entries are passed by, and of a repeated key the first
-    /// counts.
-    [[nodiscard]] static DesktopEntry parse(std::string_view text);
+    [[nodiscard]] static Result<DesktopEntry> parse(std::string_view text);
 
-    /// The value with its escapes undone; empty where the key is missing.
+    /// Empty where the key is missing.
     [[nodiscard]] std::string value(const std::string& key) const;
     /// The value in the language of `locale` (such as "de_AT.UTF-8@euro"), as near as there is
     /// one, else without a language.
-    [[nodiscard]] std::string localizedValue(const std::string& key, std::string_view locale) const;
+    [[nodiscard]] std::string localizedValue(const std::string& key,
+                                             const std::string& locale) const;
     /// What is neither "true" nor "false" reads as `otherwise`.
     [[nodiscard]] bool boolValue(const std::string& key, bool otherwise) const;
 
-    /// Writes `argument` as one argument of a program's command line, quoted and escaped as the
-    /// key Exec needs it.
+    void setValue(const std::string& key, const std::string& value);
+    /// The whole file.
+    [[nodiscard]] std::string text() const;
+
+    /// An empty entry.
+    DesktopEntry() : _keys(g_key_file_new()) {}
+
+    /// `argument` as one argument of the command line in the key Exec.
     [[nodiscard]] static std::string quotedArgument(std::string_view argument);
 
  private:
-    /// As written, with their escapes.
-    std::map<std::string, std::string> _values;
+    struct Unref {
+        void operator()(GKeyFile* keys) const { g_key_file_unref(keys); }
+    };
+
+    std::unique_ptr<GKeyFile, Unref> _keys;
 };
 
 }  // namespace tonquil
