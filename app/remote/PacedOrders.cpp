@@ -30,11 +30,9 @@ void PacedOrders::startInterval(const std::string& referenceID) {
         _runLoop.callOnce(interval, [this, referenceID] { intervalEnded(referenceID); });
 }
 
-// The ID is copied: it belongs to the call of a timer that is replaced here.
-// NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-void PacedOrders::intervalEnded(const std::string& referenceID) {
-    const std::string id = referenceID;
-    const auto display = _displays.find(id);
+// By value: the timer that keeps the ID is replaced here.
+void PacedOrders::intervalEnded(const std::string referenceID) {  // NOLINT(*-value-param)
+    const auto display = _displays.find(referenceID);
     if (display == _displays.end()) {
         return;
     }
@@ -43,8 +41,8 @@ void PacedOrders::intervalEnded(const std::string& referenceID) {
         _displays.erase(display);
         return;
     }
-    startInterval(id);
-    _carryOut(id, *order);
+    startInterval(referenceID);
+    _carryOut(referenceID, *order);
 }
 
 }  // namespace tonquil

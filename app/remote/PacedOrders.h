@@ -48,7 +48,7 @@ class PacedOrders {
     };
 
     void startInterval(const std::string& referenceID);
-    void intervalEnded(const std::string& referenceID);
+    void intervalEnded(std::string referenceID);
 
     RunLoop& _runLoop;
     CarryOut _carryOut;

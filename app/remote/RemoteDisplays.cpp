@@ -152,7 +152,7 @@ void RemoteDisplays::carryOut(const std::string& referenceID, const RemoteOrder&
 }
 
 void RemoteDisplays::setCurve(KVScreen& screen,
-                              const std::shared_ptr<TQExtendedGammaCurve>& curve) {
+                              const std::shared_ptr<TQExtendedGammaCurve>& curve) const {
     // Companions repeat what they have sent, since nobody tells them that it arrived.
     if (compactArrayOf(screen) == curve->gammaCurveCompactArray()) {
         return;

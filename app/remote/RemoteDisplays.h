@@ -50,7 +50,7 @@ class RemoteDisplays final : public TQPlayerServerDataSource {
     [[nodiscard]] std::shared_ptr<TQExtendedGammaCurve> curveFrom(const PropertyValue& compactArray,
                                                                   const KVScreen& screen);
     void carryOut(const std::string& referenceID, const RemoteOrder& order);
-    void setCurve(KVScreen& screen, const std::shared_ptr<TQExtendedGammaCurve>& curve);
+    void setCurve(KVScreen& screen, const std::shared_ptr<TQExtendedGammaCurve>& curve) const;
     void setContent(DisplayID display, const std::string& content);
 
     ScreenRegistry& _registry;
