@@ -52,7 +52,6 @@ TQController::TQController(const ControllerSurroundings& surroundings)
       _panelUnderMouse({.service = _with.service,
                         .panel = _with.panel,
                         .windowSystem = _with.windowSystem,
-                        .runLoop = _with.runLoop,
                         .showCurveAt = [this](const Point& point) { _view.showCurveAt(point); },
                         .showPanel = [this] { _with.panel.makeKeyAndOrderFront(); }}),
       _remote({.registry = _with.registry,
@@ -89,6 +88,7 @@ void TQController::applicationDidFinishLaunching() {
     }
     _panelFrame.restore();
     applyAppearance();
+    _panelFrame.keepWhole();
     setApplyCorrection(_with.preferences.boolForKey(settingsKey::rememberSettings));
     _statusItem.setReady();
     updateStatusItem();
@@ -154,12 +154,33 @@ void TQController::observeSurroundings() {
     _with.panel.observeFirstResponder();
     _preferencesSubscription = _with.preferences.subscribe([this] { _changedDefaults(); });
     for (SessionEvents* events : _with.sessionEvents) {
-        events->start([this](SessionEvent) { _applyCurvesToScreen(); });
+        events->start([this](SessionEvent event) { sessionEvent(event); });
     }
+    // A profile may have been loaded after the curves were, and before anybody watched for it.
+    _with.runLoop.post([this] {
+        if (adoptCalibration()) {
+            _applyCurvesToScreen();
+        }
+    });
     _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
         [this](DisplayID, ReconfigurationFlags flags) {
             _reconfigurations.displayReconfigured(flags);
         });
+}
+
+void TQController::sessionEvent(SessionEvent event) {
+    if (event == SessionEvent::ColourSpaceChanged) {
+        adoptCalibration();
+    }
+    _applyCurvesToScreen();
+}
+
+bool TQController::adoptCalibration() {
+    const bool hasChanged = _correction.readBases();
+    if (hasChanged) {
+        _with.controls.updatePlot();
+    }
+    return hasChanged;
 }
 
 void TQController::_changedDefaults() {
@@ -208,23 +229,16 @@ void TQController::updateScreens() {
         }
         _correction.activateScreens();
     }
-    if (!_panelFrame.isPlaced()) {
-        _panelFrame.restore();
-    }
-    bringPanelBack();
+    _panelFrame.bringBack();
     _view._changeScreen();
     _with.targets.displaysChanged();
 }
 
 void TQController::showPanel() {
-    bringPanelBack();
-    _with.panel.makeKeyAndOrderFront();
-}
-
-void TQController::bringPanelBack() {
-    if (!_currentScreens.displayUnderPanel()) {
-        _panelFrame.restore();
+    if (!_panelFrame.isWithinReach()) {
+        _panelFrame.bringBack();
     }
+    _with.panel.makeKeyAndOrderFront();
 }
 
 void TQController::showTarget(std::optional<TargetKind> kind, const std::string& referenceID) {
@@ -280,9 +294,14 @@ void TQController::showCorrection(bool isOn) {
 ControllerHotKeys::Actions TQController::hotKeyActions() {
     return {
         .toggleApplyCorrection = [this] { toggleApplyCorrection(); },
-        .showPanelAndCenterMouse = [this] { _panelUnderMouse.showPanelAndCenterMouse(); },
+        .showPanelAndCenterMouse =
+            [this](std::chrono::milliseconds time) {
+                _panelUnderMouse.showPanelAndCenterMouse(time);
+            },
         .showPanelAndCenterMouseRelease =
-            [this] { _panelUnderMouse.showPanelAndCenterMouseRelease(); },
+            [this](std::chrono::milliseconds time) {
+                _panelUnderMouse.showPanelAndCenterMouseRelease(time);
+            },
         .showProblem = [this](HotKeyRole role,
                               const std::string& sentence) { showHotKeyProblem(role, sentence); }};
 }

@@ -98,6 +98,10 @@ class TQController final : public PanelActions {
     /// What needs the panel's window to be there.
     void finishPanelSetUp();
     void observeSurroundings();
+    void sessionEvent(SessionEvent event);
+    /// Lays the curves over the displays' present calibrations from their next application on;
+    /// tells whether one has changed.
+    bool adoptCalibration();
     void _changedDefaults();
     void _applyDefaultsToPanel();
     /// Brings the panel's form and theme and the targets' hints in line with the preferences.
@@ -106,7 +110,6 @@ class TQController final : public PanelActions {
     void updateHotKey() { _hotKeys.updateHotKey(); }
     void updateScreens();
     /// Puts the panel back into view when the display that it was on has gone.
-    void bringPanelBack();
     [[nodiscard]] int storedTab() const;
     void showCorrection(bool isOn);
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence);

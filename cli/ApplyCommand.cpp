@@ -13,18 +13,18 @@ namespace {
 
 using Assignment = std::pair<ScreenRegistry::ScreenPointer, KVScreen::CurvePointer>;
 
-/// Which curve each screen gets: its entry under its reference ID, else under its old-style one.
+/// Which curve each screen gets: its entry under the first of its keys that has one.
 Result<std::vector<Assignment>> assign(const CurvesByDisplay& curves,
                                        const ScreenRegistry::Screens& screens) {
     std::vector<Assignment> assignments;
     for (const auto& screen : screens) {
-        const PropertyValue* dictionary = entry(curves.screens, screen->referenceID());
-        if (dictionary == nullptr || !dictionary->is_object()) {
-            dictionary = entry(curves.screens, screen->oldReferenceID());
-        }
-        if (dictionary != nullptr && dictionary->is_object()) {
-            assignments.emplace_back(screen,
-                                     TQExtendedGammaCurve::gammaCurveWithDictionary(*dictionary));
+        for (const std::string& key : screen->keys()) {
+            const PropertyValue* dictionary = entry(curves.screens, key);
+            if (dictionary != nullptr && dictionary->is_object()) {
+                assignments.emplace_back(
+                    screen, TQExtendedGammaCurve::gammaCurveWithDictionary(*dictionary));
+                break;
+            }
         }
     }
     if (assignments.empty()) {

@@ -32,6 +32,7 @@ const std::string_view helpText =
       prints what a computer announces, a line of JSON for each change
   tonquilctl --help | --version
 
+--display also takes the connector that a display is plugged into, such as DP-1.
 Without --display, apply and restore mean all displays, read the main one.
 Tables are lines of: index, red, green, blue, separated by tabs, levels 0 to 1.
 The exit status is 0, 1 for a failure and 2 for a wrong command line.

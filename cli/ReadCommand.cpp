@@ -19,11 +19,11 @@ Result<void> runRead(const Arguments& arguments, const CommandEnvironment& envir
     }
     auto screen = screens.front();
     if (!arguments.displays.empty()) {
-        screen = registry.screenWithReferenceID(arguments.displays.back());
-        if (!screen) {
-            return problem("No attached display has the reference ID " + arguments.displays.back() +
-                           "; see \"tonquilctl displays\".");
+        const auto named = screenNamed(registry, arguments.displays.back());
+        if (!named) {
+            return tl::unexpected(named.error());
         }
+        screen = *named;
     }
     GammaTable table;
     const std::uint32_t sampleCount =

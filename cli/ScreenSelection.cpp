@@ -6,21 +6,21 @@
 namespace tonquil {
 
 Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry, DisplayService& service,
-                                              const std::vector<std::string>& referenceIDs,
+                                              const std::vector<std::string>& names,
                                               std::string& notes) {
-    const auto isMeant = [&](const std::string& referenceID) {
-        return referenceIDs.empty() || std::find(referenceIDs.begin(), referenceIDs.end(),
-                                                 referenceID) != referenceIDs.end();
+    const auto isMeant = [&](const KVScreen& screen) {
+        return names.empty() || std::ranges::any_of(names, [&](const std::string& name) {
+                   return screen.isNamed(name);
+               });
     };
-    for (const std::string& referenceID : referenceIDs) {
-        if (!registry.screenWithReferenceID(referenceID)) {
-            return problem("No attached display has the reference ID " + referenceID +
-                           "; see \"tonquilctl displays\".");
+    for (const std::string& name : names) {
+        if (const auto named = screenNamed(registry, name); !named) {
+            return tl::unexpected(named.error());
         }
     }
     ScreenRegistry::Screens selected;
     for (const auto& screen : registry.screens()) {
-        if (!isMeant(screen->referenceID())) {
+        if (!isMeant(*screen)) {
             continue;
         }
         const DisplayDescription description = service.description(screen->directDisplayID());
@@ -29,7 +29,7 @@ Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry, DisplayS
             continue;
         }
         const std::string obstacle = description.connector + ": " + description.obstacle;
-        if (!referenceIDs.empty() || registry.screens().size() == 1) {
+        if (!names.empty() || registry.screens().size() == 1) {
             return problem(obstacle);
         }
         notes += "tonquilctl: " + obstacle + "\n";
@@ -39,6 +39,18 @@ Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry, DisplayS
                                                   : "No attached display can be corrected.");
     }
     return selected;
+}
+
+Result<ScreenRegistry::ScreenPointer> screenNamed(ScreenRegistry& registry,
+                                                  const std::string& name) {
+    const auto& screens = registry.screens();
+    const auto found =
+        std::ranges::find_if(screens, [&](const auto& screen) { return screen->isNamed(name); });
+    if (found == screens.end()) {
+        return problem("No attached display has the reference ID or the connector " + name +
+                       "; see \"tonquilctl displays\".");
+    }
+    return *found;
 }
 
 }  // namespace tonquil

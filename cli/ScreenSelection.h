@@ -9,13 +9,18 @@
 
 namespace tonquil {
 
-/// The screens with the given reference IDs, or all when none is given, without those that cannot
-/// be corrected.
+/// The screens with the given reference IDs or connectors, or all when none is given, without those
+/// that cannot be corrected.
 ///
-/// A problem if an ID is no attached display's, if a display that was named cannot be corrected,
+/// A problem if a name is no attached display's, if a display that was named cannot be corrected,
 /// or if no screen is left. A display that was not named and cannot be corrected is only noted.
-[[nodiscard]] Result<ScreenRegistry::Screens> selectScreens(
-    ScreenRegistry& registry, DisplayService& service, const std::vector<std::string>& referenceIDs,
-    std::string& notes);
+[[nodiscard]] Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry,
+                                                            DisplayService& service,
+                                                            const std::vector<std::string>& names,
+                                                            std::string& notes);
+
+/// The first listed screen with this reference ID or connector; a problem if there is none.
+[[nodiscard]] Result<ScreenRegistry::ScreenPointer> screenNamed(ScreenRegistry& registry,
+                                                                const std::string& name);
 
 }  // namespace tonquil

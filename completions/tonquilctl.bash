@@ -3,14 +3,16 @@
 # Completion for tonquilctl. It needs nothing but bash, and is loaded by bash-completion or by
 # sourcing it.
 
-# Adds the reference IDs of the attached displays that begin as the word does.
+# Adds the reference IDs and connectors of the attached displays that begin as the word does.
 _tonquilctl_displays() {
-    local id
-    while IFS=$'\t' read -r _ id _; do
-        # An ID may come twice, when displays of one model have no serial numbers.
-        if [[ $id == "$1"* && " ${COMPREPLY[*]} " != *" $id "* ]]; then
-            COMPREPLY+=("$id")
-        fi
+    local id connector name
+    while IFS=$'\t' read -r _ id connector _; do
+        for name in "$id" "$connector"; do
+            # An ID may come twice, when displays of one model have no serial numbers.
+            if [[ $name == "$1"* && " ${COMPREPLY[*]} " != *" $name "* ]]; then
+                COMPREPLY+=("$name")
+            fi
+        done
     done < <("${COMP_WORDS[0]}" displays 2> /dev/null)
 }
 

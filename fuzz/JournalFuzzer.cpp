@@ -13,8 +13,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!units.empty()) {
         std::memcpy(units.data(), data, units.size() * sizeof(std::uint32_t));
     }
-    for (const auto& [crtc, history] : tonquil::X11RampJournal::parse(units, units)) {
-        tonquil::require(history.corrections().size() <= tonquil::RampHistory::mostCorrections);
+    const auto contents = tonquil::X11RampJournal::parse(units, units);
+    for (const auto& [crtc, history] : contents.histories) {
+        tonquil::require(history.corrections().size() <= tonquil::RampHistory::mostHolders);
         tonquil::require(!history.systemRamp() ||
                          history.systemRamp()->size() <= tonquil::HardwareRamp::largestSize);
     }

@@ -58,12 +58,14 @@ void Program::makeWindows() {
     _presence = std::make_unique<TrayPresence>(*_windowSystem, logLine);
     _presence->watch(*_panel);
     const auto windowMade = [this](QWidget& window) { _presence->watch(window); };
-    _targets = std::make_unique<TargetPresenter>(*_displays, _preferences, windowMade);
+    _targets =
+        std::make_unique<TargetPresenter>(*_displays, _preferences, *_windowSystem, windowMade);
     _windows = std::make_unique<OtherWindows>(
         OtherWindows::Surroundings{.preferences = {.preferences = _preferences,
                                                    .loginItem = _loginItem,
                                                    .alerts = _alerts,
                                                    .layout = *_keyboardLayout,
+                                                   .windowSystem = *_windowSystem,
                                                    .program = programFile(),
                                                    .home = environment("HOME"),
                                                    .log = logLine},
@@ -230,6 +232,7 @@ void Program::openWindowSystem() {
                                          [this] { _controller->applicationWillTerminate(); });
     if (events) {
         _desktopEvents = std::move(*events);
+        _desktopEvents->setCompositingChanged([this] { _panel->updateCompositing(); });
     }
     if (!_windowSystem->hasWindowManager()) {
         logLine("There is no window manager; the panel is moved without one.");

@@ -10,6 +10,7 @@
 #include "platform/dbus/BusSessionEvents.h"
 #include "platform/dbus/DesktopAppearance.h"
 #include "platform/qt/QtRunLoop.h"
+#include "platform/qt/ScreenEventLimit.h"
 #include "platform/x11/desktop/X11DesktopEvents.h"
 #include "platform/xdg/AutostartLoginItem.h"
 #include "platform/xdg/CurveRecoveryFile.h"
@@ -52,6 +53,7 @@ class Program {
     [[nodiscard]] SessionRestoration::Storage sessionStorage();
 
     QtRunLoop _runLoop;
+    ScreenEventLimit _screenEventLimit{_runLoop};
     PropertyListPreferences _preferences;
     CurveRecoveryFile _recovery;
     BusSessionEvents _busEvents;

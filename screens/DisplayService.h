@@ -27,9 +27,12 @@ inline constexpr ReconfigurationFlags endConfiguration = 2;
 ///
 /// A table is 256 levels of 0…1 per channel whatever the display's own ramp length; an
 /// implementation resamples end to end, clamps, and takes a not-a-number for 0. The table that is
-/// *read* is the system's own, never a correction that was set through a service, in this process
-/// or an earlier one. Display ID 0 means the main display. Calls for a display that is gone, or
-/// that cannot be corrected, do nothing; the log says so once.
+/// *read* is the system calibration: that of the display's colour profile where the desktop
+/// publishes one, otherwise the last ramp that was there while no correction was held. It is never
+/// a correction that was set through a service, in this process or an earlier one, and never a ramp
+/// with which somebody else replaced a correction that this service set and has not taken back.
+/// Display ID 0 means the main display. Calls for a display that is gone, or that cannot be
+/// corrected, do nothing; the log says so once.
 class DisplayService : public SystemCalibration {
  public:
     /// Called on the main thread with each affected display, first for all of them with
@@ -66,8 +69,8 @@ class DisplayService : public SystemCalibration {
     /// The power law that comes nearest to the system's table; a straight line where there is none.
     [[nodiscard]] TransferFormula getTransferFormula(DisplayID display);
 
-    /// Puts the given displays back to their colour profile's calibration where the desktop
-    /// publishes one, otherwise to the table that the system had set, otherwise to a straight line.
+    /// Puts the given displays back to the system calibration, or to a straight line where that is
+    /// not known.
     virtual void restoreSystemCalibration(std::span<const DisplayID> displays) = 0;
     /// The same for every display.
     void restoreSystemCalibration() override;

@@ -14,8 +14,18 @@ KVScreen::KVScreen(DisplayService& service) : KVScreen(service, service.mainDisp
 KVScreen::KVScreen(DisplayService& service, DisplayID directDisplayID)
     : _service(service),
       _directDisplayID(directDisplayID),
+      _connector(service.description(directDisplayID).connector),
       _referenceID(referenceIDFor(service.identity(directDisplayID))) {
     readBaseGamma();
+}
+
+void KVScreen::_setDirectDisplayID(DisplayID display) {
+    _directDisplayID = display;
+    _connector = _service.description(display).connector;
+}
+
+std::string KVScreen::twinReferenceID() const {
+    return twinReferenceIDFor(referenceID(), _connector);
 }
 
 std::shared_ptr<const PlatformScreen> KVScreen::nsscreen() {
@@ -75,6 +85,10 @@ void KVScreen::retriveExtendedGammaCurve() {
 
 void KVScreen::adoptGammaCurveDictionary(const PropertyValue& dictionary,
                                          CurvePointer initialCurve) {
+    if (const PropertyValue* own = entry(dictionary, twinReferenceID())) {
+        setGammaCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(*own));
+        return;
+    }
     if (dictionary.is_object()) {
         for (const auto& [key, value] : dictionary.items()) {
             if (key == referenceID() || key == oldReferenceID()) {
@@ -89,7 +103,11 @@ void KVScreen::adoptGammaCurveDictionary(const PropertyValue& dictionary,
 }
 
 void KVScreen::setTransferTable(const GammaTable& table) {
+    const DisplayBatch batch(_service);
     _service.setTransferTable(_directDisplayID, table);
+    for (const DisplayID display : _otherDisplayIDs) {
+        _service.setTransferTable(display, table);
+    }
 }
 
 std::uint32_t KVScreen::getTransferTable(GammaTable& table) const {
@@ -97,7 +115,11 @@ std::uint32_t KVScreen::getTransferTable(GammaTable& table) const {
 }
 
 void KVScreen::setTransferFormula(const TransferFormula& formula) {
+    const DisplayBatch batch(_service);
     _service.setTransferFormula(_directDisplayID, formula);
+    for (const DisplayID display : _otherDisplayIDs) {
+        _service.setTransferFormula(display, formula);
+    }
 }
 
 TransferFormula KVScreen::getTransferFormula() const {

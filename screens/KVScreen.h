@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "model/ComputedTable.h"
 #include "model/CurveScreen.h"
@@ -16,7 +20,8 @@
 namespace tonquil {
 
 /// One physical display: its identity, its own calibration (the base), the curve that it was given
-/// and whether a curve is applied as soon as it is assigned.
+/// and whether a curve is applied as soon as it is assigned. Where the registry cannot tell twins
+/// apart, one screen stands for several displays.
 ///
 /// Screens are made by the registry and live as long as it does, so that a display that is
 /// unplugged and comes back finds its curve. The display service must outlive them.
@@ -34,11 +39,25 @@ class KVScreen : public CurveScreen {
 
     [[nodiscard]] DisplayID directDisplayID() const { return _directDisplayID; }
     /// Binds the screen to its display's new ID; everything else stays as it was.
-    void _setDirectDisplayID(DisplayID display) { _directDisplayID = display; }
+    void _setDirectDisplayID(DisplayID display);
+    /// Displays other than the one it is bound to that get the same tables.
+    void setOtherDisplayIDs(std::vector<DisplayID> displays) {
+        _otherDisplayIDs = std::move(displays);
+    }
     [[nodiscard]] const std::string& referenceID() const { return _referenceID.text; }
+    /// The reference ID with the connector that the display is, or was last, plugged into.
+    [[nodiscard]] std::string twinReferenceID() const;
     [[nodiscard]] bool isReferenceIDLocallyUnique() const { return _referenceID.isLocallyUnique; }
     /// The identity that earlier settings used: the display ID in decimal.
     [[nodiscard]] std::string oldReferenceID() const { return std::to_string(_directDisplayID); }
+    /// The keys that a settings file may hold its curve under, the most exact one first.
+    [[nodiscard]] std::array<std::string, 3> keys() const {
+        return {twinReferenceID(), referenceID(), oldReferenceID()};
+    }
+    /// Whether a person may mean this display by `name`: its reference ID or its connector.
+    [[nodiscard]] bool isNamed(std::string_view name) const {
+        return name == referenceID() || name == _connector;
+    }
     /// The screen that windows know this display by; null while there is none. The first one found
     /// is kept.
     [[nodiscard]] std::shared_ptr<const PlatformScreen> nsscreen();
@@ -64,9 +83,9 @@ class KVScreen : public CurveScreen {
     void retriveGammaCurve();
     /// Assigns an extended curve made from this screen: the neutral one over the base.
     void retriveExtendedGammaCurve();
-    /// Assigns the curve that an all-screens dictionary holds under this screen's reference ID or
-    /// its old-style one, whichever key comes first; without either, the initial curve itself if
-    /// one is given.
+    /// Assigns the curve that an all-screens dictionary holds under this screen's twin reference
+    /// ID, else under its reference ID or its old-style one, whichever key comes first; without any
+    /// of them, the initial curve itself if one is given.
     void adoptGammaCurveDictionary(const nlohmann::json& dictionary, CurvePointer initialCurve);
 
     [[nodiscard]] const BaseGamma& baseGamma() const override { return _baseGamma; }
@@ -79,6 +98,8 @@ class KVScreen : public CurveScreen {
  private:
     DisplayService& _service;
     DisplayID _directDisplayID;
+    std::vector<DisplayID> _otherDisplayIDs;
+    std::string _connector;
     BaseGamma _baseGamma;
     CurvePointer _gammaCurve;
     bool _autoApplyGamma = false;

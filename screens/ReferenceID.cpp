@@ -35,4 +35,8 @@ ReferenceID referenceIDFor(const DisplayIdentity& identity) {
             true};
 }
 
+std::string twinReferenceIDFor(const std::string& referenceID, const std::string& connector) {
+    return referenceID + "@" + connector;
+}
+
 }  // namespace tonquil

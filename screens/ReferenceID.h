@@ -21,4 +21,9 @@ struct ReferenceID {
 /// locale) for any other.
 [[nodiscard]] ReferenceID referenceIDFor(const DisplayIdentity& identity);
 
+/// "<referenceID>@<connector>": tells twins (displays with the same reference ID) apart by the
+/// sockets they are plugged into.
+[[nodiscard]] std::string twinReferenceIDFor(const std::string& referenceID,
+                                             const std::string& connector);
+
 }  // namespace tonquil

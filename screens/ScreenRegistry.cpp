@@ -12,7 +12,9 @@ void ScreenRegistry::updateScreenList() {
     // New screens read their bases: at one moment, and waiting once.
     const DisplayBatch batch(_service);
     Screens online;
+    std::vector<Place> places;
     for (const DisplayID display : _service.onlineDisplays(mostScreens)) {
+        const bool isSighted = _sightedScreenWithDirectDisplayID(display) != nullptr;
         ScreenPointer screen = screenForOnlineDisplay(display);
         if (std::find(_sightedScreens.begin(), _sightedScreens.end(), screen) ==
             _sightedScreens.end()) {
@@ -23,9 +25,42 @@ void ScreenRegistry::updateScreenList() {
         if (std::min(rampSize, GammaTable::capacity) != screen->baseGamma().sampleCount) {
             screen->readBaseGamma();
         }
+        places.push_back(placeFor(*screen, !isSighted));
         online.push_back(std::move(screen));
     }
     _screens = std::move(online);
+    _places = std::move(places);
+    shareTablesAmongPlaces();
+}
+
+// Twins that share a screen take it over from each other at every update, so what a display found
+// when it came is known only from its place in the previous list.
+ScreenRegistry::Place ScreenRegistry::placeFor(const KVScreen& screen, bool isTakenOver) const {
+    const DisplayID display = screen.directDisplayID();
+    const auto before = std::ranges::find(_places, display, &Place::display);
+    return {.display = display,
+            .twinReferenceID = screen.twinReferenceID(),
+            .takenOver = before != _places.end() ? before->takenOver
+                         : isTakenOver           ? screen.gammaCurve()
+                                                 : nullptr};
+}
+
+void ScreenRegistry::shareTablesAmongPlaces() {
+    for (const ScreenPointer& screen : _sightedScreens) {
+        std::vector<DisplayID> others;
+        for (std::size_t i = 0; i < _places.size(); ++i) {
+            if ((*_screens)[i] == screen && _places[i].display != screen->directDisplayID()) {
+                others.push_back(_places[i].display);
+            }
+        }
+        screen->setOtherDisplayIDs(std::move(others));
+    }
+}
+
+bool ScreenRegistry::isShared(const std::string& referenceID) {
+    return std::ranges::count_if(screens(), [&](const ScreenPointer& screen) {
+               return screen->referenceID() == referenceID;
+           }) > 1;
 }
 
 // Until the new list is complete, the reference IDs are looked up in the previous one.
@@ -50,9 +85,10 @@ const ScreenRegistry::Screens& ScreenRegistry::screens() {
 template <typename Predicate>
 ScreenRegistry::Screens ScreenRegistry::screensWithBounds(Predicate predicate) {
     Screens found;
-    for (const ScreenPointer& screen : screens()) {
-        if (predicate(_service.bounds(screen->directDisplayID()))) {
-            found.push_back(screen);
+    const Screens& all = screens();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (predicate(_service.bounds(_places[i].display))) {
+            found.push_back(all[i]);
         }
     }
     return found;
@@ -113,32 +149,50 @@ ScreenRegistry::ScreenPointer ScreenRegistry::screenWithReferenceID(
 void ScreenRegistry::adoptGammaCurveDictionary(const PropertyValue& dictionary,
                                                const KVScreen::CurvePointer& initialCurve) {
     const DisplayBatch batch(_service);
-    Screens unserved = initialCurve ? screens() : Screens{};
-    if (dictionary.is_object()) {
-        for (const auto& [key, value] : dictionary.items()) {
-            if (const ScreenPointer screen = screenWithReferenceID(key)) {
-                screen->setGammaCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(value));
-                std::erase(unserved, screen);
-            }
+    for (const ScreenPointer& screen : screens()) {
+        const PropertyValue* stored = entry(dictionary, screen->twinReferenceID());
+        if (stored == nullptr) {
+            // Stored before the display had a twin, so it is for each of them.
+            stored = entry(dictionary, screen->referenceID());
         }
-    }
-    for (const ScreenPointer& screen : unserved) {
-        screen->setGammaCurve(initialCurve);
+        if (stored != nullptr) {
+            screen->setGammaCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(*stored));
+        } else if (initialCurve) {
+            screen->setGammaCurve(initialCurve);
+        }
     }
 }
 
 PropertyValue ScreenRegistry::gammaCurveDictionary() {
-    return gammaCurveDictionaryExtendingDictionary(nullptr);
+    return gammaCurveDictionaryOver(nullptr);
+}
+
+PropertyValue ScreenRegistry::gammaCurveDictionaryOver(const PropertyValue& stored) {
+    PropertyValue result = PropertyValue::object();
+    const Screens& all = screens();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const auto& curve = all[i]->gammaCurve();
+        if (!curve) {
+            continue;
+        }
+        Place& place = _places[i];
+        if (place.takenOver != curve) {
+            place.takenOver = nullptr;
+        }
+        PropertyValue dictionary = curve->gammaCurveDictionary();
+        const bool isStored = entry(stored, place.twinReferenceID) != nullptr;
+        if (isStored ? !place.takenOver : isShared(all[i]->referenceID())) {
+            result[place.twinReferenceID] = dictionary;
+        }
+        result[all[i]->referenceID()] = std::move(dictionary);
+    }
+    return result;
 }
 
 PropertyValue ScreenRegistry::gammaCurveDictionaryExtendingDictionary(
     const PropertyValue& dictionary) {
     PropertyValue result = dictionary.is_object() ? dictionary : PropertyValue::object();
-    for (const ScreenPointer& screen : screens()) {
-        if (const auto& curve = screen->gammaCurve()) {
-            result[screen->referenceID()] = curve->gammaCurveDictionary();
-        }
-    }
+    result.update(gammaCurveDictionaryOver(result));
     return result;
 }
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <nlohmann/json_fwd.hpp>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -32,9 +33,9 @@ class ScreenRegistry {
     /// Lists the displays anew. A display is recognised by its display ID if that was ever seen,
     /// else by its reference ID if a screen of the list so far has it.
     ///
-    /// Of two displays with the same reference ID one that arrives later therefore takes the
-    /// other's screen over, and the list holds that screen twice; both have screens of their own
-    /// only when they are there at the first update.
+    /// So when a twin (a display with the same reference ID as a listed one) arrives, it takes over
+    /// the other's screen. The list then holds that screen twice, and it sets both displays. Twins
+    /// have screens of their own when they arrive together, or come back.
     void updateScreenList();
     /// In the display service's order; the first call makes the list.
     [[nodiscard]] const Screens& screens();
@@ -59,24 +60,41 @@ class ScreenRegistry {
     /// update.
     [[nodiscard]] ScreenPointer screenWithReferenceID(std::string_view referenceID) const;
 
-    /// Assigns to each listed screen that has an entry in an all-screens dictionary (under its
-    /// reference ID; old-style IDs are not looked for) its curve, and to all others the initial
-    /// curve itself, if one is given: they share it.
+    /// Assigns to each listed screen that has an entry in an all-screens dictionary (under its twin
+    /// reference ID, else its reference ID; old-style IDs are not looked for) its curve, and to all
+    /// others the initial curve itself, if one is given: they share it.
     void adoptGammaCurveDictionary(const nlohmann::json& dictionary,
                                    const KVScreen::CurvePointer& initialCurve);
-    /// The curves of the listed screens by reference ID.
+    /// The curves of the listed screens by reference ID; those of twins also by twin reference ID.
     [[nodiscard]] nlohmann::json gammaCurveDictionary();
-    /// The same laid over a given all-screens dictionary, whose other entries stay as they are.
+    /// The same, for merging into a stored all-screens dictionary. A twin's entry in there is
+    /// updated even while its twin is unplugged. But a display that took over its twin's screen
+    /// keeps its stored entry until that screen gets another curve: nobody chose to replace it.
+    [[nodiscard]] nlohmann::json gammaCurveDictionaryOver(const nlohmann::json& stored);
+    /// These laid over the given all-screens dictionary, whose other entries stay as they are.
     [[nodiscard]] nlohmann::json gammaCurveDictionaryExtendingDictionary(
         const nlohmann::json& dictionary);
 
  private:
+    /// A place in the list. One screen may have several, each for another display.
+    struct Place {
+        DisplayID display;
+        std::string twinReferenceID;
+        /// The curve of the screen that the display took over when it came; null once it changed.
+        KVScreen::CurvePointer takenOver;
+    };
+
+    [[nodiscard]] Place placeFor(const KVScreen& screen, bool isTakenOver) const;
+    [[nodiscard]] bool isShared(const std::string& referenceID);
+    void shareTablesAmongPlaces();
     [[nodiscard]] ScreenPointer screenForOnlineDisplay(DisplayID display);
     template <typename Predicate>
     [[nodiscard]] Screens screensWithBounds(Predicate predicate);
 
     DisplayService& _service;
     std::optional<Screens> _screens;
+    /// As many as there are screens in the list, in its order.
+    std::vector<Place> _places;
     Screens _sightedScreens;
 };
 

@@ -5,7 +5,7 @@
 
 packages_to_build=(
     g++ cmake ninja-build pkg-config
-    libxcb1-dev libxcb-randr0-dev libxcb-screensaver0-dev libxcb-xkb-dev
+    libxcb1-dev libxcb-randr0-dev libxcb-screensaver0-dev libxcb-xfixes0-dev libxcb-xkb-dev
     libxkbcommon-dev libxkbcommon-x11-dev libexpat1-dev liblcms2-dev
     libglib2.0-dev nlohmann-json3-dev libexpected-dev qt6-base-dev
     qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
@@ -21,7 +21,7 @@ packages_to_check=(
     x11-utils x11-xkb-utils
     git xvfb libgtest-dev libgmock-dev libbenchmark-dev libxcb-xtest0-dev
     clang clang-format clang-tidy libclang-rt-14-dev python3 procps shellcheck
-    dbus iproute2 trayer
+    dbus at-spi2-core iproute2 trayer
 )
 
 is_installed() {

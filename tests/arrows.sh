@@ -33,11 +33,12 @@ declare -A arrows=(
     [targets]="ui ui/theme"
     [hotkeys/field]="hotkeys ui ui/theme"
     [windows/language]=""
-    [windows/panel]="model screens app/desktop app/files app/panel ui ui/theme"
-    [windows/targets]="screens targets app/desktop app/preferences windows/panel"
+    [windows/front]="app/panel"
+    [windows/panel]="model screens app/desktop app/files app/panel ui ui/theme windows/front"
+    [windows/targets]="screens targets app/desktop app/panel app/preferences windows/front windows/panel"
     [windows/alerts]="app/desktop ui ui/theme"
-    [windows/about]="foundation ui ui/theme windows/alerts windows/panel"
-    [windows/preferences]="foundation hotkeys hotkeys/field app/desktop app/preferences ui ui/theme windows/alerts windows/panel"
+    [windows/about]="foundation app/panel ui ui/theme windows/alerts windows/front windows/panel"
+    [windows/preferences]="foundation hotkeys hotkeys/field app/desktop app/panel app/preferences ui ui/theme windows/alerts windows/front windows/panel"
     [windows/desktop]="foundation screens app app/desktop app/panel app/preferences ui ui/theme windows/about windows/alerts windows/panel windows/preferences"
     [platform/ramp]="model"
     [platform/edid]=""
@@ -61,7 +62,7 @@ declare -A arrows=(
 # Where programs are composed: the only files that may know which platform is used.
 composers=" cli/main.cpp "
 # Where windows and the toolkit's own services are.
-qt_folders=" ui ui/theme targets hotkeys/field windows/language windows/panel windows/targets windows/alerts windows/about windows/preferences windows/desktop platform/qt platform/dbus program "
+qt_folders=" ui ui/theme targets hotkeys/field windows/language windows/front windows/panel windows/targets windows/alerts windows/about windows/preferences windows/desktop platform/qt platform/dbus program "
 
 breaches=0
 breach() {

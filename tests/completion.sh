@@ -31,8 +31,8 @@ expect() {
     fi
 }
 
-mapfile -t ids < <("$program" displays | cut -f 2)
-if ((${#ids[@]} < 2)); then
+mapfile -t ids < <("$program" displays | cut -f 2,3 | tr '\t' '\n')
+if ((${#ids[@]} < 4)); then
     echo "The simulated desk has too few displays to tell anything."
     exit 1
 fi
@@ -42,7 +42,7 @@ expect "" nonsense ""
 # What is offered is what the command takes.
 expect "--display|--hardware|--help" read -
 expect "--json|--help" displays -
-# Reference IDs, whichever way the option is written.
+# Reference IDs and connectors, whichever way the option is written.
 expect "$(IFS='|' && echo "${ids[*]}")" apply --display ""
 expect "${ids[0]}" restore --display "${ids[0]:0:3}"
 expect "${ids[0]}" restore --display = "${ids[0]:0:3}"

@@ -601,6 +601,10 @@
         <source>Type a shortcut</source>
         <translation>Tastenkürzel drücken</translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation>Keins</translation>
+    </message>
 </context>
 <context>
     <name>tonquil::HotKeyClearButton</name>

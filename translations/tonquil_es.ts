@@ -601,6 +601,10 @@
         <source>Type a shortcut</source>
         <translation>Pulse un atajo</translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
 </context>
 <context>
     <name>tonquil::HotKeyClearButton</name>

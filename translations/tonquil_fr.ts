@@ -601,6 +601,10 @@
         <source>Type a shortcut</source>
         <translation>Tapez un raccourci</translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
 </context>
 <context>
     <name>tonquil::HotKeyClearButton</name>

@@ -601,6 +601,10 @@
         <source>Type a shortcut</source>
         <translation>キーを入力</translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
 </context>
 <context>
     <name>tonquil::HotKeyClearButton</name>

@@ -168,7 +168,7 @@ void TQNumericTextField::paintEvent(QPaintEvent* event) {
 }
 
 void TQNumericTextField::mousePressEvent(QMouseEvent* event) {
-    _isFirstClick = !hasFocus();
+    _isFirstClick = _isFirstClick || !hasFocus();
     QLineEdit::mousePressEvent(event);
 }
 
@@ -180,6 +180,7 @@ void TQNumericTextField::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void TQNumericTextField::keyPressEvent(QKeyEvent* event) {
+    _isFirstClick = false;
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isEscape = event->key() == Qt::Key_Escape;
     if (!isEditing() || (!isReturn && !isEscape)) {
@@ -200,6 +201,10 @@ void TQNumericTextField::focusInEvent(QFocusEvent* event) {
         showValue();
     }
     QLineEdit::focusInEvent(event);
+    // The click's own events come after the focus that it brings; a window manager may give the
+    // window the keyboard first.
+    _isFirstClick =
+        event->reason() == Qt::MouseFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
 }
 
 void TQNumericTextField::focusOutEvent(QFocusEvent* event) {

@@ -65,7 +65,7 @@ class TQNumericTextField : public QLineEdit {
     /// The text that stands for `_value`, by which a change is told from none.
     QString _shownText;
     QPointer<TQSlider> _target;
-    /// The click under way is the one that brings the focus.
+    /// The next click to end is the one that brought the focus.
     bool _isFirstClick = false;
 };
 

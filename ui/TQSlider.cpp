@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 #include "ui/Accessibility.h"
 #include "ui/theme/Drawing.h"
@@ -20,6 +21,8 @@ namespace {
 constexpr int rowHeight = 24;
 constexpr int preferredSliderWidth = 160;
 constexpr int leastWidth = 48;
+/// How far from the fill's end, in points, a press still takes hold of the end.
+constexpr double endReach = 3;
 
 constexpr double stepPerLine = 0.01;
 constexpr double stepPerPixel = 0.005;
@@ -196,12 +199,22 @@ void TQSlider::mousePressEvent(QMouseEvent* event) {
     _showsFocusRing = false;
     setInteracting(true);
     _followsPointer = true;
-    takeValueAt(event->position().x());
+    const double x = event->position().x();
+    const double end = TQSliderCell::positionOf(fractionOf(_value),
+                                                TQSliderCell::trackInside(rect()), isRightToLeft());
+    // Who takes hold of the fill's end has not moved it yet.
+    const bool isOnEnd = std::abs(x - end) <= endReach;
+    _grip = isOnEnd ? x - end : 0;
+    _gripX = x;
+    if (!isOnEnd) {
+        takeValueAt(x);
+    }
 }
 
 void TQSlider::mouseMoveEvent(QMouseEvent* event) {
-    if (_followsPointer) {
-        takeValueAt(event->position().x());
+    const double x = event->position().x();
+    if (_followsPointer && x != std::exchange(_gripX, x)) {
+        takeValueAt(x - _grip);
     }
 }
 

@@ -52,7 +52,7 @@ class TQSlider : public QWidget {
     void setAuxiliary(TQNumericTextField* auxiliary);
 
     /// Called with the value set, for every change that the person makes, and also where the range
-    /// held the value as it was.
+    /// held the value as it was; not for a press on the fill's end, which moves nothing.
     void setAction(Action action) { _action = std::move(action); }
     void sendAction();
 
@@ -107,6 +107,10 @@ class TQSlider : public QWidget {
     Action _interactionChanged;
     bool _isInteracting = false;
     bool _followsPointer = false;
+    /// Where the pointer holds the fill's end, in points to the right of it, and where the pointer
+    /// was last.
+    double _grip = 0;
+    double _gripX = 0;
     bool _showsFocusRing = false;
 };
 

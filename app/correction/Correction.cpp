@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/correction/Correction.h"
 
+#include <utility>
+
 #include "app/preferences/SettingsKeys.h"
 #include "model/KVGammaCurve.h"
 
@@ -11,7 +13,12 @@ bool Correction::applyCorrection() const {
 }
 
 void Correction::setApplyCorrection(bool isOn) {
+    if (isOn && std::exchange(_wasSwitchedOff, false)) {
+        // What others set in the meantime is the system's.
+        readBases();
+    }
     _isActive = isOn;
+    _wasSwitchedOff = !isOn;
     activateScreens();
     if (!isOn) {
         restoreAllGammaCurves();
@@ -27,6 +34,17 @@ void Correction::activateScreens() {
     for (const auto& screen : _registry.screens()) {
         screen->setAutoApplyGamma(_isActive);
     }
+}
+
+bool Correction::readBases() {
+    const DisplayBatch batch(_service);
+    bool hasChanged = false;
+    for (const auto& screen : _registry.screens()) {
+        const BaseGamma before = screen->baseGamma();
+        screen->readBaseGamma();
+        hasChanged = hasChanged || !haveSameBits(before.table, screen->baseGamma().table);
+    }
+    return hasChanged;
 }
 
 void Correction::_applyCurvesToScreen() {

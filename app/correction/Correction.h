@@ -23,6 +23,9 @@ class Correction {
     void setApplyCorrection(bool isOn);
     /// Puts every display's curve on it, whatever is there now; does nothing while off.
     void _applyCurvesToScreen();
+    /// Takes the system's present calibration of every display for its base; tells whether one has
+    /// changed. The curves are not applied again by this.
+    bool readBases();
     /// Gives the displays back to the system's calibration, on or off.
     void restoreAllGammaCurves();
 
@@ -39,6 +42,7 @@ class Correction {
     ScreenRegistry& _registry;
     PreferencesStore& _preferences;
     bool _isActive = false;
+    bool _wasSwitchedOff = false;
 };
 
 }  // namespace tonquil

@@ -59,7 +59,10 @@ PanelSubject CurrentScreens::subject() {
         }
         return subject;
     }
-    const DisplayDescription first = _service.description(screens.front()->directDisplayID());
+    // A screen that stands for twins is named for the one that the panel is on.
+    const auto underPanel = subject.isAllDisplays ? std::nullopt : displayUnderPanel();
+    const DisplayDescription first =
+        _service.description(underPanel.value_or(screens.front()->directDisplayID()));
     if (subject.isAllDisplays) {
         subject.title = TONQUIL_TEXT("PanelSubject", "All displays");
     } else {

@@ -28,7 +28,7 @@ class CurrentScreens {
     /// All of them, or those that lie exactly where the display under the panel does: more than
     /// one only for displays that show the same. Empty while the panel is on no display.
     [[nodiscard]] ScreenRegistry::Screens _currentScreens();
-    /// The display that the greatest part of the panel is on; nothing while it is on none.
+    /// The display that most of the panel is on; nothing if it is not on any.
     [[nodiscard]] std::optional<DisplayID> displayUnderPanel();
     /// What the panel says about them.
     [[nodiscard]] PanelSubject subject();

@@ -1,12 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "app/curves/CurveStorage.h"
 
+#include <iterator>
+#include <string>
 #include <utility>
 
 #include "app/preferences/SettingsKeys.h"
 #include "values/PropertyValue.h"
 
 namespace tonquil {
+
+namespace {
+
+// A file that has only one curve for all twins means them all: their older curves go.
+void eraseReplaced(PropertyValue& stored, const PropertyValue& curves) {
+    for (auto each = stored.begin(); each != stored.end();) {
+        const std::string& key = each.key();
+        const bool isReplaced =
+            curves.contains(key) || curves.contains(key.substr(0, key.rfind('@')));
+        each = isReplaced ? stored.erase(each) : std::next(each);
+    }
+}
+
+}  // namespace
 
 CurveStorage::CurveStorage(ScreenRegistry& registry, PreferencesStore& preferences,
                            CurveRecovery& recovery, RunLoop& runLoop, Log log)
@@ -33,7 +49,7 @@ void CurveStorage::_adoptDefaultCurves() {
     _registry.adoptGammaCurveDictionary(curves, nullptr);
 }
 
-// They belong to the run that crashed, and once stored they are as old as the rest.
+// Once these are in the preferences, the recovery file of the crashed run is no longer needed.
 void CurveStorage::saveLeftCurves() {
     if (_left.empty()) {
         return;
@@ -50,19 +66,18 @@ void CurveStorage::_updateDefaultCurves() {
                           _registry.gammaCurveDictionaryExtendingDictionary(storedCurves()));
 }
 
-// What is kept beside would otherwise have the last word.
+// The opened file must win over curves that are still waiting to be saved.
 void CurveStorage::storeCurves(const PropertyValue& curves) {
     PropertyValue all = storedCurves();
-    all.update(curves);
-    for (const auto& [key, curve] : curves.items()) {
-        _left.erase(key);
-        _kept.erase(key);
+    for (PropertyValue* stored : {&all, &_left, &_kept}) {
+        eraseReplaced(*stored, curves);
     }
+    all.update(curves);
     _preferences.setValue(settingsKey::screens, std::move(all));
 }
 
 void CurveStorage::curvesWereEdited() {
-    // Not put off by the edits of a long drag: the first one counts.
+    // Do not restart a running timer, or a long drag would never be saved.
     if (!_timer) {
         _timer = _runLoop.callOnce(keepingDelay, [this] { keepCurves(); });
     }
@@ -76,7 +91,7 @@ void CurveStorage::keepPendingEdits() {
 
 void CurveStorage::keepCurves() {
     _timer.reset();
-    _kept = _registry.gammaCurveDictionaryExtendingDictionary(_kept);
+    _kept.update(_registry.gammaCurveDictionaryOver(storedCurves()));
     PropertyValue all = _left;
     all.update(_kept);
     const Result<void> kept = _recovery.keep(all);
@@ -91,7 +106,7 @@ void CurveStorage::close() {
     // Another program may have stored curves of other displays, unseen.
     static_cast<void>(_preferences.synchronize());
     _updateDefaultCurves();
-    // As long as the preferences cannot be saved, the other file is all there is.
+    // If the preferences cannot be saved, the recovery file is the only copy.
     if (_preferences.synchronize()) {
         _recovery.forget();
     }

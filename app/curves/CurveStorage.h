@@ -11,32 +11,32 @@
 
 namespace tonquil {
 
-/// Keeps the displays' curves between runs, in the preferences, and what was edited in this run
-/// where a crash cannot take it.
+/// Keeps the displays' curves in the preferences between runs, and writes edits to a recovery file
+/// so that a crash does not lose them.
 class CurveStorage {
  public:
     /// Within this time after an edit the curves are on the disk.
     static constexpr std::chrono::milliseconds keepingDelay{500};
 
-    /// Takes over what a program that crashed has left.
+    /// Loads the recovery file that a crashed run left behind, if any.
     CurveStorage(ScreenRegistry& registry, PreferencesStore& preferences, CurveRecovery& recovery,
                  RunLoop& runLoop, Log log);
 
-    /// The curves by reference ID: those of the preferences, and over them those of edits that
-    /// have not got there yet.
+    /// The curves by reference ID: those in the preferences, overlaid with edits that have not been
+    /// saved there yet.
     [[nodiscard]] PropertyValue storedCurves() const;
     /// Gives each display the neutral curve, then the one that is stored for it.
     void _adoptDefaultCurves();
     /// Writes the displays' curves into the preferences. Those stored for displays that are not
     /// attached now stay.
     void _updateDefaultCurves();
-    /// Lays the curves of an opened file over those that are stored.
+    /// Adds the curves of an opened file to the stored ones, replacing those with the same key.
     void storeCurves(const PropertyValue& curves);
     /// To be called after each edit.
     void curvesWereEdited();
-    /// Puts edits on the disk that wait for it. To be called before displays may leave the list.
+    /// Writes pending edits to disk now. Call it before the screen list is rebuilt.
     void keepPendingEdits();
-    /// Saves everything for good at the end of a run.
+    /// Saves everything to the preferences at the end of a run and removes the recovery file.
     void close();
 
  private:

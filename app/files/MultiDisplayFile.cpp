@@ -30,14 +30,13 @@ std::size_t MultiDisplayFile::applyTo(ScreenRegistry& registry) const {
     const ScreenRegistry::Screens attached = registry.screens();
     std::size_t count = 0;
     for (const auto& screen : registry.sightedScreens()) {
-        auto found = _curves.find(screen->referenceID());
-        if (found == _curves.end()) {
-            found = _curves.find(screen->oldReferenceID());
-        }
-        if (found == _curves.end()) {
+        const auto keys = screen->keys();
+        const auto key =
+            std::ranges::find_if(keys, [this](const auto& each) { return _curves.contains(each); });
+        if (key == keys.end()) {
             continue;
         }
-        screen->setGammaCurve(found->second);
+        screen->setGammaCurve(_curves.at(*key));
         screen->applyGammaCurve();
         count += std::find(attached.begin(), attached.end(), screen) != attached.end() ? 1 : 0;
     }
@@ -45,12 +44,10 @@ std::size_t MultiDisplayFile::applyTo(ScreenRegistry& registry) const {
 }
 
 PropertyValue MultiDisplayFile::contentsFor(ScreenRegistry& registry) {
-    PropertyValue screens = PropertyValue::object();
+    PropertyValue screens = registry.gammaCurveDictionary();
     for (const auto& screen : registry.screens()) {
         if (const auto& curve = screen->gammaCurve()) {
-            const PropertyValue dictionary = curve->gammaCurveDictionary();
-            screens[screen->referenceID()] = dictionary;
-            screens[screen->oldReferenceID()] = dictionary;
+            screens[screen->oldReferenceID()] = curve->gammaCurveDictionary();
         }
     }
     return {{"Format", static_cast<std::int64_t>(SettingsFormat::MultiDisplay)},

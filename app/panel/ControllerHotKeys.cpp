@@ -48,14 +48,18 @@ bool ControllerHotKeys::registerHotKey(const Wanted& wanted) {
 }
 
 HotKeyReceiver ControllerHotKeys::receiverFor(HotKeyRole role) const {
-    const auto action = [](std::string name, const std::function<void()>& call) {
-        return HotKeyAction{.name = std::move(name),
-                            .call = [call](const HotKeyEvent&, const std::any&) { call(); }};
-    };
     if (role == HotKeyRole::ToggleCorrection) {
         return {.target = this,
-                .action = action("toggleApplyCorrection", _actions.toggleApplyCorrection)};
+                .action = {.name = "toggleApplyCorrection",
+                           .call = [toggle = _actions.toggleApplyCorrection](
+                                       const HotKeyEvent&, const std::any&) { toggle(); }}};
     }
+    const auto action = [](std::string name,
+                           const std::function<void(std::chrono::milliseconds)>& call) {
+        return HotKeyAction{
+            .name = std::move(name),
+            .call = [call](const HotKeyEvent& event, const std::any&) { call(event.timestamp); }};
+    };
     return {
         .target = this,
         .action = action("showPanelAndCenterMouseRelease", _actions.showPanelAndCenterMouseRelease),

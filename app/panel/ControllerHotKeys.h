@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -19,9 +20,10 @@ class ControllerHotKeys {
     /// What the hot keys do. All must be callable.
     struct Actions {
         std::function<void()> toggleApplyCorrection;
-        std::function<void()> showPanelAndCenterMouse;
-        std::function<void()> showPanelAndCenterMouseRelease;
-        /// Says why the hot key of a role does not work, or with an empty sentence that it does.
+        /// Called with the time stamp of the key's event.
+        std::function<void(std::chrono::milliseconds time)> showPanelAndCenterMouse;
+        std::function<void(std::chrono::milliseconds time)> showPanelAndCenterMouseRelease;
+        /// Says why the hot key of a role does not work; an empty sentence means that it works.
         std::function<void(HotKeyRole, const std::string& sentence)> showProblem;
     };
 

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/panel/PanelUnderMouse.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
+#include "app/panel/PanelFrame.h"
+
 namespace tonquil {
+
+using std::chrono::milliseconds;
 
 namespace {
 
@@ -28,20 +31,12 @@ Point PanelUnderMouse::knobCentre(const PanelSliderGeometry& slider) {
             frame.y + (1 - knobHeight) * frame.height};
 }
 
-Rectangle PanelUnderMouse::keptInside(Rectangle frame, const Rectangle& screen) {
-    frame.x = std::min(frame.x, screen.x + screen.width - frame.width);
-    frame.x = std::max(frame.x, screen.x);
-    frame.y = std::min(frame.y, screen.y + screen.height - frame.height);
-    frame.y = std::max(frame.y, screen.y);
-    return frame;
-}
-
 Rectangle PanelUnderMouse::constrained(const Rectangle& frame, const Point& pointer) const {
     const auto displays = _.service.displaysWithPoint(pointer, 1);
     return displays.empty() ? frame : keptInside(frame, _.service.bounds(displays.front()));
 }
 
-void PanelUnderMouse::showPanelAndCenterMouse() {
+void PanelUnderMouse::showPanelAndCenterMouse(milliseconds time) {
     if (_.panel.isOrderedIn() && _.panel.isOnActiveWorkspace()) {
         _.panel.orderOut();
         return;
@@ -52,7 +47,7 @@ void PanelUnderMouse::showPanelAndCenterMouse() {
         return;
     }
     _.showCurveAt(*pointer);
-    _press = Press{.initialTimeForPanelHotKey = _.runLoop.now(),
+    _press = Press{.initialTimeForPanelHotKey = time,
                    .initialMouseLocationForPanelHotKey = *pointer,
                    .modifiedMouseLocationForPanelHotKey = {},
                    .initialControlWindowRect = _.panel.frame(),
@@ -65,25 +60,24 @@ void PanelUnderMouse::showPanelAndCenterMouse() {
     frame = constrained(frame, *pointer);
     _.panel.setFrameOrigin({frame.x, frame.y});
     _.showPanel();
-    // Whatever became of the wish for a place, the pointer goes where the knob is.
+    // The window system may have put the panel elsewhere; the pointer goes where the knob is.
     const Rectangle placed = _.panel.frame();
     _.service.warpPointer(rounded({placed.x + knob.x, placed.y + knob.y}));
     _press->modifiedMouseLocationForPanelHotKey = _.windowSystem.pointerLocation();
 }
 
-void PanelUnderMouse::showPanelAndCenterMouseRelease() {
+void PanelUnderMouse::showPanelAndCenterMouseRelease(milliseconds time) {
     const auto press = std::exchange(_press, std::nullopt);
     if (!press) {
         return;
     }
-    const std::chrono::duration<double> held = _.runLoop.now() - press->initialTimeForPanelHotKey;
-    if (held.count() > tapSeconds) {
+    if (time - press->initialTimeForPanelHotKey > longestTap) {
         putBack(*press);
     }
 }
 
 void PanelUnderMouse::putBack(const Press& press) {
-    // A pointer that the person has moved stays where it is.
+    // If the person has moved the pointer, it stays where it is.
     if (_.windowSystem.pointerLocation() == press.modifiedMouseLocationForPanelHotKey) {
         _.service.warpPointer(press.initialMouseLocationForPanelHotKey);
     }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
 #include "app/panel/PanelWindow.h"
 #include "app/panel/WindowSystem.h"
-#include "foundation/RunLoop.h"
 #include "screens/DisplayService.h"
 
 namespace tonquil {
@@ -17,14 +17,13 @@ namespace tonquil {
 /// Everything is in pixels of the top-down desktop space.
 class PanelUnderMouse {
  public:
-    /// A key held longer than this, in seconds, puts everything back when it goes up.
-    static constexpr double tapSeconds = 0.4;
+    /// A key held longer than this puts everything back when it goes up.
+    static constexpr std::chrono::milliseconds longestTap{400};
 
     struct Surroundings {
         DisplayService& service;
         PanelWindow& panel;
         WindowSystem& windowSystem;
-        RunLoop& runLoop;
         /// Shows the curve of the display at a point.
         std::function<void(const Point& pointer)> showCurveAt;
         /// Shows the panel where it is.
@@ -33,19 +32,20 @@ class PanelUnderMouse {
     explicit PanelUnderMouse(Surroundings surroundings) : _(std::move(surroundings)) {}
 
     /// The key has gone down: shows the panel, or hides it when it was shown.
-    void showPanelAndCenterMouse();
+    ///
+    /// `time` is when it did, by the keyboard's own clock, and not when we come to hear of it:
+    /// showing the panel may take a busy machine longer than a tap.
+    void showPanelAndCenterMouse(std::chrono::milliseconds time);
     /// The key has gone up.
-    void showPanelAndCenterMouseRelease();
+    void showPanelAndCenterMouseRelease(std::chrono::milliseconds time);
 
     /// Where the knob of a slider is: its fill's end, in the coordinates of `slider.frame`.
     [[nodiscard]] static Point knobCentre(const PanelSliderGeometry& slider);
-    /// `frame` moved into `screen`; the upper left corner counts where it does not fit.
-    [[nodiscard]] static Rectangle keptInside(Rectangle frame, const Rectangle& screen);
 
  private:
     /// What a press has found, and where it has put the pointer.
     struct Press {
-        RunLoop::Clock::time_point initialTimeForPanelHotKey;
+        std::chrono::milliseconds initialTimeForPanelHotKey;
         Point initialMouseLocationForPanelHotKey;
         std::optional<Point> modifiedMouseLocationForPanelHotKey;
         Rectangle initialControlWindowRect;

@@ -24,8 +24,17 @@ class WindowSystem {
 
     /// Shows the window whichever workspace the person switches to.
     virtual void keepOnAllWorkspaces(WindowID window) = 0;
+    /// Moves a window that is on another workspace to the one that the person is at.
+    virtual void bringToActiveWorkspace(WindowID window) = 0;
+    /// Un-minimises and raises a window, and gives it the keyboard, because the person asks for it:
+    /// whatever keeps programs from taking the keyboard by themselves does not count here. A window
+    /// that is not shown stays hidden.
+    virtual void activate(WindowID window) = 0;
     /// Leaves the window out of the task bar and of the overview of workspaces, or puts it back.
     virtual void skipTaskbar(WindowID window, bool skip) = 0;
+
+    /// Holds the window to the proportions `width` : `height` whenever the person resizes it.
+    virtual void keepProportions(WindowID window, std::uint32_t width, std::uint32_t height) = 0;
 
     /// False only where the window is known to be on another workspace.
     [[nodiscard]] virtual bool isOnActiveWorkspace(WindowID window) const = 0;

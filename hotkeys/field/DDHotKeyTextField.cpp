@@ -121,6 +121,7 @@ void DDHotKeyTextField::endRecording() {
 
 void DDHotKeyTextField::clearHotKey() {
     setHotKey(nullptr);
+    clear();
     Q_EMIT hotKeyChanged();
     if (_isRecording) {
         clearFocus();
@@ -134,19 +135,21 @@ void DDHotKeyTextField::paintEvent(QPaintEvent* event) {
         drawField(painter, rect(), themeOf(*this), hasFocus());
     }
     if (_isRecording) {
-        paintPrompt();
+        paintPrompt(tr("Type a shortcut"));
+    } else if (!_hotKey && text().isEmpty()) {
+        paintPrompt(tr("None"));
     } else {
         QLineEdit::paintEvent(event);
     }
 }
 
-void DDHotKeyTextField::paintPrompt() {
+void DDHotKeyTextField::paintPrompt(const QString& prompt) {
     QPainter painter(this);
+    painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
     painter.setPen(themeOf(*this).secondaryText);
     const QRect place = rect().adjusted(padding, 0, -padding, 0);
-    painter.drawText(
-        place, Qt::AlignCenter,
-        fontMetrics().elidedText(tr("Type a shortcut"), Qt::ElideRight, place.width()));
+    painter.drawText(place, Qt::AlignCenter,
+                     fontMetrics().elidedText(prompt, Qt::ElideRight, place.width()));
 }
 
 void DDHotKeyTextField::resizeEvent(QResizeEvent* event) {
@@ -193,8 +196,9 @@ void DDHotKeyTextField::keyPressEvent(QKeyEvent* event) {
 
 void DDHotKeyTextField::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    // A window that comes to the front brings the focus along; nobody meant to record by that.
-    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+    // Who passes by with Tab, or brings the window to the front, does not mean to record; and a
+    // recording would swallow the next Tab.
+    if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::OtherFocusReason) {
         beginRecording();
     }
     deselect();

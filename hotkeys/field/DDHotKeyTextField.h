@@ -15,11 +15,12 @@ class HotKeyClearButton;
 
 /// A field in which a person records a key combination, and which shows it.
 ///
-/// The focus begins a recording, unless it only comes back with the window; then a click, Space or
-/// Return does. The next combination with a modifier, or a function, arrow or
-/// navigation key alone, becomes its hot key and ends the recording. Return ends it without a
-/// change, Escape puts back what was there when it began, a loss of the focus keeps what is there.
-/// A button at the end takes the hot key away. Nothing is registered here.
+/// A click, Space or Return begins a recording, and so does the program by giving the field the
+/// focus; Tab and a window that comes to the front only bring the focus. The next combination with
+/// a modifier, or a function, arrow or navigation key alone, becomes the field's hot key and ends
+/// the recording. Return ends it without a change, Escape puts back what was there when it began, a
+/// loss of the focus keeps what is there. A button at the end takes the hot key away and leaves the
+/// field empty. Nothing is registered here.
 ///
 /// Combinations that a hot-key service has registered for this program never reach the field: give
 /// them up from `recordingBegan` to `recordingEnded`.
@@ -35,7 +36,8 @@ class DDHotKeyTextField : public QLineEdit {
     /// The combination; null for none.
     [[nodiscard]] const std::shared_ptr<DDHotKey>& hotKey() const { return _hotKey; }
     /// Shows a hot key in place of the one before, unless it is the same object. Null in place of a
-    /// hot key shows what key code 0 gives. Tells nobody.
+    /// hot key shows what key code 0 gives; only the person's own button empties the field. Tells
+    /// nobody.
     void setHotKey(std::shared_ptr<DDHotKey> hotKey);
 
     /// The text as such, with a warning in the log: `hotKey` and `setHotKey` are what is meant.
@@ -71,7 +73,7 @@ class DDHotKeyTextField : public QLineEdit {
     void beginRecording();
     void endRecording();
     void showCombination(std::uint16_t keyCode, ModifierFlags modifierFlags);
-    void paintPrompt();
+    void paintPrompt(const QString& prompt);
     void placeClearButton();
     void clearHotKey();
 

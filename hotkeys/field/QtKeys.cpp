@@ -29,7 +29,20 @@ ModifierFlags modifierFlags(const QKeyEvent& event) {
     return flags;
 }
 
+// A layout may put a switch between layouts on a modifier, alone or with another one held, for
+// which the toolkit has no name. Then the key's place tells, or what X calls it. The place alone
+// does not: a layout can make an Escape of the caps lock.
 bool isModifierEvent(const QKeyEvent& event) {
+    // XKB_KEY_ISO_Lock to XKB_KEY_ISO_Level5_Lock.
+    constexpr quint32 firstLevelOrGroup = 0xFE01;
+    constexpr quint32 lastLevelOrGroup = 0xFE13;
+    const auto keyCode = virtualKeyCode(event);
+    const bool hasName = event.key() != 0 && event.key() != Qt::Key_unknown;
+    const quint32 keysym = event.nativeVirtualKey();
+    if ((!hasName && keyCode && isModifierKey(*keyCode)) ||
+        (keysym >= firstLevelOrGroup && keysym <= lastLevelOrGroup)) {
+        return true;
+    }
     switch (event.key()) {
         case Qt::Key_Shift:
         case Qt::Key_Control:

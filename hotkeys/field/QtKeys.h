@@ -17,7 +17,7 @@ namespace tonquil {
 /// The modifier flags of a key event. Command is Super, option is Alt. The caps lock is left out.
 [[nodiscard]] ModifierFlags modifierFlags(const QKeyEvent& event);
 
-/// Whether the event is of a modifier or a lock, as the layout has it.
+/// Whether the event is of a modifier, of a lock or of a switch between layouts.
 [[nodiscard]] bool isModifierEvent(const QKeyEvent& event);
 
 }  // namespace tonquil

@@ -47,16 +47,6 @@ bool isFiller(std::uint32_t serial) {
     return serial == 0 || serial == 0x01010101U || serial == 0xFFFFFFFFU;
 }
 
-/// 32-bit FNV-1a. Settings are kept under what it gives, so it must never change.
-std::uint32_t hashOf(const std::string& text) {
-    std::uint32_t hash = 0x811C9DC5U;
-    for (const char c : text) {
-        hash = (hash ^ static_cast<std::uint8_t>(c)) * 0x01000193U;
-    }
-    // The two values that mean "no serial number" elsewhere must not come out of a serial number.
-    return hash == 0 || hash == 0xFFFFFFFFU ? 1 : hash;
-}
-
 }  // namespace
 
 std::optional<Edid> parseEdid(std::span<const std::uint8_t> bytes) {
@@ -71,10 +61,18 @@ std::optional<Edid> parseEdid(std::span<const std::uint8_t> bytes) {
                         (std::uint32_t{block[13]} << 8U) | block[12];
     if (isFiller(edid.serialNumber)) {
         const std::string text = descriptorText(block, serialTextTag);
-        edid.serialNumber = text.empty() ? 0 : hashOf(text);
+        edid.serialNumber = text.empty() ? 0 : numberOf(text);
     }
     edid.productName = descriptorText(block, productNameTag);
     return edid;
+}
+
+std::uint32_t numberOf(std::string_view text) {
+    std::uint32_t hash = 0x811C9DC5U;
+    for (const char c : text) {
+        hash = (hash ^ static_cast<std::uint8_t>(c)) * 0x01000193U;
+    }
+    return hash == 0 || hash == 0xFFFFFFFFU ? 1 : hash;
 }
 
 }  // namespace tonquil

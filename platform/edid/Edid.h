@@ -5,6 +5,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace tonquil {
 
@@ -22,9 +23,13 @@ struct Edid {
     std::string productName;
 };
 
-/// Nothing unless the bytes begin with a whole base block. Its checksum is not asked for: the
-/// system that hands the block out has verified what can be, and a block that is wrong in the same
-/// way each time still tells one monitor from another.
+/// Nothing unless the bytes begin with a whole base block. The checksum is not checked: the system
+/// that provides the block has already done that, and a block that is always wrong in the same way
+/// still identifies its monitor.
 [[nodiscard]] std::optional<Edid> parseEdid(std::span<const std::uint8_t> bytes);
+
+/// A number for a text that identifies a display: its 32-bit FNV-1a hash, but never one of the two
+/// values that stand for "no serial number". Settings are kept under it, so it must never change.
+[[nodiscard]] std::uint32_t numberOf(std::string_view text);
 
 }  // namespace tonquil

@@ -9,7 +9,11 @@ namespace tonquil {
 class MissingWindowSystem final : public WindowSystem {
  public:
     void keepOnAllWorkspaces(WindowID /*window*/) override {}
+    void bringToActiveWorkspace(WindowID /*window*/) override {}
+    void activate(WindowID /*window*/) override {}
     void skipTaskbar(WindowID /*window*/, bool /*skip*/) override {}
+    void keepProportions(WindowID /*window*/, std::uint32_t /*width*/,
+                         std::uint32_t /*height*/) override {}
     [[nodiscard]] bool isOnActiveWorkspace(WindowID /*window*/) const override { return true; }
     [[nodiscard]] std::optional<Point> pointerLocation() const override { return std::nullopt; }
     [[nodiscard]] bool isCompositing() const override { return false; }

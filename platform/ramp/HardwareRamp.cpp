@@ -11,12 +11,13 @@ namespace {
 
 constexpr double full = 65535.0;
 
+/// Within 0…1; a not-a-number fails the comparison and becomes 0.
+double clampedLevel(double level) {
+    return level > 0.0 ? std::min(level, 1.0) : 0.0;
+}
+
 std::uint16_t entryForLevel(double level) {
-    // Not-a-number fails both comparisons and ends at 0.
-    if (!(level > 0.0)) {
-        return 0;
-    }
-    return level >= 1.0 ? 65535 : static_cast<std::uint16_t>(std::lround(level * full));
+    return static_cast<std::uint16_t>(std::lround(clampedLevel(level) * full));
 }
 
 double levelOf(std::uint16_t entry) {
@@ -75,7 +76,9 @@ void HardwareRamp::setTable(const GammaTable& table) {
         const auto levels = table.channel(c);
         const auto ramp = channel(c);
         for (std::size_t i = 0; i < _size; ++i) {
-            const auto level = [&](std::size_t slot) { return static_cast<double>(levels[slot]); };
+            // Clamped before it is interpolated: an infinity would turn the entries between it and
+            // its neighbours into infinities, or into not-a-numbers.
+            const auto level = [&](std::size_t slot) { return clampedLevel(levels[slot]); };
             ramp[i] = entryForLevel(
                 isSlotBySlot ? level(i) : resampled(GammaTable::capacity, i, _size, level));
         }

@@ -36,8 +36,8 @@ class HardwareRamp {
     [[nodiscard]] std::uint64_t fingerprint() const;
 
     /// Replaces the entries by a table, resampled linearly from end to end; 256 entries take it
-    /// level by level. Levels are clamped to 0…1 and rounded, a not-a-number becomes 0. Keeps the
-    /// size and allocates nothing.
+    /// level by level. Levels are clamped to 0…1 before that, where a not-a-number becomes 0, and
+    /// rounded after it. Keeps the size and allocates nothing.
     ///
     /// On a ramp shorter than 256 a table whose slots past the ramp's length are all 0 is one that
     /// was computed for that length and is taken slot by slot.

@@ -6,31 +6,41 @@
 namespace tonquil {
 
 bool RampHistory::isCorrection(std::uint64_t fingerprint) const {
-    return std::find(_corrections.rbegin(), _corrections.rend(), fingerprint) !=
-           _corrections.rend();
+    return std::any_of(_corrections.rbegin(), _corrections.rend(),
+                       [=](const Correction& each) { return each.fingerprint == fingerprint; });
 }
 
-void RampHistory::addCorrection(std::uint64_t fingerprint) {
-    const auto known = std::find(_corrections.begin(), _corrections.end(), fingerprint);
-    if (known != _corrections.end()) {
-        std::rotate(known, known + 1, _corrections.end());
+bool RampHistory::has(const Correction& correction) const {
+    return std::find(_corrections.rbegin(), _corrections.rend(), correction) != _corrections.rend();
+}
+
+void RampHistory::addCorrection(const Correction& correction) {
+    _corrections.push_back(correction);
+    if (_corrections.size() <= mostCorrections) {
         return;
     }
-    if (_corrections.size() == mostCorrections) {
+    // The oldest that its holder has replaced since.
+    auto oldest = _corrections.begin();
+    while (oldest != _corrections.end() &&
+           std::none_of(oldest + 1, _corrections.end(),
+                        [&](const Correction& later) { return later.holder == oldest->holder; })) {
+        ++oldest;
+    }
+    if (oldest != _corrections.end()) {
+        _corrections.erase(oldest);
+    } else if (_corrections.size() > mostHolders) {
         _corrections.erase(_corrections.begin());
     }
-    _corrections.push_back(fingerprint);
 }
 
 HardwareRamp RampHistory::uncorrected(const HardwareRamp& present) const {
-    if (!isCorrection(present.fingerprint())) {
-        return present;
-    }
-    // A correction is only ever set after the system ramp was noted; should the note be lost, a
+    return isCorrection(present.fingerprint()) ? underCorrection(present.size()) : present;
+}
+
+HardwareRamp RampHistory::underCorrection(std::uint32_t size) const {
+    // A correction is only ever set after the system ramp was noted. If the note is lost, a
     // straight line is the one guess that does not correct twice.
-    return _systemRamp && _systemRamp->size() == present.size()
-               ? *_systemRamp
-               : HardwareRamp::straight(present.size());
+    return _systemRamp && _systemRamp->size() == size ? *_systemRamp : HardwareRamp::straight(size);
 }
 
 }  // namespace tonquil

@@ -43,6 +43,8 @@ class SimulatedDesk {
 
     /// What corrections were set on a display; it lives as long as the desk.
     [[nodiscard]] RampHistory& history(DisplayID display) { return _histories[display]; }
+    /// A number of its own for each service that sets corrections.
+    [[nodiscard]] std::uint32_t newHolder() { return ++_holders; }
 
     /// Where the pointer was moved to last.
     Point pointer;
@@ -56,6 +58,7 @@ class SimulatedDesk {
  private:
     std::vector<SimulatedDisplay> _displays;
     std::map<DisplayID, RampHistory> _histories;
+    std::uint32_t _holders = 0;
 };
 
 }  // namespace tonquil

@@ -65,17 +65,33 @@ void SimulatedDisplayService::setTransferTable(DisplayID display, const GammaTab
         return;
     }
     RampHistory& history = _desk.history(found->id);
-    if (!history.isCorrection(found->ramp.fingerprint())) {
+    if (!holds(found->id) && !history.isCorrection(found->ramp.fingerprint())) {
         history.setSystemRamp(found->ramp);
     }
     found->ramp.setTable(table);
-    history.addCorrection(found->ramp.fingerprint());
+    _held[found->id] = found->ramp.fingerprint();
+    history.addCorrection({.fingerprint = _held[found->id], .holder = _holder});
     ++_desk.rampWrites;
+}
+
+bool SimulatedDisplayService::holds(DisplayID display) {
+    const auto held = _held.find(display);
+    return held != _held.end() &&
+           _desk.history(display).has({.fingerprint = held->second, .holder = _holder});
+}
+
+HardwareRamp SimulatedDisplayService::systemCalibration(const SimulatedDisplay& display) {
+    if (display.profileRamp) {
+        return *display.profileRamp;
+    }
+    const RampHistory& history = _desk.history(display.id);
+    return holds(display.id) ? history.underCorrection(display.ramp.size())
+                             : history.uncorrected(display.ramp);
 }
 
 std::uint32_t SimulatedDisplayService::getTransferTable(DisplayID display, GammaTable& table) {
     const SimulatedDisplay* found = correctable(display);
-    return found == nullptr ? 0 : _desk.history(found->id).uncorrected(found->ramp).getTable(table);
+    return found == nullptr ? 0 : systemCalibration(*found).getTable(table);
 }
 
 std::uint32_t SimulatedDisplayService::getHardwareTable(DisplayID display, GammaTable& table) {
@@ -91,9 +107,9 @@ void SimulatedDisplayService::restoreSystemCalibration(std::span<const DisplayID
             _allReached = false;
             continue;
         }
-        RampHistory& history = _desk.history(found->id);
-        found->ramp = found->profileRamp ? *found->profileRamp : history.uncorrected(found->ramp);
-        history.setSystemRamp(found->ramp);
+        found->ramp = systemCalibration(*found);
+        _desk.history(found->id).setSystemRamp(found->ramp);
+        _held.erase(found->id);
         ++_desk.rampWrites;
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <set>
 #include <string>
 
@@ -16,7 +17,7 @@ class SimulatedDisplayService : public DisplayService {
  public:
     /// The desk must outlive the service.
     explicit SimulatedDisplayService(SimulatedDesk& desk, Log log = {})
-        : _desk(desk), _log(std::move(log)) {}
+        : _desk(desk), _holder(desk.newHolder()), _log(std::move(log)) {}
 
     [[nodiscard]] std::vector<DisplayID> onlineDisplays(std::size_t most) override;
     [[nodiscard]] DisplayID mainDisplay() override;
@@ -39,9 +40,16 @@ class SimulatedDisplayService : public DisplayService {
  private:
     /// The display if it is attached and has a ramp; otherwise says so once and returns null.
     [[nodiscard]] SimulatedDisplay* correctable(DisplayID display);
+    /// Whether a correction of this service's is held on the display. One that was plugged in
+    /// meanwhile has no history of it.
+    [[nodiscard]] bool holds(DisplayID display);
+    [[nodiscard]] HardwareRamp systemCalibration(const SimulatedDisplay& display);
 
     SimulatedDesk& _desk;
+    std::uint32_t _holder;
     Log _log;
+    /// By display, the correction that was set last and not taken back.
+    std::map<DisplayID, std::uint64_t> _held;
     std::set<DisplayID> _reported;
     bool _allReached = true;
 };

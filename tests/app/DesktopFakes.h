@@ -50,7 +50,11 @@ class RecordedDesktop final : public DesktopPresence,
     void saveFrames() override {}
 
     void keepOnAllWorkspaces(WindowID /*window*/) override {}
+    void bringToActiveWorkspace(WindowID /*window*/) override {}
+    void activate(WindowID /*window*/) override {}
     void skipTaskbar(WindowID /*window*/, bool /*skip*/) override {}
+    void keepProportions(WindowID /*window*/, std::uint32_t /*width*/,
+                         std::uint32_t /*height*/) override {}
     [[nodiscard]] bool isOnActiveWorkspace(WindowID /*window*/) const override { return true; }
     [[nodiscard]] std::optional<Point> pointerLocation() const override { return pointer; }
     [[nodiscard]] bool isCompositing() const override { return false; }
@@ -113,13 +117,15 @@ class ScriptedHotKeys final : public HotKeyService {
     void unregisterHotKey(HotKeyHandle handle) override {
         std::erase_if(ids, [handle](const auto& each) { return each.second == handle; });
     }
-    void press(std::uint16_t keyCode) { _pressed({.id = ids.at(keyCode)}); }
-    void release(std::uint16_t keyCode) { _released({.id = ids.at(keyCode)}); }
+    void press(std::uint16_t keyCode) { _pressed({.id = ids.at(keyCode), .timestamp = time}); }
+    void release(std::uint16_t keyCode) { _released({.id = ids.at(keyCode), .timestamp = time}); }
 
     /// By key code.
     std::map<std::uint16_t, std::uint32_t> ids;
     std::set<std::uint16_t> refused;
     int registrations = 0;
+    /// What the keys' events bear, whatever the run loop's clock says.
+    std::chrono::milliseconds time{0};
 
  private:
     Handler _pressed;

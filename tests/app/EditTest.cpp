@@ -153,6 +153,21 @@ TEST_F(Correction, OffRestoresTheDisplaysAndOnCorrectsThemAgain) {
     EXPECT_TRUE(bench.panel.correction);
 }
 
+TEST_F(Correction, LiesOverWhatOthersSetWhileOffAndOverAChangedProfile) {
+    HardwareRamp calibrated(256);
+    calibrated.entries()[0] = 5000;
+    bench.controller().setApplyCorrection(false);
+    bench.desk.setForeignRamp(left, calibrated);
+    bench.controller().setApplyCorrection(true);
+    EXPECT_EQ(bench.firstEntry(left), 5000);
+    calibrated.entries()[0] = 6000;
+    bench.desk.find(left)->profileRamp = calibrated;
+    bench.desktop.tell(SessionEvent::Woke);
+    EXPECT_EQ(bench.firstEntry(left), 5000) << "Nobody has said so yet.";
+    bench.desktop.tell(SessionEvent::ColourSpaceChanged);
+    EXPECT_EQ(bench.firstEntry(left), 6000);
+}
+
 TEST_F(Correction, OffWhileADisplayIsAwayHoldsForItToo) {
     bench.movePanel(1100);
     bench.edit(PanelSlider::BlackRed, 0.25F);

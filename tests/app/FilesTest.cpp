@@ -139,5 +139,91 @@ TEST_F(Files, ThatCannotBeSavedAreReportedWhereNothingIsThere) {
     }
 }
 
+/// Two displays with nothing but their connectors to tell them apart.
+class Twins : public Files {
+ protected:
+    Twins() {
+        plug(left);
+        plug(right);
+    }
+    void plug(DisplayID display) {
+        auto twin = ControllerBench::makeDisplay(display, display == left ? 0 : 1000);
+        twin.identity = {};
+        bench.desk.plug(twin);
+    }
+    void start(const PropertyValue& screens) {
+        bench.preferences.stored = {{"Screens", screens}};
+        bench.launchAndSettle();
+    }
+    void restart() {
+        bench.controller().applicationWillTerminate();
+        bench.launchAndSettle();
+    }
+    void editAndCrash(DisplayID display, float red) {
+        bench.movePanel(display == left ? 100 : 1100);
+        bench.edit(PanelSlider::BlackRed, red);
+        bench.loop.advance(std::chrono::milliseconds(500));
+        bench.launchAndSettle();
+    }
+    [[nodiscard]] std::pair<float, float> reds() { return {bench.red(left), bench.red(right)}; }
+
+    const std::string id = "0.000000x0.000000-0-0";
+};
+
+TEST_F(Twins, KeepTheirCurvesByConnector) {
+    start({{id, curve(0.75F)}});
+    restart();
+    EXPECT_EQ(reds(), std::pair(0.75F, 0.75F)) << "Stored when there was one, and for both.";
+    EXPECT_EQ(bench.preferences.stored["Screens"][id], curve(0.75F));
+    editAndCrash(left, 0.25F);
+    editAndCrash(right, 0.5F);
+    bench.desk.unplug(left);
+    plug(left);
+    EXPECT_EQ(reds(), std::pair(0.25F, 0.5F));
+
+    // The one that is left stays what it is, and an edit of it is there when both are back.
+    bench.desk.unplug(right);
+    restart();
+    EXPECT_EQ(bench.red(left), 0.25F);
+    editAndCrash(left, 0.125F);
+    plug(right);
+    restart();
+    EXPECT_EQ(reds(), std::pair(0.125F, 0.5F));
+
+    // A file has both; one that has the shared ID only is for both, also for one that is away.
+    bench.dialogs.file = folder.path() / "twins";
+    bench.dialogs.format = SettingsFormat::MultiDisplay;
+    bench.controller().saveGamma();
+    bench.desk.unplug(right);
+    restart();
+    open(fileWith(PropertyValue{{"Format", 1}, {"Screens", {{id, curve(0.0625F)}}}}));
+    plug(right);
+    restart();
+    EXPECT_EQ(reds(), std::pair(0.0625F, 0.0625F));
+    open(bench.dialogs.file);
+    EXPECT_EQ(reds(), std::pair(0.125F, 0.5F));
+}
+
+TEST_F(Twins, ThatComeOneAfterTheOtherShowTheSameAndLoseNothing) {
+    bench.desk.unplug(right);
+    start({{id + "@DP-1", curve(0.25F)}, {id + "@DP-2", curve(0.5F)}});
+    bench.desk.unplug(left);
+    plug(right);
+    plug(left);
+    EXPECT_EQ(reds(), std::pair(0.25F, 0.5F)) << "Each came while the other was away.";
+
+    bench.desk.unplug(right);
+    restart();
+    plug(right);
+    EXPECT_EQ(bench.firstEntry(left), bench.firstEntry(right));
+    restart();
+    EXPECT_EQ(reds(), std::pair(0.25F, 0.5F));
+    bench.desk.unplug(right);
+    restart();
+    plug(right);
+    editAndCrash(left, 0.75F);
+    EXPECT_EQ(reds(), std::pair(0.75F, 0.75F)) << "Edited together.";
+}
+
 }  // namespace
 }  // namespace tonquil

@@ -47,9 +47,11 @@ TEST(Launch, FollowsThePreferences) {
     }
 }
 
-TEST(Launch, PutsThePanelBackWhereADisplayStillIs) {
-    const std::vector<std::pair<const char*, Point>> rows{
-        {"1200 50 320 132", {1200, 50}}, {"5000 50 320 132", {648, 64}}, {"12 x", {648, 64}}};
+TEST(Launch, PutsThePanelBackWhereADisplayStillIsAndKeepsItWhole) {
+    const std::vector<std::pair<const char*, Point>> rows{{"1200 50 320 132", {1200, 50}},
+                                                          {"1800 700 320 132", {1680, 330}},
+                                                          {"5000 50 320 132", {648, 64}},
+                                                          {"12 x", {648, 64}}};
     for (const auto& [saved, origin] : rows) {
         SCOPED_TRACE(saved);
         ControllerBench bench;
@@ -69,6 +71,11 @@ TEST(Launch, PutsThePanelBackWhereADisplayStillIs) {
     bench.launchAndSettle();
     bench.desk.plug(ControllerBench::makeDisplay(ControllerBench::right, 1000));
     EXPECT_EQ(bench.panel.place.x, 1200);
+    // Much of its side is left on the other display, but nothing to move it by.
+    bench.desk.plug(ControllerBench::makeDisplay(ControllerBench::left, 0));
+    bench.panel.place.x = 900;
+    bench.desk.unplug(ControllerBench::right);
+    EXPECT_EQ(bench.panel.place.x, 648);
 }
 
 TEST(Launch, FindsWhatAnOrderlyEndHasSavedOnce) {

@@ -64,7 +64,7 @@ TEST_F(ProgramOnXServer, ListsTheDisplays) {
     EXPECT_EQ(control({"displays"}).standardOutput,
               "1\t1-10-21036\tDUMMY0\t1400x1050+0+0\t256\tunique\n"
               "2\t2-10-21036\tDUMMY1\t1280x1024+1400+0\t256\tunique\n"
-              "3\t600.000000x340.000000-0-0\tDUMMY2\t1024x768+2680+0\t256\tlocal\n");
+              "3\t600.000000x340.000000-3246328619-0\tDUMMY2\t1024x768+2680+0\t256\tlocal\n");
     const auto list = readBoundedJson(control({"displays", "--json"}).standardOutput).value();
     ASSERT_EQ(list.size(), 3U);
     EXPECT_EQ(list[1]["bounds"], (PropertyValue{1400, 0, 1280, 1024}));
@@ -81,15 +81,17 @@ TEST_F(ProgramOnXServer, AppliesAFileToTheDisplaysThatItNames) {
     };
     const auto list = readBoundedJson(control({"displays", "--json"}).standardOutput).value();
     const std::string oldID = list[2]["oldReferenceID"].get<std::string>();
-    const std::string file = propertyListFile(
-        {{"Format", 1},
-         {"Screens",
-          {{"1-10-21036", dictionary(2)}, {oldID, dictionary(0.5F)}, {"9-9-9", dictionary(3)}}}});
+    const std::string file = propertyListFile({{"Format", 1},
+                                               {"Screens",
+                                                {{"1-10-21036", dictionary(4)},
+                                                 {"1-10-21036@DUMMY0", dictionary(2)},
+                                                 {oldID, dictionary(0.5F)},
+                                                 {"9-9-9", dictionary(3)}}}});
     mustRun({"apply", file});
     EXPECT_EQ(ramp(0), absoluteRamp(2, 1));
     EXPECT_EQ(ramp(1), startRamp);
     EXPECT_EQ(ramp(2), absoluteRamp(0.5, 1));
-    mustRun({"restore", "--display", "1-10-21036"});
+    mustRun({"restore", "--display", "DUMMY0"});
     EXPECT_EQ(ramp(0), startRamp);
     EXPECT_EQ(ramp(2), absoluteRamp(0.5, 1));
     // Somebody else's ramp between two applies becomes the system's.
@@ -111,7 +113,7 @@ TEST_F(ProgramOnXServer, ReadsTheBaseOrTheHardware) {
     const std::string before = control({"read"}).standardOutput;
     EXPECT_TRUE(before.starts_with("0\t0\t0\t0\n1\t0.0039063096\t0.0039063096\t0.0039063096\n"));
     mustRun({"apply", "--curve", "[0,0,1,0.5]", "--display", "2-10-21036"});
-    EXPECT_EQ(control({"read", "--display", "2-10-21036"}).standardOutput, before);
+    EXPECT_EQ(control({"read", "--display", "DUMMY1"}).standardOutput, before);
     const std::string hardware =
         control({"read", "--hardware", "--display", "2-10-21036"}).standardOutput;
     // 32640 of 65535 in slot 255: half of 255 / 256.

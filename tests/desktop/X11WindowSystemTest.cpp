@@ -6,6 +6,8 @@
 #include <functional>
 #include <thread>
 
+#include "platform/x11/desktop/X11DesktopEvents.h"
+#include "tests/support/ManualRunLoop.h"
 #include "tests/support/RampReader.h"
 #include "tests/support/XServer.h"
 
@@ -34,6 +36,18 @@ TEST(X11WindowSystem, NoticesThatAManagerOrACompositorWasKilled) {
     manager->kill();
     EXPECT_TRUE(becomes([&] { return !system->hasWindowManager(); }));
 
+    ManualRunLoop loop;
+    const auto events = X11DesktopEvents::open(server->display().c_str(), loop, {}).value();
+    int changes = 0;
+    events->setCompositingChanged([&] { ++changes; });
+    events->start([](SessionEvent) {});
+    const auto areTold = [&](int count) {
+        return becomes([&, count] {
+            loop.pollReadable(0ms);
+            return changes == count;
+        });
+    };
+    EXPECT_TRUE(areTold(1)) << "It may have changed before.";
     EXPECT_FALSE(system->isCompositing());
     const xcb_window_t window = xcb_generate_id(connection);
     xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, desk.root(), 0, 0, 100, 100, 0,
@@ -41,10 +55,12 @@ TEST(X11WindowSystem, NoticesThatAManagerOrACompositorWasKilled) {
     const xcb_atom_t compositor = desk.atom("_NET_WM_CM_S0");
     xcb_set_selection_owner(connection, window, compositor, XCB_CURRENT_TIME);
     xcb_flush(connection);
-    EXPECT_TRUE(becomes([&] { return system->isCompositing(); }));
+    EXPECT_TRUE(areTold(2));
+    EXPECT_TRUE(system->isCompositing());
     xcb_destroy_window(connection, window);
     xcb_flush(connection);
-    EXPECT_TRUE(becomes([&] { return !system->isCompositing(); }));
+    EXPECT_TRUE(areTold(3));
+    EXPECT_FALSE(system->isCompositing());
     server->kill();
     EXPECT_FALSE(system->isCompositing());
     EXPECT_FALSE(system->hasWindowManager());

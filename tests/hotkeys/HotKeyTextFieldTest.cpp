@@ -26,6 +26,7 @@ struct Key {
     std::uint32_t evdevCode;
     int key;
     const char* text = "";
+    std::uint32_t keysym = 0;
 };
 
 constexpr Key a{KEY_A, Qt::Key_A, "a"};
@@ -62,7 +63,7 @@ class HotKeyTextFieldTest : public testing::Test {
     void send(QEvent::Type type, const Key& key, Qt::KeyboardModifiers held, bool isRepeat) {
         QWidget* const receiver = window.focusWidget() != nullptr ? window.focusWidget() : &window;
         const auto make = [&](QEvent::Type made) {
-            return QKeyEvent(made, key.key, held, key.evdevCode + 8, 0, 0,
+            return QKeyEvent(made, key.key, held, key.evdevCode + 8, key.keysym, 0,
                              QString::fromLatin1(key.text), isRepeat);
         };
         if (type == QEvent::KeyPress) {
@@ -141,6 +142,9 @@ TEST_F(HotKeyTextFieldTest, TakesOtherKeysWithoutAModifierAndGoesOn) {
         EXPECT_TRUE(wasOverridden);
     }
     press({KEY_LEFTSHIFT, Qt::Key_Shift}, Qt::ShiftModifier);
+    // Where Alt and Shift together, or Super and the space bar, switch between layouts.
+    press({KEY_LEFTSHIFT, Qt::Key_unknown}, Qt::AltModifier);
+    press({KEY_SPACE, Qt::Key_unknown, "", 0xFE08}, Qt::MetaModifier);
     press(printScreen, Qt::ControlModifier);
     press(a, Qt::KeypadModifier);
     press(a, Qt::ControlModifier, true);
@@ -197,6 +201,9 @@ TEST_F(HotKeyTextFieldTest, AKeyThatIsStillHeldAfterTheRecordingRunsNoShortcut) 
 TEST_F(HotKeyTextFieldTest, BeginsByAClickOrTheSpaceBarAndTheCrossTakesTheHotKeyAway) {
     field->setFocus(Qt::ActiveWindowFocusReason);
     EXPECT_FALSE(field->isRecording()) << "its window came to the front";
+    other->setFocus();
+    field->setFocus(Qt::TabFocusReason);
+    EXPECT_FALSE(field->isRecording()) << "it would hold the next Tab";
     press({KEY_SPACE, Qt::Key_Space, " "});
     EXPECT_TRUE(field->isRecording());
     EXPECT_THAT(told, ElementsAre("began"));
@@ -204,6 +211,7 @@ TEST_F(HotKeyTextFieldTest, BeginsByAClickOrTheSpaceBarAndTheCrossTakesTheHotKey
     EXPECT_TRUE(cross->isVisible());
     cross->click();
     EXPECT_EQ(field->hotKey(), nullptr);
+    EXPECT_EQ(shown(), "");
     EXPECT_THAT(told, ElementsAre("began", "changed", "ended"));
     EXPECT_FALSE(cross->isVisible());
 }

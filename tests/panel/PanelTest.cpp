@@ -130,6 +130,7 @@ TEST_F(Panel, DisablesWhatEditsAndGivesTheFocusBack) {
     panel._setControlsEnabled(false);
     EXPECT_FALSE(slider(QStringLiteral("Blue, White point")).isEnabled());
     EXPECT_FALSE(master.isEnabled());
+    EXPECT_EQ(panel.focusWidget(), &panel) << "On another control the next key would act.";
     EXPECT_TRUE(control<QCheckBox>().isEnabled()) << "It edits no curve.";
     panel._setControlsEnabled(true);
     EXPECT_TRUE(master.isEnabled());
@@ -153,6 +154,10 @@ TEST_F(Panel, KeepsTheFocusInSightInItsCompactForm) {
         pressKey(*panel.focusWidget(), Qt::Key_Tab);
         EXPECT_LT(panel.focusWidget()->mapTo(&panel, QPoint()).y(), panel.height());
     }
+    // What the channel strip stands for stays so when preferences change.
+    field(QStringLiteral("Red, Middle point")).setFocus();
+    panel._setAdvancedPanel(false);
+    EXPECT_EQ(panel.focusWidget(), &field(QStringLiteral("Red, Middle point")));
     panel._setAdvancedPanel(true);
     EXPECT_EQ(panel.frame(), advanced);
 }

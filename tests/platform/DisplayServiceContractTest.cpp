@@ -169,43 +169,54 @@ TEST_P(DisplayServiceContract, HoldsLevelsWithinTheRange) {
     EXPECT_THAT(ramp.channel(0).first(6), testing::ElementsAre(0, 65535, 0, 65535, 0, 32768));
 }
 
-TEST_P(DisplayServiceContract, TakesAForeignRampForTheSystems) {
-    service->setTransferTable(display(0), tableOf(1));
+TEST_P(DisplayServiceContract, TakesAForeignRampForTheSystemsOnlyWhileItHoldsNoCorrection) {
+    const GammaTable system = read(0);
+    for (int round = 0; round < 2; ++round) {
+        service->setTransferTable(display(0), tableOf(1));
+        EXPECT_TRUE(haveSameBits(read(0), system)) << "nor as found while it was replaced";
+        bench->setForeignRamp(0, rampOf(tableOf(2)));
+        EXPECT_TRUE(haveSameBits(read(0), system)) << "it replaced the correction";
+    }
+    service->restoreSystemCalibration();
+    EXPECT_EQ(bench->hardwareRamp(0), rampOf(system));
     bench->setForeignRamp(0, rampOf(tableOf(2)));
+    EXPECT_EQ(rampOf(read(0)), rampOf(tableOf(2))) << "off";
+    bench->setForeignRamp(0, rampOf(tableOf(3)));
     service->setTransferTable(display(0), tableOf(1));
-    EXPECT_EQ(rampOf(read(0)), rampOf(tableOf(2))) << "it was found while it was replaced";
+    EXPECT_EQ(rampOf(read(0)), rampOf(tableOf(3))) << "off, and found while it was replaced";
+    bench->setForeignRamp(0, rampOf(tableOf(4)));
     service = open();
-    service->restoreSystemCalibration(std::vector{display(0)});
-    EXPECT_EQ(bench->hardwareRamp(0), rampOf(tableOf(2)));
+    service->setTransferTable(display(0), tableOf(1));
+    open()->restoreSystemCalibration(std::vector{display(0)});
+    EXPECT_EQ(bench->hardwareRamp(0), rampOf(tableOf(4))) << "found at a start";
 }
 
-TEST_P(DisplayServiceContract, TwoProgramsTakeEachOthersCorrectionsForNoneOfTheSystems) {
+TEST_P(DisplayServiceContract, RecognisesACorrectionHoweverManyOthersSetSince) {
     const GammaTable system = read(0);
     const auto other = open();
-    for (int round = 0; round < 3; ++round) {
+    for (const int count : {1, 1, 300, 1}) {
+        for (int round = 0; round < count; ++round) {
+            other->setTransferTable(display(0), tableOf(2 + round));
+        }
+        EXPECT_TRUE(haveSameBits(read(0), system));
         service->setTransferTable(display(0), tableOf(1));
-        other->setTransferTable(display(0), tableOf(2 + round));
+        GammaTable base;
+        EXPECT_EQ(open()->getTransferTable(display(0), base), 256U);
+        EXPECT_TRUE(haveSameBits(base, system)) << "after " << count;
     }
-    EXPECT_TRUE(haveSameBits(read(0), system));
-    service->setTransferTable(display(0), tableOf(1));
-    // So many that the one of before is no longer remembered when it is set again.
-    for (int round = 0; round < 40; ++round) {
-        other->setTransferTable(display(0), tableOf(10 + round));
-    }
-    service->setTransferTable(display(0), tableOf(1));
-    service = open();
-    EXPECT_TRUE(haveSameBits(read(0), system));
 }
 
-TEST_P(DisplayServiceContract, RestoresTheProfilesCalibrationWhereThereIsOne) {
+TEST_P(DisplayServiceContract, TheProfilesCalibrationIsTheSystemsWhereThereIsOne) {
     service->setTransferTable(display(0), tableOf(1));
     service->setTransferTable(display(1), tableOf(1));
-    const HardwareRamp calibration = rampOf(tableOf(3));
-    bench->publishProfile(1, calibration);
-    service->restoreSystemCalibration(std::vector{display(1)});
-    EXPECT_EQ(bench->hardwareRamp(1), calibration);
-    EXPECT_EQ(bench->hardwareRamp(0), rampOf(tableOf(1))) << "only the display that was meant";
-    EXPECT_EQ(rampOf(read(1)), calibration) << "it is the system's from now on";
+    for (const int seed : {3, 4}) {
+        const HardwareRamp calibration = rampOf(tableOf(seed));
+        bench->publishProfile(1, calibration);
+        EXPECT_EQ(rampOf(read(1)), calibration) << "at once";
+        service->restoreSystemCalibration(std::vector{display(1)});
+        EXPECT_EQ(bench->hardwareRamp(1), calibration);
+        EXPECT_EQ(bench->hardwareRamp(0), rampOf(tableOf(1))) << "only the display that was meant";
+    }
 }
 
 TEST_P(DisplayServiceContract, LeavesADisplayThatIsGoneAloneAndSaysSoOnce) {

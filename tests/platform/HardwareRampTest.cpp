@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <limits>
 #include <set>
 
 #include "platform/ramp/RampHistory.h"
@@ -54,6 +56,22 @@ TEST(HardwareRamp, ResamplesFromEndToEnd) {
     }
 }
 
+TEST(HardwareRamp, ClampsLevelsBeforeItInterpolates) {
+    constexpr float infinity = std::numeric_limits<float>::infinity();
+    GammaTable wild;
+    GammaTable clamped;
+    for (std::size_t i = 0; i < 256; ++i) {
+        const std::array levels{0.5F, infinity, infinity - infinity, -infinity, 3.0F, -2.0F};
+        wild.levels[i] = levels.at(i % 6);
+        clamped.levels[i] = std::array{0.5F, 1.0F, 0.0F, 0.0F, 1.0F, 0.0F}.at(i % 6);
+    }
+    HardwareRamp ramp(1'024);
+    ramp.setTable(wild);
+    HardwareRamp expected(1'024);
+    expected.setTable(clamped);
+    EXPECT_EQ(ramp, expected);
+}
+
 TEST(HardwareRamp, ShorterThanATableTellsWhatWasComputedForItFromWhatWasNot) {
     GammaTable computed;
     for (std::size_t i = 0; i < 64; ++i) {
@@ -103,25 +121,17 @@ TEST(HardwareRamp, DoesNotDriftThroughReadingAndNeutralApplying) {
     }
 }
 
-TEST(RampHistory, AnswersTheSystemRampUnderACorrectionAndForgetsTheOldestCorrections) {
-    const HardwareRamp correction(256);
-    HardwareRamp system = HardwareRamp::straight(256);
-    system.entries()[5] = 77;
+TEST(RampHistory, ForgetsTheOldestCorrectionsButNobodysLast) {
     RampHistory history;
-    history.addCorrection(correction.fingerprint());
-    EXPECT_EQ(history.uncorrected(correction), HardwareRamp::straight(256)) << "a guess";
-    history.setSystemRamp(system);
-    EXPECT_EQ(history.uncorrected(correction), system);
-    history.setSystemRamp(HardwareRamp::straight(1'024));
-    EXPECT_EQ(history.uncorrected(correction).size(), 256U) << "another ramp's note is no use";
-    for (std::uint64_t i = 1; i < RampHistory::mostCorrections; ++i) {
-        history.addCorrection(i);
+    history.addCorrection({.fingerprint = 1, .holder = 1});
+    for (std::uint64_t i = 2; i <= RampHistory::mostCorrections + 1; ++i) {
+        history.addCorrection({.fingerprint = i, .holder = 2});
     }
-    history.addCorrection(correction.fingerprint());
-    history.addCorrection(1'000);
-    EXPECT_FALSE(history.isCorrection(1));
-    EXPECT_TRUE(history.isCorrection(correction.fingerprint())) << "it was set again later";
-    EXPECT_TRUE(history.isCorrection(2));
+    EXPECT_TRUE(history.isCorrection(1));
+    EXPECT_FALSE(history.isCorrection(2));
+    EXPECT_TRUE(history.isCorrection(3));
+    history.setSystemRamp(HardwareRamp::straight(1'024));
+    EXPECT_EQ(history.underCorrection(256).size(), 256U) << "another ramp's note is no use";
 }
 
 }  // namespace

@@ -39,28 +39,25 @@ TEST(Edid, NeedsAWholeBlockWithItsHeader) {
     EXPECT_FALSE(parseEdid(bytes));
 }
 
-TEST(X11RampJournal, KeepsTheLastSystemRampOfEachCrtc) {
-    // Two entries of each channel, two to a unit: red 1 2, green 3 4, blue 5 6, then 7 8 …
-    const std::vector<std::uint32_t> systemRamps{62, 2, 0x00020001, 0x00040003, 0x00060005,
-                                                 63, 2, 0x00010001, 0x00010001, 0x00010001,
-                                                 62, 2, 0x00080007, 0x000A0009, 0x000C000B};
-    const std::vector<std::uint32_t> corrections{62, 1, 2, 63, 3, 4, 62, 5, 6, 99};
-    const auto histories = X11RampJournal::parse(corrections, systemRamps);
-    ASSERT_EQ(histories.size(), 2U) << "the last unit is no whole entry";
-    EXPECT_EQ(histories.at(62).systemRamp()->channel(0)[0], 7);
-    EXPECT_EQ(histories.at(62).systemRamp()->channel(2)[1], 12);
-    EXPECT_TRUE(histories.at(62).isCorrection(0x0000000100000002));
-    EXPECT_EQ(histories.at(62).corrections().back(), 0x0000000500000006U);
-    EXPECT_FALSE(histories.at(63).isCorrection(0x0000000100000002));
-}
-
-TEST(X11RampJournal, EndsAtABlockThatMakesNoSense) {
-    for (const std::uint32_t size : {0U, 1U, 3U, 16'385U, 0xFFFFFFFFU}) {
-        const auto histories =
-            X11RampJournal::parse({}, std::vector{62U, 2U, 1U, 1U, 1U, 63U, size, 5U, 5U, 5U});
-        EXPECT_EQ(histories.size(), 1U) << size;
-        EXPECT_TRUE(histories.contains(62));
-    }
+TEST(X11RampJournal, KeepsWhatIsOursAmongWhatOthersWrote) {
+    const HardwareRamp line = HardwareRamp::straight(3);
+    std::vector<std::uint32_t> corrections{7};
+    std::vector<std::uint32_t> systemRamps;
+    const auto append = [](auto& units, const auto& more) {
+        units.insert(units.end(), more.begin(), more.end());
+    };
+    append(corrections, X11RampJournal::correctionBlock(62, {.fingerprint = 5, .holder = 1}));
+    append(systemRamps, X11RampJournal::systemRampBlock(62, HardwareRamp(2)));
+    EXPECT_FALSE(X11RampJournal::parse({}, systemRamps).areSystemRampsDamaged);
+    systemRamps.back() = 1;
+    append(systemRamps, X11RampJournal::systemRampBlock(63, HardwareRamp(4)));
+    append(systemRamps, X11RampJournal::systemRampBlock(63, line));
+    const auto contents = X11RampJournal::parse(corrections, systemRamps);
+    EXPECT_TRUE(contents.areCorrectionsDamaged);
+    EXPECT_TRUE(contents.areSystemRampsDamaged);
+    EXPECT_TRUE(contents.histories.at(62).has({.fingerprint = 5, .holder = 1}));
+    EXPECT_FALSE(contents.histories.at(62).systemRamp()) << "its entries are not what was written";
+    EXPECT_EQ(contents.histories.at(63).systemRamp(), line) << "the last one counts";
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ TEST(X11DisplayService, KnowsDisplaysByTheirEdidOrTheirSize) {
     }
     EXPECT_EQ(found, (std::vector<std::string>{"DUMMY2  2680 1166364645-42-4268",
                                                "DUMMY0 Left 0 77-41-4268",
-                                               "DUMMY1  1400 600.000000x340.000000-0-0"}));
+                                               "DUMMY1  1400 600.000000x340.000000-3263106238-0"}));
     EXPECT_EQ(service->description(0).rampSize, 256U);
 
     // Without a primary output the main display is the one at the origin.
@@ -58,7 +58,7 @@ TEST(X11DisplayService, SurvivesTheServersDeath) {
     EXPECT_TRUE(service->description(display).connector.empty());
 }
 
-TEST(X11DisplayService, KeepsItsJournalShortDuringALongDrag) {
+TEST(X11DisplayService, KeepsItsJournalShortAndMendsIt) {
     const auto server = XServer::start().value();
     const RampReader reader = RampReader::connect(server->display()).value();
     const Ramp system = reader.read("DUMMY0").value();
@@ -74,6 +74,14 @@ TEST(X11DisplayService, KeepsItsJournalShortDuringALongDrag) {
     const auto connection = X11Connection::open(server->display().c_str()).value();
     const auto bytes = connection->rootProperty(connection->correctionsAtom(), 1U << 20U);
     EXPECT_LT(bytes.size(), 32'768U);
+    // Another client replaces it; what is appended to a property of another kind is lost.
+    for (int round = 0; round < 3; ++round) {
+        mustSucceed(server->setRootProperty("_TONQUIL_CORRECTIONS", {1, 2, 3}));
+        service->setTransferTable(0, table);
+        open()->setTransferTable(0, table);
+        mustSucceed(server->setRootProperty("_TONQUIL_CORRECTIONS", {1, 2, 3}));
+        open()->setTransferTable(0, table);
+    }
     open()->restoreSystemCalibration();
     EXPECT_EQ(reader.read("DUMMY0").value(), system);
 }

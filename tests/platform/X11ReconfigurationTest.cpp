@@ -17,6 +17,7 @@ namespace tonquil {
 namespace {
 
 using namespace std::chrono_literals;
+using std::chrono::milliseconds;
 
 class X11Reconfigurations : public testing::Test {
  protected:
@@ -67,6 +68,21 @@ TEST_F(X11Reconfigurations, OnePlugIsOneBeginAndOneEnd) {
     mustSucceed(server->unplug("DUMMY1"));
     becomeQuiet();
     EXPECT_TRUE(calls.empty());
+}
+
+TEST_F(X11Reconfigurations, ADisplayThatWasOffForAMomentIsToldAlsoInAStorm) {
+    mustSucceed(server->plug("DUMMY1", "1280x1024"));
+    const DisplayID second = service->onlineDisplays(25).at(1);
+    watch();
+    for (milliseconds passed{0}; calls.empty(); passed += 100ms) {
+        ASSERT_LE(passed, X11Reconfiguration::longestWait);
+        mustSucceed(server->unplug("DUMMY1"));
+        mustSucceed(server->plug("DUMMY1", "1280x1024"));
+        while (loop.pollReadable(50ms)) {
+        }
+        loop.advance(100ms);
+    }
+    EXPECT_EQ(calls.front(), std::pair(second, beginConfiguration));
 }
 
 TEST_F(X11Reconfigurations, AnotherMonitorOnTheSameConnectorIsAnotherDisplay) {

@@ -40,6 +40,11 @@ Desk::Desk(bool hasWindowManager) {
     std::filesystem::create_directories(folder() / "runtime");
     std::filesystem::permissions(folder() / "runtime", std::filesystem::perms::owner_all);
     std::filesystem::create_directories(folder() / "config/tonquil");
+    // One family for all that asks for any: the panel is as high here as everywhere.
+    std::ofstream(folder() / "fonts.conf")
+        << "<fontconfig><dir>/usr/share/fonts/truetype/dejavu</dir>"
+           "<cachedir>/var/cache/fontconfig</cachedir><match><edit name=\"family\" mode=\"assign\" "
+           "binding=\"strong\"><string>DejaVu Sans</string></edit></match></fontconfig>";
     if (hasWindowManager) {
         ProcessRequest openbox = requestFor({"openbox"});
         // Its themes are there.
@@ -65,9 +70,12 @@ ProcessRequest Desk::requestFor(const std::vector<std::string>& command) const {
                             {"XDG_DATA_HOME", home + "/data"},
                             {"XDG_DATA_DIRS", home + "/none"},
                             {"LC_ALL", "C.UTF-8"},
-                            // Neither bus is there, whatever this machine has.
+                            {"FONTCONFIG_FILE", home + "/fonts.conf"},
+                            // Neither bus is there, whatever this machine has, until a test
+                            // starts one for the session; then all controls are told on it.
                             {"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + home + "/none"},
-                            {"DBUS_SESSION_BUS_ADDRESS", "unix:path=" + home + "/none"}},
+                            {"DBUS_SESSION_BUS_ADDRESS", "unix:path=" + home + "/session-bus"},
+                            {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"}},
             .unset = {"LANGUAGE", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR",
                       "XAUTHORITY", "TONQUIL_DISPLAY_SERVICE"}};
 }

@@ -85,11 +85,18 @@ TEST_F(HotKeys, ToggleTheCorrectionAndBringTheKnobToThePointerToThePixel) {
                     panel.y + panel.height <= 1050);
         hidePanel();
     }
-    // The other display's curve is neutral, which is the middle of the slider.
+    // The other display's curve is neutral, which is the middle of the slider. That is so also in
+    // a run that has never shown the panel.
     const Desk::Place middle = pointerOnPanelAfterTapAt(2000, 500);
     EXPECT_EQ(desk.pointer(), (Desk::Place{2000, 500}));
     EXPECT_LT(middle.x, knob.x - 10);
     EXPECT_EQ(middle.y, knob.y);
+    desk.request("--quit");
+    ASSERT_EQ(desk.waitForEnd(), 0);
+    desk.writePreferences({{"ShowAtLaunch", false}});
+    desk.startWithoutPanel();
+    ASSERT_TRUE(eventually([&] { return desk.run({TONQUIL, "--on"}).succeeded(); }));
+    EXPECT_EQ(pointerOnPanelAfterTapAt(1900, 500), middle);
 }
 
 TEST_F(HotKeys, ShowThePanelWhileHeldAndPutEverythingBack) {

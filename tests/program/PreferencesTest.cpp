@@ -6,6 +6,7 @@
 #include <csignal>
 #include <fstream>
 
+#include "tests/program/Controls.h"
 #include "tests/program/Desk.h"
 
 namespace tonquil {
@@ -21,10 +22,11 @@ class Preferences : public testing::Test {
         return desk.run({"xdotool", "search", "--onlyvisible", "--name", "^Preferences"})
             .succeeded();
     }
-    /// Clicks a place of the window, from its upper left corner.
-    void click(int x, int y) const {
-        desk.xdotool({"search", "--onlyvisible", "--name", "^Preferences", "mousemove", "--window",
-                      "%1", std::to_string(x), std::to_string(y), "click", "1"});
+    /// Clicks the box or the button of a control.
+    void click(const char* role, const char* name) const {
+        const auto place = controls.find(role, name);
+        ASSERT_TRUE(place) << name;
+        desk.click(place->x + place->height / 2, place->y + place->height / 2);
     }
     [[nodiscard]] bool hasSetting(const std::string& key, bool value) const {
         const PropertyValue stored = desk.preferences();
@@ -36,39 +38,41 @@ class Preferences : public testing::Test {
     }
 
     Desk desk;
+    const Controls controls{desk};
 };
 
-constexpr int checkX = 19;
-constexpr int radioX = 170;
+constexpr const char* check = "check box";
+constexpr const char* radio = "radio button";
 /// The window's controls from top to bottom, and what a click on each stores.
-struct Control {
-    int x;
-    int y;
+struct Setting {
+    const char* role;
+    const char* name;
     const char* key;
     bool value;
 };
-constexpr std::array controls{Control{checkX, 43, "ShowAtLaunch", false},
-                              Control{checkX, 97, "RememberSettings", false},
-                              Control{checkX, 123, "ContinuouslyApply", false},
-                              Control{checkX, 159, "AdvancedPanel", false},
-                              Control{checkX, 186, "ChannelStrip", true},
-                              Control{checkX, 212, "ShowTargetHints", false},
-                              Control{checkX, 240, "DarkTheme", false},
-                              Control{radioX, 298, "AffectAllScreens", true},
-                              Control{radioX, 348, "ToggleApply", true},
-                              Control{radioX, 398, "ShowStatusItem", true},
-                              Control{checkX, 457, "UseHotKey", true},
-                              Control{checkX, 489, "PanelHotKey", true}};
+constexpr std::array settings{
+    Setting{check, "Show the panel when Tonquil starts", "ShowAtLaunch", false},
+    Setting{check, "Correct the displays as soon as Tonquil starts", "RememberSettings", false},
+    Setting{check, "Apply the curves again every few seconds", "ContinuouslyApply", false},
+    Setting{check, "Show sliders for the single channels", "AdvancedPanel", false},
+    Setting{check, "Show the channel strip", "ChannelStrip", true},
+    Setting{check, "Show hints under targets", "ShowTargetHints", false},
+    Setting{check, "Dark theme", "DarkTheme", false},
+    Setting{radio, "All displays", "AffectAllScreens", true},
+    Setting{radio, "Switches the correction on or off", "ToggleApply", true},
+    Setting{radio, "The status area", "ShowStatusItem", true},
+    Setting{check, "Switch the correction on or off", "UseHotKey", true},
+    Setting{check, "Show the panel under the pointer", "PanelHotKey", true}};
 
 TEST_F(Preferences, AreStoredByAClickTakeEffectAndAreKeptByTheNextStart) {
     const Ramp neutral = desk.ramp();
     desk.start({{"Window Frame ControlWindow", "1000 200 320 470"}});
     const int advanced = desk.panel().height;
     open();
-    for (const Control& control : controls) {
-        click(control.x, control.y);
-        EXPECT_TRUE(eventually([&] { return hasSetting(control.key, control.value); }))
-            << control.key;
+    for (const Setting& setting : settings) {
+        click(setting.role, setting.name);
+        EXPECT_TRUE(eventually([&] { return hasSetting(setting.key, setting.value); }))
+            << setting.key;
     }
     EXPECT_LT(desk.panel().height, advanced) << "The compact form came at once.";
     EXPECT_NE(desk.ramp(), neutral);
@@ -79,12 +83,12 @@ TEST_F(Preferences, AreStoredByAClickTakeEffectAndAreKeptByTheNextStart) {
     EXPECT_FALSE(desk.hasPanel()) << "It starts without its panel.";
     open();
     // Each shows what is stored: another click takes the boxes back.
-    for (const Control& control : controls) {
-        EXPECT_TRUE(hasSetting(control.key, control.value)) << control.key;
-        if (control.x == checkX) {
-            click(control.x, control.y);
-            EXPECT_TRUE(eventually([&] { return hasSetting(control.key, !control.value); }))
-                << control.key;
+    for (const Setting& setting : settings) {
+        EXPECT_TRUE(hasSetting(setting.key, setting.value)) << setting.key;
+        if (setting.role == check) {
+            click(setting.role, setting.name);
+            EXPECT_TRUE(eventually([&] { return hasSetting(setting.key, !setting.value); }))
+                << setting.key;
         }
     }
 }
@@ -113,7 +117,7 @@ TEST_F(Preferences, ComeBackWhereTheirWindowWasAndWriteAnEntryThatStartsTheProgr
     EXPECT_TRUE(eventually([&] { return place() == moved; })) << place();
     EXPECT_TRUE(stays([&] { return place() == moved; }));
 
-    click(checkX, 70);
+    click(check, "Start Tonquil at login");
     const auto entry = desk.folder() / "config/autostart/tonquil.desktop";
     ASSERT_TRUE(eventually([&] { return std::filesystem::exists(entry); }));
     // A program that lies here and not where programs are installed comes with advice.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "plist/PropertyListWriter.h"
@@ -40,6 +41,44 @@ TEST(CommandLine, CoversADisplayWithATargetAndOpensAFileInTheRunningProgram) {
                                .value();
     desk.request(file);
     EXPECT_TRUE(eventually([&] { return desk.ramp() != before; }));
+}
+
+TEST(CommandLine, BringsBackAWindowThatIsMinimisedOrOnAnotherWorkspace) {
+    Desk desk;
+    desk.start();
+    desk.xdotool({"set_num_desktops", "2"});
+    for (const std::string title : {"Preferences", "Targets", "Tonquil"}) {
+        SCOPED_TRACE(title);
+        const auto isInFront = [&] {
+            return desk.run({"xdotool", "getactivewindow", "getwindowname"})
+                .standardOutput.starts_with(title);
+        };
+        const auto ask = [&] {
+            desk.request(title == "Tonquil"   ? "--show-panel"
+                         : title == "Targets" ? "--targets"
+                                              : "--preferences");
+            EXPECT_TRUE(eventually(isInFront));
+        };
+        ask();
+        desk.xdotool({"getactivewindow", "windowminimize"});
+        ASSERT_TRUE(eventually([&] { return !isInFront(); }));
+        ask();
+        desk.xdotool({"set_desktop", "1"});
+        ASSERT_TRUE(eventually([&] { return title != "Preferences" || !isInFront(); }));
+        ask();
+        EXPECT_EQ(desk.run({"xdotool", "get_desktop"}).standardOutput, "1\n");
+        // All workspaces have the number -1.
+        EXPECT_EQ(desk.run({"xdotool", "getactivewindow", "get_desktop_for_window"}).standardOutput,
+                  title == "Preferences" ? "1\n" : "-1\n");
+        desk.xdotool({"set_desktop", "0"});
+    }
+    desk.request("--targets");
+    desk.xdotool({"search", "--onlyvisible", "--name", "^Targets", "windowsize", "600", "600"});
+    EXPECT_TRUE(eventually([&] {
+        return std::ranges::any_of(desk.windows(), [](const Desk::Place& place) {
+            return place.width == 600 && place.height == 600 * 680 / 864;
+        });
+    })) << "It keeps its proportions.";
 }
 
 }  // namespace

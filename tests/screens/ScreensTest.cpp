@@ -190,7 +190,7 @@ TEST(ScreenRegistry, GivesADisplayThatComesBackItsScreen) {
     EXPECT_NE(desk.registry.screens()[2], before[1]) << "it was not in the last list";
 }
 
-TEST(ScreenRegistry, TellsTwinsApartOnlyWhenBothAreThereFromTheStart) {
+TEST(ScreenRegistry, LetsATwinThatComesLaterShareTheScreen) {
     constexpr const char* twins = R"([{"id": 1, "model": 4, "vendor": 9},
                                       {"id": 2, "model": 4, "vendor": 9}])";
     Desk both(twins);
@@ -205,6 +205,13 @@ TEST(ScreenRegistry, TellsTwinsApartOnlyWhenBothAreThereFromTheStart) {
     EXPECT_THAT(idsOf(late.registry.screens()), ElementsAre(2, 2)) << "one screen, the later's";
     late.registry.updateScreenList();
     EXPECT_THAT(idsOf(late.registry.screens()), ElementsAre(2, 2)) << "re-pointed for each in turn";
+    late.registry.screens()[0]->setGammaCurve(absoluteCurve(0.5F));
+    late.registry.screens()[0]->activateAutoApplyGamma();
+    for (const DisplayID each : {1U, 2U}) {
+        EXPECT_EQ(late.ramp(each).channel(0)[128], middleEntry(0.5F)) << each;
+    }
+    EXPECT_THAT(idsOf(late.registry.screensWithRect({0, 0, 1920, 1080})), ElementsAre(2))
+        << "found where either display is";
 }
 
 TEST(ScreenRegistry, ListsNoMoreThan25Displays) {

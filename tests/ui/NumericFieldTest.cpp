@@ -112,6 +112,23 @@ TEST_F(NumericFieldTest, KeepsWhatIsBeingTypedWhileTheSliderIsDrawnOrAMenuIsUp) 
     EXPECT_THAT(sent, ElementsAre(0.7F));
 }
 
+TEST_F(NumericFieldTest, IsSelectedByTheClickThatBringsTheFocus) {
+    const auto selectedAfterClick = [this] {
+        press(*field, {20, 10});
+        release(*field, {20, 10});
+        return field->selectedText().toStdString();
+    };
+    slider->setFloatValue(0.5F);
+    other->setFocus();
+    field->setFocus(Qt::MouseFocusReason);
+    EXPECT_EQ(selectedAfterClick(), "0.500");
+    EXPECT_EQ(selectedAfterClick(), "");
+    // A window manager gives the window the keyboard before the click.
+    QFocusEvent activation(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(field, &activation);
+    EXPECT_EQ(selectedAfterClick(), "0.500");
+}
+
 TEST_F(NumericFieldTest, StepsByTheArrowKeysAndShowsTheLimitWhenTheSliderIsDrawn) {
     typeOver(*field, QStringLiteral("0.995"));
     pressKey(*field, Qt::Key_Up);

@@ -122,6 +122,13 @@ TEST_F(SliderTest, FollowsThePointerOverTheWholeRow) {
     move(slider, {32, middle}, Qt::NoButton);
     press(slider, {32, middle}, Qt::RightButton);
     EXPECT_THAT(sent, ElementsAre(0.25F, 0.505F, 1));
+    // The end of the fill is taken hold of without being moved.
+    press(slider, {105, middle});
+    move(slider, {105, middle + 1}, Qt::LeftButton);
+    EXPECT_EQ(sent.size(), 3U);
+    move(slider, {55, middle}, Qt::LeftButton);
+    release(slider, {55, middle});
+    EXPECT_EQ(sent.back(), 0.5F);
 
     slider.setLayoutDirection(Qt::RightToLeft);
     press(slider, {32, middle});
@@ -129,7 +136,7 @@ TEST_F(SliderTest, FollowsThePointerOverTheWholeRow) {
     sendMouse(slider, QEvent::MouseButtonDblClick, {32, middle}, Qt::LeftButton, Qt::LeftButton);
     move(slider, {35, middle}, Qt::LeftButton);
     release(slider, {35, middle});
-    EXPECT_THAT(sent, ElementsAre(0.25F, 0.505F, 1, 0.75F, 0.3F)) << "the neutral value";
+    EXPECT_THAT(sent, ElementsAre(0.25F, 0.505F, 1, 0.5F, 0.75F, 0.3F)) << "the neutral value";
     EXPECT_FALSE(slider.isInteracting());
 }
 

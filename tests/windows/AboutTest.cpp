@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QTextDocument>
 
+#include "platform/missing/MissingWindowSystem.h"
 #include "tests/files/FolderContents.h"
 #include "tests/ui/Input.h"
 #include "windows/about/AboutTexts.h"
@@ -31,6 +32,8 @@ class AboutBox : public testing::Test {
         return QString::fromStdString((_folder / "Credits.html").native());
     }
 
+    MissingWindowSystem windowSystem;
+
  private:
     ScratchFolder _folder;
 };
@@ -39,7 +42,7 @@ TEST_F(AboutBox, FillsTheTemplateTheSameWayEachTime) {
     BundleInformation information = ourselves();
     information.copyright = "Copyright of App and Credits";
     information.name = "Version and Credits";
-    KVAboutBoxController controller(information,
+    KVAboutBoxController controller(information, windowSystem,
                                     credits("<p>To <b>App</b>, with thanks</p><p>Version</p>"));
     (void)controller.window();
     for (int count = 0; count < 2; ++count) {
@@ -52,7 +55,7 @@ TEST_F(AboutBox, FillsTheTemplateTheSameWayEachTime) {
     information.name.reset();
     information.copyright.reset();
     information.build = "6.2";
-    KVAboutBoxController bare(information, QStringLiteral("/nowhere/Credits.html"));
+    KVAboutBoxController bare(information, windowSystem, QStringLiteral("/nowhere/Credits.html"));
     (void)bare.window();
     EXPECT_EQ(bare.textView()->toPlainText().toStdString(), "tonquil\nVersion 6.2\n\n");
 }
@@ -71,7 +74,7 @@ TEST_F(AboutBox, OpensInTheMiddleAtTheBeginningAndClosesByEscape) {
     for (int line = 0; line < 200; ++line) {
         lines += "<p>A line</p>";
     }
-    KVAboutBoxController controller(ourselves(), credits(lines));
+    KVAboutBoxController controller(ourselves(), windowSystem, credits(lines));
     AboutWindow& window = controller.window();
     EXPECT_EQ(controller.textView()->geometry().bottom(), window.rect().bottom());
     QScrollBar& bar = *controller.textView()->verticalScrollBar();

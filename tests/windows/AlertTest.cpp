@@ -34,6 +34,11 @@ std::size_t answerTo(const std::function<void(AlertWindow&)>& act) {
 TEST(Alert, AnswersWithTheButtonAndWithTheFirstWhenItIsDismissed) {
     EXPECT_EQ(answerTo([](AlertWindow& window) { window.buttons()[1]->click(); }), 1U);
     EXPECT_EQ(answerTo([](AlertWindow& window) { pressKey(window, Qt::Key_Return); }), 0U);
+    const auto tabAndReturn = [](AlertWindow& window) {
+        pressKey(*window.focusWidget(), Qt::Key_Tab);
+        pressKey(*window.focusWidget(), Qt::Key_Return);
+    };
+    EXPECT_EQ(answerTo(tabAndReturn), 1U);
     EXPECT_EQ(answerTo([](AlertWindow& window) { pressKey(window, Qt::Key_Escape); }), 0U);
     EXPECT_EQ(answerTo([](AlertWindow& window) { window.close(); }), 0U);
 }

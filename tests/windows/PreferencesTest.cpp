@@ -11,6 +11,7 @@
 
 #include "app/preferences/SettingsKeys.h"
 #include "hotkeys/field/DDHotKeyTextField.h"
+#include "platform/missing/MissingWindowSystem.h"
 #include "tests/app/PlainStore.h"
 #include "tests/hotkeys/TableLayout.h"
 #include "ui/theme/Appearance.h"
@@ -46,7 +47,7 @@ class Preferences : public testing::Test {
     /// Makes the window anew, and shows it.
     PreferencesWindow& open() {
         controller = std::make_unique<TQPrefController>(PreferencesSurroundings{
-            store, loginItem, alerts, layout, program, "/home/kim",
+            store, loginItem, alerts, layout, windowSystem, program, "/home/kim",
             [this](std::string_view line) { log.emplace_back(line); }, 1343});
         controller->showWindow();
         QApplication::processEvents();
@@ -60,6 +61,7 @@ class Preferences : public testing::Test {
     FakeLoginItem loginItem;
     ScriptedAlerts alerts;
     TableLayout layout;
+    MissingWindowSystem windowSystem;
     std::string program = "/usr/bin/tonquil";
     std::vector<std::string> log;
     std::unique_ptr<TQPrefController> controller;
@@ -183,7 +185,7 @@ TEST_F(Preferences, ShowWhatBecameOfTheLoginItemAndAdviseOnThePlace) {
     EXPECT_EQ(alerts.shown.size(), 1U);
 }
 
-TEST_F(Preferences, HaveRoomForWhatIsWrongWithAHotKeyAndOnlyWhileItIs) {
+TEST_F(Preferences, HaveRoomForWhatIsWrongAndOnlyWhileItIs) {
     PreferencesWindow& window = open();
     const int height = window.height();
     const std::string sentence =
@@ -197,6 +199,12 @@ TEST_F(Preferences, HaveRoomForWhatIsWrongWithAHotKeyAndOnlyWhileItIs) {
     EXPECT_GT(window.height(), height);
     EXPECT_FALSE(window.hotKeyProblem->isVisible());
     controller->showHotKeyProblem(HotKeyRole::ShowPanel, "");
+    controller->showRemoteProblem(sentence);
+    QApplication::processEvents();
+    EXPECT_GE(window.remoteProblem->height(),
+              window.remoteProblem->heightForWidth(window.remoteProblem->width()));
+    EXPECT_GT(window.height(), height);
+    controller->showRemoteProblem("");
     QApplication::processEvents();
     EXPECT_EQ(window.height(), height);
 }

@@ -10,6 +10,7 @@
 #include "windows/about/AboutWindow.h"
 #include "windows/about/KVAboutBoxIconView.h"
 #include "windows/about/KVAboutBoxScrollView.h"
+#include "windows/front/BringToFront.h"
 
 // Outside of any namespace, as the toolkit asks. A static library's resources are not there before.
 static void initializeResources() {
@@ -18,8 +19,11 @@ static void initializeResources() {
 
 namespace tonquil {
 
-KVAboutBoxController::KVAboutBoxController(BundleInformation information, QString creditsFile)
-    : _information(std::move(information)), _creditsFile(std::move(creditsFile)) {
+KVAboutBoxController::KVAboutBoxController(BundleInformation information,
+                                           WindowSystem& windowSystem, QString creditsFile)
+    : _information(std::move(information)),
+      _windowSystem(windowSystem),
+      _creditsFile(std::move(creditsFile)) {
     initializeResources();
 }
 
@@ -67,9 +71,7 @@ void KVAboutBoxController::showWindow() {
         const QRect screen = shown.screen()->availableGeometry();
         shown.move(screen.center() - QPoint(shown.width() / 2, shown.height() / 2));
     }
-    shown.show();
-    shown.raise();
-    shown.activateWindow();
+    bringToFront(shown, _windowSystem);
 }
 
 void KVAboutBoxController::updateText() {

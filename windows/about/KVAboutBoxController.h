@@ -5,6 +5,7 @@
 #include <QString>
 #include <memory>
 
+#include "app/panel/WindowSystem.h"
 #include "windows/about/BundleInformation.h"
 
 class QTextDocument;
@@ -19,9 +20,9 @@ class KVAboutBoxScrollView;
 class KVAboutBoxController {
  public:
     /// `creditsFile` is an HTML file or resource; the program's own by default. The window is made
-    /// when it is first needed.
-    explicit KVAboutBoxController(BundleInformation information,
-                                  QString creditsFile = ownCredits());
+    /// when it is first needed. The window system must outlive the controller.
+    KVAboutBoxController(BundleInformation information, WindowSystem& windowSystem,
+                         QString creditsFile = ownCredits());
     ~KVAboutBoxController();
     Q_DISABLE_COPY_MOVE(KVAboutBoxController)
 
@@ -46,6 +47,7 @@ class KVAboutBoxController {
     void widenTextView();
 
     BundleInformation _information;
+    WindowSystem& _windowSystem;
     QString _creditsFile;
     std::unique_ptr<AboutWindow> _window;
     QPointer<KVAboutBoxIconView> _iconView;

@@ -121,7 +121,6 @@ void AlertWindow::addButtons(const Alert& alert, QBoxLayout& row) {
         const std::size_t index = _buttons.size();
         auto* button = new FlatButton(localised(alert.table, title), this);
         button->setMinimumWidth(leastButtonWidth);
-        button->setAutoDefault(false);
         button->setDefault(index == 0);
         connect(button, &QPushButton::clicked, this, [this, index] {
             _chosenButton = index;

@@ -14,7 +14,8 @@ class QPushButton;
 namespace tonquil {
 
 /// The window of an alert: an icon, the message, what follows from it, and the buttons with the
-/// default one outermost. Return chooses the default button, and so does closing the window.
+/// default one outermost. Return chooses the button that has the focus, the default one at first.
+/// Closing the window chooses the default one too.
 class AlertWindow : public QDialog {
  public:
     AlertWindow(const Alert& alert, const Appearance& appearance, QWidget* parent = nullptr);

@@ -77,7 +77,7 @@ bool OtherWindows::isPreferencesWindowShown() const {
 
 void OtherWindows::openAboutBox() {
     if (!_about) {
-        _about = std::make_unique<KVAboutBoxController>(_.bundle);
+        _about = std::make_unique<KVAboutBoxController>(_.bundle, _.preferences.windowSystem);
         _.windowMade(_about->window());
     }
     _about->showWindow();

@@ -44,10 +44,11 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     setWindowTitle(QCoreApplication::translate("Panel", "Tonquil"));
     setWindowIcon(programIcon());
     setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_AlwaysShowToolTips);
     setAcceptDrops(true);
-    _appearance.allowsVibrancy = windowSystem.isCompositing();
-    _appearance.options.reduceTransparency = !_appearance.allowsVibrancy;
-    setAttribute(Qt::WA_TranslucentBackground, _appearance.allowsVibrancy);
+    // Whether a window has an alpha channel is settled when it is made; whether anybody blends by
+    // it may change at any time.
+    setAttribute(Qt::WA_TranslucentBackground);
     _plotTimer.setSingleShot(true);
     _plotTimer.setInterval(plotMilliseconds);
     QObject::connect(&_plotTimer, &QTimer::timeout, this, [this] { drawPlot(); });
@@ -56,12 +57,13 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     _glide.setDuration(glideMilliseconds);
     QObject::connect(&_glide, &QVariantAnimation::valueChanged, this,
                      [this](const QVariant& height) { setHeight(height.toInt()); });
-    setAppearances();
+    _appearance.allowsVibrancy = windowSystem.isCompositing();
+    setAccessibilityOptions({});
     fitForm(false);
 }
 
-// With the window the keyboard goes, which would commit what is being typed to a panel that is half
-// gone.
+// The window loses the keyboard as it goes, and that would commit what is being typed while half of
+// the panel is already destroyed.
 ControlPanel::~ControlPanel() {
     _contents->sliders.revertTyping();
 }
@@ -92,6 +94,7 @@ void ControlPanel::connectControls() {
         }
     });
     contents.titleStrip->setCloseAction([this] { close(); });
+    contents.titleStrip->setHasWindowManager([this] { return _windowSystem.hasWindowManager(); });
     contents.titleStrip->setRemoteAction([this] { _actions->openPreferences(); });
     contents.titleStrip->setSubjectAction(
         [this](bool isAll) { _actions->setAffectsAllScreens(isAll); });
@@ -113,9 +116,19 @@ void ControlPanel::connectControls() {
 }
 
 void ControlPanel::setAccessibilityOptions(const AccessibilityOptions& options) {
+    _wantedOptions = options;
     _appearance.options = options;
     _appearance.options.reduceTransparency |= !_appearance.allowsVibrancy;
     setAppearances();
+}
+
+void ControlPanel::updateCompositing() {
+    const bool isCompositing = _windowSystem.isCompositing();
+    if (isCompositing != _appearance.allowsVibrancy) {
+        _appearance.allowsVibrancy = isCompositing;
+        setAccessibilityOptions(_wantedOptions);
+        update();
+    }
 }
 
 PanelValues ControlPanel::values() const {
@@ -145,17 +158,21 @@ void ControlPanel::updateTouchBarSlider() {
 }
 
 void ControlPanel::_setControlsEnabled(bool enabled) {
-    const bool wasEnabled = _contents->blendingModePopUp->isEnabled();
-    if (wasEnabled && !enabled) {
+    // A control that is disabled would hand the focus to whichever is next, and the next key would
+    // act there.
+    if (!enabled && !_focusToReturn && focusWidget() != nullptr) {
         _focusToReturn = focusWidget();
+        setFocus();
     }
     _contents->sliders.setEnabled(enabled);
     _contents->channelStrip->_setControlsEnabled(enabled);
     _contents->blendingModePopUp->setEnabled(enabled);
     _contents->resetButton->setEnabled(enabled);
     _menu.setEditingEnabled(enabled);
-    if (enabled && !wasEnabled && _focusToReturn) {
-        _focusToReturn->setFocus();
+    if (_focusToReturn && _focusToReturn->isEnabled()) {
+        if (focusWidget() == this) {
+            _focusToReturn->setFocus();
+        }
         _focusToReturn = nullptr;
     }
 }
@@ -221,7 +238,7 @@ void ControlPanel::heldSlider(PanelSlider slider, bool isHeld) {
                                 CurvePlot::CurvePoint::White};
     _contents->plot->setMarkedPoint(
         CurvePlot::MarkedPoint{points.at(static_cast<std::size_t>(place.tab)), place.channel});
-    // Held through the strip, it has the focus already, and so its channel.
+    // A slider that is held through the channel strip has the focus already.
     if (_contents->sliders.slider(slider).isInteracting()) {
         firstResponderChanged(&_contents->sliders.slider(slider));
     }
@@ -230,8 +247,8 @@ void ControlPanel::heldSlider(PanelSlider slider, bool isHeld) {
 void ControlPanel::pickTab(int tab) {
     const Channel channel = _contents->sliders.channelForResponder(_firstResponder);
     _actions->setSelectedTab(tab);
-    // The control that had the focus is hidden now; the one in its place takes it over. A
-    // selector that has it keeps it.
+    // The control that had the focus is hidden now, so the one in its place gets it. If the tab
+    // selector has the focus, it keeps it.
     if (channel != Channel::None) {
         makeFirstResponder(*_contents->sliders.row(tab, channel).field);
     }
@@ -259,8 +276,8 @@ void ControlPanel::makeFirstResponder(QWidget& control) {
     firstResponderChanged(&control);
 }
 
-// The toolkit tells of the focus only while the window has the keyboard, which the panel mostly
-// has not.
+// The toolkit reports focus changes only while the window has the keyboard, and the panel mostly
+// does not have it.
 void ControlPanel::firstResponderChanged(QWidget* control) {
     _firstResponder = control;
     if (_observesFirstResponder) {
@@ -298,9 +315,11 @@ std::vector<QWidget*> ControlPanel::vibrantViews() const {
 }
 
 void ControlPanel::_setAdvancedPanel(bool advanced) {
+    const bool becomesCompact = _isAdvanced && !advanced;
     _isAdvanced = advanced;
     fitForm(true);
-    if (!advanced && focusWidget() != nullptr && isCutOff(*focusWidget())) {
+    // In the compact form the channel strip itself puts the focus on fields that are cut off.
+    if (becomesCompact && focusWidget() != nullptr && isCutOff(*focusWidget())) {
         focusMasterOfSelectedTab();
     }
     _menu.showForm(advanced, _appearance.isDark, !_contents->channelStrip->isHidden());
@@ -346,7 +365,7 @@ void ControlPanel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const Theme& theme = themeFor(_appearance);
     QColor background = theme.panel;
-    const bool isBlended = testAttribute(Qt::WA_TranslucentBackground);
+    const bool isBlended = _appearance.allowsVibrancy;
     if (isBlended && !_appearance.options.reduceTransparency) {
         background.setAlphaF(static_cast<float>(theme.panelOpacity));
     }

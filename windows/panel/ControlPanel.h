@@ -5,7 +5,6 @@
 #include <QTimer>
 #include <QVariantAnimation>
 #include <QWidget>
-#include <memory>
 #include <vector>
 
 #include "app/panel/PanelActions.h"
@@ -19,8 +18,7 @@
 namespace tonquil {
 
 /// The control panel: a floating window of sliders that is used without taking the keyboard from
-/// the program in front of which it floats. Only a number field takes the keyboard, and only when
-/// it is clicked.
+/// the program in front of which it floats. Only a click on a number field takes the keyboard.
 class ControlPanel final : public QWidget, public PanelControls, public PanelWindow {
  public:
     /// The window system must outlive the panel.
@@ -28,14 +26,15 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     ~ControlPanel() override;
     Q_DISABLE_COPY_MOVE(ControlPanel)
 
-    /// Who is told of what the person does; must be set before anything is shown, and outlive the
-    /// panel's being used.
+    /// Hears what the person does. To be set before the panel is shown; must outlive its use.
     void setActions(PanelActions& actions);
     void showWebSites(bool hasSite, bool hasBoardSite) {
         _menu.showWebSites(hasSite, hasBoardSite);
     }
     /// What the person asked of the whole desktop.
     void setAccessibilityOptions(const AccessibilityOptions& options);
+    /// To be called when the blending of translucent windows may have been switched on or off.
+    void updateCompositing();
 
     [[nodiscard]] PanelValues values() const override;
     void setValues(const PanelValues& values) override;
@@ -87,6 +86,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     [[nodiscard]] bool isCutOff(const QWidget& control) const;
     void takeKeyboard();
     void setAcceptsKeyboard(bool accepts);
+    void updateAcceptsKeyboard();
     void setAppearances();
     void fitForm(bool mayGlide);
     void setHeight(int height);
@@ -95,17 +95,18 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
 
     WindowSystem& _windowSystem;
     PanelActions* _actions = nullptr;
+    AccessibilityOptions _wantedOptions;
     Appearance _appearance;
     PanelMenu _menu;
-    /// Lies at the window's upper edge and is as high as the advanced form; the compact form cuts
-    /// it off.
+    /// As high as the advanced form; the compact form cuts it off.
     PanelContents* _contents;
     bool _isAdvanced = true;
     int _selectedTab = 1;
     std::int32_t _blendingMode = KVBlendingModeBaseTable;
     bool _observesFirstResponder = false;
     QPointer<QWidget> _firstResponder;
-    /// What had the focus when the controls were disabled.
+    bool _isFieldUnderMouse = false;
+    /// What had the focus when the controls were disabled; the panel itself has it meanwhile.
     QPointer<QWidget> _focusToReturn;
     QTimer _plotTimer;
     /// Ends an edit that no button holds: a run of steps, or a typed number.

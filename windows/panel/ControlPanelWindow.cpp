@@ -10,6 +10,7 @@
 
 #include "ui/TQNumericTextField.h"
 #include "ui/TQSlider.h"
+#include "windows/front/BringToFront.h"
 #include "windows/panel/ControlPanel.h"
 #include "windows/panel/DevicePixels.h"
 #include "windows/panel/TitleStrip.h"
@@ -30,12 +31,8 @@ void ControlPanel::setFrameOrigin(const Point& origin) {
 }
 
 void ControlPanel::makeKeyAndOrderFront() {
-    // Asking for the number makes the window, which must exist to be told anything.
-    _windowSystem.keepOnAllWorkspaces(winId());
     setAcceptsKeyboard(true);
-    show();
-    raise();
-    takeKeyboard();
+    bringToFront(*this, _windowSystem, Workspaces::All);
 }
 
 bool ControlPanel::isOnActiveWorkspace() const {
@@ -44,10 +41,10 @@ bool ControlPanel::isOnActiveWorkspace() const {
 
 PanelSliderGeometry ControlPanel::masterSliderOfSelectedTab() const {
     const TQSlider& slider = *_contents->sliders.row(_selectedTab, Channel::Master).slider;
-    const QPoint corner = slider.mapTo(this, QPoint());
+    const QRect place = _contents->placeOf(slider).translated(_contents->pos());
     const double scale = devicePixelsFrom(geometry()).width / width();
-    return {.frame = {corner.x() * scale, corner.y() * scale, slider.width() * scale,
-                      slider.height() * scale},
+    return {.frame = {place.x() * scale, place.y() * scale, place.width() * scale,
+                      place.height() * scale},
             .value = slider.floatValue(),
             .minimum = slider.minValue(),
             .maximum = slider.maxValue(),
@@ -71,7 +68,7 @@ void ControlPanel::setAcceptsKeyboard(bool accepts) {
     }
 }
 
-// The window's height, while it glides to it, is not yet what the form has.
+// While the window is gliding, its height is not yet that of its form.
 bool ControlPanel::isCutOff(const QWidget& control) const {
     return !_isAdvanced && control.mapTo(this, QPoint()).y() >= minimumHeight();
 }
@@ -87,13 +84,18 @@ bool ControlPanel::focusNextPrevChild(bool next) {
 }
 
 bool ControlPanel::event(QEvent* event) {
-    // Only while the pointer is on it does the panel refuse the keyboard: a click then leaves it
-    // where it is, and yet the panel can be reached by switching between windows.
+    // The panel refuses the keyboard only while the pointer is on it and not on a number field: a
+    // click on a slider leaves the keyboard where it is, and yet the panel can be reached by
+    // switching between windows.
     if (event->type() == QEvent::Enter || event->type() == QEvent::Leave ||
         event->type() == QEvent::WindowDeactivate) {
-        setAcceptsKeyboard(isActiveWindow() || event->type() == QEvent::Leave || !underMouse());
+        updateAcceptsKeyboard();
     }
     return QWidget::event(event);
+}
+
+void ControlPanel::updateAcceptsKeyboard() {
+    setAcceptsKeyboard(isActiveWindow() || !underMouse() || _isFieldUnderMouse);
 }
 
 bool ControlPanel::eventFilter(QObject* watched, QEvent* event) {
@@ -101,6 +103,12 @@ bool ControlPanel::eventFilter(QObject* watched, QEvent* event) {
     if (field != nullptr && event->type() == QEvent::MouseButtonPress) {
         takeKeyboard();
         firstResponderChanged(field);
+    } else if (field != nullptr &&
+               (event->type() == QEvent::Enter || event->type() == QEvent::Leave)) {
+        // A window manager decides at the press whether a window takes the keyboard, before we
+        // hear of it.
+        _isFieldUnderMouse = event->type() == QEvent::Enter && field->isEnabled();
+        updateAcceptsKeyboard();
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -114,7 +122,7 @@ void ControlPanel::moveEvent(QMoveEvent* event) {
 
 void ControlPanel::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    // The greater part of it may lie on another display now.
+    // Most of it may be on another display now.
     if (_actions != nullptr) {
         _actions->panelMoved();
     }

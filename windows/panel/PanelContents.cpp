@@ -9,6 +9,9 @@
 #include <QPainter>
 #include <QStackedWidget>
 #include <QToolButton>
+#include <algorithm>
+#include <ranges>
+#include <vector>
 
 #include "model/KVGammaCurve.h"
 #include "ui/CurvePlot.h"
@@ -158,10 +161,27 @@ int PanelContents::advancedHeight() const {
 }
 
 void PanelContents::fit() {
-    // What was shown or hidden just now has told its own layout only.
+    // A child that was just shown or hidden has invalidated only its own layout so far.
     layout()->invalidate();
     resize(width(), advancedHeight());
     layout()->activate();
+}
+
+// The toolkit runs nested layouts only when the window is shown, and those of a page only when the
+// page is shown.
+QRect PanelContents::placeOf(const QWidget& control) const {
+    std::vector<QLayout*> layouts;
+    for (const QWidget* outer = control.parentWidget(); outer != parentWidget();
+         outer = outer->parentWidget()) {
+        if (QLayout* layout = outer->layout()) {
+            layouts.push_back(layout);
+        }
+    }
+    std::ranges::for_each(layouts | std::views::reverse, [](QLayout* each) {
+        each->invalidate();
+        each->activate();
+    });
+    return {control.mapTo(this, QPoint()), control.size()};
 }
 
 void PanelContents::showTab(int tab) const {

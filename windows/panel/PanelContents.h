@@ -30,6 +30,9 @@ class PanelContents : public QWidget {
     /// Takes the height of the advanced form, and lays everything out anew.
     void fit();
     void showTab(int tab) const;
+    /// A control's place from this object's upper left corner, in points; right also before the
+    /// panel has ever been shown.
+    [[nodiscard]] QRect placeOf(const QWidget& control) const;
 
     PanelSliders sliders;
     TitleStrip* titleStrip;

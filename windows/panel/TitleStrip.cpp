@@ -2,6 +2,7 @@
 #include "windows/panel/TitleStrip.h"
 
 #include <QActionGroup>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -54,7 +55,8 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     setMinimumHeight(std::max(stripHeight, fontMetrics().height() + 8));
     _subjectButton->setAutoRaise(true);
     _subjectButton->setFocusPolicy(Qt::TabFocus);
-    // Given to the buttons, the menus would bring an arrow of the style's own.
+    _subjectButton->installEventFilter(this);
+    // A button that has a menu of its own is drawn with an arrow of the style's.
     openBelow(*_menuButton, menu);
     buildSubjectMenu();
     QObject::connect(_closeButton, &QToolButton::clicked, this, [this] {
@@ -137,25 +139,63 @@ void TitleStrip::paintEvent(QPaintEvent* /*event*/) {
     drawHairline(painter, 0, height() - 1, width(), Qt::Horizontal, themeOf(*this).hairline);
 }
 
-// The window manager moves the window best; without one we do.
 void TitleStrip::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) {
-        return;
-    }
-    QWindow* const handle = window()->windowHandle();
-    if (handle == nullptr || !handle->startSystemMove()) {
-        _hold = event->globalPosition().toPoint() - window()->geometry().topLeft();
+    if (event->button() == Qt::LeftButton) {
+        beginMove(event->globalPosition().toPoint());
     }
 }
 
 void TitleStrip::mouseMoveEvent(QMouseEvent* event) {
-    if (_hold) {
-        window()->move(event->globalPosition().toPoint() - *_hold);
-    }
+    continueMove(event->globalPosition().toPoint());
 }
 
 void TitleStrip::mouseReleaseEvent(QMouseEvent* /*event*/) {
     _hold.reset();
+}
+
+// The window manager moves the window best. The toolkit still asks one that has quit, and says that
+// this has worked.
+void TitleStrip::beginMove(const QPoint& pointer) {
+    QWindow* const handle = window()->windowHandle();
+    const bool isMoved = handle != nullptr && (!_hasWindowManager || _hasWindowManager()) &&
+                         handle->startSystemMove();
+    if (!isMoved) {
+        _hold = pointer - window()->geometry().topLeft();
+    }
+}
+
+void TitleStrip::continueMove(const QPoint& pointer) {
+    if (_hold) {
+        window()->move(pointer - *_hold);
+    }
+}
+
+// The name is a button, but it is also the middle of the strip: a drag that begins on it moves the
+// window.
+bool TitleStrip::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress) {
+        const auto& press = static_cast<const QMouseEvent&>(*event);
+        _isDragged = false;
+        _pressedAt = press.globalPosition().toPoint();
+    } else if (event->type() == QEvent::MouseMove) {
+        return dragSubject(static_cast<const QMouseEvent&>(*event));
+    } else if (event->type() == QEvent::MouseButtonRelease) {
+        _hold.reset();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+// The button must not hear of a drag, or it would take its end for a click.
+bool TitleStrip::dragSubject(const QMouseEvent& move) {
+    const QPoint pointer = move.globalPosition().toPoint();
+    if (!_isDragged && move.buttons().testFlag(Qt::LeftButton) &&
+        (pointer - _pressedAt).manhattanLength() >= QApplication::startDragDistance()) {
+        _isDragged = true;
+        _subjectButton->setDown(false);
+        beginMove(_pressedAt);
+    }
+    continueMove(pointer);
+    return _isDragged;
 }
 
 void TitleStrip::resizeEvent(QResizeEvent* event) {

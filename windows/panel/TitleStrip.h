@@ -27,6 +27,10 @@ class TitleStrip : public QWidget {
     void showRemoteConfiguration(bool isOn);
     void setRemoteAction(std::function<void()> action) { _openRemote = std::move(action); }
     void setCloseAction(std::function<void()> action) { _close = std::move(action); }
+    /// Asked at each drag: whether there is a window manager to move the window.
+    void setHasWindowManager(std::function<bool()> question) {
+        _hasWindowManager = std::move(question);
+    }
 
  protected:
     void paintEvent(QPaintEvent* event) override;
@@ -35,8 +39,12 @@ class TitleStrip : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+    void beginMove(const QPoint& pointer);
+    void continueMove(const QPoint& pointer);
+    [[nodiscard]] bool dragSubject(const QMouseEvent& move);
     void buildSubjectMenu();
     void updateIcons();
     void updateTitle();
@@ -52,6 +60,10 @@ class TitleStrip : public QWidget {
     std::function<void(bool)> _chooseSubject;
     std::function<void()> _close;
     std::function<void()> _openRemote;
+    std::function<bool()> _hasWindowManager;
+    /// Where the button with the name was pressed, and whether that has become a drag.
+    QPoint _pressedAt;
+    bool _isDragged = false;
     /// Where the pointer took hold of the window, while it is moved without a window manager.
     std::optional<QPoint> _hold;
 };

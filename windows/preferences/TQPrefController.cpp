@@ -11,6 +11,7 @@
 #include "foundation/TranslatableText.h"
 #include "hotkeys/DDHotKey.h"
 #include "hotkeys/field/DDHotKeyTextField.h"
+#include "windows/front/BringToFront.h"
 #include "windows/preferences/PreferencesWindow.h"
 #include "windows/preferences/RadioMatrix.h"
 #include "windows/preferences/SettingBinding.h"
@@ -141,9 +142,7 @@ void TQPrefController::showWindow() {
     if (!_window->isVisible() && std::exchange(_hasBeenShown, true)) {
         _window->setGeometry(_window->geometry());
     }
-    _window->show();
-    _window->raise();
-    _window->activateWindow();
+    bringToFront(*_window, _surroundings.windowSystem);
     _window->clearFirstResponder();
 }
 

@@ -11,6 +11,7 @@
 
 #include "app/desktop/Alerts.h"
 #include "app/desktop/LoginItem.h"
+#include "app/panel/WindowSystem.h"
 #include "app/preferences/PreferencesStore.h"
 #include "app/preferences/StoredHotKey.h"
 #include "foundation/Log.h"
@@ -32,6 +33,7 @@ struct PreferencesSurroundings {
     LoginItem& loginItem;
     Alerts& alerts;
     const KeyboardLayout& layout;
+    WindowSystem& windowSystem;
     /// The absolute path of the running program, and the person's home folder.
     std::filesystem::path program;
     std::filesystem::path home;

@@ -8,6 +8,7 @@
 #include "app/preferences/SettingsKeys.h"
 #include "app/preferences/WindowFrame.h"
 #include "screens/ScreenRegistry.h"
+#include "windows/front/BringToFront.h"
 #include "windows/panel/DevicePixels.h"
 #include "windows/panel/PanelIcons.h"
 
@@ -24,6 +25,7 @@ void TargetPresenter::makeFloatingWindow() {
     _targetWindowController = std::make_unique<TQTargetWindowController>();
     TQTargetWindowController& controller = *_targetWindowController;
     controller.window().setWindowIcon(programIcon());
+    _aspect = std::make_unique<AspectKeeper>(controller.window(), _windowSystem);
     const auto frame = windowFrameFrom(_preferences.stringForKey(settingsKey::targetsFrame));
     if (frame && !_service.displaysWithPoint(frame->centre(), 1).empty()) {
         controller.setFrame(pointsFrom(*frame));
@@ -42,13 +44,17 @@ void TargetPresenter::makeFloatingWindow() {
 
 void TargetPresenter::openTargetWindow() {
     makeFloatingWindow();
-    _targetWindowController->showWindow();
+    showFloatingWindow();
 }
 
 void TargetPresenter::openTargetWindow(TargetKind kind) {
     makeFloatingWindow();
     _targetWindowController->setKind(static_cast<std::int32_t>(kind));
-    _targetWindowController->showWindow();
+    showFloatingWindow();
+}
+
+void TargetPresenter::showFloatingWindow() {
+    bringToFront(_targetWindowController->window(), _windowSystem, Workspaces::All);
 }
 
 std::optional<TargetKind> TargetPresenter::floatingTarget() const {

@@ -6,11 +6,13 @@
 #include <utility>
 #include <vector>
 
-#include "app/preferences/PreferencesStore.h"
 #include "app/desktop/TargetWindows.h"
+#include "app/panel/WindowSystem.h"
+#include "app/preferences/PreferencesStore.h"
 #include "screens/DisplayService.h"
 #include "targets/TQTargetWindowController.h"
 #include "targets/TargetWindowList.h"
+#include "windows/targets/AspectKeeper.h"
 
 namespace tonquil {
 
@@ -20,8 +22,11 @@ class TargetPresenter final : public TargetWindows {
  public:
     /// `windowMade` is called with the floating window before it is shown.
     TargetPresenter(DisplayService& service, PreferencesStore& preferences,
-                    std::function<void(QWidget&)> windowMade)
-        : _service(service), _preferences(preferences), _windowMade(std::move(windowMade)) {}
+                    WindowSystem& windowSystem, std::function<void(QWidget&)> windowMade)
+        : _service(service),
+          _preferences(preferences),
+          _windowSystem(windowSystem),
+          _windowMade(std::move(windowMade)) {}
 
     void openTargetWindow() override;
     void openTargetWindow(TargetKind kind) override;
@@ -48,15 +53,18 @@ class TargetPresenter final : public TargetWindows {
     [[nodiscard]] const TQTargetWindowController* existingCover(DisplayID display) const;
     void coverClosed(const TQTargetWindowController& cover);
     void makeFloatingWindow();
+    void showFloatingWindow();
 
     DisplayService& _service;
     PreferencesStore& _preferences;
+    WindowSystem& _windowSystem;
     std::function<void(QWidget&)> _windowMade;
     bool _areHintsShown = true;
     std::vector<Closing> _closings;
     TargetWindowList _covers;
     /// Made when it is first shown.
     std::unique_ptr<TQTargetWindowController> _targetWindowController;
+    std::unique_ptr<AspectKeeper> _aspect;
 };
 
 }  // namespace tonquil

@@ -2,12 +2,15 @@
 #include "platform/x11/desktop/X11DesktopEvents.h"
 
 #include <xcb/screensaver.h>
+#include <xcb/xfixes.h>
 
 #include <algorithm>
 #include <cstring>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "platform/x11/desktop/X11WindowSystem.h"
 
 namespace tonquil {
 
@@ -36,6 +39,7 @@ void X11DesktopEvents::start(Handler handler) {
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(_connection->get(), _connection->root(), XCB_CW_EVENT_MASK, &mask);
     watchScreenSaver();
+    watchCompositor();
     _windows = windows();
     _watch = _runLoop.watchReadable(xcb_get_file_descriptor(_connection->get()),
                                     [this] { takeEvents(); });
@@ -52,6 +56,33 @@ void X11DesktopEvents::watchScreenSaver() {
     _screenSaverEvent = extension->first_event + XCB_SCREENSAVER_NOTIFY;
     xcb_screensaver_select_input(_connection->get(), _connection->root(),
                                  XCB_SCREENSAVER_EVENT_NOTIFY_MASK);
+}
+
+void X11DesktopEvents::watchCompositor() {
+    auto* const connection = _connection->get();
+    const auto* extension = xcb_get_extension_data(connection, &xcb_xfixes_id);
+    if (extension == nullptr || extension->present == 0) {
+        return;
+    }
+    // The server takes no other request of this extension before it knows our release of it.
+    const XcbPointer<xcb_xfixes_query_version_reply_t> version(xcb_xfixes_query_version_reply(
+        connection,
+        xcb_xfixes_query_version(connection, XCB_XFIXES_MAJOR_VERSION, XCB_XFIXES_MINOR_VERSION),
+        nullptr));
+    if (!version) {
+        return;
+    }
+    _selectionEvent = extension->first_event + XCB_XFIXES_SELECTION_NOTIFY;
+    // A compositor gives the selection up, destroys its window, or dies.
+    xcb_xfixes_select_selection_input(connection, _connection->root(),
+                                      compositorSelection(*_connection),
+                                      XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+    // It may have changed since it was asked about for the first time.
+    if (_compositingChanged) {
+        _compositingChanged();
+    }
 }
 
 void X11DesktopEvents::takeEvents() {
@@ -83,6 +114,8 @@ void X11DesktopEvents::take(const xcb_generic_event_t& event) {
         if (change.state == XCB_SCREENSAVER_STATE_OFF) {
             _handler(SessionEvent::ScreenSaverStopped);
         }
+    } else if (type == _selectionEvent && _compositingChanged) {
+        _compositingChanged();
     }
 }
 

@@ -8,6 +8,7 @@
 #include <optional>
 #include <set>
 #include <string_view>
+#include <utility>
 
 #include "app/correction/SessionEvents.h"
 #include "foundation/Log.h"
@@ -37,6 +38,10 @@ class X11DesktopEvents final : public SessionEvents {
         const char* display, RunLoop& runLoop, Log log, std::function<void()> connectionLost = {});
 
     void start(Handler handler) override;
+    /// Called, once started, when the blending of translucent windows is switched on or off.
+    void setCompositingChanged(std::function<void()> changed) {
+        _compositingChanged = std::move(changed);
+    }
 
  private:
     using Windows = std::set<xcb_window_t>;
@@ -44,6 +49,7 @@ class X11DesktopEvents final : public SessionEvents {
     X11DesktopEvents(std::unique_ptr<X11Connection> connection, RunLoop& runLoop, Log log,
                      std::function<void()> connectionLost);
     void watchScreenSaver();
+    void watchCompositor();
     void takeEvents();
     void take(const xcb_generic_event_t& event);
     void takeProperty(xcb_atom_t property);
@@ -56,12 +62,15 @@ class X11DesktopEvents final : public SessionEvents {
     RunLoop& _runLoop;
     Log _log;
     std::function<void()> _connectionLost;
+    std::function<void()> _compositingChanged;
     Handler _handler;
     xcb_atom_t _clientList;
     /// Of the root window's properties seen so far: whether it holds a display's profile.
     std::map<xcb_atom_t, bool> _isProfile;
     /// The event number, or none where the server has no screen saver.
     std::optional<int> _screenSaverEvent;
+    /// The event number, or none where the server cannot tell.
+    std::optional<int> _selectionEvent;
     Windows _windows;
     std::unique_ptr<RunLoop::Handle> _watch;
     std::unique_ptr<RunLoop::Handle> _early;

@@ -13,18 +13,25 @@ namespace {
 constexpr std::uint32_t allWorkspaces = 0xFFFFFFFF;
 // In messages to the window manager: who sends them.
 constexpr std::uint32_t fromApplication = 1;
+constexpr std::uint32_t fromPerson = 2;
 
-std::string compositorName(const X11Connection& connection) {
+// The size hints of a window (ICCCM 4.1.2.3): flags first, each aspect a width and a height.
+constexpr std::size_t sizeHintCount = 18;
+constexpr std::uint32_t hasAspect = 1U << 7U;
+constexpr std::size_t leastAspect = 11;
+constexpr std::size_t mostAspect = 13;
+
+}  // namespace
+
+xcb_atom_t compositorSelection(const X11Connection& connection) {
     auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection.get()));
     int number = 0;
     for (; screens.rem > 1 && screens.data->root != connection.root(); ++number) {
         xcb_screen_next(&screens);
     }
     std::string name = "_NET_WM_CM_S";
-    return name.append(std::to_string(number));
+    return connection.atom(name.append(std::to_string(number)));
 }
-
-}  // namespace
 
 Result<std::unique_ptr<X11WindowSystem>> X11WindowSystem::open(const char* display) {
     auto connection = X11Connection::open(display);
@@ -38,12 +45,13 @@ X11WindowSystem::X11WindowSystem(std::unique_ptr<X11Connection> connection)
     : _connection(std::move(connection)),
       _desktop(_connection->atom("_NET_WM_DESKTOP")),
       _currentDesktop(_connection->atom("_NET_CURRENT_DESKTOP")),
+      _activeWindow(_connection->atom("_NET_ACTIVE_WINDOW")),
       _state(_connection->atom("_NET_WM_STATE")),
       _skipTaskbar(_connection->atom("_NET_WM_STATE_SKIP_TASKBAR")),
       _skipPager(_connection->atom("_NET_WM_STATE_SKIP_PAGER")),
       _managerState(_connection->atom("WM_STATE")),
       _managerCheck(_connection->atom("_NET_SUPPORTING_WM_CHECK")),
-      _compositor(_connection->atom(compositorName(*_connection))) {}
+      _compositor(compositorSelection(*_connection)) {}
 
 void X11WindowSystem::keepOnAllWorkspaces(WindowID window) {
     const auto id = static_cast<xcb_window_t>(window);
@@ -51,6 +59,22 @@ void X11WindowSystem::keepOnAllWorkspaces(WindowID window) {
         sendToManager(id, _desktop, {allWorkspaces, fromApplication});
     } else {
         setProperty(id, _desktop, XCB_ATOM_CARDINAL, {allWorkspaces});
+    }
+}
+
+// A window that no manager looks after appears on the active workspace anyway.
+void X11WindowSystem::bringToActiveWorkspace(WindowID window) {
+    const auto id = static_cast<xcb_window_t>(window);
+    const auto current = property(_connection->root(), _currentDesktop);
+    if (!current.empty() && isManaged(id) && !isOnActiveWorkspace(window)) {
+        sendToManager(id, _desktop, {current.front(), fromApplication});
+    }
+}
+
+void X11WindowSystem::activate(WindowID window) {
+    const auto id = static_cast<xcb_window_t>(window);
+    if (isManaged(id)) {
+        sendToManager(id, _activeWindow, {fromPerson, XCB_CURRENT_TIME});
     }
 }
 
@@ -68,6 +92,19 @@ void X11WindowSystem::skipTaskbar(WindowID window, bool skip) {
         states.insert(states.end(), {_skipTaskbar, _skipPager});
     }
     setProperty(id, _state, XCB_ATOM_ATOM, states);
+}
+
+void X11WindowSystem::keepProportions(WindowID window, std::uint32_t width, std::uint32_t height) {
+    const auto id = static_cast<xcb_window_t>(window);
+    auto hints = property(id, XCB_ATOM_WM_NORMAL_HINTS);
+    hints.resize(sizeHintCount);
+    const auto before = hints;
+    hints[0] |= hasAspect;
+    hints[leastAspect] = hints[mostAspect] = width;
+    hints[leastAspect + 1] = hints[mostAspect + 1] = height;
+    if (hints != before) {
+        setProperty(id, XCB_ATOM_WM_NORMAL_HINTS, XCB_ATOM_WM_SIZE_HINTS, hints);
+    }
 }
 
 bool X11WindowSystem::isOnActiveWorkspace(WindowID window) const {
@@ -146,8 +183,10 @@ std::vector<std::uint32_t> X11WindowSystem::property(xcb_window_t window, xcb_at
     return values;
 }
 
+// The toolkit has a connection of its own, and what it sends next must not overtake this.
 void X11WindowSystem::finish() const {
-    xcb_flush(_connection->get());
+    const XcbPointer<xcb_get_input_focus_reply_t> roundTrip(xcb_get_input_focus_reply(
+        _connection->get(), xcb_get_input_focus(_connection->get()), nullptr));
     // Errors of earlier requests, for windows that have gone meanwhile.
     while (const XcbPointer<xcb_generic_event_t> ignored{xcb_poll_for_event(_connection->get())}) {
     }

@@ -11,6 +11,9 @@
 
 namespace tonquil {
 
+/// The selection that whoever blends the windows of the connection's screen holds meanwhile.
+[[nodiscard]] xcb_atom_t compositorSelection(const X11Connection& connection);
+
 /// Asks an X11 window manager by the conventions that all of them share (EWMH).
 ///
 /// A window that a window manager looks after, shown or minimised, is changed by a message to it;
@@ -21,7 +24,10 @@ class X11WindowSystem final : public WindowSystem {
     [[nodiscard]] static Result<std::unique_ptr<X11WindowSystem>> open(const char* display);
 
     void keepOnAllWorkspaces(WindowID window) override;
+    void bringToActiveWorkspace(WindowID window) override;
+    void activate(WindowID window) override;
     void skipTaskbar(WindowID window, bool skip) override;
+    void keepProportions(WindowID window, std::uint32_t width, std::uint32_t height) override;
     [[nodiscard]] bool isOnActiveWorkspace(WindowID window) const override;
     [[nodiscard]] std::optional<Point> pointerLocation() const override;
     [[nodiscard]] bool isCompositing() const override;
@@ -40,6 +46,7 @@ class X11WindowSystem final : public WindowSystem {
     std::unique_ptr<X11Connection> _connection;
     xcb_atom_t _desktop;
     xcb_atom_t _currentDesktop;
+    xcb_atom_t _activeWindow;
     xcb_atom_t _state;
     xcb_atom_t _skipTaskbar;
     xcb_atom_t _skipPager;

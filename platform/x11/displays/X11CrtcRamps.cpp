@@ -33,32 +33,67 @@ void X11CrtcRamps::load(const std::vector<xcb_randr_crtc_t>& crtcs) {
         cookies.push_back(xcb_randr_get_crtc_gamma(_connection.get(), crtc));
     }
     _journal.ask();
-    auto histories = _journal.receive();
+    auto journal = _journal.receive();
     for (std::size_t i = 0; i < crtcs.size(); ++i) {
         const XcbPointer<xcb_randr_get_crtc_gamma_reply_t> reply(
             xcb_randr_get_crtc_gamma_reply(_connection.get(), cookies[i], nullptr));
-        CrtcRamp& state = _crtcs[crtcs[i]];
-        state.present = rampOf(reply.get());
-        state.history = std::move(histories[crtcs[i]]);
-        if (state.present.size() != state.correction.size()) {
-            state.table.reset();
-        }
-        state.isSystemRampUnsaved = false;
-        if (state.present.size() > 0 && state.history.systemRamp() != state.present &&
-            !state.history.isCorrection(state.present.fingerprint())) {
-            state.history.setSystemRamp(state.present);
-            state.isSystemRampUnsaved = true;
-        }
+        look(crtcs[i], rampOf(reply.get()), std::move(journal.histories[crtcs[i]]),
+             journal.areCorrectionsDamaged);
+    }
+    if (journal.areCorrectionsDamaged) {
+        // What was appended must not lie in our buffer until the next call.
+        xcb_flush(_connection.get());
     }
 }
 
+void X11CrtcRamps::look(xcb_randr_crtc_t crtc, HardwareRamp present, RampHistory history,
+                        bool areRecordsLost) {
+    CrtcRamp& state = _crtcs[crtc];
+    const RampHistory former = std::exchange(state.history, std::move(history));
+    state.present = std::move(present);
+    if (state.present.size() != state.correction.size()) {
+        state.table.reset();
+        state.isHeld = false;
+    }
+    state.isSystemRampUnsaved = false;
+    state.isCorrectionSaved = state.isHeld && state.history.has(correctionOf(state));
+    if (state.present.size() == 0) {
+        return;
+    }
+    if (state.isHeld) {
+        // The journal may have lost it; a present ramp that is not ours is a disturbance.
+        if (!state.history.systemRamp() && former.systemRamp()) {
+            state.history.setSystemRamp(*former.systemRamp());
+            state.isSystemRampUnsaved = true;
+        }
+        return;
+    }
+    const std::uint64_t fingerprint = state.present.fingerprint();
+    if (state.history.systemRamp() == state.present || state.history.isCorrection(fingerprint)) {
+        return;
+    }
+    if (areRecordsLost && state.history.systemRamp()) {
+        // Most likely a correction whose record is lost. Taken for the system's, it would be
+        // corrected twice, and for good.
+        const RampHistory::Correction lost{.fingerprint = fingerprint, .holder = _journal.holder()};
+        _journal.appendCorrection(crtc, lost);
+        state.history.addCorrection(lost);
+        return;
+    }
+    state.history.setSystemRamp(state.present);
+    state.isSystemRampUnsaved = true;
+}
+
 void X11CrtcRamps::release(xcb_randr_crtc_t crtc) {
-    // What another process of ours has set since is for that display which has come there.
     const RampHistory ours = _crtcs[crtc].history;
     load({crtc});
     const CrtcRamp& state = _crtcs[crtc];
-    if (state.present.size() > 0 && ours.isCorrection(state.present.fingerprint())) {
-        setSystemRamp(crtc, state.history.uncorrected(state.present));
+    const std::uint64_t fingerprint = state.present.fingerprint();
+    const bool isOurs = ours.isCorrection(fingerprint);
+    // What another process of ours has set since is for the display that has come there.
+    const bool isAnothers = !isOurs && state.history.isCorrection(fingerprint);
+    if (state.present.size() > 0 && (isOurs || (state.isHeld && !isAnothers))) {
+        setSystemRamp(crtc, state.history.underCorrection(state.present.size()));
     }
     _crtcs.erase(crtc);
 }
@@ -76,8 +111,12 @@ const HardwareRamp* X11CrtcRamps::present(xcb_randr_crtc_t crtc) const {
 
 std::optional<HardwareRamp> X11CrtcRamps::uncorrected(xcb_randr_crtc_t crtc) const {
     const HardwareRamp* ramp = present(crtc);
-    return ramp == nullptr ? std::nullopt
-                           : std::optional(_crtcs.at(crtc).history.uncorrected(*ramp));
+    if (ramp == nullptr) {
+        return std::nullopt;
+    }
+    const CrtcRamp& state = _crtcs.at(crtc);
+    return state.isHeld ? state.history.underCorrection(ramp->size())
+                        : state.history.uncorrected(*ramp);
 }
 
 void X11CrtcRamps::setCorrection(xcb_randr_crtc_t crtc, const GammaTable& table) {
@@ -89,21 +128,20 @@ void X11CrtcRamps::setCorrection(xcb_randr_crtc_t crtc, const GammaTable& table)
         state.correction.setTable(table);
         state.correctionFingerprint = state.correction.fingerprint();
         state.table = table;
-        state.wasInPlace = false;
+        state.isCorrectionSaved = false;
     }
     // In this order, so that a kill between any two requests leaves a ramp that is recognised and
     // a system ramp to go back to.
     if (std::exchange(state.isSystemRampUnsaved, false)) {
         _journal.appendSystemRamp(crtc, *state.history.systemRamp());
     }
-    // Also when it is the same as before, if others set ramps as well: by then it may no longer be
-    // remembered. Alone on the display, the journal is left in peace: each change of it wakes up
-    // everybody who watches the root window.
-    if (!std::exchange(state.wasInPlace, false)) {
-        _journal.appendCorrection(crtc, state.correctionFingerprint);
-        state.history.addCorrection(state.correctionFingerprint);
+    // Not with every re-application: each change of the journal wakes up everybody who watches the
+    // root window, and a holder's last correction is not forgotten.
+    if (!std::exchange(state.isCorrectionSaved, true)) {
+        _journal.appendCorrection(crtc, correctionOf(state));
+        state.history.addCorrection(correctionOf(state));
     }
-    send(crtc, state, state.correction);
+    send(crtc, state, state.correction, true);
 }
 
 void X11CrtcRamps::setSystemRamp(xcb_randr_crtc_t crtc, const HardwareRamp& ramp) {
@@ -113,43 +151,64 @@ void X11CrtcRamps::setSystemRamp(xcb_randr_crtc_t crtc, const HardwareRamp& ramp
         state.history.setSystemRamp(ramp);
         state.isSystemRampUnsaved = false;
     }
-    send(crtc, state, *state.history.systemRamp());
+    send(crtc, state, *state.history.systemRamp(), false);
 }
 
-void X11CrtcRamps::send(xcb_randr_crtc_t crtc, CrtcRamp& state, const HardwareRamp& ramp) {
-    _pending.push_back(
-        {.crtc = crtc,
-         .replaced = xcb_randr_get_crtc_gamma(_connection.get(), crtc),
-         .set = xcb_randr_set_crtc_gamma_checked(
-             _connection.get(), crtc, static_cast<std::uint16_t>(ramp.size()),
-             ramp.channel(0).data(), ramp.channel(1).data(), ramp.channel(2).data())});
+void X11CrtcRamps::send(xcb_randr_crtc_t crtc, CrtcRamp& state, const HardwareRamp& ramp,
+                        bool isCorrection) {
+    Pending pending;
+    pending.crtc = crtc;
+    const bool wasHeld = std::exchange(state.isHeld, isCorrection);
+    if (isCorrection && !wasHeld) {
+        pending.replaced = xcb_randr_get_crtc_gamma(_connection.get(), crtc);
+    }
+    pending.set = xcb_randr_set_crtc_gamma_checked(
+        _connection.get(), crtc, static_cast<std::uint16_t>(ramp.size()), ramp.channel(0).data(),
+        ramp.channel(1).data(), ramp.channel(2).data());
+    _pending.push_back(pending);
     state.present = ramp;
 }
 
-void X11CrtcRamps::examineReplaced(xcb_randr_crtc_t crtc,
-                                   const xcb_randr_get_crtc_gamma_reply_t& replaced) {
+// The system may have set its ramp after we had looked.
+void X11CrtcRamps::examineReplaced(xcb_randr_crtc_t crtc, const HardwareRamp& replaced) {
     const auto found = _crtcs.find(crtc);
-    if (found == _crtcs.end()) {
+    if (found == _crtcs.end() || replaced.size() == 0) {
         return;
     }
-    CrtcRamp& state = found->second;
-    // Re-applying an unchanged correction replaces that very correction.
-    if (std::ranges::equal(entriesOf(replaced), state.present.entries())) {
-        state.wasInPlace = state.present == state.correction;
-        return;
-    }
-    const HardwareRamp ramp = rampOf(&replaced);
-    const std::uint64_t fingerprint = ramp.fingerprint();
-    if (ramp.size() == 0 || ramp == state.history.systemRamp() ||
-        state.history.isCorrection(fingerprint)) {
+    RampHistory& history = found->second.history;
+    const std::uint64_t fingerprint = replaced.fingerprint();
+    const auto isKnown = [&] {
+        return replaced == history.systemRamp() || history.isCorrection(fingerprint);
+    };
+    if (isKnown()) {
         return;
     }
     // Another process of ours may have set it.
     _journal.ask();
-    state.history = std::move(_journal.receive()[crtc]);
-    if (!state.history.isCorrection(fingerprint) && ramp != state.history.systemRamp()) {
-        _journal.appendSystemRamp(crtc, ramp);
-        state.history.setSystemRamp(ramp);
+    history = std::move(_journal.receive().histories[crtc]);
+    if (!isKnown()) {
+        _journal.appendSystemRamp(crtc, replaced);
+        history.setSystemRamp(replaced);
+    }
+}
+
+// Somebody has shortened the journal, or taken it away.
+void X11CrtcRamps::saveAgain() {
+    _journal.ask();
+    auto journal = _journal.receive();
+    for (auto& [crtc, state] : _crtcs) {
+        RampHistory& saved = journal.histories[crtc];
+        const auto& systemRamp = state.history.systemRamp();
+        if (systemRamp && (!saved.systemRamp() || state.isSystemRampUnsaved)) {
+            saved.setSystemRamp(*systemRamp);
+            _journal.appendSystemRamp(crtc, *systemRamp);
+            state.isSystemRampUnsaved = false;
+        }
+        if (state.isHeld && !saved.has(correctionOf(state))) {
+            saved.addCorrection(correctionOf(state));
+            _journal.appendCorrection(crtc, correctionOf(state));
+        }
+        state.history = std::move(saved);
     }
 }
 
@@ -160,20 +219,23 @@ std::vector<xcb_randr_crtc_t> X11CrtcRamps::finish() {
     }
     xcb_connection_t* const connection = _connection.get();
     // The answer to this comes last: once it is here, those to all that was sent are.
-    const auto last = xcb_get_input_focus(connection);
-    const XcbPointer<xcb_get_input_focus_reply_t> lastReply(
-        xcb_get_input_focus_reply(connection, last, nullptr));
-    for (const auto& [crtc, replacedCookie, set] : _pending) {
-        const XcbPointer<xcb_randr_get_crtc_gamma_reply_t> replaced(
-            xcb_randr_get_crtc_gamma_reply(connection, replacedCookie, nullptr));
-        const XcbPointer<xcb_generic_error_t> error(xcb_request_check(connection, set));
-        if (!replaced || error) {
-            refused.push_back(crtc);
-            // Whatever was known of it is in doubt.
-            _crtcs.erase(crtc);
-            continue;
+    _journal.askIfIntact();
+    if (!_journal.isIntact()) {
+        saveAgain();
+    }
+    for (const Pending& pending : _pending) {
+        const XcbPointer<xcb_generic_error_t> error(xcb_request_check(connection, pending.set));
+        XcbPointer<xcb_randr_get_crtc_gamma_reply_t> replaced;
+        if (pending.replaced) {
+            replaced.reset(xcb_randr_get_crtc_gamma_reply(connection, *pending.replaced, nullptr));
         }
-        examineReplaced(crtc, *replaced);
+        if (error || (pending.replaced && !replaced)) {
+            refused.push_back(pending.crtc);
+            // Whatever was known of it is in doubt.
+            _crtcs.erase(pending.crtc);
+        } else if (replaced) {
+            examineReplaced(pending.crtc, rampOf(replaced.get()));
+        }
     }
     _pending.clear();
     _journal.compactIfLong();

@@ -18,10 +18,14 @@ namespace tonquil {
 /// Reads and writes the ramps of the server's CRTCs, and keeps apart what the system set from what
 /// we set.
 ///
+/// From the first correction that this object sets on a CRTC until it sets the system ramp there,
+/// it *holds* the CRTC: whatever others put there meanwhile is a disturbance. On a CRTC that it
+/// does not hold, a ramp that no program of ours has set is the system's.
+///
 /// Everything that is set between two calls of `finish` goes out together and is waited for once.
-/// Together with each set the ramp that it replaces is asked for: the server answers in order, so
-/// a ramp that somebody else put there in between is found without a round trip of its own, and
-/// becomes the system ramp.
+/// Together with a correction that begins to hold a CRTC, the ramp that it replaces is asked for:
+/// the server answers in order, so a system ramp that came since the last look is found without a
+/// round trip of its own.
 class X11CrtcRamps {
  public:
     explicit X11CrtcRamps(const X11Connection& connection)
@@ -31,7 +35,7 @@ class X11CrtcRamps {
     /// have size 0 from then on.
     void load(const std::vector<xcb_randr_crtc_t>& crtcs);
     [[nodiscard]] bool isLoaded(xcb_randr_crtc_t crtc) const { return _crtcs.contains(crtc); }
-    /// Sends a CRTC its system ramp if a correction is on it, and forgets it.
+    /// Sends a CRTC its system ramp if it has a correction or is held, and forgets it.
     void release(xcb_randr_crtc_t crtc);
     /// Entries per channel; 0 when there is no gamma.
     [[nodiscard]] std::uint32_t size(xcb_randr_crtc_t crtc) const;
@@ -51,25 +55,31 @@ class X11CrtcRamps {
     struct CrtcRamp {
         HardwareRamp present;
         RampHistory history;
-        /// The present ramp is the system's, but the journal does not say so yet. It must before a
-        /// correction replaces it.
+        /// The journal does not have the system ramp yet. It must before a correction is set.
         bool isSystemRampUnsaved = false;
-        /// The correction that was set last was still there when it was set again.
-        bool wasInPlace = false;
+        bool isHeld = false;
+        /// The journal has the correction as this process's last.
+        bool isCorrectionSaved = false;
         /// The last table that was set and the ramp made of it.
         std::optional<GammaTable> table;
         HardwareRamp correction;
         std::uint64_t correctionFingerprint = 0;
     };
     struct Pending {
-        xcb_randr_crtc_t crtc;
-        xcb_randr_get_crtc_gamma_cookie_t replaced;
-        xcb_void_cookie_t set;
+        xcb_randr_crtc_t crtc = XCB_NONE;
+        xcb_void_cookie_t set{};
+        /// Asked for by the first correction on a CRTC that is not held.
+        std::optional<xcb_randr_get_crtc_gamma_cookie_t> replaced;
     };
 
-    void send(xcb_randr_crtc_t crtc, CrtcRamp& state, const HardwareRamp& ramp);
-    /// Takes the ramp that a set replaced for the system's, unless it was ours.
-    void examineReplaced(xcb_randr_crtc_t crtc, const xcb_randr_get_crtc_gamma_reply_t& replaced);
+    void look(xcb_randr_crtc_t crtc, HardwareRamp present, RampHistory history,
+              bool areRecordsLost);
+    void send(xcb_randr_crtc_t crtc, CrtcRamp& state, const HardwareRamp& ramp, bool isCorrection);
+    void examineReplaced(xcb_randr_crtc_t crtc, const HardwareRamp& replaced);
+    void saveAgain();
+    [[nodiscard]] RampHistory::Correction correctionOf(const CrtcRamp& state) const {
+        return {.fingerprint = state.correctionFingerprint, .holder = _journal.holder()};
+    }
 
     const X11Connection& _connection;
     X11RampJournal _journal;

@@ -6,17 +6,23 @@
 #include <utility>
 
 #include "foundation/TranslatableText.h"
-#include "platform/icc/CalibrationRamp.h"
 
 namespace tonquil {
 
 namespace {
 
-constexpr std::size_t mostProfileBytes = 4 * std::size_t{1024} * 1024;
-
 /// Whether an equal entry stands in the other list.
 bool isIn(const std::vector<X11Display>& displays, const X11Display& display) {
     return std::find(displays.begin(), displays.end(), display) != displays.end();
+}
+
+/// Whether the display's CRTC was set up in another way in between.
+bool wasOtherwise(const X11Reconfiguration::CrtcStates& passed, const X11Display& display) {
+    return std::any_of(passed.begin(), passed.end(), [&](const auto& state) {
+        const Rectangle bounds{static_cast<double>(state.x), static_cast<double>(state.y),
+                               static_cast<double>(state.width), static_cast<double>(state.height)};
+        return state.crtc == display.crtc && bounds != display.bounds;
+    });
 }
 
 }  // namespace
@@ -36,7 +42,8 @@ X11DisplayService::X11DisplayService(std::unique_ptr<X11Connection> connection, 
     : _connection(std::move(connection)),
       _runLoop(runLoop),
       _log(std::move(log)),
-      _ramps(*_connection) {}
+      _ramps(*_connection),
+      _profiles(*_connection) {}
 
 X11DisplayService::~X11DisplayService() = default;
 
@@ -54,6 +61,7 @@ void X11DisplayService::readLayout() {
     }
     _isLayoutOfBatch = true;
     _areRampsOfBatch = false;
+    _areProfilesOfBatch = false;
     for (const X11Display& display : previous.value_or(std::vector<X11Display>{})) {
         const bool keepsItsCrtc =
             std::any_of(_layout->begin(), _layout->end(), [&](const X11Display& now) {
@@ -201,8 +209,7 @@ std::uint32_t X11DisplayService::getTransferTable(DisplayID display, GammaTable&
     if (found == nullptr) {
         return 0;
     }
-    lookAtRamp(*found);
-    const auto ramp = _ramps.uncorrected(found->crtc);
+    const auto ramp = systemCalibration(*found);
     return ramp ? ramp->getTable(table) : 0;
 }
 
@@ -216,13 +223,15 @@ std::uint32_t X11DisplayService::getHardwareTable(DisplayID display, GammaTable&
     return ramp == nullptr ? 0 : ramp->getTable(table);
 }
 
-std::optional<HardwareRamp> X11DisplayService::profileRamp(const X11Display& display) {
-    // Desktops publish the main monitor's profile under the plain name and the others' by their
-    // number, in the order that the layout has.
+std::optional<HardwareRamp> X11DisplayService::systemCalibration(const X11Display& display) {
+    lookAtRamp(display);
+    if (!_isInBatch || !_areProfilesOfBatch) {
+        _profiles.load(layout().size());
+        _areProfilesOfBatch = true;
+    }
     const auto index = static_cast<std::size_t>(&display - layout().data());
-    const std::string name = index == 0 ? "_ICC_PROFILE" : "_ICC_PROFILE_" + std::to_string(index);
-    const auto profile = _connection->rootProperty(_connection->atom(name), mostProfileBytes);
-    return profile.empty() ? std::nullopt : calibrationRamp(profile, _ramps.size(display.crtc));
+    auto calibration = _profiles.calibration(index, _ramps.size(display.crtc));
+    return calibration ? calibration : _ramps.uncorrected(display.crtc);
 }
 
 void X11DisplayService::restoreSystemCalibration(std::span<const DisplayID> displays) {
@@ -231,14 +240,7 @@ void X11DisplayService::restoreSystemCalibration(std::span<const DisplayID> disp
         const X11Display* found = correctable(display);
         if (found == nullptr) {
             _allReached = false;
-            continue;
-        }
-        lookAtRamp(*found);
-        auto ramp = profileRamp(*found);
-        if (!ramp) {
-            ramp = _ramps.uncorrected(found->crtc);
-        }
-        if (ramp) {
+        } else if (const auto ramp = systemCalibration(*found)) {
             _ramps.setSystemRamp(found->crtc, *ramp);
         }
     }
@@ -261,6 +263,7 @@ void X11DisplayService::beginBatch() {
     _isInBatch = true;
     _isLayoutOfBatch = false;
     _areRampsOfBatch = false;
+    _areProfilesOfBatch = false;
     _allReached = true;
 }
 
@@ -297,8 +300,9 @@ std::unique_ptr<DisplayService::Subscription> X11DisplayService::registerReconfi
     if (!_reconfiguration && _runLoop != nullptr) {
         // Selected first and read after, so that no change falls between the two. What has changed
         // since the displays were listed is told like any other change.
-        _reconfiguration = std::make_unique<X11Reconfiguration>(*_connection, *_runLoop, _log,
-                                                                [this] { displaysChanged(); });
+        _reconfiguration = std::make_unique<X11Reconfiguration>(
+            *_connection, *_runLoop, _log,
+            [this](const X11Reconfiguration::CrtcStates& passed) { displaysChanged(passed); });
         const bool isListed = _layout.has_value();
         _announced = layout();
         readLayout();
@@ -312,7 +316,7 @@ std::unique_ptr<DisplayService::Subscription> X11DisplayService::registerReconfi
     return subscription;
 }
 
-void X11DisplayService::displaysChanged() {
+void X11DisplayService::displaysChanged(const X11Reconfiguration::CrtcStates& passed) {
     readLayout();
     const auto before = std::exchange(_announced, layout());
     std::vector<DisplayID> affected;
@@ -322,7 +326,8 @@ void X11DisplayService::displaysChanged() {
         }
     }
     for (const X11Display& display : _announced) {
-        if (!isIn(before, display) &&
+        const bool isChanged = wasOtherwise(passed, display) || !isIn(before, display);
+        if (isChanged &&
             std::find(affected.begin(), affected.end(), display.id) == affected.end()) {
             affected.push_back(display.id);
         }

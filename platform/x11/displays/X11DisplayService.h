@@ -11,6 +11,7 @@
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/displays/X11CrtcRamps.h"
 #include "platform/x11/displays/X11Layout.h"
+#include "platform/x11/displays/X11Profiles.h"
 #include "platform/x11/displays/X11Reconfiguration.h"
 #include "screens/DisplayService.h"
 #include "screens/ReconfigurationCallbacks.h"
@@ -65,14 +66,17 @@ class X11DisplayService : public DisplayService {
     void lookAtRamp(const X11Display& display);
     /// Why the display cannot be corrected; empty when it can.
     [[nodiscard]] std::string obstacle(const X11Display& display) const;
-    [[nodiscard]] std::optional<HardwareRamp> profileRamp(const X11Display& display);
-    void displaysChanged();
+    /// The calibration of the display's profile, else its ramp without our correction. Looks at
+    /// both as `lookAtRamp` does; null when there is no ramp.
+    [[nodiscard]] std::optional<HardwareRamp> systemCalibration(const X11Display& display);
+    void displaysChanged(const X11Reconfiguration::CrtcStates& passed);
     void report(DisplayID display, const std::string& text);
 
     std::unique_ptr<X11Connection> _connection;
     RunLoop* _runLoop;
     Log _log;
     X11CrtcRamps _ramps;
+    X11Profiles _profiles;
     std::optional<std::vector<X11Display>> _layout;
     /// What the callbacks were told of last.
     std::vector<X11Display> _announced;
@@ -88,6 +92,7 @@ class X11DisplayService : public DisplayService {
     bool _isInBatch = false;
     bool _isLayoutOfBatch = false;
     bool _areRampsOfBatch = false;
+    bool _areProfilesOfBatch = false;
     bool _allReached = true;
 };
 

@@ -17,36 +17,63 @@ namespace tonquil {
 /// exactly as long as the ramps themselves, and every process of ours can read them.
 ///
 /// Both are journals to which single requests append, so that neither a kill between two requests
-/// nor two processes writing at once can tear them:
-///  - corrections: CRTC, digest (high, low) for each correction that was set;
-///  - system ramps: CRTC, size, then the 16-bit entries two to a unit; the last of a CRTC counts.
+/// nor two processes writing at once can tear them. In 32-bit units:
+///  - corrections: check, CRTC, holder, fingerprint (high, low) for each correction that was set;
+///  - system ramps: check, CRTC, size, fingerprint (high, low), then the 16-bit entries two to a
+///    unit; the last of a CRTC counts.
+///
+/// The check, over the units up to the entries, tells a block from what other clients may write
+/// there. The holder is the X client that set the correction, by its resource base.
 class X11RampJournal {
  public:
     using Histories = std::map<xcb_randr_crtc_t, RampHistory>;
+    struct Contents {
+        Histories histories;
+        /// Something stood there that we never wrote, so that records of ours may be missing.
+        bool areCorrectionsDamaged = false;
+        bool areSystemRampsDamaged = false;
+    };
 
-    explicit X11RampJournal(const X11Connection& connection) : _connection(connection) {}
+    explicit X11RampJournal(const X11Connection& connection);
+
+    /// This process in the journal.
+    [[nodiscard]] std::uint32_t holder() const { return _holder; }
 
     /// Sends the questions; `receive` takes the answers, so that others can be asked in between.
     void ask();
-    [[nodiscard]] Histories receive();
+    /// Writes the journals anew if they are damaged.
+    [[nodiscard]] Contents receive();
+
+    /// Asks whether the corrections are still there, without reading them.
+    void askIfIntact();
+    /// False when somebody has replaced or shortened them: they should then be read again.
+    [[nodiscard]] bool isIntact();
 
     /// Appends without waiting: it reaches the server before whatever is sent next.
-    void appendCorrection(xcb_randr_crtc_t crtc, std::uint64_t fingerprint);
+    void appendCorrection(xcb_randr_crtc_t crtc, const RampHistory::Correction& correction);
     void appendSystemRamp(xcb_randr_crtc_t crtc, const HardwareRamp& ramp);
     /// Shortens the journals when they have grown long; waits for the server if so.
     void compactIfLong();
 
-    /// Reads what the properties hold; a block that makes no sense ends a journal.
-    [[nodiscard]] static Histories parse(std::span<const std::uint32_t> corrections,
-                                         std::span<const std::uint32_t> systemRamps);
+    /// Reads what the properties hold, passing over what makes no sense.
+    [[nodiscard]] static Contents parse(std::span<const std::uint32_t> corrections,
+                                        std::span<const std::uint32_t> systemRamps);
+    /// A block as it is appended.
+    [[nodiscard]] static std::vector<std::uint32_t> correctionBlock(
+        xcb_randr_crtc_t crtc, const RampHistory::Correction& correction);
+    [[nodiscard]] static std::vector<std::uint32_t> systemRampBlock(xcb_randr_crtc_t crtc,
+                                                                    const HardwareRamp& ramp);
 
  private:
-    void append(xcb_atom_t property, std::span<const std::uint32_t> units);
-    void replace(xcb_atom_t property, std::span<const std::uint32_t> units);
+    [[nodiscard]] Contents receiveAnswers();
+    void write(std::uint8_t mode, xcb_atom_t property, std::span<const std::uint32_t> units);
+    void rewrite();
 
     const X11Connection& _connection;
+    std::uint32_t _holder;
     xcb_get_property_cookie_t _correctionsCookie{};
     xcb_get_property_cookie_t _systemRampsCookie{};
+    xcb_get_property_cookie_t _intactCookie{};
     std::size_t _correctionUnits = 0;
     std::size_t _systemRampUnits = 0;
     std::size_t _compactCorrectionUnits = 0;

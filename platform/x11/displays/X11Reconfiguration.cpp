@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/displays/X11Reconfiguration.h"
 
-#include <xcb/randr.h>
-
+#include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace tonquil {
 
 X11Reconfiguration::X11Reconfiguration(const X11Connection& connection, RunLoop& runLoop, Log log,
-                                       std::function<void()> becameQuiet)
+                                       std::function<void(const CrtcStates&)> becameQuiet)
     : _connection(connection),
       _runLoop(runLoop),
       _log(std::move(log)),
@@ -30,9 +30,11 @@ void X11Reconfiguration::takeQueuedEvents() {
 }
 
 void X11Reconfiguration::takeEvents() {
-    while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(_connection.get())}) {
+    // One reading from the socket, not all that a storm has to say: others need the run loop too.
+    if (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(_connection.get())}) {
         take(*event);
     }
+    takeQueuedEvents();
     if (_connection.isLost() && _watch) {
         if (_log) {
             _log("The X server has gone; the displays are no longer watched.");
@@ -45,13 +47,42 @@ void X11Reconfiguration::takeEvents() {
 void X11Reconfiguration::take(const xcb_generic_event_t& event) {
     // Bit 7 says that another client sent the event.
     const int type = (event.response_type & 0x7F) - _connection.randrFirstEvent();
-    if (type == XCB_RANDR_SCREEN_CHANGE_NOTIFY || type == XCB_RANDR_NOTIFY) {
+    if (type == XCB_RANDR_NOTIFY) {
+        xcb_randr_notify_event_t change{};
+        std::memcpy(&change, &event, sizeof change);
+        if (change.subCode == XCB_RANDR_NOTIFY_CRTC_CHANGE) {
+            const xcb_randr_crtc_change_t& crtc = change.u.cc;
+            _passed.insert({.crtc = crtc.crtc,
+                            .x = crtc.x,
+                            .y = crtc.y,
+                            .width = crtc.mode == XCB_NONE ? std::uint16_t{0} : crtc.width,
+                            .height = crtc.mode == XCB_NONE ? std::uint16_t{0} : crtc.height});
+        }
+        waitForQuiet();
+    } else if (type == XCB_RANDR_SCREEN_CHANGE_NOTIFY) {
         waitForQuiet();
     }
 }
 
 void X11Reconfiguration::waitForQuiet() {
-    _timer = _runLoop.callOnce(quietTime, [this] { _becameQuiet(); });
+    _lastEvent = _runLoop.now();
+    if (!_timer) {
+        _firstEvent = _lastEvent;
+        _timer = _runLoop.callOnce(quietTime, [this] { callWhenDue(); });
+    }
+}
+
+// Not a new timer for each event: there may be thousands.
+void X11Reconfiguration::callWhenDue() {
+    using std::chrono::milliseconds;
+    const auto due = std::min(_lastEvent + quietTime, _firstEvent + longestWait);
+    const auto left = std::chrono::ceil<milliseconds>(due - _runLoop.now());
+    if (left > milliseconds(0)) {
+        _timer = _runLoop.callOnce(left, [this] { callWhenDue(); });
+        return;
+    }
+    _timer.reset();
+    _becameQuiet(std::exchange(_passed, {}));
 }
 
 }  // namespace tonquil

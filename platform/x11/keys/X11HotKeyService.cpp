@@ -42,11 +42,6 @@ Event as(const xcb_generic_event_t& event) {
     return result;
 }
 
-HotKeyServiceEvent eventFrom(const xcb_key_press_event_t& event, const X11Modifiers& modifiers) {
-    return {0, static_cast<double>(event.root_x), static_cast<double>(event.root_y),
-            modifiers.flags(event.state), milliseconds(event.time)};
-}
-
 }  // namespace
 
 Result<std::unique_ptr<X11HotKeyService>> X11HotKeyService::open(const char* display,
@@ -172,7 +167,8 @@ std::optional<HotKeyHandle> X11HotKeyService::find(xcb_keycode_t key, std::uint1
     return found != _registrations.end() ? std::optional(found->first) : std::nullopt;
 }
 
-// Events that came with an answer are in memory, where the descriptor does not show them.
+// Events that arrived together with a reply are already in memory, so the descriptor is not
+// readable.
 void X11HotKeyService::takeEventsSoon() {
     _early = _runLoop.callOnce(milliseconds(0), [this] { takeEvents(); });
 }
@@ -187,7 +183,7 @@ void X11HotKeyService::takeEvents() {
 }
 
 void X11HotKeyService::take(const xcb_generic_event_t& event) {
-    // Bit 7 says that another client sent the event: such keys nobody pressed.
+    // Bit 7 marks an event that another client sent: nobody pressed that key.
     const int type = event.response_type;
     if (type == XCB_KEY_PRESS) {
         keyPressed(as<xcb_key_press_event_t>(event));
@@ -198,16 +194,23 @@ void X11HotKeyService::take(const xcb_generic_event_t& event) {
     }
 }
 
-void X11HotKeyService::keyPressed(const xcb_key_press_event_t& event) {
-    _serverTime = milliseconds(event.time);
+HotKeyServiceEvent X11HotKeyService::eventFrom(const xcb_key_press_event_t& event) {
+    // The server counts milliseconds in 32 bits and begins again after seven weeks.
+    const auto step = event.time - static_cast<std::uint32_t>(_serverTime.count());
+    _serverTime += milliseconds(static_cast<std::int32_t>(step));
     _serverTimeTaken = _runLoop.now();
+    return {0, static_cast<double>(event.root_x), static_cast<double>(event.root_y),
+            _modifiers.flags(event.state), _serverTime};
+}
+
+void X11HotKeyService::keyPressed(const xcb_key_press_event_t& event) {
+    HotKeyServiceEvent told = eventFrom(event);
     // While a hot key is down, every key comes here.
     const auto handle = find(event.detail, _modifiers.held(event.state));
     if (!handle || _held.contains(event.detail) || _downBefore.contains(event.detail)) {
         return;
     }
     _held[event.detail] = {*handle, ++_lastNumber};
-    HotKeyServiceEvent told = eventFrom(event, _modifiers);
     told.id = _registrations.at(*handle).id;
     // A copy, since what is called may set other handlers.
     if (const Handler handler = _pressed) {
@@ -216,10 +219,9 @@ void X11HotKeyService::keyPressed(const xcb_key_press_event_t& event) {
 }
 
 void X11HotKeyService::keyReleased(const xcb_key_press_event_t& event) {
-    _serverTime = milliseconds(event.time);
-    _serverTimeTaken = _runLoop.now();
+    const HotKeyServiceEvent told = eventFrom(event);
     _downBefore.erase(event.detail);
-    release(event.detail, eventFrom(event, _modifiers));
+    release(event.detail, told);
     // The grab that began with the first of several keys ends with it, and with it the events.
     if (!_held.empty()) {
         lookUntilReleased();
@@ -238,8 +240,8 @@ void X11HotKeyService::release(xcb_keycode_t key, HotKeyServiceEvent event) {
     }
 }
 
-// A key that is down while it is registered, perhaps since somebody just recorded it, was not
-// pressed as a hot key; its repeats look as if it were.
+// A key may be down while it is registered, for example because somebody has just recorded it. That
+// press is not a hot key, although its repeats look like one.
 void X11HotKeyService::noteIfDown(xcb_keycode_t key) {
     const auto keymap = queryKeymap();
     if (keymap && isDown(*keymap, key)) {

@@ -65,6 +65,7 @@ class X11HotKeyService final : public HotKeyService {
     void takeEvents();
     void takeEventsSoon();
     void take(const xcb_generic_event_t& event);
+    [[nodiscard]] HotKeyServiceEvent eventFrom(const xcb_key_press_event_t& event);
     void keyPressed(const xcb_key_press_event_t& event);
     void keyReleased(const xcb_key_press_event_t& event);
     void release(xcb_keycode_t key, HotKeyServiceEvent event);
@@ -91,7 +92,8 @@ class X11HotKeyService final : public HotKeyService {
     std::uint64_t _lastNumber = 0;
     /// Keys that have been down since before they were registered.
     std::set<xcb_keycode_t> _downBefore;
-    /// The server's time in the last event of a key, and ours when it came.
+    /// The server's time in the last event of a key, counted on beyond its 32 bits, and our time
+    /// when it came.
     std::chrono::milliseconds _serverTime{0};
     RunLoop::Clock::time_point _serverTimeTaken;
     std::unique_ptr<RunLoop::Handle> _watch;
