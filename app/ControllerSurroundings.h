@@ -19,10 +19,10 @@
 #include "app/panel/PanelWindow.h"
 #include "app/panel/WindowSystem.h"
 #include "app/preferences/PreferencesStore.h"
+#include "app/remote/RemoteConfiguration.h"
 #include "foundation/Log.h"
 #include "foundation/RunLoop.h"
 #include "hotkeys/DDHotKeyCenter.h"
-#include "remote/TQPlayerServer.h"
 #include "screens/ScreenRegistry.h"
 
 namespace tonquil {
@@ -45,8 +45,7 @@ struct ControllerSurroundings {
     WindowSystem& windowSystem;
     const InstalledPrograms& programs;
     DDHotKeyCenter& hotKeys;
-    /// Opens a server for companions; null, after a line in the log, where there can be none.
-    std::function<std::unique_ptr<TQPlayerServer>()> openServer;
+    RemoteConfiguration::ServerOpener openServer;
     /// Where session events come from; may be empty.
     std::vector<SessionEvents*> sessionEvents;
     /// Why there are no displays, where there never will be any; else empty.

@@ -67,6 +67,8 @@ TQController::TQController(const ControllerSurroundings& surroundings)
                        _with.panel.showRemoteConfiguration(isRunning);
                        _with.presence.showRemoteConfiguration(isRunning);
                    },
+               .showProblem =
+                   [this](const std::string& text) { _with.windows.showRemoteProblem(text); },
                .log = _with.log}) {
     _correction.show = [this](bool isOn) { showCorrection(isOn); };
 }

@@ -190,7 +190,7 @@ void Program::makeController() {
                                .windowSystem = *_windowSystem,
                                .programs = _installedPrograms,
                                .hotKeys = *_hotKeys,
-                               .openServer = [this] { return openServer(); },
+                               .openServer = [this](Log log) { return openServer(std::move(log)); },
                                .sessionEvents = std::move(events),
                                .whyNoDisplays = _whyNoDisplays,
                                .endProgram = [this] { end(); },
@@ -203,8 +203,8 @@ void Program::makeController() {
     _presence->showWebSites(hasSite, hasBoardSite);
 }
 
-std::unique_ptr<TQPlayerServer> Program::openServer() {
-    auto server = TQPlayerServer::init(
+Result<std::unique_ptr<TQPlayerServer>> Program::openServer(Log log) {
+    return TQPlayerServer::init(
         {.runLoop = _runLoop,
          .openSocket = []() -> Result<std::unique_ptr<DatagramSocket>> {
              return UdpSocket::open().map(
@@ -212,8 +212,7 @@ std::unique_ptr<TQPlayerServer> Program::openServer() {
          },
          .host = std::make_shared<PosixLocalHost>(),
          .guid = _guid,
-         .log = logLine});
-    return server ? std::move(*server) : nullptr;
+         .log = std::move(log)});
 }
 
 SessionRestoration::Storage Program::sessionStorage() {

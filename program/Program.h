@@ -51,7 +51,7 @@ class Program {
     void makeWindows();
     void makeController();
     void end();
-    [[nodiscard]] std::unique_ptr<TQPlayerServer> openServer();
+    [[nodiscard]] Result<std::unique_ptr<TQPlayerServer>> openServer(Log log);
     [[nodiscard]] SessionRestoration::Storage sessionStorage();
 
     [[nodiscard]] SaveReports saveReports(std::optional<Problem>& latest);

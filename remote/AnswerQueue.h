@@ -17,8 +17,8 @@ namespace tonquil {
 /// where more is asked than `AnswerLimits` grants.
 ///
 /// What cannot be answered at once waits, one recipient of each host and `mostWaiting` hosts, and
-/// the newest is answered first. So one who asks right after a flood is answered within the time
-/// of a grant, and not after the flood's leftovers; who has waited for `longestWait` asks again.
+/// the newest is answered first. So a companion that asks right after a flood does not wait for the
+/// flood's leftovers to be answered. Whoever has waited for `longestWait` has to ask again.
 class AnswerQueue {
  public:
     using Send = std::function<void(const SocketAddress& recipient)>;
@@ -31,7 +31,8 @@ class AnswerQueue {
     AnswerQueue(const AnswerQueue&) = delete;
     AnswerQueue& operator=(const AnswerQueue&) = delete;
 
-    /// Whether the recipient may be answered at once; the answer is then counted.
+    /// Whether the recipient may be answered at once; the answer is then counted. Programs on this
+    /// computer (127.0.0.0/8) always may.
     [[nodiscard]] bool admits(const SocketAddress& recipient);
     /// Has the recipient answered as soon as it may be, which may be never.
     void defer(const SocketAddress& recipient);

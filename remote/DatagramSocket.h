@@ -13,7 +13,7 @@ namespace tonquil {
 /// An IPv4 datagram socket that never makes its caller wait.
 class DatagramSocket {
  public:
-    /// Takes one datagram, whole. It may destroy the socket and the handle of the watch.
+    /// Called with one whole datagram. It may destroy the socket and the handle of the watch.
     using Receiver = std::function<void(std::string_view bytes, const SocketAddress& source)>;
 
     virtual ~DatagramSocket() = default;
@@ -23,10 +23,11 @@ class DatagramSocket {
     /// Gives 0, or the system's error code; a port that another socket has is an error.
     [[nodiscard]] virtual int bind(const SocketAddress& address) = 0;
     /// Passes on what comes in, in order, for as long as the handle lives; null when the socket
-    /// cannot be watched. However much comes in, the run loop gets its turns.
+    /// cannot be watched. However much comes in, other work of the run loop is not held up.
     [[nodiscard]] virtual std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& runLoop,
                                                                      Receiver receiver) = 0;
-    /// Sends one datagram at once or not at all. Gives 0, or the system's error code.
+    /// Sends one datagram at once or not at all, from the recipient's `ownHost` where it has one.
+    /// To 255.255.255.255 it goes out on every network. Gives 0, or the system's error code.
     [[nodiscard]] virtual int send(std::string_view bytes, const SocketAddress& recipient) = 0;
 };
 

@@ -21,6 +21,9 @@ class LocalHost {
     [[nodiscard]] virtual std::optional<HardwareAddress> hardwareAddress() const = 0;
     /// Whether an IPv4 address (first number in the highest byte) is one of this computer's.
     [[nodiscard]] virtual bool hasAddress(std::uint32_t host) const = 0;
+    /// Whether a datagram to this IPv4 address reaches every computer on one of the networks that
+    /// this one is on. Asked for each datagram.
+    [[nodiscard]] virtual bool isBroadcastAddress(std::uint32_t host) const = 0;
 };
 
 }  // namespace tonquil

@@ -21,6 +21,12 @@ SocketAddress::SocketAddress(std::uint32_t host, std::uint16_t port)
              byteOf(host, 8),
              byteOf(host, 0)} {}
 
+SocketAddress SocketAddress::reachedFrom(std::uint32_t ownHost) const {
+    SocketAddress address = *this;
+    address._ownHost = ownHost;
+    return address;
+}
+
 std::uint32_t SocketAddress::host() const {
     return std::uint32_t{_bytes[4]} << 24U | std::uint32_t{_bytes[5]} << 16U |
            std::uint32_t{_bytes[6]} << 8U | _bytes[7];

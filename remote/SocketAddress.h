@@ -13,6 +13,10 @@ namespace tonquil {
 ///
 /// It is kept as the 16 bytes of a socket address: its length 16, the family 2, the port and the
 /// address in network order, eight zeros. Two addresses are the same when all of these are.
+///
+/// The source of a datagram also knows which of this computer's addresses the datagram was sent
+/// to. A companion expects its answer from there, so what is sent to such an address leaves from
+/// it.
 class SocketAddress {
  public:
     using Bytes = std::array<std::uint8_t, 16>;
@@ -31,13 +35,23 @@ class SocketAddress {
     [[nodiscard]] std::uint16_t port() const;
     [[nodiscard]] const Bytes& bytes() const { return _bytes; }
 
-    friend bool operator==(const SocketAddress&, const SocketAddress&) = default;
+    /// The same address, to which datagrams leave from `ownHost`.
+    [[nodiscard]] SocketAddress reachedFrom(std::uint32_t ownHost) const;
+    /// Our own address to send from; 0 leaves it to the system.
+    [[nodiscard]] std::uint32_t ownHost() const { return _ownHost; }
+    /// Whether it is in 127.0.0.0/8. The system takes no such source from the network.
+    [[nodiscard]] bool isLoopback() const { return _bytes[4] == 127; }
+
+    friend bool operator==(const SocketAddress& left, const SocketAddress& right) {
+        return left._bytes == right._bytes;
+    }
     friend bool operator<(const SocketAddress& left, const SocketAddress& right) {
         return left._bytes < right._bytes;
     }
 
  private:
     Bytes _bytes;
+    std::uint32_t _ownHost = 0;
 };
 
 }  // namespace tonquil

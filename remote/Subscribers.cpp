@@ -6,31 +6,23 @@
 namespace tonquil {
 
 void Subscribers::subscribe(const SocketAddress& address, Time now) {
-    if (!_expiries.contains(address)) {
-        makeRoomFor(address);
+    // Taken out first: it comes back with the address of ours that it asked last.
+    if (_expiries.erase(address) == 0 && !hasRoomFor(address)) {
+        removeExpired(now);
+        if (!hasRoomFor(address)) {
+            return;
+        }
     }
-    _expiries[address] = now + lifetime;
+    _expiries.emplace(address, now + lifetime);
 }
 
-void Subscribers::makeRoomFor(const SocketAddress& address) {
+bool Subscribers::hasRoomFor(const SocketAddress& address) const {
     const auto isOfSameHost = [&](const auto& entry) {
         return entry.first.host() == address.host();
     };
-    const bool hasItsShare = std::ranges::count_if(_expiries, isOfSameHost) >=
-                             static_cast<std::ptrdiff_t>(mostOfOneHost);
-    if (!hasItsShare && _expiries.size() < most) {
-        return;
-    }
-    auto nearest = _expiries.end();
-    for (auto entry = _expiries.begin(); entry != _expiries.end(); ++entry) {
-        if (hasItsShare && !isOfSameHost(*entry)) {
-            continue;
-        }
-        if (nearest == _expiries.end() || entry->second < nearest->second) {
-            nearest = entry;
-        }
-    }
-    _expiries.erase(nearest);
+    return _expiries.size() < most &&
+           (address.isLoopback() || std::ranges::count_if(_expiries, isOfSameHost) <
+                                        static_cast<std::ptrdiff_t>(mostOfOneHost));
 }
 
 void Subscribers::removeExpired(Time now) {

@@ -11,16 +11,16 @@ namespace tonquil {
 
 namespace {
 
-// What the log shows of a datagram: a usual announce, whole.
+// How much of a datagram the log shows: a usual announce fits.
 constexpr std::size_t mostLoggedBytes = 1024;
-// What a self-test remembers; anything above the first name only makes a stranger feel welcome.
+// How many names a self-test keeps. One is enough to pass it.
 constexpr std::size_t mostNames = 64;
 constexpr std::size_t mostNameBytes = 256;
-// Far above the displays of any computer; a datagram has room for a thousand empty states.
+// Far more than a computer has displays; a datagram has room for a thousand empty states.
 constexpr int mostStates = 256;
-// The time in which the rate of pushes grants one.
+// `AnswerLimits::forPushes` allows one push in this time.
 constexpr std::chrono::milliseconds betweenPushes{200};
-// Of our own scans in one self-test, however many ways lead back to us.
+// How many of our own scans pass in one self-test: one comes back for each network.
 constexpr int mostOwnScans = 4;
 
 }  // namespace
@@ -62,6 +62,7 @@ std::optional<Problem> TQPlayerServer::setUp() {
     };
     auto socket = _environment.openSocket();
     if (!socket) {
+        log(socket.error().detail);
         return std::move(socket.error());
     }
     _socket = std::move(*socket);
@@ -101,7 +102,9 @@ void TQPlayerServer::_selfTestEnd() {
 }
 
 void TQPlayerServer::_receiveData(std::string_view bytes, const SocketAddress& source) {
-    if (source.host() == SocketAddress::broadcastHost) {
+    // An answer to such a source would reach everybody.
+    if (source.host() == SocketAddress::broadcastHost ||
+        _environment.host->isBroadcastAddress(source.host())) {
         return;
     }
     switch (remote::kindOf(bytes)) {
@@ -135,8 +138,8 @@ void TQPlayerServer::answer(const SocketAddress& source) {
     }
 }
 
-// A flood at the wrong moment must not let the self-test fail. The system takes no datagram from
-// the network that claims to come from this computer, so nobody else can use this way in.
+// A flood at the wrong moment must not make the self-test fail. The system drops datagrams from the
+// network that claim to come from this computer, so nobody else gets past the limits this way.
 bool TQPlayerServer::isOwnScan(const SocketAddress& source) {
     if (!_selfTestNames || _ownScansLeft == 0 || source.port() != _udpPort ||
         !_environment.host->hasAddress(source.host())) {
@@ -235,7 +238,7 @@ void TQPlayerServer::sendStateToSubscribers() {
         return;
     }
     if (!_pushes.take(_environment.runLoop.now())) {
-        // Nobody misses the last state, however many came before it.
+        // The last state is always told, however many came before it.
         if (!_latePush) {
             _latePush = _environment.runLoop.callOnce(betweenPushes, [this] {
                 _latePush.reset();

@@ -24,16 +24,16 @@
 
 namespace tonquil {
 
-/// Answers companions on the local network: tells them of the displays and passes on what they
+/// Answers companions on the local network: describes the displays to them and passes on what they
 /// set. It knows no displays itself; its data source does.
 ///
-/// Everything happens on the thread of the run loop. Destroying the server ends all at once, also
-/// while its self-test runs, which then tells nobody, and also from within its data source.
+/// Everything happens on the thread of the run loop. A server may be destroyed at any time, also
+/// from a call of its data source. A self-test that is running then ends without a result.
 class TQPlayerServer {
  public:
     using SocketOpener = std::function<Result<std::unique_ptr<DatagramSocket>>()>;
 
-    /// What a server works with; what is referred to outlives it.
+    /// What a server works with. The referenced objects must outlive it.
     struct Environment {
         RunLoop& runLoop;
         SocketOpener openSocket;
@@ -49,7 +49,7 @@ class TQPlayerServer {
 
     /// Opens the socket, binds it to `port` of all addresses and starts the self-test.
     ///
-    /// A problem when the socket cannot be had; the log then has a line about it. Set the data
+    /// A problem when there is no socket or no port; its detail is also in the log. Set the data
     /// source before the run loop turns.
     [[nodiscard]] static Result<std::unique_ptr<TQPlayerServer>> initWithUDPPort(
         Environment environment, std::uint16_t port);
@@ -62,7 +62,7 @@ class TQPlayerServer {
     TQPlayerServer& operator=(const TQPlayerServer&) = delete;
 
     [[nodiscard]] std::uint16_t UDPPort() const { return _udpPort; }
-    /// Only notes the number; the socket stays where it is.
+    /// Changes only the number, not the port of the socket.
     void setUDPPort(std::uint16_t port) { _udpPort = port; }
     [[nodiscard]] TQPlayerServerDataSource* dataSource() const { return _dataSource; }
     /// Not owned. Without one, the server has no displays and sets nothing.
@@ -99,7 +99,7 @@ class TQPlayerServer {
     void ignore(std::string_view bytes);
     void log(std::string_view line) const;
 
-    /// Gone when the server is, for calls after which nobody knows.
+    /// Expires with the server: a call of the data source may destroy it.
     std::shared_ptr<bool> _isAlive = std::make_shared<bool>(true);
     Environment _environment;
     std::uint16_t _udpPort;

@@ -432,6 +432,10 @@
 <context>
     <name>Problem</name>
     <message>
+        <source>UDP port 44188 cannot be used. Another program may have it. It is tried again every 5 seconds.</source>
+        <translation>Der UDP-Port 44188 kann nicht benutzt werden. Vielleicht hat ihn ein anderes Programm. Alle 5 Sekunden folgt ein neuer Versuch.</translation>
+    </message>
+    <message>
         <source>The panel is on no display. Move it onto one.</source>
         <translation>Das Bedienfeld ist auf keinem Bildschirm. Ziehen Sie es auf einen.</translation>
     </message>

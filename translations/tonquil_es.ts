@@ -432,6 +432,10 @@
 <context>
     <name>Problem</name>
     <message>
+        <source>UDP port 44188 cannot be used. Another program may have it. It is tried again every 5 seconds.</source>
+        <translation>No se puede usar el puerto UDP 44188. Puede que lo tenga otro programa. Se vuelve a intentar cada 5 segundos.</translation>
+    </message>
+    <message>
         <source>The panel is on no display. Move it onto one.</source>
         <translation>El panel no está en ninguna pantalla. Muévalo a una.</translation>
     </message>

@@ -432,6 +432,10 @@
 <context>
     <name>Problem</name>
     <message>
+        <source>UDP port 44188 cannot be used. Another program may have it. It is tried again every 5 seconds.</source>
+        <translation>Le port UDP 44188 ne peut pas être utilisé. Un autre programme l’occupe peut-être. Un nouvel essai a lieu toutes les 5 secondes.</translation>
+    </message>
+    <message>
         <source>The panel is on no display. Move it onto one.</source>
         <translation>Le panneau n’est sur aucun écran. Placez-le sur l’un d’eux.</translation>
     </message>

@@ -432,6 +432,10 @@
 <context>
     <name>Problem</name>
     <message>
+        <source>UDP port 44188 cannot be used. Another program may have it. It is tried again every 5 seconds.</source>
+        <translation>UDPポート44188を使用できません。ほかのプログラムが使用している可能性があります。5秒ごとに再試行します。</translation>
+    </message>
+    <message>
         <source>The panel is on no display. Move it onto one.</source>
         <translation>パネルがどのディスプレイ上にもありません。いずれかのディスプレイに移動してください。</translation>
     </message>

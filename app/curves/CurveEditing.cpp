@@ -8,6 +8,8 @@ namespace tonquil {
 namespace {
 
 constexpr std::chrono::milliseconds resetPause{500};
+// Between two slider drags of a companion, which does not tell where one ends.
+constexpr std::chrono::seconds pauseFromAfar{1};
 
 /// Whether each of the screens has a curve of these values already.
 bool haveCurve(const ScreenRegistry::Screens& screens, const KVGammaCurve& curve) {
@@ -123,6 +125,17 @@ void CurveEditing::willEdit(const ScreenRegistry::Screens& screens, int subject)
     _with.history.endStep();
     _with.history.willEdit(screens, subject);
     _with.history.endStep();
+}
+
+// The step is about all displays, since one slider of a companion may move several of them, each
+// with a datagram of its own.
+void CurveEditing::willEditFromAfar() {
+    const auto now = _with.runLoop.now();
+    if (now - _lastFromAfar >= pauseFromAfar) {
+        _with.history.endStep();
+    }
+    _lastFromAfar = now;
+    _with.history.willEdit(_with.registry.screens(), editSubject::remote);
 }
 
 void CurveEditing::curvesWereEdited() {

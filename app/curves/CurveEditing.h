@@ -44,6 +44,9 @@ class CurveEditing {
 
     /// Somebody else is about to replace curves: one step to undo, whatever came before.
     void willEdit(const ScreenRegistry::Screens& screens, int subject);
+    /// A companion on the network is about to replace curves. What it does without a second's pause
+    /// is one step to undo, on however many displays.
+    void willEditFromAfar();
     /// To be called after each edit: shows it, and sees to it that it is kept.
     void curvesWereEdited();
 
@@ -54,6 +57,7 @@ class CurveEditing {
 
     Surroundings _with;
     std::unique_ptr<RunLoop::Handle> _resetTimer;
+    RunLoop::Clock::time_point _lastFromAfar{};
 };
 
 }  // namespace tonquil

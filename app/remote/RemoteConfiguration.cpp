@@ -8,20 +8,52 @@ namespace tonquil {
 
 RemoteConfiguration::RemoteConfiguration(const Surroundings& surroundings)
     : _with(surroundings),
-      _displays(surroundings.registry, surroundings.targets, surroundings.log, reactions()) {}
+      _displays(surroundings.registry, surroundings.targets, surroundings.runLoop, surroundings.log,
+                reactions()) {}
 
 void RemoteConfiguration::_applyDefaultsToServer() {
     const bool isAllowed = _with.preferences.boolForKey(settingsKey::allowRemote);
-    if (isAllowed && !_server) {
-        _server = _with.openServer();
-        if (_server) {
-            _server->setDataSource(&_displays);
-            _server->broadcastAnnounce();
-        }
-    } else if (!isAllowed) {
-        _server.reset();
+    if (!isAllowed) {
+        stopServer();
+    } else if (!_server && !_retry) {
+        startServer();
     }
     _with.showRunning(_server != nullptr);
+}
+
+void RemoteConfiguration::startServer() {
+    // The same failure every few seconds is one line in the log.
+    const bool isRetry = _retry != nullptr;
+    auto opened = _with.openServer([this](std::string_view line) {
+        if (line != _lastFailure) {
+            _with.log(line);
+        }
+    });
+    _retry.reset();
+    if (!opened) {
+        _lastFailure = opened.error().detail;
+        _retry = _with.runLoop.callOnce(retryInterval, [this] { startServer(); });
+        _with.showProblem(TONQUIL_TEXT("Problem",
+                                       "UDP port 44188 cannot be used. Another program may have "
+                                       "it. It is tried again every 5 seconds."));
+        return;
+    }
+    _lastFailure.clear();
+    _server = std::move(*opened);
+    _server->setDataSource(&_displays);
+    _server->broadcastAnnounce();
+    _with.showProblem("");
+    if (isRetry) {
+        _with.showRunning(true);
+    }
+}
+
+void RemoteConfiguration::stopServer() {
+    _retry.reset();
+    _lastFailure.clear();
+    _server.reset();
+    _displays.dropWaiting();
+    _with.showProblem("");
 }
 
 void RemoteConfiguration::pushStateUpdate() {
@@ -32,12 +64,10 @@ void RemoteConfiguration::pushStateUpdate() {
     });
 }
 
-// A curve from the network is an edit like any other: it can be undone, and it outlives a crash.
+// A curve from the network is an edit like any other: it can be undone, and a crash does not lose
+// it.
 RemoteDisplays::Reactions RemoteConfiguration::reactions() {
-    return {.willEdit =
-                [this](const ScreenRegistry::Screens& screens) {
-                    _with.editing.willEdit(screens, editSubject::remote);
-                },
+    return {.willEdit = [this] { _with.editing.willEditFromAfar(); },
             .didEdit = [this] { _with.editing.curvesWereEdited(); },
             .refreshPanel = [this] { _with.view._updateCurveInPanel(); },
             .targetClosed = [this] { pushStateUpdate(); },

@@ -15,8 +15,8 @@ constexpr std::string_view colorTargets = "colorTargets";
 constexpr std::string_view grayscaleTargets = "grayscaleTargets";
 constexpr std::string_view transparent = "transparent";
 
-// Curves keep to a few units; beyond this a table is all ends, and infinities could not be told of
-// in an announce.
+// The numbers of a curve are a few units at most. Beyond this a table is only zeros and ones, and
+// an infinity could not be written into an announce.
 constexpr float largestMagnitude = 1000;
 
 std::string_view contentOf(TargetKind kind) {
@@ -34,13 +34,30 @@ bool isUsable(const TQExtendedGammaCurve& curve) {
            isPointInReach(curve.middlePoint()) && isPointInReach(curve.whitePoint());
 }
 
-/// The display's curve in the form that it is sent in.
+/// The display's curve as it is sent.
 PropertyValue compactArrayOf(const KVScreen& screen) {
     const auto curve = std::dynamic_pointer_cast<TQExtendedGammaCurve>(screen.gammaCurve());
     return curve ? curve->gammaCurveCompactArray() : PropertyValue();
 }
 
 }  // namespace
+
+RemoteDisplays::RemoteDisplays(ScreenRegistry& registry, TargetWindows& targets, RunLoop& runLoop,
+                               const Log& log, Reactions reactions)
+    : _registry(registry),
+      _targets(targets),
+      _runLoop(runLoop),
+      _log(log),
+      _refusalLog(log, "further curves from the network were not taken"),
+      _reactions(std::move(reactions)),
+      _remoteTargets({.registry = registry,
+                      .targets = targets,
+                      .runLoop = runLoop,
+                      .closed = _reactions.targetClosed,
+                      .log = log}),
+      _orders(runLoop, [this](const std::string& referenceID, const RemoteOrder& order) {
+          carryOut(referenceID, order);
+      }) {}
 
 std::vector<std::string> RemoteDisplays::screensForPlayerServer(TQPlayerServer& /*server*/) {
     std::vector<std::string> referenceIDs;
@@ -69,7 +86,7 @@ PropertyValue RemoteDisplays::playerServerInfoForScreen(TQPlayerServer& /*server
             {"content", kind ? contentOf(*kind) : transparent}};
 }
 
-// The words differ from those of the infos: whoever reads states knows them so.
+// The words differ from those of the infos; readers of states know these.
 PropertyValue RemoteDisplays::playerServerStateForScreen(TQPlayerServer& /*server*/,
                                                          const std::string& referenceID) {
     const auto screen = _registry.screenWithReferenceID(referenceID);
@@ -93,47 +110,67 @@ void RemoteDisplays::playerServerSetStateForScreen(TQPlayerServer& /*server*/,
                                                    const std::string& referenceID) {
     const auto screen = _registry.screenWithReferenceID(referenceID);
     if (!screen) {
-        _reactions.refreshPanel();
+        // All that a display we do not have leads to is one more look at the panel. The names that
+        // strangers make up are not kept.
+        _orders.add("", {});
         return;
     }
+    RemoteOrder order;
     if (const auto gamma = state.find("gamma"); gamma != state.end()) {
-        setCurve(*screen, *gamma);
+        order.curve = curveFrom(*gamma, *screen);
     }
-    _reactions.refreshPanel();
     if (const auto content = state.find("content");
         content != state.end() && content->is_string()) {
-        setContent(screen->directDisplayID(), content->get<std::string>());
+        order.content = content->get<std::string>();
+    }
+    _orders.add(referenceID, std::move(order));
+}
+
+std::shared_ptr<TQExtendedGammaCurve> RemoteDisplays::curveFrom(const PropertyValue& compactArray,
+                                                                const KVScreen& screen) {
+    auto curve = TQExtendedGammaCurve::gammaCurveWithCompactArray(compactArray);
+    if (curve && isUsable(*curve)) {
+        return curve;
+    }
+    if (_refusalLog.admits(_runLoop.now())) {
+        std::string line = "A curve from the network was not taken for the display ";
+        _log(line.append(screen.referenceID()).append(": no display can show it."));
+    }
+    return nullptr;
+}
+
+void RemoteDisplays::carryOut(const std::string& referenceID, const RemoteOrder& order) {
+    // It may have gone while the order waited.
+    const auto screen = _registry.screenWithReferenceID(referenceID);
+    if (screen && order.curve) {
+        setCurve(*screen, order.curve);
+    }
+    _reactions.refreshPanel();
+    if (screen && order.content) {
+        setContent(screen->directDisplayID(), *order.content);
     }
 }
 
-void RemoteDisplays::setCurve(KVScreen& screen, const PropertyValue& compactArray) {
-    const auto curve = TQExtendedGammaCurve::gammaCurveWithCompactArray(compactArray);
-    if (!curve || !isUsable(*curve)) {
-        std::string line = "A curve from the network was not taken for the display ";
-        _log(line.append(screen.referenceID()).append(": no display can show it."));
-        return;
-    }
-    // Companions repeat what they have sent, since nobody tells them that it came. It is no edit,
+void RemoteDisplays::setCurve(KVScreen& screen,
+                              const std::shared_ptr<TQExtendedGammaCurve>& curve) const {
+    // Companions repeat what they have sent, since nobody tells them that it arrived. It is no edit,
     // yet the display may have been disturbed.
     if (compactArrayOf(screen) == curve->gammaCurveCompactArray()) {
         screen.setGammaCurve(curve);
         return;
     }
-    const auto& screens = _registry.screens();
-    const auto listed = std::ranges::find_if(
-        screens, [&screen](const auto& each) { return each.get() == &screen; });
-    _reactions.willEdit({*listed});
+    _reactions.willEdit();
     screen.setGammaCurve(curve);
     _reactions.didEdit();
 }
 
 void RemoteDisplays::setContent(DisplayID display, const std::string& content) {
     if (content == colorTargets) {
-        _targets.coverDisplay(display, TargetKind::Color, _reactions.targetClosed);
+        _remoteTargets.show(display, TargetKind::Color);
     } else if (content == grayscaleTargets) {
-        _targets.coverDisplay(display, TargetKind::Grayscale, _reactions.targetClosed);
+        _remoteTargets.show(display, TargetKind::Grayscale);
     } else {
-        _targets.uncoverDisplay(display);
+        _remoteTargets.dismiss(display);
     }
 }
 

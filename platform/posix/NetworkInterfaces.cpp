@@ -26,13 +26,18 @@ Interfaces interfaces() {
 
 /// The address as the system's structure for the family; nothing for another family.
 template <typename Address>
-std::optional<Address> addressOf(const ifaddrs& interface, int family) {
-    if (interface.ifa_addr == nullptr || interface.ifa_addr->sa_family != family) {
+std::optional<Address> addressFrom(const sockaddr* generic, int family) {
+    if (generic == nullptr || generic->sa_family != family) {
         return std::nullopt;
     }
     Address address{};
-    std::memcpy(&address, interface.ifa_addr, sizeof address);
+    std::memcpy(&address, generic, sizeof address);
     return address;
+}
+
+template <typename Address>
+std::optional<Address> addressOf(const ifaddrs& interface, int family) {
+    return addressFrom<Address>(interface.ifa_addr, family);
 }
 
 }  // namespace
@@ -67,6 +72,30 @@ bool isOwnAddress(std::uint32_t host) {
         }
     }
     return false;
+}
+
+std::vector<std::uint32_t> broadcastAddresses() {
+    // The two addresses of a network of two are both computers'.
+    constexpr std::uint32_t smallestHostPart = 3;
+    std::vector<std::uint32_t> addresses;
+    const Interfaces list = interfaces();
+    for (const ifaddrs* each = list.get(); each != nullptr; each = each->ifa_next) {
+        const auto own = addressOf<sockaddr_in>(*each, AF_INET);
+        if (!own || (each->ifa_flags & IFF_BROADCAST) == 0) {
+            continue;
+        }
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-union-access): how the system gives it.
+        if (const auto told = addressFrom<sockaddr_in>(each->ifa_broadaddr, AF_INET)) {
+            addresses.push_back(ntohl(told->sin_addr.s_addr));
+        }
+        if (const auto mask = addressFrom<sockaddr_in>(each->ifa_netmask, AF_INET)) {
+            const std::uint32_t hostPart = ~ntohl(mask->sin_addr.s_addr);
+            if (hostPart >= smallestHostPart) {
+                addresses.push_back(ntohl(own->sin_addr.s_addr) | hostPart);
+            }
+        }
+    }
+    return addresses;
 }
 
 std::optional<LocalHost::HardwareAddress> mainHardwareAddress() {

@@ -6,6 +6,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <memory>
@@ -72,6 +73,18 @@ std::optional<LocalHost::HardwareAddress> PosixLocalHost::hardwareAddress() cons
 
 bool PosixLocalHost::hasAddress(std::uint32_t host) const {
     return isOwnAddress(host);
+}
+
+// Listing the interfaces takes longer than all else that is done for a datagram, and a stranger
+// sends thousands a second.
+bool PosixLocalHost::isBroadcastAddress(std::uint32_t host) const {
+    constexpr std::chrono::seconds lifetime{1};
+    const auto now = std::chrono::steady_clock::now();
+    if (!_broadcastsRead || now - *_broadcastsRead >= lifetime) {
+        _broadcasts = broadcastAddresses();
+        _broadcastsRead = now;
+    }
+    return std::ranges::find(_broadcasts, host) != _broadcasts.end();
 }
 
 Result<std::uint32_t> lookUpHost(const std::string& name) {

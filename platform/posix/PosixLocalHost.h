@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "foundation/Problem.h"
 #include "remote/LocalHost.h"
@@ -21,9 +24,13 @@ class PosixLocalHost final : public LocalHost {
     [[nodiscard]] std::string localizedName() const override;
     [[nodiscard]] std::optional<HardwareAddress> hardwareAddress() const override;
     [[nodiscard]] bool hasAddress(std::uint32_t host) const override;
+    /// By what the interfaces were at most a second ago.
+    [[nodiscard]] bool isBroadcastAddress(std::uint32_t host) const override;
 
  private:
     std::filesystem::path _machineInfo;
+    mutable std::vector<std::uint32_t> _broadcasts;
+    mutable std::optional<std::chrono::steady_clock::time_point> _broadcastsRead;
 };
 
 /// The IPv4 address of a host by name or dotted numbers, first number in the highest byte. Waits

@@ -32,8 +32,10 @@ SocketAddress ourAddress(const sockaddr_in& address) {
     return {ntohl(address.sin_addr.s_addr), ntohs(address.sin_port)};
 }
 
-/// Sends through the given interface, or the one that the routes say for 0.
-int sendThrough(int interface, int socket, std::string_view bytes, const SocketAddress& recipient) {
+/// Sends through the given interface, or the one that the routes say for 0, from the given address
+/// of ours, or the one that belongs to the interface for 0.
+int sendThrough(int interface, std::uint32_t ownHost, int socket, std::string_view bytes,
+                const SocketAddress& recipient) {
     sockaddr_in address = systemAddress(recipient);
     // The system takes bytes that it does not change by a pointer that would let it.
     iovec part{const_cast<char*>(bytes.data()), bytes.size()};  // NOLINT(*-const-cast)
@@ -43,7 +45,7 @@ int sendThrough(int interface, int socket, std::string_view bytes, const SocketA
     message.msg_namelen = sizeof address;
     message.msg_iov = &part;
     message.msg_iovlen = 1;
-    if (interface != 0) {
+    if (interface != 0 || ownHost != 0) {
         message.msg_control = control.data();
         message.msg_controllen = control.size();
         cmsghdr* const header = CMSG_FIRSTHDR(&message);
@@ -52,6 +54,7 @@ int sendThrough(int interface, int socket, std::string_view bytes, const SocketA
         header->cmsg_len = CMSG_LEN(sizeof(in_pktinfo));
         in_pktinfo information{};
         information.ipi_ifindex = interface;
+        information.ipi_spec_dst.s_addr = htonl(ownHost);
         std::memcpy(CMSG_DATA(header), &information, sizeof information);
     }
     // What is refused may be what an earlier datagram came to; this one has then not been tried.
@@ -63,6 +66,20 @@ int sendThrough(int interface, int socket, std::string_view bytes, const SocketA
             return errno;
         }
     }
+}
+
+/// The address of ours that a datagram was sent to; for a broadcast, the one of the interface that
+/// it came through. 0 where the system does not say.
+std::uint32_t arrivalHost(msghdr& message) {
+    for (cmsghdr* header = CMSG_FIRSTHDR(&message); header != nullptr;
+         header = CMSG_NXTHDR(&message, header)) {
+        if (header->cmsg_level == IPPROTO_IP && header->cmsg_type == IP_PKTINFO) {
+            in_pktinfo information{};
+            std::memcpy(&information, CMSG_DATA(header), sizeof information);
+            return ntohl(information.ipi_spec_dst.s_addr);
+        }
+    }
+    return 0;
 }
 
 }  // namespace
@@ -92,11 +109,14 @@ class UdpSocket::Reception {
     bool receiveOne() {
         sockaddr_in source{};
         iovec part{_buffer.data(), _buffer.size()};
+        alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(in_pktinfo))> control{};
         msghdr message{};
         message.msg_name = &source;
         message.msg_namelen = sizeof source;
         message.msg_iov = &part;
         message.msg_iovlen = 1;
+        message.msg_control = control.data();
+        message.msg_controllen = control.size();
         const auto size = recvmsg(_socket->get(), &message, MSG_DONTWAIT);
         if (size < 0) {
             // Any other error tells of an earlier datagram or of an interface that went; the next
@@ -105,7 +125,8 @@ class UdpSocket::Reception {
         }
         const bool isWhole = (message.msg_flags & MSG_TRUNC) == 0;
         if (isWhole && message.msg_namelen == sizeof source && source.sin_family == AF_INET) {
-            _receiver({_buffer.data(), static_cast<std::size_t>(size)}, ourAddress(source));
+            _receiver({_buffer.data(), static_cast<std::size_t>(size)},
+                      ourAddress(source).reachedFrom(arrivalHost(message)));
         }
         return true;
     }
@@ -126,6 +147,9 @@ Result<std::unique_ptr<UdpSocket>> UdpSocket::open() {
     constexpr int wantedBuffer = 1 << 20;
     static_cast<void>(
         setsockopt(socket.get(), SOL_SOCKET, SO_RCVBUF, &wantedBuffer, sizeof wantedBuffer));
+    // Without it, answers leave from the address that the routes say.
+    constexpr int wanted = 1;
+    static_cast<void>(setsockopt(socket.get(), IPPROTO_IP, IP_PKTINFO, &wanted, sizeof wanted));
     return std::unique_ptr<UdpSocket>(new UdpSocket(std::move(socket)));
 }
 
@@ -169,18 +193,26 @@ std::unique_ptr<RunLoop::Handle> UdpSocket::receiveOn(RunLoop& runLoop, Receiver
 }
 
 int UdpSocket::send(std::string_view bytes, const SocketAddress& recipient) {
-    const int error = sendThrough(0, _socket->get(), bytes, recipient);
-    if (error == ENETUNREACH && recipient.host() == SocketAddress::broadcastHost) {
+    if (recipient.host() == SocketAddress::broadcastHost) {
         return sendThroughEachInterface(bytes, recipient);
+    }
+    const int error = sendThrough(0, recipient.ownHost(), _socket->get(), bytes, recipient);
+    // The computer may have lost that address since.
+    if (error != 0 && recipient.ownHost() != 0) {
+        return sendThrough(0, 0, _socket->get(), bytes, recipient);
     }
     return error;
 }
 
 int UdpSocket::sendThroughEachInterface(std::string_view bytes,
                                         const SocketAddress& recipient) const {
+    const std::vector<int> interfaces = broadcastInterfaces();
+    if (interfaces.empty()) {
+        return sendThrough(0, 0, _socket->get(), bytes, recipient);
+    }
     int result = ENETUNREACH;
-    for (const int interface : broadcastInterfaces()) {
-        const int error = sendThrough(interface, _socket->get(), bytes, recipient);
+    for (const int interface : interfaces) {
+        const int error = sendThrough(interface, 0, _socket->get(), bytes, recipient);
         result = result == 0 ? 0 : error;
     }
     return result;

@@ -31,8 +31,8 @@ class UdpSocket final : public DatagramSocket {
     [[nodiscard]] int bind(const SocketAddress& address) override;
     [[nodiscard]] std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& runLoop,
                                                              Receiver receiver) override;
-    /// Where no route leads to 255.255.255.255, as on a network without a gateway, it goes out
-    /// through each interface that can broadcast.
+    /// To 255.255.255.255 it goes out through each interface that can broadcast: the routes would
+    /// take it to one network at most, and to none where there is no gateway.
     [[nodiscard]] int send(std::string_view bytes, const SocketAddress& recipient) override;
 
     /// Where it is bound; port 0 before.

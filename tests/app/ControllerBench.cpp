@@ -64,7 +64,7 @@ void ControllerBench::launch() {
                                desktop,
                                desktop,
                                *program.center,
-                               [this] { return openServer(); },
+                               [this](Log serverLog) { return openServer(std::move(serverLog)); },
                                {&desktop},
                                "",
                                [this] { hasEnded = true; },
@@ -72,16 +72,14 @@ void ControllerBench::launch() {
     program.controller->applicationDidFinishLaunching();
 }
 
-std::unique_ptr<TQPlayerServer> ControllerBench::openServer() {
-    auto server =
-        TQPlayerServer::init({.runLoop = loop,
-                              .openSocket = [this]() -> Result<std::unique_ptr<DatagramSocket>> {
-                                  return std::make_unique<ScriptedSocket>(network);
-                              },
-                              .host = std::make_shared<ScriptedHost>(),
-                              .guid = _program->guid,
-                              .log = [this](std::string_view line) { log.emplace_back(line); }});
-    return server ? std::move(*server) : nullptr;
+Result<std::unique_ptr<TQPlayerServer>> ControllerBench::openServer(Log serverLog) {
+    return TQPlayerServer::init({.runLoop = loop,
+                                 .openSocket = [this]() -> Result<std::unique_ptr<DatagramSocket>> {
+                                     return std::make_unique<ScriptedSocket>(network);
+                                 },
+                                 .host = std::make_shared<ScriptedHost>(),
+                                 .guid = _program->guid,
+                                 .log = std::move(serverLog)});
 }
 
 void ControllerBench::launchAndSettle() {

@@ -110,7 +110,9 @@ class RecordedTargets final : public TargetWindows {
         shown.push_back("display " + std::to_string(display) + " " +
                         std::to_string(static_cast<int>(kind)));
         covers[display] = kind;
-        closings.push_back(std::move(closed));
+        if (closed) {
+            closings.push_back(std::move(closed));
+        }
     }
     void uncoverDisplay(DisplayID display) override {
         covers.erase(display);
@@ -206,7 +208,7 @@ class ControllerBench {
         std::unique_ptr<TQController> controller;
     };
 
-    [[nodiscard]] std::unique_ptr<TQPlayerServer> openServer();
+    [[nodiscard]] Result<std::unique_ptr<TQPlayerServer>> openServer(Log log);
 
     std::optional<Program> _program;
 };

@@ -133,13 +133,16 @@ class ScriptedHotKeys final : public HotKeyService {
 struct ScriptedNetwork {
     std::vector<std::pair<std::string, SocketAddress>> sent;
     DatagramSocket::Receiver receive;
+    bool canBind = true;
 };
 
 class ScriptedSocket final : public DatagramSocket {
  public:
     explicit ScriptedSocket(ScriptedNetwork& network) : _network(network) {}
     [[nodiscard]] int enableBroadcast() override { return 0; }
-    [[nodiscard]] int bind(const SocketAddress& /*address*/) override { return 0; }
+    [[nodiscard]] int bind(const SocketAddress& /*address*/) override {
+        return _network.canBind ? 0 : 98;
+    }
     [[nodiscard]] std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& /*runLoop*/,
                                                              Receiver receiver) override {
         _network.receive = std::move(receiver);
@@ -159,6 +162,7 @@ class ScriptedHost final : public LocalHost {
     [[nodiscard]] std::string localizedName() const override { return "desk"; }
     [[nodiscard]] std::optional<HardwareAddress> hardwareAddress() const override { return {}; }
     [[nodiscard]] bool hasAddress(std::uint32_t /*host*/) const override { return false; }
+    [[nodiscard]] bool isBroadcastAddress(std::uint32_t /*host*/) const override { return false; }
 };
 
 }  // namespace tonquil

@@ -7,6 +7,9 @@
 namespace tonquil {
 namespace {
 
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -30,6 +33,11 @@ class Remote : public testing::Test {
         receive("Kantivel state-update " +
                 PropertyValue{{ControllerBench::referenceID(display), state}}.dump());
     }
+    /// The same, with a pause in which what waits is set.
+    void setStateInPeace(DisplayID display, const PropertyValue& state) {
+        setState(display, state);
+        bench.loop.advance(PacedOrders::interval * 2);
+    }
     /// What an announce says of a display.
     [[nodiscard]] PropertyValue info(DisplayID display) {
         bench.network.sent.clear();
@@ -46,7 +54,7 @@ class Remote : public testing::Test {
 
 TEST_F(Remote, ACurveFromTheNetworkIsOneEdit) {
     setState(left, {{"gamma", gamma(0.25F)}});
-    EXPECT_EQ(bench.red(left), 0.25F);
+    EXPECT_EQ(bench.red(left), 0.25F) << "at once";
     EXPECT_GT(bench.firstEntry(left), 16000);
     EXPECT_EQ(
         info(left),
@@ -55,7 +63,7 @@ TEST_F(Remote, ACurveFromTheNetworkIsOneEdit) {
     bench.network.sent.clear();
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.25F);
     bench.desk.setForeignRamp(left, HardwareRamp::straight(256));
-    setState(left, {{"gamma", gamma(0.25F)}});
+    setStateInPeace(left, {{"gamma", gamma(0.25F)}});
     EXPECT_GT(bench.firstEntry(left), 16000) << "It is put on the display again.";
     bench.controller().undo();
     EXPECT_EQ(bench.red(left), 0) << "A repeated order is no second edit.";
@@ -65,27 +73,103 @@ TEST_F(Remote, ACurveFromTheNetworkIsOneEdit) {
 TEST_F(Remote, IgnoresCurvesThatNoDisplayCanShow) {
     bench.edit(PanelSlider::BlackRed, 0.125F);
     for (const PropertyValue& bad : PropertyValue{{2, 0, 1, 1}, {1, 0, 1, 1, 1001}, "text"}) {
-        setState(left, {{"gamma", bad}, {"content", "colorTargets"}});
+        setStateInPeace(left, {{"gamma", bad}, {"content", "colorTargets"}});
         EXPECT_EQ(bench.red(left), 0.125F) << bad;
         EXPECT_EQ(info(left)["content"], "colorTargets") << "The rest of the order holds.";
-        setState(left, {{"content", "transparent"}});
+        setStateInPeace(left, {{"content", "transparent"}});
     }
+    bench.log.clear();
+    for (int i = 0; i < 1000; ++i) {
+        setState(left, {{"gamma", {2, 0, 1, 1}}});
+    }
+    // 20 on orders, 20 on curves; some of both went before.
+    EXPECT_LE(bench.log.size(), 40U) << "A stranger cannot fill the log.";
     receive("Kantivel state-update {\"9-9-9\":{\"gamma\":[1,1,1,1]}}");
     EXPECT_EQ(bench.red(left), 0.125F);
 }
 
 TEST_F(Remote, PushesTheClosingOfATarget) {
-    setState(left, {{"content", "grayscaleTargets"}});
+    setStateInPeace(left, {{"content", "grayscaleTargets"}});
     EXPECT_EQ(info(left)["content"], "grayscaleTargets");
-    setState(left, {{"content", 7}});
+    setStateInPeace(left, {{"content", 7}});
     EXPECT_EQ(info(left)["content"], "grayscaleTargets") << "Only text says anything.";
-    setState(left, {{"content", "colorTargets"}});
+    setStateInPeace(left, {{"content", "colorTargets"}});
     receive("Kantivel sub ");
     bench.network.sent.clear();
     setState(left, {{"content", "transparent"}});
     EXPECT_THAT(bench.network.sent, SizeIs(2)) << "It was shown twice.";
     EXPECT_EQ(bench.network.sent.back().second, companion);
+    bench.loop.advance(PacedOrders::interval * 2);
     EXPECT_EQ(info(left)["content"], "transparent");
+    for (int i = 0; i < 100; ++i) {
+        setStateInPeace(left, {{"content", "colorTargets"}});
+    }
+    EXPECT_EQ(bench.targets.closings.size(), std::size_t{RemoteTargets::mostReports});
+}
+
+TEST_F(Remote, LeavesAPersonInPeaceWhoClosesThreeTargets) {
+    const auto isShown = [this] {
+        setStateInPeace(left, {{"content", "colorTargets"}});
+        return bench.targets.covers.contains(left);
+    };
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_TRUE(isShown());
+        setStateInPeace(left, {{"content", "transparent"}});
+    }
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(isShown() && isShown()) << "Closed " << i << " times by hand.";
+        bench.targets.uncoverDisplay(left);
+    }
+    EXPECT_FALSE(isShown());
+    EXPECT_THAT(bench.log, Contains(HasSubstr("ignored for a minute")));
+    bench.loop.advance(std::chrono::minutes(1));
+    EXPECT_TRUE(isShown());
+}
+
+TEST_F(Remote, SetsAFloodAtThePaceOfTheDisplayAndTheLastStateAlways) {
+    bench.edit(PanelSlider::BlackRed, 0.5F);
+    constexpr DisplayID right = ControllerBench::right;
+    int changes = 0;
+    for (int i = 1; i <= 1000; ++i) {
+        const float before = bench.red(left);
+        setState(left, {{"gamma", gamma(static_cast<float>(i) / 1000)}});
+        setState(right, {{"gamma", gamma(static_cast<float>(i) / 1000)}});
+        // A content is not lost among the curves that follow it.
+        setState(left, i == 500 ? PropertyValue{{"content", "colorTargets"}}
+                                : PropertyValue{{"gamma", "text"}});
+        bench.loop.advance(std::chrono::milliseconds(1));
+        changes += bench.red(left) != before ? 1 : 0;
+    }
+    EXPECT_NEAR(changes, 59, 2);
+    bench.loop.advance(PacedOrders::interval);
+    EXPECT_EQ(bench.red(left), 1);
+    EXPECT_EQ(bench.red(right), 1);
+    EXPECT_TRUE(bench.targets.covers.contains(left));
+    bench.loop.advance(std::chrono::seconds(1));
+    setStateInPeace(left, {{"gamma", gamma(0.25F)}});
+    for (const float red : {1.0F, 0.5F, 0.0F}) {
+        bench.controller().undo();
+        EXPECT_EQ(bench.red(left), red) << "A drag is one step, whatever it moves.";
+    }
+    EXPECT_EQ(bench.red(right), 0);
+    setState(left, {{"gamma", gamma(0.25F)}});
+    setState(left, {{"gamma", gamma(0.75F)}});
+    bench.set("AllowRemote", false);
+    bench.loop.advance(PacedOrders::interval);
+    EXPECT_EQ(bench.red(left), 0.25F) << "What waited is dropped.";
+}
+
+TEST_F(Remote, TriesATakenPortAgainAndSaysSoUntilItIsFree) {
+    bench.set("AllowRemote", false);
+    bench.network.canBind = false;
+    bench.log.clear();
+    bench.set("AllowRemote", true);
+    bench.loop.advance(std::chrono::minutes(1));
+    EXPECT_THAT(bench.log, ElementsAre("CFSocketSetAddress() failed 98"));
+    EXPECT_FALSE(bench.desktop.remoteProblem.empty() || bench.desktop.isRemoteShown);
+    bench.network.canBind = true;
+    bench.loop.advance(std::chrono::seconds(5));
+    EXPECT_TRUE(bench.desktop.remoteProblem.empty() && bench.desktop.isRemoteShown);
 }
 
 TEST_F(Remote, FollowsItsPreferenceAndSwitchesItOffWhenNobodyIsHeard) {

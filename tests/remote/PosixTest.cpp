@@ -70,6 +70,26 @@ TEST_F(UdpSockets, HaveTheirPortForThemselvesUntilTheReceiverLetsGo) {
     EXPECT_EQ(count, 1) << "it hears no more";
 }
 
+TEST_F(UdpSockets, AnswerFromTheAddressThatWasAsked) {
+    const auto server = UdpSocket::open().value();
+    EXPECT_EQ(server->bind(SocketAddress(0, 0)), 0);
+    const SocketAddress asked(localhost + 5, server->localAddress().port());
+    const auto answering =
+        server->receiveOn(loop, [&](std::string_view, const SocketAddress& source) {
+            EXPECT_EQ(server->send("answer", source), 0);
+            // One that this computer no longer has.
+            EXPECT_EQ(server->send("late", source.reachedFrom(0x0B000001)), 0);
+        });
+    std::vector<SocketAddress> sources;
+    const auto asking = second->receiveOn(
+        loop, [&](std::string_view, const SocketAddress& source) { sources.push_back(source); });
+    EXPECT_EQ(second->send("x", asked), 0);
+    while (loop.pollReadable(100ms) > 0) {
+    }
+    ASSERT_EQ(sources.size(), 2U);
+    EXPECT_EQ(sources[0], asked);
+}
+
 TEST_F(UdpSockets, TellWhySomethingIsNotSentAndGoOn) {
     EXPECT_EQ(second->send("x", SocketAddress(0xFFFFFFFF, 9)), EACCES) << "not without leave";
     const SocketAddress gone = first->localAddress();

@@ -65,10 +65,14 @@ class FakeHost final : public LocalHost {
         return hardware;
     }
     [[nodiscard]] bool hasAddress(std::uint32_t host) const override { return host == ownAddress; }
+    [[nodiscard]] bool isBroadcastAddress(std::uint32_t host) const override {
+        return host == broadcastAddress;
+    }
 
     std::string name = "Desk";
     std::optional<HardwareAddress> hardware = HardwareAddress{0x02, 0, 0xAB, 0xCD, 0x0E, 0xFF};
     std::uint32_t ownAddress = 0x0A000001;
+    std::uint32_t broadcastAddress = 0x0A0000FF;
 };
 
 /// A server on a made-up network, at a time that stands still.

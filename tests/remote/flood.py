@@ -77,8 +77,8 @@ def main():
         sys.exit("The answer is no announce.")
     if after > before + 4096:
         sys.exit("The server has grown.")
-    # One host's answers, and pushes to its 16 subscriptions.
-    if answers > (1 + 16) * (20 + 5 * (seconds + 1)):
+    # One host's answers, and pushes to its 64 subscriptions.
+    if answers > 100 + 20 * (seconds + 1) + 64 * (20 + 5 * (seconds + 1)):
         sys.exit("The server answers more than its limits say.")
 
 

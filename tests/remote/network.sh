@@ -125,6 +125,23 @@ refuse "a computer whose link is down" in_right "$tonquilctl" remote scan --addr
 ip -n "$left" link set tq0 up
 expect "the link is up again" scan_finds 2
 
+# A second network, when there is a default route for the first.
+ip link add tq1 netns "$left" type veth peer name tq1 netns "$right"
+ip -n "$left" address add 10.97.0.1/24 brd + dev tq1
+ip -n "$right" address add 10.97.0.2/23 brd + dev tq1
+ip -n "$left" link set tq1 up
+ip -n "$right" link set tq1 up
+ip -n "$left" route add default dev tq0
+in_left "$tonquilctl" remote scan > "$folder/scan"
+expect "a scan goes to every network" grep -q '^10\.99\.0\.2' "$folder/scan"
+expect "also past the default route" grep -q '^10\.97\.0\.2' "$folder/scan"
+# What is a neighbour for the right one is everybody for the left one.
+ip -n "$right" address add 10.97.0.255/23 dev tq1
+everybody='import socket as s; c = s.socket(s.AF_INET, s.SOCK_DGRAM); c.bind(("10.97.0.255", 0))
+c.settimeout(0.5); c.sendto(b"Kantivel scan ", ("10.97.0.1", 44188)); c.recv(1)'
+expect "everybody is not answered" eval '! in_right python3 -c "$everybody" 2> /dev/null'
+ip -n "$right" link delete tq1
+
 expect "a flood leaves it well" in_right python3 "$here/flood.py" 10.99.0.1 44188 "$datagrams" \
     "$server"
 expect "the server runs on" scan_finds 2
