@@ -5,7 +5,7 @@
 #include "cli/Commands.h"
 #include "cli/RemoteClient.h"
 #include "cli/RemoteText.h"
-#include "remote/Unicode.h"
+#include "remote/PrintableText.h"
 
 namespace tonquil {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RemoteText.h"
 
+#include "remote/PrintableText.h"
 #include "remote/RemoteMessages.h"
-#include "remote/Unicode.h"
 
 namespace tonquil {
 

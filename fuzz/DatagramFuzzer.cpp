@@ -8,8 +8,9 @@
 
 #include "Require.h"
 #include "remote/Announce.h"
-#include "remote/Unicode.h"
+#include "remote/PrintableText.h"
 #include "tests/remote/ServerBench.h"
+#include "values/Utf8.h"
 
 namespace {
 
@@ -34,17 +35,17 @@ void checkServer(std::string_view datagram, bool isTesting) {
     for (const std::string& line : bench.log) {
         const bool isOrder = line.starts_with("10.0.0.2 sets the display ");
         require((isOrder || line.starts_with("ignored: ")) && line.size() < 5 * 1024 &&
-                remote::isUtf8(line));
+                isUtf8(line));
         require(std::ranges::none_of(line, [](unsigned char c) { return c < 0x20 || c == 0x7F; }));
     }
     for (const auto& [id, state] : bench.displays.statesSet) {
-        require(remote::isUtf8(id) && state.is_object());
+        require(isUtf8(id) && state.is_object());
     }
     // What was set may be anything, but an announce of it is one again, or the tag alone.
     bench.forget();
     bench.server->broadcastAnnounce();
     const std::string& announce = bench.wire.sent.front().bytes;
-    require(announce == remote::announceTag || remote::isUtf8(announce));
+    require(announce == remote::announceTag || isUtf8(announce));
 }
 
 }  // namespace
@@ -55,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     checkServer(datagram, true);
     if (const auto announce = readAnnounce(datagram)) {
         const std::string name = remote::printable(announce->name, 64);
-        require(remote::isUtf8(name) && name.size() < 5 * 64);
+        require(isUtf8(name) && name.size() < 5 * 64);
     }
     return 0;
 }

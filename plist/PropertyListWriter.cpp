@@ -8,6 +8,7 @@
 #include "plist/BudgetMeter.h"
 #include "plist/NumberText.h"
 #include "plist/Unicode.h"
+#include "values/Utf8.h"
 
 namespace tonquil {
 

@@ -9,10 +9,6 @@
 
 namespace tonquil {
 
-/// Takes the first character off UTF-8 text that is not empty. Nothing, and the text as it was,
-/// where it does not begin with a valid one: overlong forms and surrogates are not.
-[[nodiscard]] std::optional<char32_t> takeCharacter(std::string_view& text);
-
 /// UTF-8 of big-endian UTF-16 without a byte order mark. Nothing where there is half a unit, a
 /// surrogate without its other half, or NUL.
 [[nodiscard]] std::optional<std::string> utf8FromUtf16(std::span<const std::uint8_t> bytes);

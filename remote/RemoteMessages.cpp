@@ -6,8 +6,9 @@
 #include <cmath>
 #include <utility>
 
-#include "remote/Unicode.h"
+#include "remote/PrintableText.h"
 #include "values/BoundedJson.h"
+#include "values/Utf8.h"
 
 namespace tonquil::remote {
 

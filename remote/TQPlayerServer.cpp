@@ -5,7 +5,8 @@
 
 #include <utility>
 
-#include "remote/Unicode.h"
+#include "remote/PrintableText.h"
+#include "values/Utf8.h"
 
 namespace tonquil {
 
@@ -194,7 +195,7 @@ void TQPlayerServer::ignore(std::string_view bytes) {
         return;
     }
     std::string line = "ignored: ";
-    line += remote::isUtf8(bytes) ? remote::printable(bytes, mostLoggedBytes) : "(null)";
+    line += isUtf8(bytes) ? remote::printable(bytes, mostLoggedBytes) : "(null)";
     log(line);
 }
 

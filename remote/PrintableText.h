@@ -7,9 +7,6 @@
 
 namespace tonquil::remote {
 
-/// Whether the bytes are UTF-8 from end to end; overlong forms and surrogates are not.
-[[nodiscard]] bool isUtf8(std::string_view bytes);
-
 /// Text from the network for a log or a terminal: at most `mostBytes` of it, with an ellipsis
 /// where something is left out. Control and layout characters, with which it could pretend to be
 /// something else, are written as "\x1b" or "\u202e"; bytes that are not UTF-8 as "\xff".
