@@ -45,6 +45,7 @@ TQController::TQController(const ControllerSurroundings& surroundings)
               .log = _with.log}),
       _panelFrame(_with.service, _with.preferences, _with.panel),
       _periodicUpdate(_with.runLoop, _with.preferences, [this] { _applyCurvesToScreen(); }),
+      _reapplication(_with.runLoop, [this] { _applyCurvesToScreen(); }),
       _reconfigurations(_with.reconfigurations, _with.log, [this] { updateScreens(); }),
       _statusItem(_with.presence, _with.preferences),
       _restorableWindows(_with.windows, _with.targets),
@@ -152,7 +153,7 @@ void TQController::observeSurroundings() {
     _with.panel.observeFirstResponder();
     _preferencesSubscription = _with.preferences.subscribe([this] { _changedDefaults(); });
     for (SessionEvents* events : _with.sessionEvents) {
-        events->start([this](SessionEvent) { _applyCurvesToScreen(); });
+        events->start([this](SessionEvent) { _reapplication.request(); });
     }
     _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
         [this](DisplayID, ReconfigurationFlags flags) {

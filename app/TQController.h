@@ -8,6 +8,7 @@
 #include "app/ControllerSurroundings.h"
 #include "app/correction/Correction.h"
 #include "app/correction/PeriodicUpdate.h"
+#include "app/correction/Reapplication.h"
 #include "app/correction/ReconfigurationObserver.h"
 #include "app/curves/CurveEditing.h"
 #include "app/desktop/RestorableWindows.h"
@@ -123,6 +124,7 @@ class TQController final : public PanelActions {
     SettingsFiles _files;
     PanelFrame _panelFrame;
     PeriodicUpdate _periodicUpdate;
+    Reapplication _reapplication;
     ReconfigurationObserver _reconfigurations;
     StatusItem _statusItem;
     RestorableWindows _restorableWindows;
