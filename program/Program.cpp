@@ -5,8 +5,6 @@
 #include <cstdlib>
 #include <utility>
 
-#include "platform/choice/DisplayServiceChoice.h"
-#include "platform/missing/MissingDisplayService.h"
 #include "platform/missing/MissingHotKeyService.h"
 #include "platform/missing/MissingKeyboardLayout.h"
 #include "platform/missing/MissingWindowSystem.h"
@@ -35,18 +33,23 @@ void saveAtExit() {
 
 }  // namespace
 
-Program::Program(const XdgFolders& folders)
-    : _preferences(folders.config() / "preferences.plist", _runLoop, logLine),
-      _recovery(folders.state() / ("recovery-" + instanceName() + ".plist"), logLine),
-      _busEvents(_runLoop, logLine),
-      _loginItem(folders.config().parent_path() / "autostart",
+Program::Program(Groundwork& groundwork, BusSessionEvents::Addresses buses)
+    : _runLoop(groundwork.runLoop()),
+      _preferences(groundwork.preferences()),
+      _recovery(groundwork.recovery()),
+      _displays(groundwork.displays()),
+      _registry(groundwork.registry()),
+      _installedPrograms(groundwork.installedPrograms()),
+      _whyNoDisplays(groundwork.whyNoDisplays()),
+      _sessionBus(buses.session),
+      _busEvents(_runLoop, std::move(buses), logLine),
+      _desktopAppearance(_runLoop),
+      _loginItem(groundwork.folders().config().parent_path() / "autostart",
                  programFile().parent_path() / "tonquil-launcher"),
-      _sessionWindows(folders.state() / ("windows-" + instanceName() + ".plist")) {
-    openDisplays();
+      _sessionWindows(groundwork.folders().state() / ("windows-" + instanceName() + ".plist")) {
     openWindowSystem();
     openKeyboard();
     makeWindows();
-    _registry = std::make_unique<ScreenRegistry>(*_displays);
     _hotKeys = std::make_unique<DDHotKeyCenter>(*_hotKeyService, logLine);
     DDHotKeyCenter::setSharedHotKeyCenter(_hotKeys.get());
     makeController();
@@ -58,7 +61,7 @@ void Program::makeWindows() {
     _presence = std::make_unique<TrayPresence>(*_windowSystem, logLine);
     _presence->watch(*_panel);
     const auto windowMade = [this](QWidget& window) { _presence->watch(window); };
-    _targets = std::make_unique<TargetPresenter>(*_displays, _preferences, windowMade);
+    _targets = std::make_unique<TargetPresenter>(_displays, _preferences, windowMade);
     _windows = std::make_unique<OtherWindows>(
         OtherWindows::Surroundings{.preferences = {.preferences = _preferences,
                                                    .loginItem = _loginItem,
@@ -67,7 +70,7 @@ void Program::makeWindows() {
                                                    .program = programFile(),
                                                    .home = environment("HOME"),
                                                    .log = logLine},
-                                   .service = *_displays,
+                                   .service = _displays,
                                    .bundle = {.path = programFile(),
                                               .name = "Tonquil",
                                               .shortVersion = TONQUIL_VERSION,
@@ -102,7 +105,7 @@ int Program::run(const std::vector<Request>& requests) {
     }
     const SessionRestoration session(*_controller, sessionStorage());
     session.restore();
-    _desktopAppearance.start([this](const DesktopAppearance::Settings& settings) {
+    _desktopAppearance.start(_sessionBus, [this](const DesktopAppearance::Settings& settings) {
         AccessibilityOptions options;
         options.increaseContrast = settings.increaseContrast;
         options.reduceMotion = settings.reduceMotion;
@@ -152,8 +155,8 @@ void Program::makeController() {
         events.push_back(_desktopEvents.get());
     }
     _controller = std::make_unique<TQController>(
-        ControllerSurroundings{.service = *_displays,
-                               .registry = *_registry,
+        ControllerSurroundings{.service = _displays,
+                               .registry = _registry,
                                .reconfigurations = _reconfigurations,
                                .preferences = _preferences,
                                .recovery = _recovery,
@@ -206,17 +209,6 @@ SessionRestoration::Storage Program::sessionStorage() {
                         report(stored.error());
                     }
                 }};
-}
-
-void Program::openDisplays() {
-    auto opened = chooseDisplayService(&_runLoop, logLine);
-    if (opened) {
-        _displays = std::move(*opened);
-        return;
-    }
-    report(opened.error());
-    _whyNoDisplays = opened.error().sentence;
-    _displays = std::make_unique<MissingDisplayService>();
 }
 
 void Program::openWindowSystem() {
