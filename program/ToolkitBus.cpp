@@ -2,11 +2,13 @@
 #include "program/ToolkitBus.h"
 
 #include <QDBusConnection>
+#include <cstddef>
 #include <cstdlib>
 
 #include "platform/dbus/BusAddresses.h"
 #include "platform/dbus/ToolkitProbe.h"
 #include "platform/posix/PollRunLoop.h"
+#include "platform/x11/X11Connection.h"
 #include "program/ProgramEnvironment.h"
 
 namespace tonquil {
@@ -30,12 +32,23 @@ ToolkitProbe::Obstacles probe(const ToolkitProbe::Addresses& addresses) {
     return found;
 }
 
+std::string announcedByXServer() {
+    const auto server = X11Connection::open(nullptr);
+    if (!server) {
+        return {};
+    }
+    constexpr std::size_t mostBytes = 1024;
+    const auto bytes = (*server)->rootProperty((*server)->atom("AT_SPI_BUS"), mostBytes);
+    return unixAddresses(std::string(bytes.begin(), bytes.end()));
+}
+
 }  // namespace
 
 ToolkitBus::ToolkitBus() : _sessionAddress(sessionBusAddress()) {
     const auto obstacles =
         probe({.session = _sessionAddress,
-               .accessibility = unixAddresses(environment(accessibilityVariable))});
+               .accessibility = unixAddresses(environment(accessibilityVariable)),
+               .announced = announcedByXServer()});
     if (!obstacles.session.empty()) {
         logLine("The session bus cannot be reached, so what it tells is left out: " +
                 obstacles.session + ".");

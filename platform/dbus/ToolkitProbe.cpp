@@ -22,7 +22,10 @@ void ToolkitProbe::start(const Addresses& addresses, std::function<void(const Ob
     _limit = _runLoop.callOnce(longestTime, [this] { finish(); });
     _knowsAccessibility = !addresses.accessibility.empty();
     if (_knowsAccessibility) {
-        openAccessibility(addresses.accessibility);
+        openAccessibility(_accessibility, addresses.accessibility);
+    } else if (!addresses.announced.empty()) {
+        ++_assistance.answersDue;
+        openAccessibility(_announced, addresses.announced);
     }
     const auto unreachable = [this](const std::string& reason) {
         fail(_tray, "");
@@ -85,25 +88,27 @@ void ToolkitProbe::takeStatus(BusArguments& arguments) {
     }
     _session.ask(
         {accessibilityService, accessibilityPath, accessibilityService, "GetAddress"}, {},
-        [this](BusArguments& address) { openAccessibility(unixAddresses(address.text())); },
+        [this](BusArguments& address) {
+            openAccessibility(_accessibility, unixAddresses(address.text()));
+        },
         [this] { answered(_assistance); });
 }
 
-void ToolkitProbe::openAccessibility(const std::string& address) {
+void ToolkitProbe::openAccessibility(BusConnection& bus, const std::string& address) {
     if (address.empty()) {
         answered(_assistance);
         return;
     }
-    _accessibility.open(
-        address, {.opened =
-                      [this] {
-                          ask(_accessibility, _assistance,
-                              {"org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root",
-                               "org.freedesktop.DBus.Peer", "Ping"},
-                              {});
-                      },
-                  .unreachable = [this](const std::string& reason) { fail(_assistance, reason); },
-                  .gone = [this] { fail(_assistance, "its bus has gone"); }});
+    bus.open(address,
+             {.opened =
+                  [this, &bus] {
+                      ask(bus, _assistance,
+                          {"org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root",
+                           "org.freedesktop.DBus.Peer", "Ping"},
+                          {});
+                  },
+              .unreachable = [this](const std::string& reason) { fail(_assistance, reason); },
+              .gone = [this] { fail(_assistance, "its bus has gone"); }});
 }
 
 void ToolkitProbe::ask(BusConnection& bus, Subject& subject, const BusConnection::Method& method,

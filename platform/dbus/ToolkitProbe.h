@@ -19,8 +19,10 @@ class ToolkitProbe {
 
     struct Addresses {
         std::string session;
-        /// Of the bus of assistive technology; empty when only the session bus knows.
+        /// Of the bus of assistive technology, where the environment says it; otherwise empty.
         std::string accessibility;
+        /// The same from the X server. The toolkit then takes up both this and the session's.
+        std::string announced;
     };
     /// Why something cannot be used; empty when it can.
     struct Obstacles {
@@ -30,7 +32,7 @@ class ToolkitProbe {
     };
 
     explicit ToolkitProbe(RunLoop& runLoop)
-        : _runLoop(runLoop), _session(runLoop), _accessibility(runLoop) {}
+        : _runLoop(runLoop), _session(runLoop), _accessibility(runLoop), _announced(runLoop) {}
 
     /// Calls once, from the run loop and within `longestTime`. To be called once.
     void start(const Addresses& addresses, std::function<void(const Obstacles&)> done);
@@ -45,7 +47,7 @@ class ToolkitProbe {
     void askForTray();
     void askForAccessibility();
     void takeStatus(BusArguments& arguments);
-    void openAccessibility(const std::string& address);
+    void openAccessibility(BusConnection& bus, const std::string& address);
     /// Any answer will do, an error too.
     void ask(BusConnection& bus, Subject& subject, const BusConnection::Method& method,
              const std::vector<BusConnection::Argument>& arguments);
@@ -61,6 +63,7 @@ class ToolkitProbe {
     Subject _assistance;
     BusConnection _session;
     BusConnection _accessibility;
+    BusConnection _announced;
     std::unique_ptr<RunLoop::Handle> _limit;
 };
 
