@@ -20,9 +20,9 @@ class ToolkitProbe {
     struct Addresses {
         std::string session;
         /// Of the bus of assistive technology, where the environment says it; otherwise empty.
-        std::string accessibility;
+        std::string accessibility = {};
         /// The same from the X server. The toolkit then takes up both this and the session's.
-        std::string announced;
+        std::string announced = {};
     };
     /// Why something cannot be used; empty when it can.
     struct Obstacles {
