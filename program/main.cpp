@@ -96,7 +96,8 @@ std::unique_ptr<QApplication> makeApplication(ToolkitArguments& arguments) {
     // The panel may have the keyboard for hours, and a blinking cursor would wake it up twice a
     // second for all that time.
     QGuiApplication::styleHints()->setCursorFlashTime(0);
-    constexpr int cacheKibibytes = 2048;
+    // Enough for what the windows show at a time; by itself it would grow to ten times that.
+    constexpr int cacheKibibytes = 1024;
     QPixmapCache::setCacheLimit(cacheKibibytes);
     return application;
 }
