@@ -7,7 +7,6 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPixmapCache>
 #include <QStackedWidget>
 #include <QStyleHints>
 #include <QToolButton>
@@ -279,8 +278,6 @@ void ControlPanel::_setDarkTheme(bool dark) {
 
 // Lists, tool tips and context menus are windows that only the program's palette reaches.
 void ControlPanel::setAppearances() {
-    // Each theme draws its icons anew, so the toolkit's copies of the former ones are dead weight.
-    QPixmapCache::clear();
     QApplication::setPalette(paletteFor(_appearance));
     QToolTip::setPalette(paletteFor(_appearance));
     setAppearance(*this, _appearance);
