@@ -45,6 +45,7 @@ TQController::TQController(const ControllerSurroundings& surroundings)
               .log = _with.log}),
       _panelFrame(_with.service, _with.preferences, _with.panel),
       _periodicUpdate(_with.runLoop, _with.preferences, [this] { _applyCurvesToScreen(); }),
+      _reapplication(_with.runLoop, [this] { reapply(); }),
       _reconfigurations(_with.reconfigurations, _with.log, [this] { updateScreens(); }),
       _statusItem(_with.presence, _with.preferences),
       _restorableWindows(_with.windows, _with.targets),
@@ -170,6 +171,13 @@ void TQController::observeSurroundings() {
 
 void TQController::sessionEvent(SessionEvent event) {
     if (event == SessionEvent::ColourSpaceChanged) {
+        _mayCalibrationHaveChanged = true;
+    }
+    _reapplication.request();
+}
+
+void TQController::reapply() {
+    if (std::exchange(_mayCalibrationHaveChanged, false)) {
         adoptCalibration();
     }
     _applyCurvesToScreen();

@@ -8,6 +8,7 @@
 #include "app/ControllerSurroundings.h"
 #include "app/correction/Correction.h"
 #include "app/correction/PeriodicUpdate.h"
+#include "app/correction/Reapplication.h"
 #include "app/correction/ReconfigurationObserver.h"
 #include "app/curves/CurveEditing.h"
 #include "app/desktop/RestorableWindows.h"
@@ -99,6 +100,7 @@ class TQController final : public PanelActions {
     void finishPanelSetUp();
     void observeSurroundings();
     void sessionEvent(SessionEvent event);
+    void reapply();
     /// Lays the curves over the displays' present calibrations from their next application on;
     /// tells whether one has changed.
     bool adoptCalibration();
@@ -126,6 +128,7 @@ class TQController final : public PanelActions {
     SettingsFiles _files;
     PanelFrame _panelFrame;
     PeriodicUpdate _periodicUpdate;
+    Reapplication _reapplication;
     ReconfigurationObserver _reconfigurations;
     StatusItem _statusItem;
     RestorableWindows _restorableWindows;
@@ -133,6 +136,7 @@ class TQController final : public PanelActions {
     PanelUnderMouse _panelUnderMouse;
     RemoteConfiguration _remote;
 
+    bool _mayCalibrationHaveChanged = false;
     bool _hasTerminated = false;
     std::unique_ptr<PreferencesStore::Subscription> _preferencesSubscription;
     std::unique_ptr<DisplayService::Subscription> _reconfigurationSubscription;

@@ -10,6 +10,7 @@
 #include "platform/choice/DisplayServiceChoice.h"
 #include "platform/posix/PollRunLoop.h"
 #include "platform/posix/PosixLocalHost.h"
+#include "platform/posix/StandardStreams.h"
 #include "platform/posix/TerminationSignals.h"
 #include "platform/posix/UdpSocket.h"
 
@@ -47,6 +48,7 @@ tonquil::RemoteAccess remoteAccess(tonquil::PollRunLoop& loop) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    tonquil::fillStandardStreams();
     const auto arguments = tonquil::parseArguments(argc, argv);
     if (!arguments) {
         say(arguments.error().sentence + " Try \"tonquilctl --help\".");

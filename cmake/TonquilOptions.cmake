@@ -8,6 +8,15 @@ target_compile_options(tonquil_options INTERFACE
     # twice. Never -ffast-math, for the same reason.
     -ffp-contract=off)
 
+# What people run reads files, networks and buses that anybody may have written to. Overruns of the
+# stack and of the C library's buffers end the program, and tables of addresses are read-only. The
+# compiler makes executables position-independent by itself.
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+    target_compile_options(tonquil_options INTERFACE
+        -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+    target_link_options(tonquil_options INTERFACE -Wl,-z,relro,-z,now)
+endif()
+
 if(TONQUIL_SANITIZE)
     list(JOIN TONQUIL_SANITIZE "," sanitizers)
     target_compile_options(tonquil_options INTERFACE

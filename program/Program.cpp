@@ -5,8 +5,6 @@
 #include <cstdlib>
 #include <utility>
 
-#include "platform/choice/DisplayServiceChoice.h"
-#include "platform/missing/MissingDisplayService.h"
 #include "platform/missing/MissingHotKeyService.h"
 #include "platform/missing/MissingKeyboardLayout.h"
 #include "platform/missing/MissingWindowSystem.h"
@@ -35,20 +33,25 @@ void saveAtExit() {
 
 }  // namespace
 
-Program::Program(const XdgFolders& folders)
-    : _preferences(folders.config() / "preferences.plist", _runLoop, _disk,
-                   saveReports(_preferencesProblem)),
-      _recovery(folders.state() / ("recovery-" + instanceName() + ".plist"), _runLoop, _disk,
-                saveReports(_recoveryProblem)),
-      _busEvents(_runLoop, logLine),
-      _loginItem(folders.config().parent_path() / "autostart",
+Program::Program(Groundwork& groundwork, BusSessionEvents::Addresses buses)
+    : _runLoop(groundwork.runLoop()),
+      _screenEventLimit(_runLoop),
+      _preferences(groundwork.preferences()),
+      _recovery(groundwork.recovery()),
+      _saveProblems(groundwork.saveProblems()),
+      _displays(groundwork.displays()),
+      _registry(groundwork.registry()),
+      _installedPrograms(groundwork.installedPrograms()),
+      _whyNoDisplays(groundwork.whyNoDisplays()),
+      _sessionBus(buses.session),
+      _busEvents(_runLoop, std::move(buses), logLine),
+      _desktopAppearance(_runLoop),
+      _loginItem(groundwork.folders().config().parent_path() / "autostart",
                  programFile().parent_path() / "tonquil-launcher"),
-      _sessionWindows(folders.state() / ("windows-" + instanceName() + ".plist")) {
-    openDisplays();
+      _sessionWindows(groundwork.folders().state() / ("windows-" + instanceName() + ".plist")) {
     openWindowSystem();
     openKeyboard();
     makeWindows();
-    _registry = std::make_unique<ScreenRegistry>(*_displays);
     _hotKeys = std::make_unique<DDHotKeyCenter>(*_hotKeyService, logLine);
     DDHotKeyCenter::setSharedHotKeyCenter(_hotKeys.get());
     makeController();
@@ -56,14 +59,13 @@ Program::Program(const XdgFolders& folders)
 
 void Program::makeWindows() {
     _panel = std::make_unique<ControlPanel>(*_windowSystem);
-    _problemPanel = _panel.get();
-    showSaveProblem();
+    _saveProblems.setShow([this](const auto& problem) { _panel->showStorageProblem(problem); });
     _dialogs = std::make_unique<PanelFileDialogs>(*_panel);
     _presence = std::make_unique<TrayPresence>(*_windowSystem, logLine);
     _presence->watch(*_panel);
     const auto windowMade = [this](QWidget& window) { _presence->watch(window); };
     _targets =
-        std::make_unique<TargetPresenter>(*_displays, _preferences, *_windowSystem, windowMade);
+        std::make_unique<TargetPresenter>(_displays, _preferences, *_windowSystem, windowMade);
     _windows = std::make_unique<OtherWindows>(
         OtherWindows::Surroundings{.preferences = {.preferences = _preferences,
                                                    .loginItem = _loginItem,
@@ -73,7 +75,7 @@ void Program::makeWindows() {
                                                    .program = programFile(),
                                                    .home = environment("HOME"),
                                                    .log = logLine},
-                                   .service = *_displays,
+                                   .service = _displays,
                                    .bundle = {.path = programFile(),
                                               .name = "Tonquil",
                                               .shortVersion = TONQUIL_VERSION,
@@ -87,24 +89,10 @@ void Program::makeWindows() {
                                    }});
 }
 
-SaveReports Program::saveReports(std::optional<Problem>& latest) {
-    return {.log = logLine, .showProblem = [this, &latest](const std::optional<Problem>& problem) {
-                latest = problem;
-                showSaveProblem();
-            }};
-}
-
-void Program::showSaveProblem() {
-    if (_problemPanel != nullptr) {
-        _problemPanel->showStorageProblem(_preferencesProblem ? _preferencesProblem
-                                                              : _recoveryProblem);
-    }
-}
-
 // Nothing may call what goes before it.
 Program::~Program() {
     controllerToSave = nullptr;
-    _problemPanel = nullptr;
+    _saveProblems.setShow(nullptr);
     _panel->hide();
     _controller.reset();
 }
@@ -124,7 +112,7 @@ int Program::run(const std::vector<Request>& requests) {
     }
     const SessionRestoration session(*_controller, sessionStorage());
     session.restore();
-    _desktopAppearance.start([this](const DesktopAppearance::Settings& settings) {
+    _desktopAppearance.start(_sessionBus, [this](const DesktopAppearance::Settings& settings) {
         AccessibilityOptions options;
         options.increaseContrast = settings.increaseContrast;
         options.reduceMotion = settings.reduceMotion;
@@ -174,8 +162,8 @@ void Program::makeController() {
         events.push_back(_desktopEvents.get());
     }
     _controller = std::make_unique<TQController>(
-        ControllerSurroundings{.service = *_displays,
-                               .registry = *_registry,
+        ControllerSurroundings{.service = _displays,
+                               .registry = _registry,
                                .reconfigurations = _reconfigurations,
                                .preferences = _preferences,
                                .recovery = _recovery,
@@ -227,17 +215,6 @@ SessionRestoration::Storage Program::sessionStorage() {
                         report(stored.error());
                     }
                 }};
-}
-
-void Program::openDisplays() {
-    auto opened = chooseDisplayService(&_runLoop, logLine);
-    if (opened) {
-        _displays = std::move(*opened);
-        return;
-    }
-    report(opened.error());
-    _whyNoDisplays = opened.error().sentence;
-    _displays = std::make_unique<MissingDisplayService>();
 }
 
 void Program::openWindowSystem() {

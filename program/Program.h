@@ -10,16 +10,12 @@
 #include "app/TQController.h"
 #include "platform/dbus/BusSessionEvents.h"
 #include "platform/dbus/DesktopAppearance.h"
-#include "platform/posix/DiskThread.h"
-#include "platform/qt/QtRunLoop.h"
 #include "platform/qt/ScreenEventLimit.h"
 #include "platform/x11/desktop/X11DesktopEvents.h"
 #include "platform/xdg/AutostartLoginItem.h"
-#include "platform/xdg/CurveRecoveryFile.h"
-#include "platform/xdg/DesktopEntries.h"
 #include "platform/xdg/PropertyListFile.h"
-#include "platform/xdg/PropertyListPreferences.h"
-#include "platform/xdg/XdgFolders.h"
+#include "program/Groundwork.h"
+#include "program/ToolkitBus.h"
 #include "windows/alerts/ModalAlerts.h"
 #include "windows/desktop/OtherWindows.h"
 #include "windows/desktop/SessionRestoration.h"
@@ -30,11 +26,12 @@
 
 namespace tonquil {
 
-/// Everything that the program is made of, each part before those that need it. Together with
-/// main.cpp the only place that knows which platform is used.
+/// Everything that the program is made of besides its groundwork, each part before those that need
+/// it. This folder is the only place that knows which platform is used.
 class Program {
  public:
-    explicit Program(const XdgFolders& folders);
+    /// The groundwork must outlive it.
+    Program(Groundwork& groundwork, BusSessionEvents::Addresses buses);
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
     ~Program();
@@ -45,7 +42,6 @@ class Program {
     [[nodiscard]] std::string answer(const std::string& text);
 
  private:
-    void openDisplays();
     void openWindowSystem();
     void openKeyboard();
     void makeWindows();
@@ -54,33 +50,26 @@ class Program {
     [[nodiscard]] Result<std::unique_ptr<TQPlayerServer>> openServer(Log log);
     [[nodiscard]] SessionRestoration::Storage sessionStorage();
 
-    [[nodiscard]] SaveReports saveReports(std::optional<Problem>& latest);
-    void showSaveProblem();
-
-    QtRunLoop _runLoop;
-    ScreenEventLimit _screenEventLimit{_runLoop};
-    DiskThread _disk{_runLoop};
-    /// What keeps preferences and curves from being saved.
-    std::optional<Problem> _preferencesProblem;
-    std::optional<Problem> _recoveryProblem;
-    /// Where that is shown; null while there is no panel.
-    ControlPanel* _problemPanel = nullptr;
-    PropertyListPreferences _preferences;
-    CurveRecoveryFile _recovery;
+    RunLoop& _runLoop;
+    ScreenEventLimit _screenEventLimit;
+    PropertyListPreferences& _preferences;
+    CurveRecoveryFile& _recovery;
+    SaveProblems& _saveProblems;
+    DisplayService& _displays;
+    ScreenRegistry& _registry;
+    DesktopEntries& _installedPrograms;
+    std::string _whyNoDisplays;
+    std::string _sessionBus;
     BusSessionEvents _busEvents;
     DesktopAppearance _desktopAppearance;
     AutostartLoginItem _loginItem;
     PropertyListFile _sessionWindows;
-    DesktopEntries _installedPrograms{DesktopEntries::fromEnvironment()};
     MachineGuid _guid;
     ModalAlerts _alerts{[this] { return _panel ? effectiveAppearance(*_panel) : Appearance{}; }};
-    std::unique_ptr<DisplayService> _displays;
-    std::string _whyNoDisplays;
     std::unique_ptr<WindowSystem> _windowSystem;
     std::unique_ptr<HotKeyService> _hotKeyService;
     std::unique_ptr<KeyboardLayout> _keyboardLayout;
     std::unique_ptr<X11DesktopEvents> _desktopEvents;
-    std::unique_ptr<ScreenRegistry> _registry;
     ReconfigurationCounter _reconfigurations;
     std::unique_ptr<ControlPanel> _panel;
     std::unique_ptr<PanelFileDialogs> _dialogs;

@@ -2,16 +2,26 @@
 // Finds out whether there is anything to start, and starts it.
 #include <QApplication>
 #include <QLocale>
+#include <QPixmapCache>
 #include <QStyleHints>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <span>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
+#include "platform/dbus/BusAddresses.h"
 #include "platform/posix/InstanceSocket.h"
+#include "platform/posix/StandardStreams.h"
+#include "platform/qt/QtRunLoop.h"
 #include "platform/x11/XcbReply.h"
+#include "program/Groundwork.h"
 #include "program/Program.h"
 #include "program/ProgramEnvironment.h"
+#include "program/ToolkitBus.h"
 #include "windows/language/Language.h"
 #include "windows/panel/PanelIcons.h"
 #include "windows/panel/QuietStyle.h"
@@ -54,7 +64,46 @@ int handOver(const std::filesystem::path& socket, const std::vector<Request>& re
     return EXIT_SUCCESS;
 }
 
-int runFirstOrHandOver(const std::vector<Request>& requests) {
+void setQuietStyle() {
+    auto* const style = new QuietStyle;
+    QApplication::setStyle(style);
+}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the toolkit has taken it over.
+
+/// The toolkit's own arguments. It has options of its own and would take some of ours for them;
+/// the session manager's is for it.
+struct ToolkitArguments {
+    ToolkitArguments(int argc, char** argv) : values{argv[0]} {
+        for (int index = 1; index + 1 < argc && std::string_view(argv[index]) != "--"; ++index) {
+            if (std::string_view(argv[index]) == "-session") {
+                values.insert(values.end(), {argv[index], argv[index + 1]});
+            }
+        }
+        count = static_cast<int>(values.size());
+    }
+
+    std::vector<char*> values;
+    int count = 0;
+};
+
+std::unique_ptr<QApplication> makeApplication(ToolkitArguments& arguments) {
+    setQuietStyle();
+    auto application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
+    QApplication::setApplicationName(QStringLiteral("tonquil"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tonquil"));
+    QApplication::setWindowIcon(programIcon());
+    QGuiApplication::setDesktopFileName(QStringLiteral("tonquil"));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    // The panel may have the keyboard for hours, and a blinking cursor would wake it up twice a
+    // second for all that time.
+    QGuiApplication::styleHints()->setCursorFlashTime(0);
+    // Enough for what the windows show at a time; by itself it would grow to ten times that.
+    constexpr int cacheKibibytes = 1024;
+    QPixmapCache::setCacheLimit(cacheKibibytes);
+    return application;
+}
+
+// The stored curves come before anything that could wait: the buses, the toolkit, the windows.
+int runFirstOrHandOver(const std::vector<Request>& requests, ToolkitArguments& arguments) {
     const auto folders = XdgFolders::fromEnvironment();
     const auto runtime = folders ? folders->makeRuntime() : tl::make_unexpected(folders.error());
     if (!runtime) {
@@ -62,6 +111,8 @@ int runFirstOrHandOver(const std::vector<Request>& requests) {
         return EXIT_FAILURE;
     }
     const std::filesystem::path socket = *runtime / instanceName();
+    // Made later, and the last to go.
+    std::unique_ptr<QApplication> application;
     QtRunLoop runLoop;
     Program* program = nullptr;
     const auto listener = InstanceSocket::claim(
@@ -80,15 +131,16 @@ int runFirstOrHandOver(const std::vector<Request>& requests) {
     if (wantsEnd(requests)) {
         return EXIT_SUCCESS;
     }
-    Program first(*folders);
+    Groundwork groundwork(*folders, runLoop);
+    groundwork.applyStoredCurves();
+    ToolkitBus bus;
+    application = makeApplication(arguments);
+    bus.settle();
+    const Language language(chosenLanguage(QLocale::system().uiLanguages(), translatedLanguages()));
+    Program first(groundwork, {.system = systemBusAddress(), .session = bus.sessionAddress()});
     program = &first;
     return first.run(requests);
 }
-
-void setQuietStyle() {
-    auto* const style = new QuietStyle;
-    QApplication::setStyle(style);
-}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the toolkit has taken it over.
 
 int start(int argc, char** argv) {
     constexpr int wrongUsage = 2;
@@ -109,27 +161,8 @@ int start(int argc, char** argv) {
     if (!hasDesktop()) {
         return EXIT_FAILURE;
     }
-    setQuietStyle();
-    // The toolkit has options of its own, and would take some of ours for them. The session
-    // manager's is for it.
-    std::vector<char*> ours{argv[0]};
-    for (int index = 1; index + 1 < argc && std::string_view(argv[index]) != "--"; ++index) {
-        if (std::string_view(argv[index]) == "-session") {
-            ours.insert(ours.end(), {argv[index], argv[index + 1]});
-        }
-    }
-    int count = static_cast<int>(ours.size());
-    const QApplication application(count, ours.data());
-    QApplication::setApplicationName(QStringLiteral("tonquil"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tonquil"));
-    QApplication::setWindowIcon(programIcon());
-    QGuiApplication::setDesktopFileName(QStringLiteral("tonquil"));
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    // The panel may have the keyboard for hours, and a blinking cursor would wake it up twice a
-    // second for all that time.
-    QGuiApplication::styleHints()->setCursorFlashTime(0);
-    const Language language(chosenLanguage(QLocale::system().uiLanguages(), translatedLanguages()));
-    return runFirstOrHandOver(line->requests);
+    ToolkitArguments arguments(argc, argv);
+    return runFirstOrHandOver(line->requests, arguments);
 }
 
 }  // namespace
@@ -137,5 +170,6 @@ int start(int argc, char** argv) {
 }  // namespace tonquil
 
 int main(int argc, char** argv) {
+    tonquil::fillStandardStreams();
     return tonquil::start(argc, argv);
 }

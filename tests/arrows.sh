@@ -50,7 +50,7 @@ declare -A arrows=(
     [platform/x11/keys]="foundation hotkeys platform/x11"
     [platform/qt]="foundation"
     [platform/posix]="foundation files remote"
-    [platform/dbus]="foundation files app/correction"
+    [platform/dbus]="foundation app/correction"
     [platform/xdg]="foundation values files plist app/curves app/desktop app/preferences"
     [platform/choice]="foundation files screens platform/simulated platform/x11/displays"
     [platform/xkb]="foundation hotkeys"
@@ -62,7 +62,7 @@ declare -A arrows=(
 # Where programs are composed: the only files that may know which platform is used.
 composers=" cli/main.cpp "
 # Where windows and the toolkit's own services are.
-qt_folders=" ui ui/theme targets hotkeys/field windows/language windows/front windows/panel windows/targets windows/alerts windows/about windows/preferences windows/desktop platform/qt platform/dbus program "
+qt_folders=" ui ui/theme targets hotkeys/field windows/language windows/front windows/panel windows/targets windows/alerts windows/about windows/preferences windows/desktop platform/qt program "
 
 breaches=0
 breach() {

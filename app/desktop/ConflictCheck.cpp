@@ -26,11 +26,16 @@ std::span<const std::string_view> ConflictCheck::rivals() {
     return ids;
 }
 
-ConflictCheck::Outcome ConflictCheck::run(const std::string& ownName) {
-    if (_preferences.boolForKey(settingsKey::conflictWarned)) {
-        return Outcome::NotShown;
+std::optional<InstalledProgram> ConflictCheck::rivalToWarnOf(const PreferencesStore& preferences,
+                                                             const InstalledPrograms& programs) {
+    if (preferences.boolForKey(settingsKey::conflictWarned)) {
+        return std::nullopt;
     }
-    const auto rival = _programs.firstInstalled(rivals());
+    return programs.firstInstalled(rivals());
+}
+
+ConflictCheck::Outcome ConflictCheck::run(const std::string& ownName) {
+    const auto rival = rivalToWarnOf(_preferences, _programs);
     if (!rival) {
         return Outcome::NotShown;
     }

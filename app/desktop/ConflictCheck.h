@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,6 +29,10 @@ class ConflictCheck {
 
     /// The desktop file IDs of the programs that are looked for, the likeliest first.
     [[nodiscard]] static std::span<const std::string_view> rivals();
+
+    /// The program that a start would warn of.
+    [[nodiscard]] static std::optional<InstalledProgram> rivalToWarnOf(
+        const PreferencesStore& preferences, const InstalledPrograms& programs);
 
     /// `ownName` is the name that this program shows.
     Outcome run(const std::string& ownName);

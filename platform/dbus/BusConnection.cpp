@@ -1,103 +1,170 @@
 // SPDX-License-Identifier: MIT
 #include "platform/dbus/BusConnection.h"
 
-#include <QDBusError>
-#include <QDBusPendingCallWatcher>
-#include <utility>
+#include <poll.h>
 
-#include "platform/dbus/BusSignalReceiver.h"
+#include <algorithm>
+#include <system_error>
+#include <utility>
 
 namespace tonquil {
 
 namespace {
 
-// Empty when there is none. The bus library would start a session bus of its own then.
-QString addressOf(BusConnection::Bus bus) {
-    if (bus == BusConnection::Bus::System) {
-        return qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS",
-                                    QStringLiteral("unix:path=/run/dbus/system_bus_socket"));
+using std::chrono::microseconds;
+using std::chrono::milliseconds;
+using SteadyClock = std::chrono::steady_clock;
+
+int appendArgument(sd_bus_message* message, const BusConnection::Argument& argument) {
+    if (const auto* text = std::get_if<std::string>(&argument)) {
+        return sd_bus_message_append_basic(message, SD_BUS_TYPE_STRING, text->c_str());
     }
-    const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return qEnvironmentVariable(
-        "DBUS_SESSION_BUS_ADDRESS",
-        folder.isEmpty() ? QString() : QStringLiteral("unix:path=%1/bus").arg(folder));
+    if (const auto* number = std::get_if<std::uint32_t>(&argument)) {
+        return sd_bus_message_append_basic(message, SD_BUS_TYPE_UINT32, number);
+    }
+    int result = sd_bus_message_open_container(message, SD_BUS_TYPE_ARRAY, "s");
+    for (const std::string& text : std::get<std::vector<std::string>>(argument)) {
+        result = std::min(result,
+                          sd_bus_message_append_basic(message, SD_BUS_TYPE_STRING, text.c_str()));
+    }
+    return std::min(result, sd_bus_message_close_container(message));
 }
 
-QString newConnectionName() {
-    static int count = 0;
-    return QStringLiteral("tonquil-%1").arg(++count);
+// Without it the library closes the connection when the bus refuses a match.
+int takeInstallation(sd_bus_message* /*message*/, void* /*call*/, sd_bus_error* /*error*/) {
+    return 0;
 }
 
 }  // namespace
 
-BusConnection::BusConnection(Bus bus, Log log)
-    : _bus(bus),
-      _log(std::move(log)),
-      _name(newConnectionName()),
-      _connection(QString()),
-      _receivers(std::make_unique<QObject>()) {}
-
-BusConnection::~BusConnection() {
-    _receivers.reset();
-    QDBusConnection::disconnectFromBus(_name);
-}
-
-void BusConnection::open(std::function<void()> opened) {
-    const QString address = addressOf(_bus);
-    if (address.isEmpty()) {
-        report("is not there, so what it tells is left out.");
+void BusConnection::open(const std::string& address, Handler handler) {
+    if (address.empty()) {
         return;
     }
-    _opened = std::move(opened);
-    _probe = std::make_unique<BusProbe>(address, [this, address](const std::string& obstacle) {
-        if (obstacle.empty()) {
-            connect(address);
-        } else {
-            std::string text = "cannot be reached, so what it tells is left out: ";
-            report(text.append(obstacle).append("."));
-        }
-    });
-}
-
-void BusConnection::connect(const QString& address) {
-    _connection = QDBusConnection::connectToBus(address, _name);
-    if (!_connection.isConnected()) {
-        std::string text = "refuses us, so what it tells is left out: ";
-        report(text.append(_connection.lastError().message().toStdString()));
+    _handler = std::move(handler);
+    const int result = connect(address);
+    if (result < 0) {
+        // Not from within this call.
+        _limit = _runLoop.callOnce(
+            milliseconds(0), [this, result] { close(std::generic_category().message(-result)); });
         return;
     }
-    watch({QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected")},
-          [this](const Arguments&) { report("has gone; what it tells is no longer noticed."); });
-    _opened();
+    _readable = _runLoop.watchReadable(sd_bus_get_fd(_bus.get()), [this] { process(); });
+    _limit = _runLoop.callOnce(connectingTime, [this] { close("it does not answer"); });
+    // What is to be sent first is sent by the first turn.
+    _due = _runLoop.callOnce(milliseconds(0), [this] { process(); });
 }
 
-void BusConnection::watch(const Signal& signal, std::function<void(const Arguments&)> call) {
-    auto* const receiver = new BusSignalReceiver(std::move(call), _receivers.get());
-    _connection.connect(QString(), signal.path, signal.interface, signal.name, signal.arguments,
-                        QString(), receiver, SLOT(take(QDBusMessage)));
+int BusConnection::connect(const std::string& address) {
+    sd_bus* bus = nullptr;
+    int result = sd_bus_new(&bus);
+    _bus.reset(bus);
+    if (result >= 0) {
+        result = sd_bus_set_address(bus, address.c_str());
+    }
+    if (result >= 0) {
+        sd_bus_set_bus_client(bus, 1);
+        sd_bus_negotiate_fds(bus, 0);
+        result = sd_bus_start(bus);
+    }
+    return result;
 }
 
-void BusConnection::ask(const QDBusMessage& question,
-                        std::function<void(const Arguments&)> answered,
+void BusConnection::watch(const Signal& signal, Call call) {
+    std::string match =
+        "type='signal',interface='" + signal.interface + "',member='" + signal.name + "'";
+    if (!signal.path.empty()) {
+        match += ",path='" + signal.path + "'";
+    }
+    if (!signal.rest.empty()) {
+        match += "," + signal.rest;
+    }
+    _watches.push_back(std::move(call));
+    sd_bus_add_match_async(_bus.get(), nullptr, match.c_str(), &takeSignal, &takeInstallation,
+                           &_watches.back());
+}
+
+void BusConnection::ask(const Method& method, const std::vector<Argument>& arguments, Call answered,
                         std::function<void()> failed) {
-    auto* const call =
-        new QDBusPendingCallWatcher(_connection.asyncCall(question), _receivers.get());
-    QObject::connect(call, &QDBusPendingCallWatcher::finished, _receivers.get(),
-                     [call, answered = std::move(answered), failed = std::move(failed)] {
-                         const QDBusMessage reply = call->reply();
-                         call->deleteLater();
-                         if (reply.type() == QDBusMessage::ReplyMessage) {
-                             answered(reply.arguments());
-                         } else if (failed) {
-                             failed();
-                         }
-                     });
+    sd_bus_message* created = nullptr;
+    int result = sd_bus_message_new_method_call(_bus.get(), &created, method.service.c_str(),
+                                                method.path.c_str(), method.interface.c_str(),
+                                                method.name.c_str());
+    const BusMessagePointer message(created);
+    for (const Argument& argument : arguments) {
+        result = result < 0 ? result : appendArgument(created, argument);
+    }
+    if (result >= 0) {
+        _questions.push_back({*this, std::move(answered), std::move(failed)});
+        sd_bus_call_async(_bus.get(), nullptr, created, &takeAnswer, &_questions.back(), 0);
+    }
 }
 
-void BusConnection::report(const std::string& text) const {
-    if (_log) {
-        std::string line = _bus == Bus::System ? "The system bus " : "The session bus ";
-        _log(line.append(text));
+int BusConnection::takeSignal(sd_bus_message* message, void* call, sd_bus_error* /*error*/) {
+    BusArguments arguments(message);
+    (*static_cast<Call*>(call))(arguments);
+    return 0;
+}
+
+int BusConnection::takeAnswer(sd_bus_message* message, void* question, sd_bus_error* /*error*/) {
+    auto& asked = *static_cast<Question*>(question);
+    BusConnection& connection = asked.connection;
+    // A bus that goes answers everything with an error.
+    if (sd_bus_is_open(connection._bus.get()) > 0) {
+        if (sd_bus_message_is_method_error(message, nullptr) != 0) {
+            asked.failed();
+        } else {
+            BusArguments arguments(message);
+            asked.answered(arguments);
+        }
+    }
+    connection._questions.remove_if([&](const Question& each) { return &each == &asked; });
+    return 0;
+}
+
+void BusConnection::process() {
+    const auto end = SteadyClock::now() + longestTurn;
+    int result = 1;
+    while (result > 0 && SteadyClock::now() < end) {
+        result = sd_bus_process(_bus.get(), nullptr);
+        if (result >= 0 && !_isOpen && sd_bus_is_ready(_bus.get()) > 0) {
+            _isOpen = true;
+            _limit.reset();
+            _handler.opened();
+        }
+    }
+    if (result < 0) {
+        close(std::generic_category().message(-result));
+    } else {
+        waitForMore();
+    }
+}
+
+// Messages that the library holds already do not show on the descriptor, but count as due.
+void BusConnection::waitForMore() {
+    constexpr milliseconds writingPause(10);
+    std::uint64_t time = 0;
+    _due.reset();
+    if ((sd_bus_get_events(_bus.get()) & POLLOUT) != 0) {
+        _due = _runLoop.callOnce(writingPause, [this] { process(); });
+    } else if (sd_bus_get_timeout(_bus.get(), &time) > 0 && time != UINT64_MAX) {
+        const auto now =
+            std::chrono::duration_cast<microseconds>(SteadyClock::now().time_since_epoch());
+        const auto wait =
+            std::chrono::ceil<milliseconds>(microseconds(static_cast<std::int64_t>(time)) - now);
+        _due = _runLoop.callOnce(std::max(wait, milliseconds(0)), [this] { process(); });
+    }
+}
+
+void BusConnection::close(const std::string& reason) {
+    _readable.reset();
+    _due.reset();
+    _limit.reset();
+    _bus.reset();
+    if (std::exchange(_isOpen, false)) {
+        _handler.gone();
+    } else {
+        _handler.unreachable(reason);
     }
 }
 

@@ -1,66 +1,98 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QObject>
-#include <QVariant>
+#include <chrono>
+#include <cstdint>
 #include <functional>
+#include <list>
 #include <memory>
 #include <string>
+#include <variant>
+#include <vector>
 
-#include "foundation/Log.h"
-#include "platform/dbus/BusProbe.h"
+#include "foundation/RunLoop.h"
+#include "platform/dbus/BusArguments.h"
 
 namespace tonquil {
 
-/// A connection of our own to the system's or the session's D-Bus, which a bus that hangs does not
-/// make the main thread wait for.
+/// A connection to a D-Bus that never blocks: connecting, authenticating and asking all go on from
+/// the run loop, so a bus that hangs at any point costs nothing but itself.
 ///
-/// All calls are made on the main thread, from Qt's event loop, until the object is destroyed.
+/// Messages are handled for at most `longestTurn` at a time and stay in the socket until then, so
+/// a flood of them neither holds the run loop up nor fills the memory. No call may destroy the
+/// connection.
 class BusConnection {
  public:
-    enum class Bus : bool { System, Session };
-    using Arguments = QList<QVariant>;
+    static constexpr std::chrono::seconds connectingTime{5};
+    static constexpr std::chrono::milliseconds longestTurn{2};
+
+    using Call = std::function<void(BusArguments& arguments)>;
+    using Argument = std::variant<std::string, std::uint32_t, std::vector<std::string>>;
 
     /// A signal by its interface and name, from whichever sender.
     struct Signal {
-        QString interface;
-        QString name;
-        /// Any object's when null.
-        QString path = {};
-        /// What the arguments must be, in their order; a null one may be anything.
-        QStringList arguments = {};
+        std::string interface;
+        std::string name;
+        /// Any object's when empty.
+        std::string path = {};
+        /// More conditions in the bus's own language, such as "arg2=''".
+        std::string rest = {};
+    };
+    struct Method {
+        std::string service;
+        std::string path;
+        std::string interface;
+        std::string name;
+    };
+    struct Handler {
+        /// Once, when the bus can be used.
+        std::function<void()> opened;
+        /// Once, with the reason, when it cannot be connected to within `connectingTime`.
+        std::function<void(const std::string& reason)> unreachable = [](const std::string&) {};
+        /// Once, when it goes after it was opened.
+        std::function<void()> gone = [] {};
     };
 
-    /// `log` gets one line when the bus is not there, and one when it is lost.
-    BusConnection(Bus bus, Log log);
-    ~BusConnection();
+    /// The run loop must outlive the connection.
+    explicit BusConnection(RunLoop& runLoop) : _runLoop(runLoop) {}
     BusConnection(const BusConnection&) = delete;
     BusConnection& operator=(const BusConnection&) = delete;
 
-    /// Connects once the bus shows that it answers; calls once if that succeeds. To be called once.
-    void open(std::function<void()> opened);
+    /// Starts to connect; an empty address is no bus, and does nothing. To be called once.
+    void open(const std::string& address, Handler handler);
 
     /// Calls with the arguments of each such signal from now on. Only once it is open.
-    void watch(const Signal& signal, std::function<void(const Arguments&)> call);
-    /// Calls a method; then `answered` with the arguments of its reply, or `failed`.
-    void ask(const QDBusMessage& question, std::function<void(const Arguments&)> answered,
-             std::function<void()> failed = {});
+    void watch(const Signal& signal, Call call);
+    /// Calls a method; then `answered` with what it returns, or `failed` after an error or 25 s.
+    /// Neither is called once the bus has gone.
+    void ask(
+        const Method& method, const std::vector<Argument>& arguments, Call answered,
+        std::function<void()> failed = [] {});
 
  private:
-    void connect(const QString& address);
-    void report(const std::string& text) const;
+    struct Question {
+        BusConnection& connection;
+        Call answered;
+        std::function<void()> failed;
+    };
 
-    Bus _bus;
-    Log _log;
-    std::function<void()> _opened;
-    QString _name;
-    /// Invalid until the bus answers.
-    QDBusConnection _connection;
-    std::unique_ptr<BusProbe> _probe;
-    /// Owns the receivers of signals and the waiting calls, so that nothing is called after it.
-    std::unique_ptr<QObject> _receivers;
+    static int takeSignal(sd_bus_message* message, void* call, sd_bus_error* error);
+    static int takeAnswer(sd_bus_message* message, void* question, sd_bus_error* error);
+    [[nodiscard]] int connect(const std::string& address);
+    void process();
+    void waitForMore();
+    void close(const std::string& reason);
+
+    RunLoop& _runLoop;
+    Handler _handler;
+    bool _isOpen = false;
+    std::list<Call> _watches;
+    std::list<Question> _questions;
+    /// Goes before the calls that it knows.
+    BusPointer _bus;
+    std::unique_ptr<RunLoop::Handle> _readable;
+    std::unique_ptr<RunLoop::Handle> _due;
+    std::unique_ptr<RunLoop::Handle> _limit;
 };
 
 }  // namespace tonquil

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/dbus/BusSessionEvents.h"
 
-#include <QCoreApplication>
-#include <QDBusArgument>
-#include <QDBusObjectPath>
-#include <QDBusVariant>
-#include <string>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
 #include <utility>
 
 namespace tonquil {
@@ -13,88 +13,88 @@ namespace tonquil {
 namespace {
 
 using namespace std::chrono_literals;
-using Arguments = BusConnection::Arguments;
 
-constexpr QLatin1String loginService("org.freedesktop.login1");
-constexpr QLatin1String loginManager("org.freedesktop.login1.Manager");
-constexpr QLatin1String loginSession("org.freedesktop.login1.Session");
-constexpr QLatin1String colourManager("org.freedesktop.ColorManager");
-constexpr QLatin1String busProperties("org.freedesktop.DBus.Properties");
+constexpr const char* loginService = "org.freedesktop.login1";
+constexpr const char* loginManager = "org.freedesktop.login1.Manager";
+constexpr const char* loginSession = "org.freedesktop.login1.Session";
+constexpr const char* colourManager = "org.freedesktop.ColorManager";
+constexpr const char* busProperties = "org.freedesktop.DBus.Properties";
 
-QDBusMessage busQuestion(const QString& method) {
-    const auto bus = QStringLiteral("org.freedesktop.DBus");
-    return QDBusMessage::createMethodCall(bus, QStringLiteral("/org/freedesktop/DBus"), bus,
-                                          method);
-}
-
-bool isBool(const Arguments& arguments, bool value) {
-    return !arguments.isEmpty() && arguments[0].typeId() == QMetaType::Bool &&
-           arguments[0].toBool() == value;
+BusConnection::Method busMethod(const std::string& name) {
+    return {"org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", name};
 }
 
 }  // namespace
 
-BusSessionEvents::BusSessionEvents(RunLoop& runLoop, Log log)
+BusSessionEvents::BusSessionEvents(RunLoop& runLoop, Addresses addresses, Log log)
     : _runLoop(runLoop),
+      _addresses(std::move(addresses)),
       _log(std::move(log)),
-      _system(BusConnection::Bus::System, _log),
-      _session(BusConnection::Bus::Session, _log) {}
+      _system(runLoop),
+      _session(runLoop) {}
 
 void BusSessionEvents::start(Handler handler) {
     _handler = std::move(handler);
-    _system.open([this] { watchSystemBus(); });
-    _session.open([this] { watchSessionBus(); });
+    open(_system, "The system bus", _addresses.system, [this] { watchSystemBus(); });
+    open(_session, "The session bus", _addresses.session, [this] { watchSessionBus(); });
+}
+
+void BusSessionEvents::open(BusConnection& bus, const std::string& name, const std::string& address,
+                            std::function<void()> opened) {
+    bus.open(
+        address,
+        {.opened = std::move(opened),
+         .unreachable =
+             [this, name](const std::string& reason) {
+                 report(name + " cannot be reached, so what it tells is left out: " + reason + ".");
+             },
+         .gone = [this,
+                  name] { report(name + " has gone; what it tells is no longer noticed."); }});
 }
 
 void BusSessionEvents::watchSystemBus() {
-    _system.watch({loginManager, QStringLiteral("PrepareForSleep")},
-                  [this](const Arguments& arguments) { sleepChanged(arguments); });
-    for (const auto& name : {QStringLiteral("DeviceAdded"), QStringLiteral("DeviceChanged"),
-                             QStringLiteral("DeviceRemoved"), QStringLiteral("ProfileAdded"),
-                             QStringLiteral("ProfileChanged"), QStringLiteral("ProfileRemoved")}) {
-        _system.watch({colourManager, name}, [this](const Arguments&) {
+    _system.watch({loginManager, "PrepareForSleep"},
+                  [this](BusArguments& arguments) { sleepChanged(arguments); });
+    for (const char* const name : {"DeviceAdded", "DeviceChanged", "DeviceRemoved", "ProfileAdded",
+                                   "ProfileChanged", "ProfileRemoved"}) {
+        _system.watch({colourManager, name}, [this](BusArguments&) {
             tellSoon(_colours, SessionEvent::ColourSpaceChanged);
         });
     }
     // A service that is not running may still be one that the bus can start.
-    _system.ask(busQuestion(QStringLiteral("ListNames")), [this](const Arguments& running) {
-        _system.ask(
-            busQuestion(QStringLiteral("ListActivatableNames")),
-            [this, running](const Arguments& startable) {
-                findServices(running.value(0).toStringList() + startable.value(0).toStringList());
-            });
+    _system.ask(busMethod("ListNames"), {}, [this](BusArguments& running) {
+        _system.ask(busMethod("ListActivatableNames"), {},
+                    [this, names = running.texts()](BusArguments& startable) mutable {
+                        std::ranges::move(startable.texts(), std::back_inserter(names));
+                        findServices(names);
+                    });
     });
 }
 
 void BusSessionEvents::watchSessionBus() {
-    for (const auto& interface :
-         {QStringLiteral("org.freedesktop.ScreenSaver"), QStringLiteral("org.gnome.ScreenSaver"),
-          QStringLiteral("org.cinnamon.ScreenSaver"), QStringLiteral("org.mate.ScreenSaver"),
-          QStringLiteral("org.xfce.ScreenSaver")}) {
-        _session.watch({interface, QStringLiteral("ActiveChanged")},
-                       [this](const Arguments& arguments) {
-                           if (isBool(arguments, false)) {
-                               _handler(SessionEvent::ScreenSaverStopped);
-                           }
-                       });
+    for (const char* const interface :
+         {"org.freedesktop.ScreenSaver", "org.gnome.ScreenSaver", "org.cinnamon.ScreenSaver",
+          "org.mate.ScreenSaver", "org.xfce.ScreenSaver"}) {
+        _session.watch({interface, "ActiveChanged"}, [this](BusArguments& arguments) {
+            if (arguments.boolean() == false) {
+                _handler(SessionEvent::ScreenSaverStopped);
+            }
+        });
     }
     // The third argument is the new owner: the bus itself holds back what only moves or appears.
-    _session.watch({QStringLiteral("org.freedesktop.DBus"),
-                    QStringLiteral("NameOwnerChanged"),
-                    {},
-                    {QString(), QString(), QStringLiteral("")}},
-                   [this](const Arguments& arguments) {
-                       if (!arguments.value(0).toString().startsWith(QLatin1Char(':'))) {
+    _session.watch({"org.freedesktop.DBus", "NameOwnerChanged", {}, "arg2=''"},
+                   [this](BusArguments& arguments) {
+                       if (!arguments.text().starts_with(':')) {
                            tellSoon(_terminated, SessionEvent::ApplicationTerminated);
                        }
                    });
 }
 
-void BusSessionEvents::findServices(const QStringList& names) {
-    if (!names.contains(colourManager)) {
+void BusSessionEvents::findServices(const std::vector<std::string>& names) {
+    if (std::ranges::find(names, colourManager) == names.end()) {
         report("There is no colour management service, so a change of profiles is not noticed.");
     }
-    if (names.contains(loginService)) {
+    if (std::ranges::find(names, loginService) != names.end()) {
         findSession();
     } else {
         report("There is no login service, so waking from sleep is not noticed.");
@@ -108,63 +108,61 @@ void BusSessionEvents::findSession() {
             "noticed.");
     };
     const auto byDesktop = [this, none] {
-        auto question = QDBusMessage::createMethodCall(
-            loginService, QStringLiteral("/org/freedesktop/login1/session/auto"), busProperties,
-            QStringLiteral("Get"));
-        question << loginSession << QStringLiteral("Id");
         // This object stands for the session, but its signals come from the session's own.
         _system.ask(
-            question,
-            [this, none](const Arguments& id) {
-                askForSession(QStringLiteral("GetSession"),
-                              id.value(0).value<QDBusVariant>().variant(), none);
+            {loginService, "/org/freedesktop/login1/session/auto", busProperties, "Get"},
+            {std::string(loginSession), std::string("Id")},
+            [this, none](BusArguments& arguments) {
+                const auto value = arguments.value();
+                const auto* const id = std::get_if<std::string>(&value);
+                askForSession("GetSession", id == nullptr ? std::string() : *id, none);
             },
             none);
     };
     const auto byProcess = [this, byDesktop] {
-        askForSession(QStringLiteral("GetSessionByPID"),
-                      static_cast<uint>(QCoreApplication::applicationPid()), byDesktop);
+        askForSession("GetSessionByPID", static_cast<std::uint32_t>(getpid()), byDesktop);
     };
-    const QString id = qEnvironmentVariable("XDG_SESSION_ID");
-    if (id.isEmpty()) {
+    const char* const id = std::getenv("XDG_SESSION_ID");
+    if (id == nullptr || *id == '\0') {
         byProcess();
     } else {
-        askForSession(QStringLiteral("GetSession"), id, byProcess);
+        askForSession("GetSession", std::string(id), byProcess);
     }
 }
 
-void BusSessionEvents::askForSession(const QString& method, const QVariant& key,
+void BusSessionEvents::askForSession(const std::string& method, const BusConnection::Argument& key,
                                      const std::function<void()>& failed) {
-    auto question = QDBusMessage::createMethodCall(
-        loginService, QStringLiteral("/org/freedesktop/login1"), loginManager, method);
-    question << key;
     _system.ask(
-        question,
-        [this](const Arguments& session) {
-            _system.watch({busProperties, QStringLiteral("PropertiesChanged"),
-                           session.value(0).value<QDBusObjectPath>().path()},
-                          [this](const Arguments& arguments) { sessionChanged(arguments); });
+        {loginService, "/org/freedesktop/login1", loginManager, method}, {key},
+        [this](BusArguments& session) {
+            _system.watch({busProperties, "PropertiesChanged", session.text()},
+                          [this](BusArguments& arguments) { sessionChanged(arguments); });
         },
         failed);
 }
 
-void BusSessionEvents::sleepChanged(const Arguments& arguments) {
-    if (isBool(arguments, true)) {
+void BusSessionEvents::sleepChanged(BusArguments& arguments) {
+    const auto isFallingAsleep = arguments.boolean();
+    if (isFallingAsleep == true) {
         _wakes = {};
-    } else if (isBool(arguments, false)) {
+    } else if (isFallingAsleep == false) {
         // Displays come up one after the other.
         _wakes = {tellAfter(1s, SessionEvent::Woke), tellAfter(5s, SessionEvent::Woke)};
         _handler(SessionEvent::Woke);
     }
 }
 
-void BusSessionEvents::sessionChanged(const Arguments& arguments) {
-    const auto changed = qdbus_cast<QVariantMap>(arguments.value(1));
-    if (arguments.value(0).toString() == loginSession &&
-        changed.value(QStringLiteral("Active")).toBool()) {
-        _active = tellAfter(1s, SessionEvent::SessionBecameActive);
-        _handler(SessionEvent::SessionBecameActive);
+void BusSessionEvents::sessionChanged(BusArguments& arguments) {
+    if (arguments.text() != loginSession) {
+        return;
     }
+    arguments.eachEntry([&](const std::string& key) {
+        const auto value = arguments.value();
+        if (key == "Active" && value == BusArguments::Value(true)) {
+            _active = tellAfter(1s, SessionEvent::SessionBecameActive);
+            _handler(SessionEvent::SessionBecameActive);
+        }
+    });
 }
 
 void BusSessionEvents::tellSoon(Timer& timer, SessionEvent event) {

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "app/correction/SessionEvents.h"
 #include "foundation/Log.h"
@@ -24,34 +25,42 @@ namespace tonquil {
 /// | ApplicationTerminated | a name that left the session bus, within 200 ms |
 /// | ColourSpaceChanged | the colour management service, within 200 ms |
 ///
-/// `start` returns at once, and neither a bus nor a service that hangs is waited for. Needs a
-/// QCoreApplication and its event loop on the main thread.
+/// Nothing here waits for a bus or a service, so one that hangs is only left out.
 class BusSessionEvents final : public SessionEvents {
  public:
     /// How long several events of one kind are told as one.
     static constexpr std::chrono::milliseconds coalescingTime{200};
 
-    BusSessionEvents(RunLoop& runLoop, Log log);
+    /// Of the two buses; one that is empty is left out without a word.
+    struct Addresses {
+        std::string system;
+        std::string session;
+    };
+
+    BusSessionEvents(RunLoop& runLoop, Addresses addresses, Log log);
 
     void start(Handler handler) override;
 
  private:
     using Timer = std::unique_ptr<RunLoop::Handle>;
 
+    void open(BusConnection& bus, const std::string& name, const std::string& address,
+              std::function<void()> opened);
     void watchSystemBus();
     void watchSessionBus();
-    void findServices(const QStringList& names);
+    void findServices(const std::vector<std::string>& names);
     void findSession();
     /// Watches the session that the login service's method names; otherwise calls `failed`.
-    void askForSession(const QString& method, const QVariant& key,
+    void askForSession(const std::string& method, const BusConnection::Argument& key,
                        const std::function<void()>& failed);
-    void sleepChanged(const BusConnection::Arguments& arguments);
-    void sessionChanged(const BusConnection::Arguments& arguments);
+    void sleepChanged(BusArguments& arguments);
+    void sessionChanged(BusArguments& arguments);
     void tellSoon(Timer& timer, SessionEvent event);
     [[nodiscard]] Timer tellAfter(std::chrono::milliseconds delay, SessionEvent event);
     void report(const std::string& line) const;
 
     RunLoop& _runLoop;
+    Addresses _addresses;
     Log _log;
     Handler _handler;
     BusConnection _system;

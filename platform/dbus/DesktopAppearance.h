@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "platform/dbus/BusConnection.h"
 
@@ -10,7 +11,6 @@ namespace tonquil {
 /// Follows what the person asked of the whole desktop's appearance, through the desktop portal.
 ///
 /// Where there is no portal, or no session bus, nothing is ever called and nothing is logged.
-/// Needs a QCoreApplication and its event loop on the main thread.
 class DesktopAppearance {
  public:
     struct Settings {
@@ -23,15 +23,16 @@ class DesktopAppearance {
     };
     using Handler = std::function<void(const Settings&)>;
 
-    DesktopAppearance();
+    explicit DesktopAppearance(RunLoop& runLoop) : _bus(runLoop) {}
 
-    /// Asks without waiting, and calls on the main thread whenever the settings differ from those
-    /// told last, which at the beginning are the defaults of `Settings`. To be called once.
-    void start(Handler handler);
+    /// Asks on the session bus without waiting, and calls on the main thread whenever the settings
+    /// differ from the last ones, which at first are the defaults of `Settings`. An empty address
+    /// is no bus. To be called once.
+    void start(const std::string& address, Handler handler);
 
  private:
     void ask();
-    void take(const QString& group, const QString& key, const QVariant& value);
+    void take(const std::string& group, const std::string& key, const BusArguments::Value& value);
     void tell();
 
     Handler _handler;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QtRunLoop.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QPointer>
@@ -46,6 +47,17 @@ class SourceHandle final : public RunLoop::Handle {
     QPointer<Source> _source;
 };
 
+// Without an application there is nothing yet that a source could be registered with; the first
+// events of the application then do it.
+template <typename Start>
+void startSource(QObject& source, Start start) {
+    if (QAbstractEventDispatcher::instance() != nullptr) {
+        start();
+    } else {
+        QMetaObject::invokeMethod(&source, std::move(start), Qt::QueuedConnection);
+    }
+}
+
 std::unique_ptr<RunLoop::Handle> startTimer(QObject& context, milliseconds time, bool isSingleShot,
                                             RunLoop::Call call) {
     auto* const timer = new QTimer(&context);
@@ -53,7 +65,8 @@ std::unique_ptr<RunLoop::Handle> startTimer(QObject& context, milliseconds time,
     timer->setSingleShot(isSingleShot);
     QObject::connect(timer, &QTimer::timeout, &context, std::move(call));
     // Qt counts milliseconds as an int.
-    timer->start(std::min(time, milliseconds(std::numeric_limits<int>::max())));
+    const auto longest = milliseconds(std::numeric_limits<int>::max());
+    startSource(*timer, [timer, time = std::min(time, longest)] { timer->start(time); });
     return std::make_unique<SourceHandle<QTimer>>(timer);
 }
 
@@ -90,8 +103,12 @@ std::unique_ptr<RunLoop::Handle> QtRunLoop::callRepeatedly(milliseconds interval
 }
 
 std::unique_ptr<RunLoop::Handle> QtRunLoop::watchReadable(int descriptor, Call call) {
-    auto* const notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, _context.get());
+    auto* const notifier = new QSocketNotifier(QSocketNotifier::Read, _context.get());
     QObject::connect(notifier, &QSocketNotifier::activated, _context.get(), std::move(call));
+    startSource(*notifier, [notifier, descriptor] {
+        notifier->setSocket(descriptor);
+        notifier->setEnabled(true);
+    });
     return std::make_unique<SourceHandle<QSocketNotifier>>(notifier);
 }
 

@@ -9,9 +9,10 @@ namespace tonquil {
 
 /// The run loop of a program whose main thread runs Qt's event loop.
 ///
-/// A QCoreApplication must exist by the time of the first timer or watch; calls are made while any
-/// of its event loops runs, those of dialogs included. With this object all its timers and watches
-/// end, and posted calls that are still waiting are dropped; handles may outlive it.
+/// Calls are made while any event loop of the QCoreApplication runs, those of dialogs included.
+/// Timers and watches may be made before there is an application: they begin with its first event.
+/// With this object all its timers and watches end, and posted calls that are still waiting are
+/// dropped; handles may outlive it.
 ///
 /// Timers of 20 ms or longer may fire up to a twentieth early or late, so that the machine wakes
 /// up less often; shorter ones keep to the millisecond. Delays below 0 ms count as 0 ms, intervals

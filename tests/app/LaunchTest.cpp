@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "app/StoredCorrection.h"
 #include "tests/app/ControllerBench.h"
 
 namespace tonquil {
@@ -98,6 +99,43 @@ TEST(Launch, FindsWhatAnOrderlyEndHasSavedOnce) {
     bench.launchAndSettle();
     EXPECT_EQ(bench.firstEntry(ControllerBench::left), edited);
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.25F);
+}
+
+TEST(Launch, PutsStoredCurvesOnTheDisplaysFirstUnlessAQuestionOrNoCorrectionComesFirst) {
+    ControllerBench bench;
+    bench.launchAndSettle();
+    bench.edit(PanelSlider::BlackRed, 0.25F);
+    const int edited = bench.firstEntry(ControllerBench::left);
+    const auto start = [&] {
+        bench.desk.find(ControllerBench::left)->ramp = HardwareRamp::straight(256);
+        SimulatedDisplayService service(bench.desk);
+        ScreenRegistry registry(service);
+        applyStoredCurves(registry, service, bench.preferences, bench.desktop, bench.desktop);
+        return bench.firstEntry(ControllerBench::left);
+    };
+    bench.loop.advance(std::chrono::milliseconds(500));
+    EXPECT_EQ(start(), edited) << "left by a crash";
+    bench.controller().applicationWillTerminate();
+    EXPECT_EQ(start(), edited);
+    bench.preferences.stored["RememberSettings"] = false;
+    EXPECT_EQ(start(), 0);
+    bench.preferences.stored["RememberSettings"] = true;
+    bench.desktop.installed = "redshift.desktop";
+    EXPECT_EQ(start(), 0);
+}
+
+TEST(Launch, AppliesTwiceAtMostAfterAStormOfEvents) {
+    ControllerBench bench;
+    bench.launchAndSettle();
+    bench.journal.clear();
+    for (int count = 0; count < 1000; ++count) {
+        bench.desktop.tell(SessionEvent::ScreenSaverStopped);
+    }
+    EXPECT_THAT(bench.journal, ElementsAre("table 1", "table 2"));
+    bench.loop.advance(Reapplication::pause);
+    EXPECT_THAT(bench.journal, ElementsAre("table 1", "table 2", "table 1", "table 2"));
+    bench.loop.advance(2 * Reapplication::pause);
+    EXPECT_EQ(bench.journal.size(), 4U);
 }
 
 TEST(Launch, PrefersWhatACrashLeftToWhatIsStored) {

@@ -131,6 +131,12 @@ TEST_F(Run, WaitsWithRequestsButNotWithItsEndWhileItAsksOfARival) {
     EXPECT_TRUE(eventually([&] { return desk.windows().size() == 2; })) << "Panel, preferences.";
 }
 
+TEST(RunAlone, ShowsItsPanelWithoutStandardStreams) {
+    const Desk desk;
+    const auto program = desk.begin({"sh", "-c", "exec " TONQUIL " <&- >&- 2>&-"});
+    EXPECT_TRUE(eventually([&] { return desk.hasPanel(); }));
+}
+
 TEST(RunAlone, WorksWithoutAWindowManagerAndSaysWhenThereIsNoServer) {
     Desk desk(false);
     desk.start();

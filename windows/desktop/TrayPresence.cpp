@@ -5,8 +5,6 @@
 #include <QWidget>
 #include <utility>
 
-#include "windows/desktop/StatusIcons.h"
-
 namespace tonquil {
 
 namespace {
@@ -19,7 +17,7 @@ TrayPresence::TrayPresence(WindowSystem& windowSystem, Log log)
     : _windowSystem(windowSystem), _log(std::move(log)) {
     _item.setContextMenu(&_menu);
     _item.setToolTip(QStringLiteral("Tonquil"));
-    _item.setIcon(statusIcon(false));
+    _item.setIcon(_restingIcon);
     _lookTimer.setInterval(lookMilliseconds);
     QObject::connect(&_lookTimer, &QTimer::timeout, this, [this] { look(); });
 }
@@ -57,7 +55,7 @@ void TrayPresence::look() {
 }
 
 void TrayPresence::setStatusItemActive(bool isActive) {
-    _item.setIcon(statusIcon(isActive));
+    _item.setIcon(isActive ? _activeIcon : _restingIcon);
     _menu.showCorrection(isActive);
 }
 

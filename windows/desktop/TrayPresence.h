@@ -10,6 +10,7 @@
 #include "app/panel/PanelActions.h"
 #include "app/panel/WindowSystem.h"
 #include "foundation/Log.h"
+#include "windows/desktop/StatusIcons.h"
 #include "windows/desktop/StatusMenu.h"
 
 namespace tonquil {
@@ -44,6 +45,9 @@ class TrayPresence final : public QObject, public DesktopPresence {
     WindowSystem& _windowSystem;
     Log _log;
     StatusMenu _menu;
+    // Made once: the toolkit keeps drawn copies of every icon that it meets.
+    QIcon _restingIcon = statusIcon(false);
+    QIcon _activeIcon = statusIcon(true);
     QSystemTrayIcon _item;
     std::vector<QWidget*> _windows;
     /// Looks for a tray while there is none.

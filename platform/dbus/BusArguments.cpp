@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "platform/dbus/BusArguments.h"
+
+namespace tonquil {
+
+std::optional<bool> BusArguments::boolean() {
+    int value = 0;
+    if (sd_bus_message_read_basic(_message, SD_BUS_TYPE_BOOLEAN, &value) <= 0) {
+        return std::nullopt;
+    }
+    return value != 0;
+}
+
+std::string BusArguments::text() {
+    char type = 0;
+    const char* text = nullptr;
+    if (sd_bus_message_peek_type(_message, &type, nullptr) <= 0 ||
+        (type != SD_BUS_TYPE_STRING && type != SD_BUS_TYPE_OBJECT_PATH) ||
+        sd_bus_message_read_basic(_message, type, static_cast<void*>(&text)) <= 0) {
+        return {};
+    }
+    return text;
+}
+
+std::vector<std::string> BusArguments::texts() {
+    std::vector<std::string> all;
+    if (sd_bus_message_enter_container(_message, SD_BUS_TYPE_ARRAY, "s") > 0) {
+        const char* text = nullptr;
+        while (sd_bus_message_read_basic(_message, SD_BUS_TYPE_STRING, static_cast<void*>(&text)) >
+               0) {
+            all.emplace_back(text);
+        }
+        sd_bus_message_exit_container(_message);
+    }
+    return all;
+}
+
+BusArguments::Value BusArguments::value() {
+    Value value;
+    const char* contents = nullptr;
+    if (sd_bus_message_peek_type(_message, nullptr, &contents) <= 0 || contents == nullptr) {
+        return value;
+    }
+    const std::string type(contents);
+    if (sd_bus_message_enter_container(_message, SD_BUS_TYPE_VARIANT, contents) <= 0) {
+        return value;
+    }
+    std::uint32_t number = 0;
+    if (type == "b") {
+        value = boolean().value_or(false);
+    } else if (type == "s") {
+        value = text();
+    } else if (type == "u" &&
+               sd_bus_message_read_basic(_message, SD_BUS_TYPE_UINT32, &number) > 0) {
+        value = number;
+    } else {
+        sd_bus_message_skip(_message, type.c_str());
+    }
+    sd_bus_message_exit_container(_message);
+    return value;
+}
+
+void BusArguments::eachEntry(const std::function<void(const std::string& key)>& read) {
+    if (sd_bus_message_enter_container(_message, SD_BUS_TYPE_ARRAY, nullptr) <= 0) {
+        return;
+    }
+    while (sd_bus_message_enter_container(_message, SD_BUS_TYPE_DICT_ENTRY, nullptr) > 0) {
+        read(text());
+        // It may have left the value unread.
+        if (sd_bus_message_at_end(_message, 0) == 0) {
+            sd_bus_message_skip(_message, nullptr);
+        }
+        if (sd_bus_message_exit_container(_message) < 0) {
+            return;
+        }
+    }
+    sd_bus_message_exit_container(_message);
+}
+
+}  // namespace tonquil

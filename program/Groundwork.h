@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "foundation/RunLoop.h"
+#include "platform/posix/DiskThread.h"
+#include "platform/xdg/CurveRecoveryFile.h"
+#include "platform/xdg/DesktopEntries.h"
+#include "platform/xdg/PropertyListPreferences.h"
+#include "platform/xdg/XdgFolders.h"
+#include "program/SaveProblems.h"
+#include "screens/ScreenRegistry.h"
+
+namespace tonquil {
+
+/// What the correction needs, and nothing that a bus or a window could hold up: the preferences,
+/// what a crash has left, and the displays. It is there before the toolkit's application is.
+class Groundwork {
+ public:
+    /// The run loop must outlive it.
+    Groundwork(XdgFolders folders, RunLoop& runLoop);
+
+    /// Puts the stored curves on the displays.
+    void applyStoredCurves();
+
+    [[nodiscard]] const XdgFolders& folders() const { return _folders; }
+    [[nodiscard]] RunLoop& runLoop() { return _runLoop; }
+    [[nodiscard]] PropertyListPreferences& preferences() { return _preferences; }
+    [[nodiscard]] CurveRecoveryFile& recovery() { return _recovery; }
+    [[nodiscard]] SaveProblems& saveProblems() { return _saveProblems; }
+    [[nodiscard]] DesktopEntries& installedPrograms() { return _installedPrograms; }
+    [[nodiscard]] DisplayService& displays() { return *_displays; }
+    [[nodiscard]] ScreenRegistry& registry() { return *_registry; }
+    /// Empty unless there never will be a display.
+    [[nodiscard]] const std::string& whyNoDisplays() const { return _whyNoDisplays; }
+
+ private:
+    XdgFolders _folders;
+    RunLoop& _runLoop;
+    DiskThread _disk;
+    SaveProblems _saveProblems;
+    PropertyListPreferences _preferences;
+    CurveRecoveryFile _recovery;
+    DesktopEntries _installedPrograms{DesktopEntries::fromEnvironment()};
+    std::unique_ptr<DisplayService> _displays;
+    std::string _whyNoDisplays;
+    std::unique_ptr<ScreenRegistry> _registry;
+};
+
+}  // namespace tonquil
