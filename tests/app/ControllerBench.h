@@ -14,9 +14,13 @@
 #include "platform/simulated/SimulatedDisplayService.h"
 #include "tests/app/DesktopFakes.h"
 #include "tests/app/PlainStore.h"
+#include "tests/remote/ServerBench.h"
 #include "tests/support/ManualRunLoop.h"
 
 namespace tonquil {
+
+inline constexpr DisplayID left = 1;
+inline constexpr DisplayID right = 2;
 
 /// A panel without a window.
 class RecordedPanel final : public PanelControls, public PanelWindow {
@@ -145,9 +149,15 @@ class RecordedService final : public SimulatedDisplayService {
     RecordedService(SimulatedDesk& desk, Journal& journal, RecordedDesktop& desktop)
         : SimulatedDisplayService(desk), _journal(journal), _desktop(desktop) {}
     void warpPointer(const Point& point) override { _desktop.pointer = point; }
-    void setTransferTable(DisplayID display, const GammaTable& table) override;
+    void setTransferTable(DisplayID display, const GammaTable& table) override {
+        _journal.push_back("table " + std::to_string(display));
+        SimulatedDisplayService::setTransferTable(display, table);
+    }
     [[nodiscard]] std::unique_ptr<Subscription> registerReconfigurationCallback(
-        ReconfigurationCallback callback) override;
+        ReconfigurationCallback callback) override {
+        _journal.emplace_back("displays observed");
+        return SimulatedDisplayService::registerReconfigurationCallback(std::move(callback));
+    }
 
  private:
     Journal& _journal;
@@ -162,23 +172,34 @@ class ControllerBench {
     /// Starts a program, ending without order the one that runs: what was not saved is lost.
     void launch();
     /// The same, and lets it settle.
-    void launchAndSettle();
+    void launchAndSettle() {
+        launch();
+        loop.runPosted();
+    }
     [[nodiscard]] TQController& controller() { return *_program->controller; }
     /// Moves a slider as a person does.
     void edit(PanelSlider slider, float value, bool isLinked = false);
     /// Changes a preference, as another program would, and lets the program take notice.
-    void set(std::string_view key, PropertyValue value);
-    void movePanel(double x);
+    void set(std::string_view key, PropertyValue value) {
+        preferences.setValue(key, std::move(value));
+        loop.runPosted();
+    }
+    void movePanel(double x) {
+        panel.place.x = x;
+        controller().panelMoved();
+    }
     /// The first level that a display's red hardware ramp has, in entries.
-    [[nodiscard]] int firstEntry(DisplayID display);
+    [[nodiscard]] int firstEntry(DisplayID display) {
+        return desk.find(display)->ramp.channel(0).front();
+    }
     /// The curve that a display has been given, and its red black level, which tests tell it by.
-    [[nodiscard]] std::shared_ptr<KVGammaCurve> curve(DisplayID display);
+    [[nodiscard]] std::shared_ptr<KVGammaCurve> curve(DisplayID display) {
+        return _program->registry->screenWithDirectDisplayID(display)->gammaCurve();
+    }
     [[nodiscard]] float red(DisplayID display) { return curve(display)->blackPoint()->redValue(); }
     /// Puts another program's ramp on the left display; gives how long it stays, at most 10 s.
     [[nodiscard]] std::chrono::milliseconds timeToReapply();
 
-    static constexpr DisplayID left = 1;
-    static constexpr DisplayID right = 2;
     static SimulatedDisplay makeDisplay(DisplayID display, double x);
     [[nodiscard]] static std::string referenceID(DisplayID display) {
         return std::to_string(100 + display) + "-0-0";
@@ -194,7 +215,7 @@ class ControllerBench {
     RecordedTargets targets;
     ScriptedAlerts alerts;
     ScriptedHotKeys hotKeys;
-    ScriptedNetwork network;
+    Wire network;
     std::vector<std::string> log;
     bool hasEnded = false;
 
@@ -208,12 +229,7 @@ class ControllerBench {
         std::unique_ptr<TQController> controller;
     };
 
-    [[nodiscard]] Result<std::unique_ptr<TQPlayerServer>> openServer(Log log);
-
     std::optional<Program> _program;
 };
-
-inline constexpr DisplayID left = ControllerBench::left;
-inline constexpr DisplayID right = ControllerBench::right;
 
 }  // namespace tonquil

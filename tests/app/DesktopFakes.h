@@ -129,40 +129,4 @@ class ScriptedHotKeys final : public HotKeyService {
     Handler _released;
 };
 
-/// The network: what servers have sent, and a way in.
-struct ScriptedNetwork {
-    std::vector<std::pair<std::string, SocketAddress>> sent;
-    DatagramSocket::Receiver receive;
-    bool canBind = true;
-};
-
-class ScriptedSocket final : public DatagramSocket {
- public:
-    explicit ScriptedSocket(ScriptedNetwork& network) : _network(network) {}
-    [[nodiscard]] int enableBroadcast() override { return 0; }
-    [[nodiscard]] int bind(const SocketAddress& /*address*/) override {
-        return _network.canBind ? 0 : 98;
-    }
-    [[nodiscard]] std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& /*runLoop*/,
-                                                             Receiver receiver) override {
-        _network.receive = std::move(receiver);
-        return std::make_unique<RunLoop::Handle>();
-    }
-    [[nodiscard]] int send(std::string_view bytes, const SocketAddress& recipient) override {
-        _network.sent.emplace_back(bytes, recipient);
-        return 0;
-    }
-
- private:
-    ScriptedNetwork& _network;
-};
-
-class ScriptedHost final : public LocalHost {
- public:
-    [[nodiscard]] std::string localizedName() const override { return "desk"; }
-    [[nodiscard]] std::optional<HardwareAddress> hardwareAddress() const override { return {}; }
-    [[nodiscard]] bool hasAddress(std::uint32_t /*host*/) const override { return false; }
-    [[nodiscard]] bool isBroadcastAddress(std::uint32_t /*host*/) const override { return false; }
-};
-
 }  // namespace tonquil

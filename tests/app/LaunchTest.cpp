@@ -39,13 +39,8 @@ TEST(Launch, FollowsThePreferences) {
                     "status item", "status inactive", "controls disabled", "tab 2",
                     "focus observed", "session observed", "displays observed"));
     EXPECT_FALSE(bench.panel.correction);
-    bench.loop.runPosted();
-    for (const std::int64_t unknownTab : {3LL, -1LL, 4294967296LL}) {
-        bench.preferences.stored["SelectedTab"] = unknownTab;
-        bench.journal.clear();
-        bench.launchAndSettle();
-        EXPECT_THAT(bench.journal, testing::Contains("tab 1").Times(2)) << unknownTab;
-    }
+    bench.controller().toggleApplyCorrection();
+    EXPECT_THAT(bench.journal, testing::Contains("status active"));
 }
 
 TEST(Launch, PutsThePanelBackWhereADisplayStillIsAndKeepsItWhole) {
@@ -61,33 +56,17 @@ TEST(Launch, PutsThePanelBackWhereADisplayStillIsAndKeepsItWhole) {
         EXPECT_EQ(bench.panel.place.x, origin.x);
         EXPECT_EQ(bench.panel.place.y, origin.y);
     }
-    // Without a display the place is kept for the first one that comes.
-    ControllerBench bench;
-    bench.preferences.stored = {{frameKey, "1200 50 320 132"}};
-    bench.desk.unplug(ControllerBench::left);
-    bench.desk.unplug(ControllerBench::right);
-    bench.launchAndSettle();
-    bench.controller().applicationWillTerminate();
-    EXPECT_EQ(bench.preferences.stored[frameKey], "1200 50 320 132");
-    bench.launchAndSettle();
-    bench.desk.plug(ControllerBench::makeDisplay(ControllerBench::right, 1000));
-    EXPECT_EQ(bench.panel.place.x, 1200);
-    // Much of its side is left on the other display, but nothing to move it by.
-    bench.desk.plug(ControllerBench::makeDisplay(ControllerBench::left, 0));
-    bench.panel.place.x = 900;
-    bench.desk.unplug(ControllerBench::right);
-    EXPECT_EQ(bench.panel.place.x, 648);
 }
 
 TEST(Launch, FindsWhatAnOrderlyEndHasSavedOnce) {
     ControllerBench bench;
     bench.launchAndSettle();
     bench.edit(PanelSlider::BlackRed, 0.25F);
-    const int edited = bench.firstEntry(ControllerBench::left);
+    const int edited = bench.firstEntry(left);
     ASSERT_GT(edited, 0);
     bench.panel.place.x = 300;
     bench.controller().applicationWillTerminate();
-    EXPECT_EQ(bench.firstEntry(ControllerBench::left), edited) << "The correction stays.";
+    EXPECT_EQ(bench.firstEntry(left), edited) << "The correction stays.";
     EXPECT_EQ(bench.preferences.stored[frameKey], "300 64 320 470");
     EXPECT_THAT(bench.desktop.recovery, IsEmpty());
     const PropertyValue saved = bench.preferences.stored;
@@ -95,9 +74,9 @@ TEST(Launch, FindsWhatAnOrderlyEndHasSavedOnce) {
     bench.controller().applicationWillTerminate();
     EXPECT_EQ(bench.preferences.stored, saved);
 
-    bench.desk.find(ControllerBench::left)->ramp = HardwareRamp::straight(256);
+    bench.desk.find(left)->ramp = HardwareRamp::straight(256);
     bench.launchAndSettle();
-    EXPECT_EQ(bench.firstEntry(ControllerBench::left), edited);
+    EXPECT_EQ(bench.firstEntry(left), edited);
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.25F);
 }
 

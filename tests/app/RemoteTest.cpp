@@ -26,7 +26,7 @@ class Remote : public testing::Test {
         bench.network.sent.clear();
     }
     void receive(const std::string& bytes) {
-        bench.network.receive(bytes, companion);
+        bench.network.receiver(bytes, companion);
         bench.loop.runPosted();
     }
     void setState(DisplayID display, const PropertyValue& state) {
@@ -42,7 +42,7 @@ class Remote : public testing::Test {
     [[nodiscard]] PropertyValue info(DisplayID display) {
         bench.network.sent.clear();
         receive("Kantivel scan ");
-        const std::string answer = bench.network.sent.at(0).first;
+        const std::string answer = bench.network.sent.at(0).bytes;
         return PropertyValue::parse(
             answer.substr(13))["screens"][ControllerBench::referenceID(display)];
     }
@@ -98,7 +98,7 @@ TEST_F(Remote, PushesTheClosingOfATarget) {
     bench.network.sent.clear();
     setState(left, {{"content", "transparent"}});
     EXPECT_THAT(bench.network.sent, SizeIs(2)) << "It was shown twice.";
-    EXPECT_EQ(bench.network.sent.back().second, companion);
+    EXPECT_EQ(bench.network.sent.back().recipient, companion);
     bench.loop.advance(PacedOrders::interval * 2);
     EXPECT_EQ(info(left)["content"], "transparent");
     for (int i = 0; i < 100; ++i) {
@@ -128,7 +128,6 @@ TEST_F(Remote, LeavesAPersonInPeaceWhoClosesThreeTargets) {
 
 TEST_F(Remote, SetsAFloodAtThePaceOfTheDisplayAndTheLastStateAlways) {
     bench.edit(PanelSlider::BlackRed, 0.5F);
-    constexpr DisplayID right = ControllerBench::right;
     int changes = 0;
     for (int i = 1; i <= 1000; ++i) {
         const float before = bench.red(left);
@@ -161,13 +160,13 @@ TEST_F(Remote, SetsAFloodAtThePaceOfTheDisplayAndTheLastStateAlways) {
 
 TEST_F(Remote, TriesATakenPortAgainAndSaysSoUntilItIsFree) {
     bench.set("AllowRemote", false);
-    bench.network.canBind = false;
+    bench.network.bindResult = 98;
     bench.log.clear();
     bench.set("AllowRemote", true);
     bench.loop.advance(std::chrono::minutes(1));
     EXPECT_THAT(bench.log, ElementsAre("CFSocketSetAddress() failed 98"));
     EXPECT_FALSE(bench.desktop.remoteProblem.empty() || bench.desktop.isRemoteShown);
-    bench.network.canBind = true;
+    bench.network.bindResult = 0;
     bench.loop.advance(std::chrono::seconds(5));
     EXPECT_TRUE(bench.desktop.remoteProblem.empty() && bench.desktop.isRemoteShown);
 }
@@ -182,8 +181,8 @@ TEST_F(Remote, FollowsItsPreferenceAndSwitchesItOffWhenNobodyIsHeard) {
     bench.loop.runPosted();
     bench.set("AllowRemote", true);
     ASSERT_THAT(bench.network.sent, SizeIs(2));
-    EXPECT_EQ(bench.network.sent[0].first, "Kantivel scan ");
-    EXPECT_EQ(bench.network.sent[1].second, SocketAddress(SocketAddress::broadcastHost, 48184));
+    EXPECT_EQ(bench.network.sent[0].bytes, "Kantivel scan ");
+    EXPECT_EQ(bench.network.sent[1].recipient, SocketAddress(SocketAddress::broadcastHost, 48184));
 
     // Nobody is heard now.
     bench.loop.advance(std::chrono::seconds(1));

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -13,6 +14,9 @@
 
 namespace tonquil {
 namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
 
 /// What the words between spaces mean.
 Result<Arguments> parsed(const std::string& line) {
@@ -65,22 +69,12 @@ std::string table(std::vector<std::string> arguments) {
     return result.exitStatus == 0 ? result.standardOutput : std::to_string(result.exitStatus);
 }
 
-std::string line(const std::string& text, int number) {
-    std::istringstream lines(text);
-    std::string found;
-    for (int i = 0; i <= number; ++i) {
-        found.clear();
-        std::getline(lines, found);
-    }
-    return found;
-}
-
 TEST(TableCommand, PrintsEveryDigitThatASingleNeeds) {
     const std::string absolute = table({"--curve", "[0,0,1,1,0.25,1,0.75,0,2.2]"});
-    EXPECT_EQ(line(absolute, 0), "0\t0.25\t0\t0");
+    EXPECT_THAT(absolute, StartsWith("0\t0.25\t0\t0\n"));
     // 0.5 to the single nearest to 2.2, computed apart.
-    EXPECT_EQ(line(absolute, 128), "128\t0.5\t0.217637628\t0.5");
-    EXPECT_EQ(line(absolute, 256), "");
+    EXPECT_THAT(absolute, HasSubstr("\n128\t0.5\t0.217637628\t0.5\n"));
+    EXPECT_EQ(std::ranges::count(absolute, '\n'), 256);
 }
 
 TEST(TableCommand, LaysACurveOverTheGivenBase) {
@@ -102,15 +96,12 @@ TEST(TableCommand, TakesTheOneCurveThatIsMeant) {
     half["v4-MasterBlack"] = 0.5;
     half["BlendingMode"] = 0;
     const std::string single = table({propertyListFile(half)});
-    EXPECT_EQ(line(single, 0), "0\t0.5\t0.5\t0.5");
+    EXPECT_THAT(single, StartsWith("0\t0.5\t0.5\t0.5\n"));
     EXPECT_EQ(table({propertyListFile({{"Format", 1}, {"Screens", {{"1-2-3", half}}}})}), single);
     const std::string several =
         propertyListFile({{"Format", 1}, {"Screens", {{"1-2-3", neutral}, {"4-5-6", half}}}});
     EXPECT_EQ(table({several, "--display", "4-5-6"}), single);
     EXPECT_EQ(table({several}), "1") << "which one?";
-    // A "Format" that is no number makes it a curve, without any values of its own.
-    EXPECT_EQ(line(table({propertyListFile({{"Format", "1"}})}), 255),
-              "255\t0.99609375\t0.99609375\t0.99609375");
 }
 
 /// One clear line, exit status 1.

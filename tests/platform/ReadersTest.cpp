@@ -11,21 +11,13 @@ namespace {
 TEST(Edid, TakesTheSerialTextWhereTheNumberIsAFiller) {
     // FNV-1a of the text, computed apart: offset 0x811C9DC5, prime 0x01000193.
     constexpr std::uint32_t hashOfABC123 = 0x45854FE5U;
-    struct Row {
-        std::uint32_t serial;
-        std::optional<std::string> text;
-        std::uint32_t expected;
-    };
-    for (const Row& row : {Row{0, "ABC123", hashOfABC123},
-                           {0x01010101U, "ABC123", hashOfABC123},
-                           {0xFFFFFFFFU, "ABC123", hashOfABC123},
-                           {0x01010102U, "ABC123", 0x01010102U},
-                           {0x01010101U, std::nullopt, 0},
-                           {0xFFFFFFFFU, "   ", 0}}) {
-        SCOPED_TRACE(row.serial);
-        EXPECT_EQ(
-            parseEdid(buildEdid({.serial = row.serial, .serialText = row.text}))->serialNumber,
-            row.expected);
+    const std::vector<std::tuple<std::uint32_t, std::optional<std::string>, std::uint32_t>> rows{
+        {0, "ABC123", hashOfABC123},           {0x01010101U, "ABC123", hashOfABC123},
+        {0xFFFFFFFFU, "ABC123", hashOfABC123}, {0x01010102U, "ABC123", 0x01010102U},
+        {0x01010101U, std::nullopt, 0},        {0xFFFFFFFFU, "   ", 0}};
+    for (const auto& [serial, text, expected] : rows) {
+        const auto edid = parseEdid(buildEdid({.serial = serial, .serialText = text}));
+        EXPECT_EQ(edid->serialNumber, expected) << serial;
     }
 }
 

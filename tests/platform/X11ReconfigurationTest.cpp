@@ -21,11 +21,13 @@ using std::chrono::milliseconds;
 
 class X11Reconfigurations : public testing::Test {
  protected:
-    /// Takes in what the server has sent and lets the quiet time pass.
-    void becomeQuiet() {
-        // The server has answered, so its events are on the way or here.
+    /// Takes in what the server has sent: it has answered, so its events are on the way or here.
+    void hear() {
         while (loop.pollReadable(50ms)) {
         }
+    }
+    void becomeQuiet() {
+        hear();
         loop.advance(X11Reconfiguration::quietTime);
     }
     void watch() {
@@ -47,8 +49,7 @@ class X11Reconfigurations : public testing::Test {
 TEST_F(X11Reconfigurations, OnePlugIsOneBeginAndOneEnd) {
     watch();
     mustSucceed(server->plug("DUMMY1", "1280x1024"));
-    while (loop.pollReadable(50ms)) {
-    }
+    hear();
     EXPECT_TRUE(calls.empty()) << "the server has not been quiet long enough";
     loop.advance(X11Reconfiguration::quietTime);
     ASSERT_EQ(calls.size(), 2U);
@@ -62,12 +63,6 @@ TEST_F(X11Reconfigurations, OnePlugIsOneBeginAndOneEnd) {
     const DisplayID main = service->mainDisplay();
     EXPECT_EQ(std::ranges::count(calls, std::pair(main, beginConfiguration)), 1);
     EXPECT_EQ(std::ranges::count(calls, std::pair(main, endConfiguration)), 1);
-
-    calls.clear();
-    subscription.reset();
-    mustSucceed(server->unplug("DUMMY1"));
-    becomeQuiet();
-    EXPECT_TRUE(calls.empty());
 }
 
 TEST_F(X11Reconfigurations, ADisplayThatWasOffForAMomentIsToldAlsoInAStorm) {
@@ -78,8 +73,7 @@ TEST_F(X11Reconfigurations, ADisplayThatWasOffForAMomentIsToldAlsoInAStorm) {
         ASSERT_LE(passed, X11Reconfiguration::longestWait);
         mustSucceed(server->unplug("DUMMY1"));
         mustSucceed(server->plug("DUMMY1", "1280x1024"));
-        while (loop.pollReadable(50ms)) {
-        }
+        hear();
         loop.advance(100ms);
     }
     EXPECT_EQ(calls.front(), std::pair(second, beginConfiguration));

@@ -76,19 +76,6 @@ TEST(PropertyListWriter, WritesWhatBecomesTheSameSingleAgain) {
     }
 }
 
-TEST(PropertyListWriter, WritesTheUsualForm) {
-    const PropertyValue value = {{"a&", PropertyValue::binary(std::vector<std::uint8_t>(58))},
-                                 {"b", {1.0, 0.1, static_cast<double>(0.1F), {{"c", true}}}}};
-    EXPECT_EQ(writePropertyList(value).value_or("none"),
-              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE plist PUBLIC \"-//Apple//DTD "
-              "PLIST 1.0//EN\" \"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-              "<plist version=\"1.0\">\n<dict>\n\t<key>a&amp;</key>\n\t<data>\n\t" +
-                  std::string(76, 'A') +
-                  "\n\tAA==\n\t</data>\n\t<key>b</key>\n\t<array>\n\t\t<real>1</real>\n"
-                  "\t\t<real>0.1</real>\n\t\t<real>0.1</real>\n\t\t<dict>\n\t\t\t<key>c</key>\n"
-                  "\t\t\t<true/>\n\t\t</dict>\n\t</array>\n</dict>\n</plist>\n");
-}
-
 TEST(PropertyListWriter, RefusesWhatTheReaderCouldNotReadBack) {
     for (const char* const hex :
          {"610062", "1F", "EFBFBE", "80", "C3", "C0AF", "E080AF", "EDA080", "F4908080"}) {

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
-#include <cstdlib>
 #include <locale>
 
 #include "Bytes.h"
@@ -99,19 +98,6 @@ TEST(XmlPropertyList, IsReadInEveryUsualEncodingAndToldFromOtherFilesByItsBeginn
         EXPECT_FALSE(beginsLikePropertyList(bytesOf(text))) << text;
     }
     EXPECT_FALSE(beginsLikePropertyList(bytesOf(utf16(u"\uFEFF1 2 3", true))));
-}
-
-TEST(XmlPropertyList, ReadsARealToTheNearestSingleEvenWhereTwoRoundingsWouldMiss) {
-    // Just above, exactly at, and just below the middle of two singles, and at the range's ends.
-    for (const std::string& text : cellsOf(R"(1.0000000596046447753906250000000000001
-1.000000059604644775390625 | -1.0000001788139343261718749999999999999
-3.40282356779733661637539395458142568447e38 | 1.401298464324817e-45)")) {
-        const double value =
-            std::strtod(read("<plist><real>" + text + "</real></plist>").c_str(), nullptr);
-        EXPECT_EQ(toSinglePrecision(value), std::strtof(text.c_str(), nullptr)) << text;
-    }
-    // What a single does not need is kept.
-    EXPECT_EQ(read("<plist><real>0.1</real></plist>"), "0.1");
 }
 
 struct CommaPoint : std::numpunct<char> {

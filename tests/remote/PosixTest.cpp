@@ -5,13 +5,10 @@
 #include <sys/eventfd.h>
 
 #include <cerrno>
-#include <fstream>
 
 #include "platform/posix/PollRunLoop.h"
-#include "platform/posix/PosixLocalHost.h"
 #include "tests/support/FileDescriptor.h"
 #include "tests/support/ManualRunLoop.h"
-#include "tests/support/ScratchFolder.h"
 
 namespace tonquil {
 namespace {
@@ -77,8 +74,6 @@ TEST_F(UdpSockets, AnswerFromTheAddressThatWasAsked) {
     const auto answering =
         server->receiveOn(loop, [&](std::string_view, const SocketAddress& source) {
             EXPECT_EQ(server->send("answer", source), 0);
-            // One that this computer no longer has.
-            EXPECT_EQ(server->send("late", source.reachedFrom(0x0B000001)), 0);
         });
     std::vector<SocketAddress> sources;
     const auto asking = second->receiveOn(
@@ -86,8 +81,7 @@ TEST_F(UdpSockets, AnswerFromTheAddressThatWasAsked) {
     EXPECT_EQ(second->send("x", asked), 0);
     while (loop.pollReadable(100ms) > 0) {
     }
-    ASSERT_EQ(sources.size(), 2U);
-    EXPECT_EQ(sources[0], asked);
+    EXPECT_EQ(sources, std::vector{asked});
 }
 
 TEST_F(UdpSockets, TellWhySomethingIsNotSentAndGoOn) {
@@ -106,7 +100,7 @@ TEST_F(UdpSockets, TellWhySomethingIsNotSentAndGoOn) {
     EXPECT_EQ(count, 1);
 }
 
-TEST(PollRunLoops, CallWhatIsDueInOrderAndStarveNobody) {
+TEST(PollRunLoops, CallWhatIsDueInOrderAndEndWhenNothingIsLeft) {
     PollRunLoop loop;
     std::string order;
     const FileDescriptor readable(eventfd(1, EFD_CLOEXEC));
@@ -120,25 +114,7 @@ TEST(PollRunLoops, CallWhatIsDueInOrderAndStarveNobody) {
     });
     loop.post([&] { order += 'a'; });
     loop.run();
-    EXPECT_EQ(order, "abcde") << "and it ends when nothing is left";
-    int calls = 0;
-    watch = loop.watchReadable(readable.get(), [&] { ++calls; });
-    const RunLoop::Call again = [&] { loop.post(again); };
-    again();
-    const auto timer = loop.callRepeatedly(5ms, [&] { loop.stop(); });
-    loop.run();
-    loop.run();
-    EXPECT_GT(calls, 0);
-}
-
-TEST(PosixLocalHosts, AreCalledWhatTheirOwnerCallsThem) {
-    const ScratchFolder folder;
-    const std::filesystem::path file = folder.path() / "machine-info";
-    const std::string hostName = PosixLocalHost(file).localizedName();
-    std::ofstream(file) << "PRETTY_HOSTNAME=x\nPRETTY_HOSTNAME=\"Anna's \\\"desk\\\"\"\nOTHER=y\n";
-    EXPECT_EQ(PosixLocalHost(file).localizedName(), "Anna's \"desk\"");
-    std::ofstream(file) << "#PRETTY_HOSTNAME=x\nPRETTY_HOSTNAME=\n";
-    EXPECT_EQ(PosixLocalHost(file).localizedName(), hostName);
+    EXPECT_EQ(order, "abcde");
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "remote/TQPlayerServer.h"
-#include "tests/remote/RemoteDisplays.h"
+#include "tests/remote/PlainDisplays.h"
 #include "tests/support/ManualRunLoop.h"
 
 namespace tonquil {
@@ -19,7 +19,7 @@ struct Wire {
         SocketAddress recipient;
     };
     std::vector<Datagram> sent;
-    std::vector<std::string> steps;
+    std::optional<SocketAddress> bound;
     DatagramSocket::Receiver receiver;
     int broadcastResult = 0;
     int bindResult = 0;
@@ -31,22 +31,15 @@ struct Wire {
 class FakeSocket final : public DatagramSocket {
  public:
     explicit FakeSocket(Wire& wire) : _wire(wire) {}
-    ~FakeSocket() override { _wire.steps.emplace_back("socket released"); }
 
     int enableBroadcast() override { return _wire.broadcastResult; }
     int bind(const SocketAddress& address) override {
-        _wire.steps.push_back("bound to " + std::to_string(address.host()) + ":" +
-                              std::to_string(address.port()));
+        _wire.bound = address;
         return _wire.bindResult;
     }
     std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop&, Receiver receiver) override {
-        struct Watch final : RunLoop::Handle {
-            explicit Watch(Wire& ended) : wire(ended) {}
-            ~Watch() override { wire.steps.emplace_back("watch ended"); }
-            Wire& wire;
-        };
         _wire.receiver = std::move(receiver);
-        return _wire.canBeWatched ? std::make_unique<Watch>(_wire) : nullptr;
+        return _wire.canBeWatched ? std::make_unique<RunLoop::Handle>() : nullptr;
     }
     int send(std::string_view bytes, const SocketAddress& recipient) override {
         _wire.sent.push_back({std::string(bytes), recipient});
@@ -114,7 +107,7 @@ class ServerBench {
     std::shared_ptr<FakeHost> host = std::make_shared<FakeHost>();
     MachineGuid guid;
     std::vector<std::string> log;
-    RemoteDisplays displays{{{.referenceID = "1-10-21036"}}};
+    PlainDisplays displays{{{.referenceID = "1-10-21036"}}};
     std::unique_ptr<TQPlayerServer> server;
 };
 

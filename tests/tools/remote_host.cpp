@@ -15,7 +15,7 @@
 #include "platform/posix/TerminationSignals.h"
 #include "platform/posix/UdpSocket.h"
 #include "remote/TQPlayerServer.h"
-#include "tests/remote/RemoteDisplays.h"
+#include "tests/remote/PlainDisplays.h"
 
 namespace {
 
@@ -30,7 +30,7 @@ void say(std::string_view line) {
 
 int main(int argc, char** argv) {
     const int port = argc > 1 ? std::atoi(argv[1]) : remote::serverPort;
-    RemoteDisplays displays;
+    PlainDisplays displays;
     for (int i = 2; i < argc; ++i) {
         displays.displays.push_back({.referenceID = argv[i]});
     }

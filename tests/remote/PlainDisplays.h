@@ -12,7 +12,7 @@ namespace tonquil {
 
 /// Displays that exist only in memory, as a server's data source. Of one with the reference ID
 /// "gone" nothing is known.
-class RemoteDisplays final : public TQPlayerServerDataSource {
+class PlainDisplays final : public TQPlayerServerDataSource {
  public:
     struct Display {
         std::string referenceID;
@@ -21,7 +21,7 @@ class RemoteDisplays final : public TQPlayerServerDataSource {
         bool isLocal = false;
     };
 
-    explicit RemoteDisplays(std::vector<Display> list = {}) : displays(std::move(list)) {}
+    explicit PlainDisplays(std::vector<Display> list = {}) : displays(std::move(list)) {}
 
     std::vector<std::string> screensForPlayerServer(TQPlayerServer&) override {
         std::vector<std::string> ids;
@@ -32,9 +32,7 @@ class RemoteDisplays final : public TQPlayerServerDataSource {
     }
     PropertyValue playerServerInfoForScreen(TQPlayerServer&, const std::string& id) override {
         ++infosAsked;
-        if (beforeInfo) {
-            beforeInfo();
-        }
+        beforeInfo();
         for (std::size_t i = 0; i < displays.size(); ++i) {
             if (displays[i].referenceID == id && id != "gone") {
                 return {{"number", i + 1},
@@ -59,23 +57,19 @@ class RemoteDisplays final : public TQPlayerServerDataSource {
                 }
             }
         }
-        if (afterSet) {
-            afterSet();
-        }
+        afterSet();
     }
     void playerServerFailedBroadcastTest(TQPlayerServer&, std::uint64_t reason) override {
         failures.push_back(reason);
-        if (afterFailure) {
-            afterFailure();
-        }
+        afterFailure();
     }
 
     std::vector<Display> displays;
     /// Takes what is set without doing it.
     bool isStubborn = false;
-    std::function<void()> beforeInfo;
-    std::function<void()> afterSet;
-    std::function<void()> afterFailure;
+    std::function<void()> beforeInfo = [] {};
+    std::function<void()> afterSet = [] {};
+    std::function<void()> afterFailure = [] {};
     int infosAsked = 0;
     std::vector<std::pair<std::string, PropertyValue>> statesSet;
     std::vector<std::uint64_t> failures;
