@@ -166,6 +166,7 @@ TEST_F(Correction, LiesOverWhatOthersSetWhileOffAndOverAChangedProfile) {
     bench.desk.find(left)->profileRamp = calibrated;
     bench.desktop.tell(SessionEvent::Woke);
     EXPECT_EQ(bench.firstEntry(left), 5000) << "Nobody has said so yet.";
+    bench.loop.advance(Reapplication::pause);
     bench.desktop.tell(SessionEvent::ColourSpaceChanged);
     EXPECT_EQ(bench.firstEntry(left), 6000);
 }
@@ -192,9 +193,11 @@ TEST_F(Correction, IsReappliedAtTheIntervalAndAfterEverySessionEvent) {
         bench.desk.setForeignRamp(left, HardwareRamp::straight(256));
         bench.desktop.tell(event);
         EXPECT_EQ(bench.firstEntry(left), edited);
+        bench.loop.advance(Reapplication::pause);
     }
     const std::vector<std::pair<float, int>> rows{{0.5F, 500}, {0, 3000}, {-1, 3000}, {1e-9F, 100}};
-    int running = 3000;
+    // Five pauses of the first interval have passed.
+    int running = 2000;
     for (const auto& [seconds, interval] : rows) {
         SCOPED_TRACE(seconds);
         bench.set("ContinuouslyApplyInterval", seconds);

@@ -84,13 +84,13 @@ TEST(Launch, PutsStoredCurvesOnTheDisplaysFirstUnlessAQuestionOrNoCorrectionCome
     ControllerBench bench;
     bench.launchAndSettle();
     bench.edit(PanelSlider::BlackRed, 0.25F);
-    const int edited = bench.firstEntry(ControllerBench::left);
+    const int edited = bench.firstEntry(left);
     const auto start = [&] {
-        bench.desk.find(ControllerBench::left)->ramp = HardwareRamp::straight(256);
+        bench.desk.find(left)->ramp = HardwareRamp::straight(256);
         SimulatedDisplayService service(bench.desk);
         ScreenRegistry registry(service);
         applyStoredCurves(registry, service, bench.preferences, bench.desktop, bench.desktop);
-        return bench.firstEntry(ControllerBench::left);
+        return bench.firstEntry(left);
     };
     bench.loop.advance(std::chrono::milliseconds(500));
     EXPECT_EQ(start(), edited) << "left by a crash";

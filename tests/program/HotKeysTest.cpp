@@ -94,7 +94,10 @@ TEST_F(HotKeys, ToggleTheCorrectionAndBringTheKnobToThePointerToThePixel) {
     desk.request("--quit");
     ASSERT_EQ(desk.waitForEnd(), 0);
     desk.writePreferences({{"ShowAtLaunch", false}});
+    EXPECT_TRUE(desk.run({TONQUILCTL, "restore"}).succeeded());
     desk.startWithoutPanel();
+    // It has the place by then; a request before that would be the first instance itself.
+    ASSERT_TRUE(eventually([&] { return desk.ramp() == corrected; }));
     ASSERT_TRUE(eventually([&] { return desk.run({TONQUIL, "--on"}).succeeded(); }));
     EXPECT_EQ(pointerOnPanelAfterTapAt(1900, 500), middle);
 }
