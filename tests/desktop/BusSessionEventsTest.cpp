@@ -4,12 +4,9 @@
 #include <gmock/gmock.h>
 
 #include <QCoreApplication>
-#include <QDBusArgument>
-#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 
-#include "platform/dbus/DesktopAppearance.h"
 #include "tests/desktop/PrivateBus.h"
 #include "tests/desktop/QtSurroundings.h"
 #include "tests/support/ManualRunLoop.h"
@@ -120,13 +117,13 @@ TEST_F(BusEvents, HearsEveryDesktopsScreenSaverAndEveryColourSignal) {
 
 TEST_F(BusEvents, TellsOfASwitchToThisSessionHoweverItIsFound) {
     constexpr const char* path = "/org/freedesktop/login1/session/_37";
-    const PrivateBus::Answer byID = [&](const QVariantList& arguments) {
-        return arguments.value(0) == QStringLiteral("7") ? object(path) : QVariant();
+    const auto ifAskedFor = [](const QVariant& which) -> PrivateBus::Answer {
+        return [which](const QVariantList& arguments) {
+            return arguments.value(0) == which ? object(path) : QVariant();
+        };
     };
-    const PrivateBus::Answer byProcess = [&](const QVariantList& arguments) {
-        const bool isOurs = arguments.value(0).toLongLong() == QCoreApplication::applicationPid();
-        return isOurs ? object(path) : QVariant();
-    };
+    const auto byID = ifAskedFor(QStringLiteral("7"));
+    const auto byProcess = ifAskedFor(static_cast<uint>(QCoreApplication::applicationPid()));
     const PrivateBus::Answer byDesktop = [](const QVariantList&) {
         return QVariant::fromValue(QDBusVariant(QStringLiteral("7")));
     };
@@ -192,35 +189,6 @@ TEST_F(BusEvents, HearsTheOtherBusWhileOneHangs) {
     system.send(SIGKILL);
     EXPECT_TRUE(processUntil([&] { return !log.empty(); }));
     EXPECT_THAT(log, ElementsAre(HasSubstr("system bus cannot be reached")));
-}
-
-using Settings = DesktopAppearance::Settings;
-using Groups = QMap<QString, QVariantMap>;
-
-TEST(DesktopAppearances, FollowsThePortalAndTellsOfEachChangeOnce) {
-    PrivateBus session("DBUS_SESSION_BUS_ADDRESS");
-    qDBusRegisterMetaType<Groups>();
-    const Groups groups{
-        {QStringLiteral("org.freedesktop.appearance"), {{QStringLiteral("contrast"), 1U}}},
-        {QStringLiteral("org.gnome.desktop.interface"),
-         {{QStringLiteral("enable-animations"), false}, {QStringLiteral("contrast"), 0U}}},
-        {QStringLiteral("org.gnome.other"), {{QStringLiteral("enable-animations"), true}}}};
-    session.serve("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
-                  {{"ReadAll", [&](const QVariantList&) { return QVariant::fromValue(groups); }}});
-    const auto change = [&](const char* group, const char* key, const QVariant& value) {
-        session.emitSignal(
-            "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings", "SettingChanged",
-            {QLatin1String(group), QLatin1String(key), QVariant::fromValue(QDBusVariant(value))});
-    };
-    std::vector<Settings> told;
-    DesktopAppearance appearance;
-    appearance.start([&](const Settings& settings) { told.push_back(settings); });
-    EXPECT_TRUE(processUntil([&] { return !told.empty(); }));
-    change("org.freedesktop.appearance", "contrast", 1U);
-    change("org.freedesktop.appearance", "contrast", 0U);
-    change("org.gnome.desktop.interface", "enable-animations", true);
-    EXPECT_TRUE(processUntil([&] { return told.size() >= 3; }));
-    EXPECT_EQ(told, (std::vector<Settings>{{true, true}, {false, true}, {false, false}}));
 }
 
 }  // namespace
