@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 
 #include <QCoreApplication>
-#include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
@@ -132,13 +131,13 @@ TEST_F(BusEvents, HearsEveryDesktopsScreenSaverAndEveryColourSignal) {
 
 TEST_F(BusEvents, TellsOfASwitchToThisSessionHoweverItIsFound) {
     constexpr const char* path = "/org/freedesktop/login1/session/_37";
-    const PrivateBus::Answer byID = [&](const QVariantList& arguments) {
-        return arguments.value(0) == QStringLiteral("7") ? object(path) : QVariant();
+    const auto ifAskedFor = [](const QVariant& which) -> PrivateBus::Answer {
+        return [which](const QVariantList& arguments) {
+            return arguments.value(0) == which ? object(path) : QVariant();
+        };
     };
-    const PrivateBus::Answer byProcess = [&](const QVariantList& arguments) {
-        const bool isOurs = arguments.value(0).toLongLong() == QCoreApplication::applicationPid();
-        return isOurs ? object(path) : QVariant();
-    };
+    const auto byID = ifAskedFor(QStringLiteral("7"));
+    const auto byProcess = ifAskedFor(static_cast<uint>(QCoreApplication::applicationPid()));
     const PrivateBus::Answer byDesktop = [](const QVariantList&) {
         return QVariant::fromValue(QDBusVariant(QStringLiteral("7")));
     };

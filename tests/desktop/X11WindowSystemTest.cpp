@@ -3,10 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <thread>
-
 #include "platform/x11/desktop/X11DesktopEvents.h"
+#include "tests/desktop/QtSurroundings.h"
 #include "tests/support/ManualRunLoop.h"
 #include "tests/support/RampReader.h"
 #include "tests/support/XServer.h"
@@ -16,14 +14,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Waits for what another program does.
-bool becomes(const std::function<bool()>& condition) {
-    for (int count = 0; count < 400 && !condition(); ++count) {
-        std::this_thread::sleep_for(50ms);
-    }
-    return condition();
-}
-
 TEST(X11WindowSystem, NoticesThatAManagerOrACompositorWasKilled) {
     const auto server = XServer::start().value();
     const RampReader desk = RampReader::connect(server->display()).value();
@@ -32,9 +22,9 @@ TEST(X11WindowSystem, NoticesThatAManagerOrACompositorWasKilled) {
     const auto manager = BackgroundProcess::start({.command = {"openbox", "--sm-disable"},
                                                    .environment = {{"DISPLAY", server->display()}}})
                              .value();
-    EXPECT_TRUE(becomes([&] { return system->hasWindowManager(); }));
+    EXPECT_TRUE(processUntil([&] { return system->hasWindowManager(); }));
     manager->kill();
-    EXPECT_TRUE(becomes([&] { return !system->hasWindowManager(); }));
+    EXPECT_TRUE(processUntil([&] { return !system->hasWindowManager(); }));
 
     ManualRunLoop loop;
     const auto events = X11DesktopEvents::open(server->display().c_str(), loop, {}).value();
@@ -42,7 +32,7 @@ TEST(X11WindowSystem, NoticesThatAManagerOrACompositorWasKilled) {
     events->setCompositingChanged([&] { ++changes; });
     events->start([](SessionEvent) {});
     const auto areTold = [&](int count) {
-        return becomes([&, count] {
+        return processUntil([&, count] {
             loop.pollReadable(0ms);
             return changes == count;
         });

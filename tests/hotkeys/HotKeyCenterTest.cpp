@@ -2,12 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <map>
-#include <string>
-#include <utility>
-#include <vector>
-
 #include "hotkeys/DDHotKeyCenter.h"
 
 namespace tonquil {
@@ -56,9 +50,8 @@ class HotKeyCenterTest : public testing::Test {
  protected:
     HotKeyAction told(const std::string& name) {
         return {name, [this, name](const HotKeyEvent&, const std::any& object) {
-                    heard.push_back(name + (object.has_value()
-                                                ? " " + std::any_cast<std::string>(object)
-                                                : std::string()));
+                    const auto* const text = std::any_cast<std::string>(&object);
+                    heard.push_back(name + (text != nullptr ? *text : ""));
                 }};
     }
     DDHotKey::Task task() {
@@ -104,7 +97,7 @@ TEST_F(HotKeyCenterTest, RefusesACombinationThatIsRegisteredAndComparesAllFlags)
 TEST_F(HotKeyCenterTest, InvokesWhatTheReceiverRespondsTo) {
     const int target = 0;
     const std::vector<HotKeyReceiver> receivers{
-        {&target, told("up"), told("down"), std::string("it")},
+        {&target, told("up"), told("down"), std::string(" it")},
         {&target, told("up"), {}, {}},
         {nullptr, told("up"), told("down"), {}},
         {&target, {"toggle", {}}, {"toggle", {}}, {}}};

@@ -14,7 +14,6 @@
 #include <tuple>
 
 #include "platform/missing/MissingWindowSystem.h"
-#include "windows/alerts/AlertWindow.h"
 #include "windows/panel/ControlPanel.h"
 #include "windows/panel/PanelFileDialogs.h"
 
@@ -75,21 +74,6 @@ TEST(Windows, SpeakGermanAndWriteNumbersAsBefore) {
     EXPECT_TRUE(std::ranges::any_of(labels, [&](const QLabel* label) {
         return label->text() == full && label->textFormat() == Qt::PlainText;
     }));
-
-    AlertWindow alert({.table = "KVFluxCheck",
-                       .message = "%@ is present on this computer.",
-                       .messageArguments = {"Dusk"},
-                       .informativeText = "[%1$@ installed, might interfer %2$@.]",
-                       .informativeArguments = {"Tonquil", "Dusk"},
-                       .buttons = {"Continue", "Quit"}},
-                      {}, nullptr);
-    QStringList texts;
-    for (const QLabel* label : alert.findChildren<QLabel*>()) {
-        texts += label->text();
-    }
-    EXPECT_THAT(texts.filter(QStringLiteral("Dusk ist auf diesem Computer vorhanden.")), SizeIs(1));
-    EXPECT_THAT(texts.filter(QStringLiteral("Dusk ändert dieselben Farbtabellen wie Tonquil")),
-                SizeIs(1));
 }
 
 }  // namespace

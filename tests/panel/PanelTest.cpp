@@ -3,11 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QDropEvent>
-#include <QMimeData>
-#include <QToolButton>
-#include <QUrl>
 #include <stdexcept>
 
 #include "platform/missing/MissingWindowSystem.h"
@@ -54,7 +49,7 @@ class RecordedActions final : public PanelActions {
     void gammaBoardInfo() override {}
     void loadGamma() override {}
     void saveGamma() override {}
-    void openFile(const std::filesystem::path& file) override { calls.push_back(file); }
+    void openFile(const std::filesystem::path& /*file*/) override {}
     [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const override { return {}; }
     void quit() override {}
 
@@ -160,51 +155,6 @@ TEST_F(Panel, KeepsTheFocusInSightInItsCompactForm) {
     EXPECT_EQ(panel.focusWidget(), &field(QStringLiteral("Red, Middle point")));
     panel._setAdvancedPanel(true);
     EXPECT_EQ(panel.frame(), advanced);
-}
-
-TEST_F(Panel, TheStripStandsForTheChannelOfTheFocusedControl) {
-    panel.showChannelStrip(true);
-    TQSlider& mirror = slider(QStringLiteral("Focused value"));
-    PanelValues values;
-    values[PanelSlider::MiddleBlue] = 0.75F;
-    panel.setValues(values);
-    field(QStringLiteral("Blue, Middle point")).setFocus();
-    EXPECT_EQ(mirror.floatValue(), 0.75F);
-    pressKey(mirror, Qt::Key_Up);
-    EXPECT_THAT(actions.calls, ElementsAre("apply 8"));
-    EXPECT_NEAR(panel.values()[PanelSlider::MiddleBlue], 0.76, 1e-6);
-    // The picker moves the focus; picking what is picked changes nothing.
-    for (int time = 0; time < 2; ++time) {
-        control<QToolButton>(QStringLiteral("Red")).click();
-        EXPECT_EQ(panel.focusWidget(), &field(QStringLiteral("Red, Middle point")));
-        EXPECT_TRUE(control<QToolButton>(QStringLiteral("Red")).isChecked());
-        EXPECT_FALSE(control<QToolButton>(QStringLiteral("Blue")).isChecked());
-    }
-    // Elsewhere there is nothing to stand for, once the focus has settled.
-    control<QComboBox>().setFocus();
-    EXPECT_FALSE(mirror.isEnabled());
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(mirror.isVisible());
-    field(QStringLiteral("Blue, Middle point")).setFocus();
-    EXPECT_TRUE(mirror.isVisible() && mirror.isEnabled());
-}
-
-TEST_F(Panel, TakesOneLocalFileThatIsDroppedOnIt) {
-    const QUrl local = QUrl::fromLocalFile(QStringLiteral("/a folder/b%20&c.tonquil"));
-    const QUrl remote(QStringLiteral("https://example.org/a.tonquil"));
-    for (const QList<QUrl>& urls : {QList<QUrl>{local}, {local, local}, {remote}, {}}) {
-        QMimeData data;
-        data.setUrls(urls);
-        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        enter.ignore();
-        QApplication::sendEvent(&panel, &enter);
-        EXPECT_EQ(enter.isAccepted(), urls == QList<QUrl>{local});
-        if (enter.isAccepted()) {
-            QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(&panel, &drop);
-        }
-    }
-    EXPECT_THAT(actions.calls, ElementsAre("/a folder/b%20&c.tonquil"));
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
-#include <sstream>
 #include <thread>
 
 #include "plist/PropertyListReader.h"
@@ -91,6 +90,10 @@ void Desk::start(const PropertyValue& preferences) {
 
 void Desk::startWithoutPanel() {
     _program = begin({TONQUIL});
+    // Before it listens, a request would become the running program itself.
+    const std::string instance = "instance-_" + _server->display().substr(1);
+    EXPECT_TRUE(eventually(
+        [&] { return std::filesystem::exists(folder() / "runtime/tonquil" / instance); }));
 }
 
 void Desk::request(const std::string& argument) const {
@@ -116,37 +119,22 @@ void Desk::xdotool(std::vector<std::string> arguments) const {
     EXPECT_TRUE(run(arguments).succeeded()) << arguments[1];
 }
 
-namespace {
+Desk::Place Desk::panel() const {
+    const auto found = windows("--name", "^Tonquil$");
+    return found.empty() ? Place{} : found.back();
+}
 
-/// Of the last window that the tool tells of.
-Desk::Place placeFrom(const std::string& geometry) {
-    const auto start = geometry.rfind("WINDOW=");
-    Desk::Place place;
-    if (start != std::string::npos) {
-        std::sscanf(geometry.c_str() + start, "WINDOW=%*d X=%d Y=%d WIDTH=%d HEIGHT=%d", &place.x,
+std::vector<Desk::Place> Desk::windows(const char* by, const char* pattern) const {
+    const std::string text = run({"xdotool", "search", "--onlyvisible", by, pattern,
+                                  "getwindowgeometry", "--shell", "%@"})
+                                 .standardOutput;
+    std::vector<Place> places;
+    for (auto at = text.find("WINDOW="); at != std::string::npos;
+         at = text.find("WINDOW=", at + 1)) {
+        Place& place = places.emplace_back();
+        std::sscanf(text.c_str() + at, "WINDOW=%*d X=%d Y=%d WIDTH=%d HEIGHT=%d", &place.x,
                     &place.y, &place.width, &place.height);
     }
-    return place;
-}
-
-}  // namespace
-
-Desk::Place Desk::panel() const {
-    return placeFrom(run({"xdotool", "search", "--onlyvisible", "--name", "^Tonquil$",
-                          "getwindowgeometry", "--shell"})
-                         .standardOutput);
-}
-
-std::vector<Desk::Place> Desk::windows() const {
-    std::vector<Place> places;
-    std::istringstream ids(
-        run({"xdotool", "search", "--onlyvisible", "--class", "^tonquil$"}).standardOutput);
-    for (std::string id; std::getline(ids, id);) {
-        places.push_back(
-            placeFrom(run({"xdotool", "getwindowgeometry", "--shell", id}).standardOutput));
-    }
-    // One that has gone meanwhile.
-    std::erase(places, Place{});
     return places;
 }
 

@@ -50,8 +50,10 @@ class Desk {
     };
     [[nodiscard]] Place panel() const;
     [[nodiscard]] bool hasPanel() const { return panel().width > 0; }
-    /// All windows of the program that can be seen, an icon in a tray and a menu too.
-    [[nodiscard]] std::vector<Place> windows() const;
+    /// The windows that can be seen and that xdotool finds by this; all of the program, an icon in
+    /// a tray and a menu too, unless told otherwise.
+    [[nodiscard]] std::vector<Place> windows(const char* by = "--class",
+                                             const char* pattern = "^tonquil$") const;
     [[nodiscard]] bool hasWindow(const Place& place) const;
     /// Where the pointer is; of no size.
     [[nodiscard]] Place pointer() const;

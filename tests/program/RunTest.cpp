@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <csignal>
 #include <fstream>
 #include <thread>
@@ -42,15 +41,6 @@ TEST_F(Run, TakesRequestsOfOtherStartsAndUndoesForeignRamps) {
     EXPECT_EQ(desk.run({TONQUIL, "--nonsense"}).exitStatus, 2);
     mustSucceed(desk.server().xrandr({"--output", "DUMMY0", "--gamma", "1.5:1:0.5"}));
     EXPECT_TRUE(becomes(corrected));
-
-    std::vector<std::thread> starts;
-    for (int count = 0; count < 20; ++count) {
-        starts.emplace_back([&] { desk.request("--on"); });
-    }
-    for (std::thread& start : starts) {
-        start.join();
-    }
-    EXPECT_TRUE(desk.program().isRunning());
 }
 
 TEST_F(Run, GivesDisplaysThatComeBackTheirCurveAndStartsWithoutAny) {

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-#include <QApplication>
 #include <algorithm>
-#include <limits>
 #include <ranges>
-#include <vector>
 
 #include "tests/ui/Input.h"
 #include "ui/CurvePlot.h"
@@ -50,24 +47,6 @@ TEST_F(CurvePlotTest, DrawsEachChannelInItsColourAndEqualCurvesInWhiteOrBlack) {
         EXPECT_TRUE(shows(meeting));
         EXPECT_FALSE(shows(theme.red));
     }
-}
-
-TEST_F(CurvePlotTest, ReadsOutWhatLiesUnderThePointer) {
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    EXPECT_EQ(plot.readoutAt(0.5), QString());
-    setCurves({0, 1}, {0, 0.5F, 0.6F}, {nan, 7, -7});
-    EXPECT_EQ(plot.readoutAt(0.25), QStringLiteral("0.25 → 0.25 0.25 0.50"));
-    EXPECT_EQ(plot.readoutAt(1), QStringLiteral("1.00 → 1.00 0.60 0.00"));
-    setCurves({0, 1}, {0.5F}, {0, 1});
-    EXPECT_EQ(plot.readoutAt(0.25), QString());
-    // It shows it there, for as long as the pointer is over it.
-    setCurves({0, 1}, {0, 1}, {0, 1});
-    const QImage resting = drawn(plot);
-    move(plot, {100, 100}, Qt::NoButton);
-    EXPECT_NE(drawn(plot), resting);
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(&plot, &leave);
-    EXPECT_EQ(drawn(plot), resting);
 }
 
 }  // namespace

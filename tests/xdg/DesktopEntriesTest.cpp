@@ -9,7 +9,6 @@
 #include "platform/xdg/AutostartLoginItem.h"
 #include "platform/xdg/DesktopEntry.h"
 #include "tests/files/FolderContents.h"
-#include "tests/support/ProcessRunner.h"
 #include "tests/support/Succeeded.h"
 
 namespace tonquil {
@@ -30,11 +29,11 @@ class DesktopEntriesTest : public testing::Test {
         putContents(_folder / file, "[Desktop Entry]\nType=Application\n" + lines);
     }
     /// The name of the first that is installed of a.desktop and b.desktop; "-" for none.
-    [[nodiscard]] std::string found(const std::string& locale = "") const {
+    [[nodiscard]] std::string found() const {
         const std::array<std::string_view, 2> candidates = {"a.desktop", "b.desktop"};
         const auto program = DesktopEntries({.applications = {_folder / "own", _folder / "system"},
                                              .programs = {_folder.path()},
-                                             .locale = locale})
+                                             .locale = {}})
                                  .firstInstalled(candidates);
         return program ? program->name : "-";
     }
@@ -63,17 +62,6 @@ TEST_F(DesktopEntriesTest, TakesTheFirstCandidateThatIsInstalledAndWouldStart) {
         SCOPED_TRACE(lines);
         put("own/a.desktop", lines);
         EXPECT_EQ(found(), name);
-    }
-}
-
-TEST_F(DesktopEntriesTest, NamesAProgramInThePersonsLanguage) {
-    put("own/a.desktop", "Name=plain\nName[de]=de\nName[sr_RS@latin]=latin\n");
-    for (const auto& [locale, name] : Rows{{"C.UTF-8", "plain"},
-                                           {"fr_FR.UTF-8", "plain"},
-                                           {"de_DE.UTF-8", "de"},
-                                           {"sr_RS@latin", "latin"}}) {
-        SCOPED_TRACE(locale);
-        EXPECT_EQ(found(locale), name);
     }
 }
 
@@ -114,23 +102,6 @@ TEST(AutostartLoginItem, WritesAndRemovesTheDesktopFileAndHeedsTheDesktop) {
     std::filesystem::remove(launcher);
     EXPECT_FALSE(item.setEnabled(true));
     EXPECT_FALSE(item.isEnabled());
-}
-
-TEST(Launcher, StartsTheProgramBesideItAndElseTheOneInPath) {
-    const ScratchFolder folder;
-    const auto launcher = folder / "tonquil-launcher";
-    std::filesystem::copy_file(TONQUIL_LAUNCHER, launcher);
-    std::filesystem::create_directory(folder / "path");
-    const auto output = [&] {
-        return run({.command = {launcher, "--ignored"},
-                    .environment = {{"PATH", (folder / "path").native()}}})
-            .value();
-    };
-    EXPECT_NE(output().standardError.find("Tonquil could not be started"), std::string::npos);
-    putProgram(folder / "path/tonquil", "from PATH");
-    EXPECT_EQ(output().standardOutput, "from PATH 0\n");
-    putProgram(folder / "tonquil", "beside");
-    EXPECT_EQ(output().standardOutput, "beside 0\n");
 }
 
 }  // namespace
