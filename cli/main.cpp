@@ -56,22 +56,40 @@ int main(int argc, char** argv) {
     std::string out;
     std::string notes;
     tonquil::PollRunLoop loop;
-    const tonquil::RemoteAccess remote = remoteAccess(loop);
+    tonquil::RemoteAccess remote = remoteAccess(loop);
+    bool isStaying = false;
+    remote.run = [&] {
+        isStaying = true;
+        loop.run();
+    };
     tonquil::Result<std::unique_ptr<tonquil::TerminationSignals>> signals;
-    if (arguments->command == tonquil::Arguments::Command::remoteWatch) {
+    if (arguments->hold || arguments->command == tonquil::Arguments::Command::remoteWatch) {
         signals = tonquil::TerminationSignals::watch(loop, [&](int) { loop.stop(); });
         if (!signals) {
             say(signals.error().sentence);
             return failed;
         }
     }
-    const auto log = [&](std::string_view line) { logged = line; };
+    bool areDisplaysLost = false;
+    const auto log = [&](std::string_view line) {
+        logged = line;
+        if (isStaying && !areDisplaysLost) {
+            say(logged);
+        }
+    };
+    const auto lost = [&] {
+        areDisplaysLost = true;
+        loop.stop();
+    };
     const auto result = tonquil::runCommand(
-        *arguments, {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
-                     .logged = logged,
-                     .out = out,
-                     .remote = remote,
-                     .notes = notes});
+        *arguments,
+        {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
+         .logged = logged,
+         .out = out,
+         .remote = remote,
+         .notes = notes,
+         .openDisplaysToHold = [&] { return tonquil::chooseDisplayService(&loop, log, lost); },
+         .areDisplaysLost = [&] { return areDisplaysLost; }});
     if (!result) {
         const auto& [sentence, detail] = result.error();
         say(detail.empty() ? sentence : sentence + " (" + detail + ")");

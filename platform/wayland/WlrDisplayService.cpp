@@ -325,13 +325,13 @@ void WlrDisplayService::connectionLost() {
     if (std::exchange(_isLostKnown, true)) {
         return;
     }
-    report(0, "The Wayland compositor has gone.");
     _watch.reset();
     _quiet.reset();
     _retry.reset();
     if (_with.lost) {
         _with.lost();
     }
+    report(0, "The Wayland compositor has gone.");
 }
 
 void WlrDisplayService::report(DisplayID display, const std::string& text) {

@@ -70,7 +70,7 @@ TEST_F(ProgramOnXServer, ListsTheDisplays) {
     EXPECT_EQ(list[1]["bounds"], (PropertyValue{1400, 0, 1280, 1024}));
     EXPECT_EQ(list[0]["main"], true);
     EXPECT_EQ(list[2]["local"], true);
-    EXPECT_EQ(list[1].size(), 8U);
+    EXPECT_EQ(list[1].size(), 10U);
 }
 
 TEST_F(ProgramOnXServer, AppliesAFileToTheDisplaysThatItNames) {
