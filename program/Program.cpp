@@ -2,6 +2,8 @@
 #include "program/Program.h"
 
 #include <QApplication>
+#include <QThread>
+#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
@@ -30,6 +32,22 @@ TQController* controllerToSave = nullptr;
 void saveAtExit() {
     if (controllerToSave != nullptr) {
         controllerToSave->applicationWillTerminate();
+    }
+}
+
+// When a Wayland compositor goes, the toolkit says so and then ends the process without calling
+// what was registered for that. Saying so is all that can be heard of it. It may come from a thread
+// of the toolkit's own; what is saved belongs to ours.
+void saveWhenWaylandIsLost(QtMsgType type, const QMessageLogContext& context,
+                           const QString& message) {
+    std::fputs(qPrintable(qFormatLogMessage(type, context, message) + QLatin1Char('\n')), stderr);
+    if (!message.startsWith(QLatin1String("The Wayland connection"))) {
+        return;
+    }
+    if (QThread::currentThread() == qApp->thread()) {
+        saveAtExit();
+    } else {
+        QMetaObject::invokeMethod(qApp, saveAtExit, Qt::BlockingQueuedConnection);
     }
 }
 
@@ -90,6 +108,9 @@ Program::~Program() {
 int Program::run(const std::vector<Request>& requests) {
     controllerToSave = _controller.get();
     std::atexit(saveAtExit);
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        qInstallMessageHandler(saveWhenWaylandIsLost);
+    }
     QObject::connect(qApp, &QCoreApplication::aboutToQuit,
                      [this] { _controller->applicationWillTerminate(); });
     const auto signals = TerminationSignals::watch(_runLoop, [this](int) { _controller->quit(); });
@@ -209,7 +230,7 @@ SessionRestoration::Storage Program::sessionStorage() {
 }
 
 void Program::openDisplays() {
-    auto opened = chooseDisplayService(&_runLoop, logLine);
+    auto opened = chooseDisplayService(&_runLoop, logLine, [this] { displaysLost(); });
     if (opened) {
         _displays = std::move(*opened);
         return;
@@ -217,6 +238,14 @@ void Program::openDisplays() {
     report(opened.error());
     _whyNoDisplays = opened.error().sentence;
     _displays = std::make_unique<MissingDisplayService>();
+}
+
+// The toolkit notices as well, but ends without a chance to save anything.
+void Program::displaysLost() {
+    if (_controller) {
+        _controller->applicationWillTerminate();
+    }
+    _runLoop.post([this] { end(); });
 }
 
 void Program::openWindowSystem() {

@@ -43,6 +43,7 @@ class Program {
 
  private:
     void openDisplays();
+    void displaysLost();
     void openWindowSystem();
     void openKeyboard();
     void makeWindows();
