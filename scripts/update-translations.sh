@@ -23,4 +23,4 @@ for lupdate in "$(command -v lupdate-qt6)" /usr/lib/qt6/bin/lupdate /usr/lib/qt6
     fi
 done
 "$lupdate" "${options[@]}" -I . app files foundation hotkeys model platform plist screens settings \
-    targets ui -ts "$folder"/tonquil_*.ts
+    targets ui windows -ts "$folder"/tonquil_*.ts

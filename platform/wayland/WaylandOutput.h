@@ -2,6 +2,7 @@
 #pragma once
 
 #include <wayland-client-protocol.h>
+#include <xdg-output-client.h>
 
 #include <cstdint>
 #include <functional>
@@ -10,7 +11,6 @@
 
 #include "platform/wayland/WaylandConnection.h"
 #include "screens/Geometry.h"
-#include "xdg-output-client.h"
 
 namespace tonquil {
 

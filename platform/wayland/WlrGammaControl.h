@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <gamma-control-client.h>
+
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
 
-#include "gamma-control-client.h"
 #include "platform/ramp/HardwareRamp.h"
 
 namespace tonquil {

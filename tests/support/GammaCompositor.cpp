@@ -2,6 +2,7 @@
 #include "tests/support/GammaCompositor.h"
 
 #include <fcntl.h>
+#include <gamma-control-server.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 #include <wayland-server-core.h>
@@ -11,8 +12,6 @@
 #include <cstdlib>
 #include <future>
 #include <utility>
-
-#include "gamma-control-server.h"
 
 namespace tonquil {
 
