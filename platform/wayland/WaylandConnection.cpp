@@ -89,7 +89,7 @@ bool WaylandConnection::offers(std::string_view interface, std::chrono::millisec
     return waitForAnswers(limit) && search.isFound;
 }
 
-void WaylandConnection::flush() {
+void WaylandConnection::flush() const {
     constexpr int longestWaitMilliseconds = 100;
     while (wl_display_flush(get()) < 0 && errno == EAGAIN) {
         pollfd writable{descriptor(), POLLOUT, 0};

@@ -46,7 +46,7 @@ class WaylandConnection {
     /// Whether the compositor announces such an interface; waits for its answer.
     [[nodiscard]] bool offers(std::string_view interface, std::chrono::milliseconds limit);
     /// Sends what is to be sent. A compositor that reads nothing is waited for only for a moment.
-    void flush();
+    void flush() const;
 
  private:
     struct Disconnect {

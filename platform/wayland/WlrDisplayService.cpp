@@ -235,10 +235,6 @@ std::uint32_t WlrDisplayService::getTransferTable(DisplayID display, GammaTable&
     return HardwareRamp::straight(size == 0 ? GammaTable::capacity : size).getTable(table);
 }
 
-std::uint32_t WlrDisplayService::getHardwareTable(DisplayID /*display*/, GammaTable& /*table*/) {
-    return 0;
-}
-
 void WlrDisplayService::restoreSystemCalibration(std::span<const DisplayID> displays) {
     const DisplayBatch batch(*this);
     for (const DisplayID display : displays) {
@@ -252,8 +248,6 @@ void WlrDisplayService::restoreSystemCalibration(std::span<const DisplayID> disp
         output->gamma.release();
     }
 }
-
-void WlrDisplayService::warpPointer(const Point& /*point*/) {}
 
 void WlrDisplayService::beginBatch() {
     _allReached = true;

@@ -57,14 +57,17 @@ class WlrDisplayService final : public DisplayService {
     void setTransferTable(DisplayID display, const GammaTable& table) override;
     [[nodiscard]] std::uint32_t getTransferTable(DisplayID display, GammaTable& table) override;
     /// Always 0: the protocol has no way to ask.
-    [[nodiscard]] std::uint32_t getHardwareTable(DisplayID display, GammaTable& table) override;
+    [[nodiscard]] std::uint32_t getHardwareTable(DisplayID /*display*/,
+                                                 GammaTable& /*table*/) override {
+        return 0;
+    }
     using DisplayService::restoreSystemCalibration;
     /// Gives the displays' tables back to the compositor, so that other programs may have them.
     void restoreSystemCalibration(std::span<const DisplayID> displays) override;
     [[nodiscard]] std::unique_ptr<Subscription> registerReconfigurationCallback(
         ReconfigurationCallback callback) override;
     /// Does nothing: a Wayland client cannot move the pointer.
-    void warpPointer(const Point& point) override;
+    void warpPointer(const Point& /*point*/) override {}
     [[nodiscard]] bool canBeDisturbed() const override { return false; }
 
  protected:

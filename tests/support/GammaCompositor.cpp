@@ -170,33 +170,27 @@ void GammaCompositor::unplug(const std::string& name) {
 }
 
 void GammaCompositor::setSize(const std::string& name, std::uint32_t size) {
-    call([&] { _outputs.at(name)->size = size; });
-}
-
-void GammaCompositor::sendSize(const std::string& name, std::uint32_t size) {
     call([&] {
         Output& output = *_outputs.at(name);
         wl_resource* const holder = output.holder;
         output.size = size;
         output.reset();
         output.holder = holder;
-        zwlr_gamma_control_v1_send_gamma_size(holder, size);
+        if (holder != nullptr) {
+            zwlr_gamma_control_v1_send_gamma_size(holder, size);
+        }
     });
 }
 
-void GammaCompositor::take(const std::string& name) {
+void GammaCompositor::setTaken(const std::string& name, bool isTaken) {
     call([&] {
         Output& output = *_outputs.at(name);
-        output.isTaken = true;
+        output.isTaken = isTaken;
         if (output.holder != nullptr) {
-            zwlr_gamma_control_v1_send_failed(std::exchange(output.holder, nullptr));
+            zwlr_gamma_control_v1_send_failed(output.holder);
         }
         output.reset();
     });
-}
-
-void GammaCompositor::giveBack(const std::string& name) {
-    call([&] { _outputs.at(name)->isTaken = false; });
 }
 
 HardwareRamp GammaCompositor::ramp(const std::string& name) {

@@ -34,13 +34,11 @@ class GammaCompositor {
     /// An output of 1920 by 1080 at (x, 0) whose ramp is said to have `size` entries.
     void plug(const std::string& name, int x, std::uint32_t size = 256);
     void unplug(const std::string& name);
-    /// What those are told who ask from now on.
+    /// What those are told who ask from now on, and, as a late answer, who holds the output
+    /// already.
     void setSize(const std::string& name, std::uint32_t size);
-    /// Answers whoever holds the output late.
-    void sendSize(const std::string& name, std::uint32_t size);
-    /// Takes the output away from whoever holds it, and from all who ask, until it is given back.
-    void take(const std::string& name);
-    void giveBack(const std::string& name);
+    /// Takes the output away from whoever holds it and from all who ask, or gives it back.
+    void setTaken(const std::string& name, bool isTaken);
     /// What is on the hardware: what was set, or a straight line.
     [[nodiscard]] HardwareRamp ramp(const std::string& name);
     [[nodiscard]] bool isHeld(const std::string& name);
