@@ -44,26 +44,24 @@ Result<std::vector<Assignment>> assign(const OneCurve& curve,
     return assignments;
 }
 
-}  // namespace
+using Curves = std::variant<OneCurve, CurvesByDisplay>;
 
-Result<void> runApply(const Arguments& arguments, const CommandEnvironment& environment) {
-    const auto curves = readCurves(arguments);
-    if (!curves) {
-        return tl::unexpected(curves.error());
-    }
-    const auto service = environment.openDisplays();
-    if (!service) {
-        return tl::unexpected(service.error());
-    }
-    DisplayBatch batch(**service);
-    ScreenRegistry registry(**service);
+/// Puts the curves on the displays that are meant and that are there.
+Result<void> applyOnce(const Curves& curves, const Arguments& arguments, DisplayService& service,
+                       ScreenRegistry& registry, const CommandEnvironment& environment) {
+    DisplayBatch batch(service);
     registry.updateScreenList();
-    const auto screens = selectScreens(registry, **service, arguments.displays, environment.notes);
+    const auto screens = selectScreens(registry, service, arguments.displays, environment.notes);
     if (!screens) {
         return tl::unexpected(screens.error());
     }
+    if (const auto ending = endingWithItsProgram(*screens, service); ending && !arguments.hold) {
+        return problem(*ending +
+                       ": here a correction ends with the program that set it; use \"tonquilctl "
+                       "apply --hold\", which stays, or tonquil.");
+    }
     const auto assignments =
-        std::visit([&](const auto& source) { return assign(source, *screens); }, *curves);
+        std::visit([&](const auto& source) { return assign(source, *screens); }, curves);
     if (!assignments) {
         return tl::unexpected(assignments.error());
     }
@@ -75,6 +73,58 @@ Result<void> runApply(const Arguments& arguments, const CommandEnvironment& envi
         return problem("Not every display took the correction.", environment.logged);
     }
     return {};
+}
+
+/// Keeps the curves on the displays, whichever come and go, until the run loop is stopped.
+Result<void> hold(const Curves& curves, const Arguments& arguments, DisplayService& service,
+                  ScreenRegistry& registry, const CommandEnvironment& environment) {
+    RunLoop& loop = environment.remote.runLoop;
+    bool isApplicationDue = false;
+    // One change is told once per display, and ends for all of them at once.
+    const auto subscription =
+        service.registerReconfigurationCallback([&](DisplayID, ReconfigurationFlags flags) {
+            if (flags != beginConfiguration && !std::exchange(isApplicationDue, true)) {
+                loop.post([&] {
+                    isApplicationDue = false;
+                    // With nothing to correct for the moment, the next change may bring it.
+                    static_cast<void>(applyOnce(curves, arguments, service, registry, environment));
+                });
+            }
+        });
+    const std::string notes = environment.notes;
+    if (!environment.areDisplaysLost()) {
+        environment.remote.run();
+    }
+    environment.notes = notes;
+    if (environment.areDisplaysLost()) {
+        return problem("The display server has gone.");
+    }
+    std::vector<DisplayID> displays;
+    for (const auto& screen : registry.screens()) {
+        if (screen->gammaCurve()) {
+            displays.push_back(screen->directDisplayID());
+        }
+    }
+    service.restoreSystemCalibration(displays);
+    return {};
+}
+
+}  // namespace
+
+Result<void> runApply(const Arguments& arguments, const CommandEnvironment& environment) {
+    const auto curves = readCurves(arguments);
+    if (!curves) {
+        return tl::unexpected(curves.error());
+    }
+    const auto service =
+        arguments.hold ? environment.openDisplaysToHold() : environment.openDisplays();
+    if (!service) {
+        return tl::unexpected(service.error());
+    }
+    ScreenRegistry registry(**service);
+    auto applied = applyOnce(*curves, arguments, **service, registry, environment);
+    return applied && arguments.hold ? hold(*curves, arguments, **service, registry, environment)
+                                     : applied;
 }
 
 }  // namespace tonquil

@@ -33,7 +33,7 @@ struct CommandForm {
 
 constexpr std::array commandForms{
     CommandForm{"displays", Arguments::Command::displays, "j", ""},
-    CommandForm{"apply", Arguments::Command::apply, "dc", "F"},
+    CommandForm{"apply", Arguments::Command::apply, "dco", "F"},
     CommandForm{"restore", Arguments::Command::restore, "d", ""},
     CommandForm{"read", Arguments::Command::read, "dw", ""},
     CommandForm{"table", Arguments::Command::table, "dcnb", "F"},
@@ -43,10 +43,11 @@ constexpr std::array commandForms{
     CommandForm{"remote watch", Arguments::Command::remoteWatch, "", "h"},
 };
 
-constexpr std::array<option, 13> options{{{"json", no_argument, nullptr, 'j'},
+constexpr std::array<option, 14> options{{{"json", no_argument, nullptr, 'j'},
                                           {"display", required_argument, nullptr, 'd'},
                                           {"curve", required_argument, nullptr, 'c'},
                                           {"hardware", no_argument, nullptr, 'w'},
+                                          {"hold", no_argument, nullptr, 'o'},
                                           {"samples", required_argument, nullptr, 'n'},
                                           {"base", required_argument, nullptr, 'b'},
                                           {"timeout", required_argument, nullptr, 't'},
@@ -119,6 +120,9 @@ std::optional<Problem> take(int letter, const CommandForm& form, Arguments& argu
             break;
         case 'w':
             arguments.hardware = true;
+            break;
+        case 'o':
+            arguments.hold = true;
             break;
         case 'd':
             arguments.displays.emplace_back(optarg);

@@ -30,6 +30,8 @@ struct Arguments {
     Command command = Command::help;
     bool json = false;
     bool hardware = false;
+    /// Stay and keep the correction on the displays.
+    bool hold = false;
     /// Reference IDs of the displays that are meant; empty for all.
     std::vector<std::string> displays = {};
     std::optional<std::string> curve = {};

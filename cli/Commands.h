@@ -24,6 +24,11 @@ struct CommandEnvironment {
     const RemoteAccess& remote;
     /// Remarks that are of interest only if the command succeeds.
     std::string& notes;
+    /// Opens the display service for a command that stays: on the run loop of `remote`, which it
+    /// stops when the displays are lost.
+    std::function<Result<std::unique_ptr<DisplayService>>()> openDisplaysToHold = {};
+    /// Whether the displays were lost meanwhile.
+    std::function<bool()> areDisplaysLost = {};
 };
 
 /// Carries out a command. A fault in what it was given is found before any display is changed.

@@ -61,7 +61,9 @@ PropertyValue json(const Line& line) {
                             {"bounds", {line.x, line.y, line.width, line.height}},
                             {"rampSize", line.description.rampSize},
                             {"local", line.isLocal},
-                            {"main", line.isMain}};
+                            {"main", line.isMain},
+                            {"outlives", line.description.outlivesProgram},
+                            {"readable", line.description.isReadable}};
     if (!line.description.obstacle.empty()) {
         object["obstacle"] = line.description.obstacle;
     }

@@ -14,6 +14,9 @@ const std::string_view helpText =
   tonquilctl apply --curve '[13 numbers]' [--display REFERENCE-ID]...
       applies a curve: mode (0 absolute, 1 over the calibration), master black,
       middle and white, then black, middle and white of red, green and blue
+  tonquilctl apply --hold ...
+      stays and keeps the correction on the displays until it is ended by a signal,
+      for desktops on which a correction ends with the program that set it
   tonquilctl restore [--display REFERENCE-ID]...
       goes back to the system's own calibration
   tonquilctl read [--display REFERENCE-ID] [--hardware]

@@ -25,6 +25,11 @@ Result<void> runRead(const Arguments& arguments, const CommandEnvironment& envir
         }
         screen = *named;
     }
+    const DisplayDescription description = (*service)->description(screen->directDisplayID());
+    if (arguments.hardware && !description.isReadable) {
+        return problem(description.connector +
+                       ": this desktop does not tell what is on a display's hardware.");
+    }
     GammaTable table;
     const std::uint32_t sampleCount =
         arguments.hardware ? (*service)->getHardwareTable(screen->directDisplayID(), table)

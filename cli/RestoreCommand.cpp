@@ -18,6 +18,11 @@ Result<void> runRestore(const Arguments& arguments, const CommandEnvironment& en
     if (!screens) {
         return tl::unexpected(screens.error());
     }
+    if (const auto ending = endingWithItsProgram(*screens, **service)) {
+        return problem(*ending +
+                       ": here a correction ends with the program that set it; end or switch off "
+                       "that program instead.");
+    }
     std::vector<DisplayID> displays;
     for (const auto& screen : *screens) {
         displays.push_back(screen->directDisplayID());

@@ -41,6 +41,17 @@ Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry, DisplayS
     return selected;
 }
 
+std::optional<std::string> endingWithItsProgram(const ScreenRegistry::Screens& screens,
+                                                DisplayService& service) {
+    for (const auto& screen : screens) {
+        const DisplayDescription description = service.description(screen->directDisplayID());
+        if (!description.outlivesProgram) {
+            return description.connector;
+        }
+    }
+    return std::nullopt;
+}
+
 Result<ScreenRegistry::ScreenPointer> screenNamed(ScreenRegistry& registry,
                                                   const std::string& name) {
     const auto& screens = registry.screens();

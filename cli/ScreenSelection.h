@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,11 @@ namespace tonquil {
                                                             DisplayService& service,
                                                             const std::vector<std::string>& names,
                                                             std::string& notes);
+
+/// The connector of the first of these screens on which a correction ends with the program that set
+/// it; nothing where all corrections stay.
+[[nodiscard]] std::optional<std::string> endingWithItsProgram(
+    const ScreenRegistry::Screens& screens, DisplayService& service);
 
 /// The first listed screen with this reference ID or connector; a problem if there is none.
 [[nodiscard]] Result<ScreenRegistry::ScreenPointer> screenNamed(ScreenRegistry& registry,

@@ -45,6 +45,43 @@ tonquil::RemoteAccess remoteAccess(tonquil::PollRunLoop& loop) {
             .printNow = [](const std::string& text) { return print(text, stdout); }};
 }
 
+/// What a command writes, and what it is told while it stays.
+struct Session {
+    tonquil::PollRunLoop loop;
+    std::string logged;
+    std::string out;
+    std::string notes;
+    bool isStaying = false;
+    bool areDisplaysLost = false;
+
+    tonquil::Result<void> run(const tonquil::Arguments& arguments) {
+        tonquil::RemoteAccess remote = remoteAccess(loop);
+        remote.run = [this] {
+            isStaying = true;
+            loop.run();
+        };
+        const auto log = [this](std::string_view line) {
+            logged = line;
+            if (isStaying && !areDisplaysLost) {
+                say(logged);
+            }
+        };
+        const auto lost = [this] {
+            areDisplaysLost = true;
+            loop.stop();
+        };
+        return tonquil::runCommand(
+            arguments,
+            {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
+             .logged = logged,
+             .out = out,
+             .remote = remote,
+             .notes = notes,
+             .openDisplaysToHold = [&] { return tonquil::chooseDisplayService(&loop, log, lost); },
+             .areDisplaysLost = [this] { return areDisplaysLost; }});
+    }
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -54,34 +91,25 @@ int main(int argc, char** argv) {
         say(arguments.error().sentence + " Try \"tonquilctl --help\".");
         return wrongUsage;
     }
-    std::string logged;
-    std::string out;
-    std::string notes;
-    tonquil::PollRunLoop loop;
-    const tonquil::RemoteAccess remote = remoteAccess(loop);
+    Session session;
     tonquil::Result<std::unique_ptr<tonquil::TerminationSignals>> signals;
-    if (arguments->command == tonquil::Arguments::Command::remoteWatch) {
-        signals = tonquil::TerminationSignals::watch(loop, [&](int) { loop.stop(); });
+    if (arguments->hold || arguments->command == tonquil::Arguments::Command::remoteWatch) {
+        signals =
+            tonquil::TerminationSignals::watch(session.loop, [&](int) { session.loop.stop(); });
         if (!signals) {
             say(signals.error().sentence);
             return failed;
         }
     }
-    const auto log = [&](std::string_view line) { logged = line; };
-    const auto result = tonquil::runCommand(
-        *arguments, {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
-                     .logged = logged,
-                     .out = out,
-                     .remote = remote,
-                     .notes = notes});
+    const auto result = session.run(*arguments);
     if (!result) {
         const std::string& sentence = result.error().sentence;
         const std::string& detail = result.error().detail;
         say(detail.empty() ? sentence : sentence + " (" + detail + ")");
         return failed;
     }
-    static_cast<void>(print(notes, stderr));
-    if (!print(out, stdout)) {
+    static_cast<void>(print(session.notes, stderr));
+    if (!print(session.out, stdout)) {
         say("The output could not be written.");
         return failed;
     }

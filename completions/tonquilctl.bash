@@ -99,7 +99,7 @@ _tonquilctl() {
     fi
     case ${COMP_WORDS[1]} in
         displays) options="--json" ;;
-        apply) options="--display --curve" ;;
+        apply) options="--display --curve --hold" ;;
         restore) options="--display" ;;
         read) options="--display --hardware" ;;
         table) options="--display --curve --samples --base" ;;

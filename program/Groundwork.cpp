@@ -19,7 +19,11 @@ Groundwork::Groundwork(XdgFolders folders, RunLoop& runLoop)
                    _saveProblems.preferencesReports()),
       _recovery(_folders.state() / ("recovery-" + instanceName() + ".plist"), _runLoop, _disk,
                 _saveProblems.recoveryReports()) {
-    auto opened = chooseDisplayService(&_runLoop, logLine);
+    auto opened = chooseDisplayService(&_runLoop, logLine, [this] {
+        if (_displaysLost) {
+            _displaysLost();
+        }
+    });
     if (opened) {
         _displays = std::move(*opened);
     } else {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "foundation/RunLoop.h"
 #include "platform/posix/DiskThread.h"
@@ -33,6 +35,8 @@ class Groundwork {
     [[nodiscard]] DesktopEntries& installedPrograms() { return _installedPrograms; }
     [[nodiscard]] DisplayService& displays() { return *_displays; }
     [[nodiscard]] ScreenRegistry& registry() { return *_registry; }
+    /// Called when the connection to the displays is lost for good.
+    void setWhenDisplaysLost(std::function<void()> lost) { _displaysLost = std::move(lost); }
     /// Empty unless there never will be a display.
     [[nodiscard]] const std::string& whyNoDisplays() const { return _whyNoDisplays; }
 
@@ -44,6 +48,7 @@ class Groundwork {
     PropertyListPreferences _preferences;
     CurveRecoveryFile _recovery;
     DesktopEntries _installedPrograms{DesktopEntries::fromEnvironment()};
+    std::function<void()> _displaysLost;
     std::unique_ptr<DisplayService> _displays;
     std::string _whyNoDisplays;
     std::unique_ptr<ScreenRegistry> _registry;

@@ -2,6 +2,8 @@
 #include "program/Program.h"
 
 #include <QApplication>
+#include <QThread>
+#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
@@ -31,6 +33,22 @@ void saveAtExit() {
     }
 }
 
+// When a Wayland compositor goes, the toolkit says so and then ends the process without calling
+// what was registered for that. Saying so is all that can be heard of it. It may come from a thread
+// of the toolkit's own; what is saved belongs to ours.
+void saveWhenWaylandIsLost(QtMsgType type, const QMessageLogContext& context,
+                           const QString& message) {
+    std::fputs(qPrintable(qFormatLogMessage(type, context, message) + QLatin1Char('\n')), stderr);
+    if (!message.startsWith(QLatin1String("The Wayland connection"))) {
+        return;
+    }
+    if (QThread::currentThread() == qApp->thread()) {
+        saveAtExit();
+    } else {
+        QMetaObject::invokeMethod(qApp, saveAtExit, Qt::BlockingQueuedConnection);
+    }
+}
+
 }  // namespace
 
 Program::Program(Groundwork& groundwork, BusSessionEvents::Addresses buses)
@@ -49,6 +67,7 @@ Program::Program(Groundwork& groundwork, BusSessionEvents::Addresses buses)
       _loginItem(groundwork.folders().config().parent_path() / "autostart",
                  programFile().parent_path() / "tonquil-launcher"),
       _sessionWindows(groundwork.folders().state() / ("windows-" + instanceName() + ".plist")) {
+    groundwork.setWhenDisplaysLost([this] { displaysLost(); });
     openWindowSystem();
     openKeyboard();
     makeWindows();
@@ -100,6 +119,9 @@ Program::~Program() {
 int Program::run(const std::vector<Request>& requests) {
     controllerToSave = _controller.get();
     std::atexit(saveAtExit);
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        qInstallMessageHandler(saveWhenWaylandIsLost);
+    }
     QObject::connect(qApp, &QCoreApplication::aboutToQuit,
                      [this] { _controller->applicationWillTerminate(); });
     const auto signals = TerminationSignals::watch(_runLoop, [this](int) { _controller->quit(); });
@@ -215,6 +237,12 @@ SessionRestoration::Storage Program::sessionStorage() {
                         report(stored.error());
                     }
                 }};
+}
+
+// Qt notices as well, but ends the process without a chance to save anything.
+void Program::displaysLost() {
+    _controller->applicationWillTerminate();
+    _runLoop.post([this] { end(); });
 }
 
 void Program::openWindowSystem() {

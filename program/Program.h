@@ -42,6 +42,7 @@ class Program {
     [[nodiscard]] std::string answer(const std::string& text);
 
  private:
+    void displaysLost();
     void openWindowSystem();
     void openKeyboard();
     void makeWindows();

@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/choice/DisplayServiceChoice.h"
 #include "platform/dbus/BusAddresses.h"
 #include "platform/posix/InstanceSocket.h"
 #include "platform/posix/StandardStreams.h"
@@ -30,9 +31,15 @@ namespace tonquil {
 
 namespace {
 
-/// The window toolkit aborts where it finds no display server, and says nothing of use.
-bool hasDesktop() {
+/// Whether there is a desktop to be on, and, where there are two, which one the toolkit takes: it
+/// aborts where it finds no display server, and says nothing of use.
+bool findDesktop() {
     if (!environment("QT_QPA_PLATFORM").empty()) {
+        return true;
+    }
+    // Never by an X server inside the Wayland session whose displays are corrected.
+    if (isWaylandServed()) {
+        qputenv("QT_QPA_PLATFORM", environment("DISPLAY").empty() ? "wayland" : "wayland;xcb");
         return true;
     }
     const std::unique_ptr<xcb_connection_t, DisconnectXcb> connection(
@@ -41,7 +48,7 @@ bool hasDesktop() {
         return true;
     }
     if (!environment("WAYLAND_DISPLAY").empty()) {
-        logLine("This is a Wayland session, whose displays cannot be corrected yet.");
+        logLine("This Wayland desktop does not let programs correct its displays.");
         return false;
     }
     std::string line = "There is no desktop here: no X server answers on \"";
@@ -158,7 +165,7 @@ int start(int argc, char** argv) {
         std::puts("tonquil " TONQUIL_VERSION);
         return EXIT_SUCCESS;
     }
-    if (!hasDesktop()) {
+    if (!findDesktop()) {
         return EXIT_FAILURE;
     }
     ToolkitArguments arguments(argc, argv);

@@ -33,6 +33,10 @@ struct DisplayDescription {
     std::uint32_t rampSize = 0;
     /// Why the display cannot be corrected, as a sentence; empty when it can.
     std::string obstacle;
+    /// Whether a correction stays on the display when the program that set it ends.
+    bool outlivesProgram = true;
+    /// Whether it can be told what is on the hardware now.
+    bool isReadable = true;
 };
 
 }  // namespace tonquil

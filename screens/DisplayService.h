@@ -77,6 +77,9 @@ class DisplayService : public SystemCalibration {
 
     [[nodiscard]] virtual std::unique_ptr<Subscription> registerReconfigurationCallback(
         ReconfigurationCallback callback) = 0;
+    /// Whether others can replace a table without the service's hearing of it. Where they cannot,
+    /// there is nothing to put right again and again.
+    [[nodiscard]] virtual bool canBeDisturbed() const { return true; }
     /// Moves the pointer to a point of the top-down desktop space.
     virtual void warpPointer(const Point& point) = 0;
 

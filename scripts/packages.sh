@@ -7,6 +7,7 @@ packages_to_build=(
     g++ cmake ninja-build pkg-config
     libxcb1-dev libxcb-randr0-dev libxcb-screensaver0-dev libxcb-xfixes0-dev libxcb-xkb-dev
     libxkbcommon-dev libxkbcommon-x11-dev libexpat1-dev liblcms2-dev
+    libwayland-dev libwayland-bin wayland-protocols qt6-wayland
     libglib2.0-dev libsystemd-dev nlohmann-json3-dev libexpected-dev qt6-base-dev
     qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
 )

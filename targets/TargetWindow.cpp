@@ -112,7 +112,12 @@ void TargetWindow::cover(const QRect& frame) {
 }
 
 void TargetWindow::showInFront() {
-    show();
+    // On Wayland only the compositor places windows; it fills a screen with one that asks for it.
+    if (_isCover && QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        showFullScreen();
+    } else {
+        show();
+    }
     raise();
     activateWindow();
     if (_isCover) {

@@ -484,10 +484,6 @@
         <translation>Dieses Tastenkürzel hat in Tonquil schon eine andere Aufgabe.</translation>
     </message>
     <message>
-        <source>This is a Wayland session, whose displays cannot be corrected yet.</source>
-        <translation>Dies ist eine Wayland-Sitzung, deren Bildschirme noch nicht korrigiert werden können.</translation>
-    </message>
-    <message>
         <source>Key combinations for all programs are not available on this desktop.</source>
         <translation>Programmübergreifende Tastenkürzel sind auf diesem Desktop nicht verfügbar.</translation>
     </message>
@@ -686,6 +682,26 @@
     <message>
         <source>The file has curves for more than %@ displays.</source>
         <translation>Die Datei enthält Kurven für mehr als %@ Bildschirme.</translation>
+    </message>
+    <message>
+        <source>There is no Wayland compositor to talk to: WAYLAND_DISPLAY is not set.</source>
+        <translation>Es gibt keinen Wayland-Compositor, mit dem man sprechen könnte: WAYLAND_DISPLAY ist nicht gesetzt.</translation>
+    </message>
+    <message>
+        <source>The Wayland compositor does not answer.</source>
+        <translation>Der Wayland-Compositor antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>This Wayland desktop does not let programs correct its displays.</source>
+        <translation>Dieser Wayland-Desktop lässt Programme seine Bildschirme nicht korrigieren.</translation>
+    </message>
+    <message>
+        <source>The compositor gives an impossible size for this display&apos;s gamma ramp.</source>
+        <translation>Der Compositor nennt für die Gammatabelle dieses Bildschirms eine unmögliche Größe.</translation>
+    </message>
+    <message>
+        <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
+        <translation>Ein anderes Programm, etwa ein Nachtmodus, hält die Gammatabelle dieses Bildschirms, oder er hat keine.</translation>
     </message>
 </context>
 <context>

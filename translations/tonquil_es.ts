@@ -484,10 +484,6 @@
         <translation>Este atajo ya hace otra cosa en Tonquil.</translation>
     </message>
     <message>
-        <source>This is a Wayland session, whose displays cannot be corrected yet.</source>
-        <translation>Esta es una sesión de Wayland, cuyas pantallas aún no se pueden corregir.</translation>
-    </message>
-    <message>
         <source>Key combinations for all programs are not available on this desktop.</source>
         <translation>Los atajos globales no están disponibles en este escritorio.</translation>
     </message>
@@ -686,6 +682,26 @@
     <message>
         <source>The file has curves for more than %@ displays.</source>
         <translation>El archivo contiene curvas para más de %@ pantallas.</translation>
+    </message>
+    <message>
+        <source>There is no Wayland compositor to talk to: WAYLAND_DISPLAY is not set.</source>
+        <translation>No hay ningún compositor de Wayland con el que comunicarse: WAYLAND_DISPLAY no está definida.</translation>
+    </message>
+    <message>
+        <source>The Wayland compositor does not answer.</source>
+        <translation>El compositor de Wayland no responde.</translation>
+    </message>
+    <message>
+        <source>This Wayland desktop does not let programs correct its displays.</source>
+        <translation>Este escritorio de Wayland no permite que los programas corrijan sus pantallas.</translation>
+    </message>
+    <message>
+        <source>The compositor gives an impossible size for this display&apos;s gamma ramp.</source>
+        <translation>El compositor indica un tamaño imposible para la tabla de gamma de esta pantalla.</translation>
+    </message>
+    <message>
+        <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
+        <translation>Otro programa, como una luz nocturna, tiene la tabla de gamma de esta pantalla, o esta no tiene ninguna.</translation>
     </message>
 </context>
 <context>

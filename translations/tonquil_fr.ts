@@ -484,10 +484,6 @@
         <translation>Ce raccourci a déjà une autre fonction dans Tonquil.</translation>
     </message>
     <message>
-        <source>This is a Wayland session, whose displays cannot be corrected yet.</source>
-        <translation>Ceci est une session Wayland, dont les écrans ne peuvent pas encore être corrigés.</translation>
-    </message>
-    <message>
         <source>Key combinations for all programs are not available on this desktop.</source>
         <translation>Les raccourcis globaux ne sont pas disponibles sur ce bureau.</translation>
     </message>
@@ -686,6 +682,26 @@
     <message>
         <source>The file has curves for more than %@ displays.</source>
         <translation>Le fichier contient des courbes pour plus de %@ écrans.</translation>
+    </message>
+    <message>
+        <source>There is no Wayland compositor to talk to: WAYLAND_DISPLAY is not set.</source>
+        <translation>Il n’y a pas de compositeur Wayland à contacter : WAYLAND_DISPLAY n’est pas défini.</translation>
+    </message>
+    <message>
+        <source>The Wayland compositor does not answer.</source>
+        <translation>Le compositeur Wayland ne répond pas.</translation>
+    </message>
+    <message>
+        <source>This Wayland desktop does not let programs correct its displays.</source>
+        <translation>Ce bureau Wayland ne laisse pas les programmes corriger ses écrans.</translation>
+    </message>
+    <message>
+        <source>The compositor gives an impossible size for this display&apos;s gamma ramp.</source>
+        <translation>Le compositeur indique une taille impossible pour la table gamma de cet écran.</translation>
+    </message>
+    <message>
+        <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
+        <translation>Un autre programme, par exemple un mode nuit, tient la table gamma de cet écran, ou celui-ci n’en a pas.</translation>
     </message>
 </context>
 <context>

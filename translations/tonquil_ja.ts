@@ -484,10 +484,6 @@
         <translation>このキーの組み合わせは、Tonquilですでに別の操作に使われています。</translation>
     </message>
     <message>
-        <source>This is a Wayland session, whose displays cannot be corrected yet.</source>
-        <translation>これはWaylandセッションです。そのディスプレイの補正にはまだ対応していません。</translation>
-    </message>
-    <message>
         <source>Key combinations for all programs are not available on this desktop.</source>
         <translation>このデスクトップでは、全プログラム共通のキーの組み合わせを使用できません。</translation>
     </message>
@@ -686,6 +682,26 @@
     <message>
         <source>The file has curves for more than %@ displays.</source>
         <translation>このファイルには %@ 台を超えるディスプレイの曲線が含まれています。</translation>
+    </message>
+    <message>
+        <source>There is no Wayland compositor to talk to: WAYLAND_DISPLAY is not set.</source>
+        <translation>通信できる Wayland コンポジタがありません。WAYLAND_DISPLAY が設定されていません。</translation>
+    </message>
+    <message>
+        <source>The Wayland compositor does not answer.</source>
+        <translation>Wayland コンポジタが応答しません。</translation>
+    </message>
+    <message>
+        <source>This Wayland desktop does not let programs correct its displays.</source>
+        <translation>この Wayland デスクトップでは、プログラムがディスプレイを補正できません。</translation>
+    </message>
+    <message>
+        <source>The compositor gives an impossible size for this display&apos;s gamma ramp.</source>
+        <translation>コンポジタが報告したこのディスプレイのガンマテーブルのサイズは、ありえない値です。</translation>
+    </message>
+    <message>
+        <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
+        <translation>夜間モードなど別のプログラムがこのディスプレイのガンマテーブルを使用しているか、このディスプレイにはガンマテーブルがありません。</translation>
     </message>
 </context>
 <context>

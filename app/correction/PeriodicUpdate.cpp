@@ -24,7 +24,8 @@ std::chrono::milliseconds intervalFrom(float seconds) {
 }  // namespace
 
 void PeriodicUpdate::_startPeriodicUpdate() {
-    if (isRunning() || !_preferences.boolForKey(settingsKey::continuouslyApply)) {
+    if (isRunning() || !_service.canBeDisturbed() ||
+        !_preferences.boolForKey(settingsKey::continuouslyApply)) {
         return;
     }
     _periodicTimer = _runLoop.callRepeatedly(

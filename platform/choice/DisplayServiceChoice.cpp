@@ -9,6 +9,7 @@
 #include "foundation/TranslatableText.h"
 #include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/simulated/SimulatedDisplayService.h"
+#include "platform/wayland/WlrDisplayService.h"
 #include "platform/x11/displays/X11DisplayService.h"
 
 namespace tonquil {
@@ -56,23 +57,38 @@ Result<std::unique_ptr<DisplayService>> openX11(RunLoop* runLoop, const Log& log
     return std::move(*service);
 }
 
+Result<std::unique_ptr<DisplayService>> openWlr(RunLoop* runLoop, const Log& log,
+                                                const std::function<void()>& lost) {
+    auto service = WlrDisplayService::open(nullptr, {.runLoop = runLoop, .log = log, .lost = lost});
+    if (!service) {
+        return tl::unexpected(std::move(service.error()));
+    }
+    return std::move(*service);
+}
+
 }  // namespace
 
-Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop, const Log& log) {
+bool isWaylandServed() {
+    return WlrDisplayService::isOffered();
+}
+
+Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop, const Log& log,
+                                                             const std::function<void()>& lost) {
     const std::string_view wanted = environment("TONQUIL_DISPLAY_SERVICE");
     if (wanted == "simulated") {
         return openSimulated(log);
     }
-    if (!wanted.empty() && wanted != "x11") {
+    if (!wanted.empty() && wanted != "wlr" && wanted != "x11") {
         return problem("TONQUIL_DISPLAY_SERVICE is \"" + std::string(wanted) +
-                       "\"; it can be x11 or simulated.");
+                       "\"; it can be wlr, x11 or simulated.");
     }
-    // Whether an X server is a real one is for the server to say, not for the session's variables:
-    // a private server may well run inside a Wayland session.
-    if (wanted.empty() && environment("DISPLAY").empty() &&
-        !environment("WAYLAND_DISPLAY").empty()) {
-        return problem(TONQUIL_TEXT(
-            "Problem", "This is a Wayland session, whose displays cannot be corrected yet."));
+    if (wanted == "wlr" || (wanted.empty() && !environment("WAYLAND_DISPLAY").empty())) {
+        auto service = openWlr(runLoop, log, lost);
+        // An X server inside a Wayland session says itself whether it can correct anything: it may
+        // be a private one with displays of its own.
+        if (service || wanted == "wlr" || environment("DISPLAY").empty()) {
+            return service;
+        }
     }
     return openX11(runLoop, log);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "foundation/Log.h"
@@ -12,10 +13,14 @@ namespace tonquil {
 
 /// Picks the display service for this desktop and opens it; only a program's `main` calls this.
 ///
-/// TONQUIL_DISPLAY_SERVICE=x11|simulated overrides the choice; the simulated desk is read from the
-/// file that TONQUIL_SIMULATED_DESK names, if any. Without a run loop, which must outlive the
-/// service, changes of the displays are not watched for.
-[[nodiscard]] Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop,
-                                                                           const Log& log);
+/// TONQUIL_DISPLAY_SERVICE=wlr|x11|simulated overrides the choice; the simulated desk is read from
+/// the file that TONQUIL_SIMULATED_DESK names, if any. Without a run loop, which must outlive the
+/// service, changes of the displays are not watched for. `lost` is called once when the Wayland
+/// compositor that lends the displays has gone.
+[[nodiscard]] Result<std::unique_ptr<DisplayService>> chooseDisplayService(
+    RunLoop* runLoop, const Log& log, const std::function<void()>& lost = {});
+
+/// Whether this is a Wayland session whose displays can be asked for.
+[[nodiscard]] bool isWaylandServed();
 
 }  // namespace tonquil

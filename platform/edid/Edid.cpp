@@ -75,4 +75,8 @@ std::uint32_t numberOf(std::string_view text) {
     return hash == 0 || hash == 0xFFFFFFFFU ? 1 : hash;
 }
 
+bool isBuiltInConnector(std::string_view name) {
+    return name.starts_with("eDP") || name.starts_with("LVDS") || name.starts_with("DSI");
+}
+
 }  // namespace tonquil

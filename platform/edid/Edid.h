@@ -32,4 +32,8 @@ struct Edid {
 /// values that stand for "no serial number". Settings are kept under it, so it must never change.
 [[nodiscard]] std::uint32_t numberOf(std::string_view text);
 
+/// Whether a connector such as "eDP-1" is inside a portable computer. Old names have no dash
+/// ("LVDS1").
+[[nodiscard]] bool isBuiltInConnector(std::string_view name);
+
 }  // namespace tonquil

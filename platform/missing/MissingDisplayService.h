@@ -31,6 +31,7 @@ class MissingDisplayService final : public DisplayService {
         ReconfigurationCallback callback) override {
         return _callbacks.add(std::move(callback));
     }
+    [[nodiscard]] bool canBeDisturbed() const override { return false; }
     void warpPointer(const Point& /*point*/) override {}
 
  protected:

@@ -64,11 +64,6 @@ std::vector<X11Display> readLitCrtcs(const X11Connection& connection, const Reso
     return displays;
 }
 
-// Old connector names carry no dash ("LVDS1"), new ones do ("eDP-1").
-bool isBuiltInConnector(const std::string& name) {
-    return name.starts_with("eDP") || name.starts_with("LVDS") || name.starts_with("DSI");
-}
-
 void describe(X11Display& display, const xcb_randr_get_output_info_reply_t& info,
               std::span<const std::uint8_t> edidBytes) {
     // The accessor hands out mutable bytes although it only reads.

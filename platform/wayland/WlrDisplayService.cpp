@@ -1,0 +1,400 @@
+// SPDX-License-Identifier: MIT
+#include "platform/wayland/WlrDisplayService.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+#include "foundation/TranslatableText.h"
+
+namespace tonquil {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A compositor that is alive answers in far less.
+constexpr std::chrono::milliseconds longestAnswer = 2s;
+/// How long the answer to a gamma control is waited for beyond that: some compositors say nothing
+/// while another program holds the output.
+constexpr std::chrono::milliseconds longestGammaAnswer = 250ms;
+
+}  // namespace
+
+Result<std::unique_ptr<WlrDisplayService>> WlrDisplayService::open(const char* display,
+                                                                   Surroundings with) {
+    auto connection = WaylandConnection::open(display);
+    if (!connection) {
+        return tl::unexpected(std::move(connection.error()));
+    }
+    std::unique_ptr<WlrDisplayService> service(
+        new WlrDisplayService(std::move(*connection), std::move(with)));
+    // First which globals there are, then what they say.
+    if (!service->_connection->waitForAnswers(longestAnswer)) {
+        return problem(TONQUIL_TEXT("Problem", "The Wayland compositor does not answer."));
+    }
+    if (!service->_outputs->isGammaOffered()) {
+        return problem(TONQUIL_TEXT(
+            "Problem", "This Wayland desktop does not let programs correct its displays."));
+    }
+    if (service->_connection->waitForAnswers(longestAnswer)) {
+        static_cast<void>(service->_connection->waitUntil(
+            [&] { return service->_outputs->areAnswered(); }, longestGammaAnswer));
+    }
+    service->_announced = service->layout();
+    service->_quiet.reset();
+    service->retryLater();
+    return service;
+}
+
+bool WlrDisplayService::isOffered() {
+    const auto connection = WaylandConnection::open(nullptr);
+    return connection &&
+           (*connection)->offers(zwlr_gamma_control_manager_v1_interface.name, longestAnswer);
+}
+
+WlrDisplayService::WlrDisplayService(std::unique_ptr<WaylandConnection> connection,
+                                     Surroundings with)
+    : _connection(std::move(connection)),
+      _with(std::move(with)),
+      _outputs(std::make_unique<WlrOutputs>(*_connection, [this] { outputsChanged(); })) {
+    if (_with.runLoop != nullptr) {
+        _watch = _with.runLoop->watchReadable(_connection->descriptor(), [this] { takeEvents(); });
+    }
+}
+
+WlrDisplayService::~WlrDisplayService() = default;
+
+std::vector<WlrOutput*> WlrDisplayService::outputs() {
+    std::vector<WlrOutput*> complete;
+    for (const auto& output : _outputs->all()) {
+        if (output->wayland.isComplete()) {
+            if (output->id == 0) {
+                identify(*output);
+            }
+            complete.push_back(output.get());
+        }
+    }
+    // Wayland has no main display. Whatever the order in which a wake-up announces the outputs
+    // anew, the one at the desktop's origin is taken for it.
+    const auto place = [](const WlrOutput* output) {
+        const auto& [name, model, width, height, bounds] = output->wayland.properties();
+        const bool isAtOrigin = bounds.x == 0 && bounds.y == 0;
+        return std::tuple(!isAtOrigin, bounds.x, bounds.y, name);
+    };
+    std::ranges::sort(complete, {}, place);
+    return complete;
+}
+
+void WlrDisplayService::identify(WlrOutput& output) {
+    const WaylandOutput::Properties& properties = output.wayland.properties();
+    output.productName = properties.model;
+    output.identity = {.isBuiltIn = isBuiltInConnector(properties.name),
+                       .widthInMillimetres = properties.widthInMillimetres,
+                       .heightInMillimetres = properties.heightInMillimetres};
+    if (const auto edid = readKernelEdid(_with.connectors, properties.name)) {
+        output.identity.serialNumber = edid->serialNumber;
+        output.identity.modelNumber = edid->modelNumber;
+        output.identity.vendorNumber = edid->vendorNumber;
+        output.productName = edid->productName;
+    } else {
+        // Otherwise all outputs of one size without an EDID would share a reference ID.
+        output.identity.modelNumber = numberOf(properties.name);
+    }
+    const auto isThis = [&](const KnownDisplay& each) {
+        return each.connector == properties.name && each.identity == output.identity;
+    };
+    const auto known = std::ranges::find_if(_known, isThis);
+    if (known != _known.end()) {
+        output.id = known->id;
+        return;
+    }
+    // By the connector, so that a display has the same ID in each run.
+    output.id = numberOf(properties.name);
+    while (output.id == 0 ||
+           std::ranges::find(_known, output.id, &KnownDisplay::id) != _known.end()) {
+        ++output.id;
+    }
+    _known.push_back({.connector = properties.name, .identity = output.identity, .id = output.id});
+}
+
+WlrOutput* WlrDisplayService::find(DisplayID display) {
+    const auto all = outputs();
+    const auto found = std::ranges::find_if(
+        all, [=](const WlrOutput* output) { return display == 0 || output->id == display; });
+    return found == all.end() ? nullptr : *found;
+}
+
+WlrOutput* WlrDisplayService::correctable(DisplayID display) {
+    WlrOutput* found = find(display);
+    if (found != nullptr && found->gamma.state() == WlrGammaControl::State::Released) {
+        _outputs->askForGamma(*found);
+        const auto isAnswered = [&] {
+            found = find(display);
+            return found == nullptr || found->gamma.state() != WlrGammaControl::State::Asked;
+        };
+        static_cast<void>(_connection->waitUntil(isAnswered, longestGammaAnswer));
+        retryLater();
+    }
+    if (found == nullptr) {
+        report(display, "Display " + std::to_string(display) + " is gone.");
+        return nullptr;
+    }
+    if (const std::string reason = found->gamma.obstacle(); !reason.empty()) {
+        report(display, found->wayland.properties().name + ": " + reason);
+        return nullptr;
+    }
+    _reported.erase(display);
+    return found;
+}
+
+std::vector<WlrDisplay> WlrDisplayService::layout() {
+    std::vector<WlrDisplay> displays;
+    for (const WlrOutput* output : outputs()) {
+        const WaylandOutput::Properties& properties = output->wayland.properties();
+        displays.push_back({.id = output->id,
+                            .identity = output->identity,
+                            .connector = properties.name,
+                            .bounds = properties.bounds,
+                            .rampSize = output->gamma.size(),
+                            .obstacle = output->gamma.obstacle()});
+    }
+    return displays;
+}
+
+std::vector<DisplayID> WlrDisplayService::onlineDisplays(std::size_t most) {
+    // With a run loop the events have come already.
+    if (_with.runLoop == nullptr && _connection->waitForAnswers(longestAnswer)) {
+        static_cast<void>(
+            _connection->waitUntil([this] { return _outputs->areAnswered(); }, longestGammaAnswer));
+    }
+    std::vector<DisplayID> online;
+    for (const WlrOutput* output : outputs()) {
+        if (online.size() < most) {
+            online.push_back(output->id);
+        }
+    }
+    return online;
+}
+
+DisplayID WlrDisplayService::mainDisplay() {
+    const WlrOutput* output = find(0);
+    return output == nullptr ? 0 : output->id;
+}
+
+DisplayIdentity WlrDisplayService::identity(DisplayID display) {
+    const WlrOutput* output = find(display);
+    return output == nullptr ? DisplayIdentity{} : output->identity;
+}
+
+DisplayDescription WlrDisplayService::description(DisplayID display) {
+    const WlrOutput* output = find(display);
+    if (output == nullptr) {
+        return {};
+    }
+    return {.connector = output->wayland.properties().name,
+            .productName = output->productName,
+            .rampSize = output->gamma.size(),
+            .obstacle = output->gamma.obstacle(),
+            .outlivesProgram = false,
+            .isReadable = false};
+}
+
+Rectangle WlrDisplayService::bounds(DisplayID display) {
+    const WlrOutput* output = find(display);
+    return output == nullptr ? Rectangle{} : output->wayland.properties().bounds;
+}
+
+void WlrDisplayService::setTransferTable(DisplayID display, const GammaTable& table) {
+    const DisplayBatch batch(*this);
+    WlrOutput* output = correctable(display);
+    if (output == nullptr) {
+        _allReached = false;
+        return;
+    }
+    if (output->ramp.size() != output->gamma.size()) {
+        output->ramp = HardwareRamp(output->gamma.size());
+    }
+    output->ramp.setTable(table);
+    output->isRampUnsent = true;
+}
+
+std::uint32_t WlrDisplayService::getTransferTable(DisplayID display, GammaTable& table) {
+    const WlrOutput* output = find(display);
+    if (output == nullptr) {
+        report(display, "Display " + std::to_string(display) + " is gone.");
+        return 0;
+    }
+    if (output->gamma.state() == WlrGammaControl::State::Missing) {
+        report(display, output->wayland.properties().name + ": " + output->gamma.obstacle());
+        return 0;
+    }
+    // Of a display that another program holds the size is not known; a straight line is one of any
+    // length.
+    const std::uint32_t size = output->gamma.size();
+    return HardwareRamp::straight(size == 0 ? GammaTable::capacity : size).getTable(table);
+}
+
+void WlrDisplayService::restoreSystemCalibration(std::span<const DisplayID> displays) {
+    const DisplayBatch batch(*this);
+    for (const DisplayID display : displays) {
+        WlrOutput* output = find(display);
+        if (output == nullptr) {
+            report(display, "Display " + std::to_string(display) + " is gone.");
+            _allReached = false;
+            continue;
+        }
+        output->isRampUnsent = false;
+        output->gamma.release();
+    }
+}
+
+void WlrDisplayService::beginBatch() {
+    _allReached = true;
+}
+
+bool WlrDisplayService::endBatch() {
+    std::vector<DisplayID> set;
+    for (const auto& output : _outputs->all()) {
+        if (output->isRampUnsent) {
+            set.push_back(output->id);
+        }
+    }
+    sendRamps();
+    if (_with.runLoop == nullptr && !set.empty()) {
+        // Nobody will be here to hear later that a ramp was refused.
+        _allReached = _connection->waitForAnswers(longestAnswer) && _allReached;
+        for (const DisplayID display : set) {
+            const WlrOutput* output = find(display);
+            _allReached = _allReached && output != nullptr && output->gamma.isInUse();
+        }
+    }
+    if (_connection->isLost()) {
+        connectionLost();
+        _allReached = false;
+    }
+    return _allReached;
+}
+
+// One set of ramps at a time is on its way. What is set meanwhile replaces what was set before, so
+// that a compositor that is slower than a slider is never behind by more than one ramp.
+void WlrDisplayService::sendRamps() {
+    if (_sent && _with.runLoop != nullptr) {
+        return;
+    }
+    bool isSomethingSent = false;
+    for (const auto& output : _outputs->all()) {
+        if (!output->isRampUnsent) {
+            continue;
+        }
+        output->isRampUnsent = false;
+        if (output->gamma.set(output->ramp)) {
+            isSomethingSent = true;
+        } else {
+            _allReached = false;
+            report(output->id, output->wayland.properties().name + " did not take its gamma ramp.");
+        }
+    }
+    if (isSomethingSent && _with.runLoop != nullptr) {
+        _sent.reset(wl_display_sync(_connection->get()));
+        static constexpr wl_callback_listener listener{
+            .done = [](void* data, wl_callback*, std::uint32_t) {
+                auto* const service = static_cast<WlrDisplayService*>(data);
+                service->_sent.reset();
+                service->sendRamps();
+            }};
+        wl_callback_add_listener(_sent.get(), &listener, this);
+    }
+    _connection->flush();
+}
+
+void WlrDisplayService::takeEvents() {
+    _connection->takeEvents();
+    if (_connection->isLost()) {
+        connectionLost();
+    }
+}
+
+void WlrDisplayService::connectionLost() {
+    if (std::exchange(_isLostKnown, true)) {
+        return;
+    }
+    _watch.reset();
+    _quiet.reset();
+    _retry.reset();
+    if (_with.lost) {
+        _with.lost();
+    }
+    report(0, "The Wayland compositor has gone.");
+}
+
+void WlrDisplayService::report(DisplayID display, const std::string& text) {
+    if (_reported.insert(display).second && _with.log) {
+        _with.log(text);
+    }
+}
+
+std::unique_ptr<DisplayService::Subscription> WlrDisplayService::registerReconfigurationCallback(
+    ReconfigurationCallback callback) {
+    auto subscription = _callbacks.add(std::move(callback));
+    // What has changed since the displays were listed is told like any other change.
+    if (_announced != layout()) {
+        outputsChanged();
+    }
+    return subscription;
+}
+
+void WlrDisplayService::outputsChanged() {
+    if (_with.runLoop != nullptr && !_isLostKnown) {
+        _quiet = _with.runLoop->callOnce(quietTime, [this] { displaysChanged(); });
+    }
+}
+
+void WlrDisplayService::displaysChanged() {
+    const auto before = std::exchange(_announced, layout());
+    std::set<DisplayID> affected;
+    const auto addChanged = [&](const auto& displays, const auto& others) {
+        for (const WlrDisplay& display : displays) {
+            if (std::ranges::find(others, display) == others.end()) {
+                affected.insert(display.id);
+            }
+        }
+    };
+    addChanged(before, _announced);
+    addChanged(_announced, before);
+    for (const ReconfigurationFlags flags : {beginConfiguration, endConfiguration}) {
+        for (const DisplayID display : affected) {
+            _callbacks.call(display, flags);
+        }
+    }
+    // With the correction off nothing was set, and another program may have the display.
+    for (WlrOutput* output : outputs()) {
+        if (output->gamma.state() == WlrGammaControl::State::Held && !output->gamma.isInUse() &&
+            !output->isRampUnsent) {
+            output->gamma.release();
+        }
+    }
+    _connection->flush();
+    retryLater();
+}
+
+void WlrDisplayService::retryLater() {
+    const bool isNeeded = std::ranges::any_of(
+        _outputs->all(), [](const auto& output) { return output->gamma.isWorthAnotherTry(); });
+    if (isNeeded && !_retry && _with.runLoop != nullptr && !_isLostKnown) {
+        _retry = _with.runLoop->callOnce(retryInterval, [this] { retry(); });
+    }
+}
+
+void WlrDisplayService::retry() {
+    for (const auto& output : _outputs->all()) {
+        if (output->gamma.isWorthAnotherTry()) {
+            _outputs->askForGamma(*output);
+        }
+    }
+    _connection->flush();
+    _retry.reset();
+    retryLater();
+}
+
+}  // namespace tonquil

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "tests/cli/ControlProgram.h"
+#include "tests/support/GammaCompositor.h"
+#include "values/BoundedJson.h"
+
+namespace tonquil {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Asks again until it is so; false when that takes too long.
+template <typename Question>
+bool comesTrue(Question isSo) {
+    const auto end = std::chrono::steady_clock::now() + 20s;
+    while (!isSo() && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(2ms);
+    }
+    return isSo();
+}
+
+class ProgramOnWayland : public testing::Test {
+ protected:
+    ProcessRequest request(const std::vector<std::string>& arguments) {
+        ProcessRequest request = tonquilctlRequest("", arguments);
+        std::erase(request.unset, "WAYLAND_DISPLAY");
+        request.environment["WAYLAND_DISPLAY"] = compositor.socket();
+        return request;
+    }
+    ProcessResult control(const std::vector<std::string>& arguments) {
+        return run(request(arguments)).value();
+    }
+
+    GammaCompositor compositor;
+};
+
+TEST_F(ProgramOnWayland, SaysWhatADesktopThatOnlyLendsItsTablesCannotDo) {
+    compositor.plug("DP-1", 0, 1024);
+    const auto list = readBoundedJson(control({"displays", "--json"}).standardOutput).value();
+    ASSERT_EQ(list.size(), 1U);
+    EXPECT_EQ(list[0]["outlives"], false);
+    EXPECT_EQ(list[0]["readable"], false);
+    EXPECT_EQ(list[0]["bounds"], (PropertyValue{0, 0, 1920, 1080}));
+    for (const auto& command : std::vector<std::vector<std::string>>{
+             {"apply", "--curve", "[0,0,1.5]"}, {"restore"}, {"read", "--hardware"}}) {
+        const ProcessResult result = control(command);
+        EXPECT_EQ(result.exitStatus, 1) << command[0];
+        EXPECT_EQ(result.standardError.find('\n'), result.standardError.size() - 1);
+    }
+    EXPECT_NE(control({"read"}).standardOutput.find("\n255\t1\t1\t1\n"), std::string::npos);
+}
+
+TEST_F(ProgramOnWayland, HoldsACorrectionUntilItIsEnded) {
+    const HardwareRamp straight = HardwareRamp::straight(256);
+    compositor.plug("DP-1", 0);
+    const auto holder =
+        BackgroundProcess::start(request({"apply", "--hold", "--curve", "[0,0,1.5]"})).value();
+    ASSERT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") != straight; }));
+    compositor.plug("DP-2", 1920);
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-2") != straight; }));
+    compositor.unplug("DP-1");
+    compositor.plug("DP-1", 0);
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == compositor.ramp("DP-2"); }));
+    holder->send(SIGTERM);
+    const auto ended = holder->wait(20s);
+    ASSERT_TRUE(ended);
+    EXPECT_EQ(ended->exitStatus, 0);
+    EXPECT_EQ(ended->standardError, "");
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == straight; }));
+
+    const auto lost =
+        BackgroundProcess::start(request({"apply", "--hold", "--curve", "[0,0,1.5]"})).value();
+    ASSERT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") != straight; }));
+    compositor.die();
+    const auto alone = lost->wait(20s);
+    ASSERT_TRUE(alone);
+    EXPECT_EQ(alone->exitStatus, 1);
+    EXPECT_EQ(alone->standardError, "tonquilctl: The display server has gone.\n");
+}
+
+}  // namespace
+}  // namespace tonquil

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "platform/wayland/WlrDisplayService.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/GammaCompositor.h"
+#include "tests/support/ManualRunLoop.h"
+
+namespace tonquil {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A program that keeps a table on every display.
+class WlrDisplays : public testing::Test {
+ protected:
+    WlrDisplays() { table.levels.fill(0.25F); }
+    void open() {
+        service = WlrDisplayService::open(
+                      compositor.socket().c_str(),
+                      {.runLoop = &loop,
+                       .log = [this](std::string_view line) { log.emplace_back(line); },
+                       .lost = [this] { ++losses; }})
+                      .value();
+        subscription =
+            service->registerReconfigurationCallback([this](DisplayID, ReconfigurationFlags flags) {
+                if (flags != beginConfiguration) {
+                    correct();
+                }
+            });
+        correct();
+    }
+    void correct() {
+        const DisplayBatch batch(*service);
+        for (const DisplayID display : service->onlineDisplays(25)) {
+            service->setTransferTable(display, table);
+        }
+    }
+    /// Lets events come and the quiet time pass until it is so.
+    bool comesTrue(const std::function<bool()>& isSo) {
+        for (int turn = 0; turn < 2500 && !isSo(); ++turn) {
+            if (loop.pollReadable(2ms) == 0) {
+                loop.advance(WlrDisplayService::quietTime);
+            }
+        }
+        return isSo();
+    }
+    bool isCorrected(const std::string& name) {
+        HardwareRamp ramp(compositor.ramp(name).size());
+        ramp.setTable(table);
+        return compositor.ramp(name) == ramp && ramp.size() >= 2;
+    }
+    bool isObstructed() { return !service->description(0).obstacle.empty(); }
+
+    ManualRunLoop loop;
+    std::vector<std::string> log;
+    GammaTable table;
+    int losses = 0;
+    GammaCompositor compositor;
+    std::unique_ptr<WlrDisplayService> service;
+    std::unique_ptr<DisplayService::Subscription> subscription;
+};
+
+TEST_F(WlrDisplays, TellsADisplayThatCannotBeCorrectedAndCorrectsItWhenTheCauseGoes) {
+    struct Row {
+        std::string what;
+        std::uint32_t size;
+        std::uint32_t laterSize;
+    };
+    const std::vector<Row> rows{{"taken at the start", 256, 256},
+                                {"garbage", 1'900'000'000, 1024},
+                                {"one entry", 1, 2},
+                                {"one too many", 65'537, 65'536},
+                                {"late or silent", GammaCompositor::silence, 1024}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        compositor.plug("DP-1", 0, row.size);
+        compositor.setTaken("DP-1", row.size == row.laterSize);
+        log.clear();
+        open();
+        correct();
+        EXPECT_TRUE(isObstructed());
+        EXPECT_EQ(log.size(), 1U);
+        compositor.setTaken("DP-1", false);
+        compositor.setSize("DP-1", row.laterSize);
+        EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+        EXPECT_FALSE(isObstructed());
+        compositor.setTaken("DP-1", true);
+        EXPECT_TRUE(comesTrue([&] { return log.size() == 2; })) << "taken away later";
+        EXPECT_TRUE(isObstructed());
+        compositor.setTaken("DP-1", false);
+        EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+        EXPECT_EQ(log.size(), 2U);
+        service.reset();
+        compositor.unplug("DP-1");
+    }
+}
+
+TEST_F(WlrDisplays, CorrectsWhatIsThereAfterAThousandHotplugs) {
+    compositor.plug("DP-1", 0, 65'536);
+    open();
+    const DisplayID first = service->mainDisplay();
+    for (int count = 0; count < 1000; ++count) {
+        compositor.plug("DP-2", 1920);
+        if (count % 3 != 0) {
+            loop.pollReadable(1ms);
+        }
+        if (count % 50 == 0) {
+            loop.advance(WlrDisplayService::quietTime);
+        }
+        compositor.unplug(count % 100 == 0 ? "DP-1" : "DP-2");
+        if (count % 100 == 0) {
+            compositor.unplug("DP-2");
+            compositor.plug("DP-1", 0, 4096);
+        }
+    }
+    compositor.plug("DP-2", 1920);
+    EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1") && isCorrected("DP-2"); }));
+    EXPECT_EQ(service->onlineDisplays(25).size(), 2U);
+    EXPECT_EQ(service->mainDisplay(), first) << "the same display, whatever the compositor says";
+}
+
+TEST_F(WlrDisplays, LeavesADisplayToOthersWhileItIsNotCorrected) {
+    compositor.plug("DP-1", 0);
+    open();
+    EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+    service->restoreSystemCalibration();
+    EXPECT_TRUE(comesTrue([&] { return !compositor.isHeld("DP-1"); }));
+    correct();
+    EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+}
+
+TEST_F(WlrDisplays, EndsInOrderWhenTheCompositorDies) {
+    compositor.plug("DP-1", 0);
+    open();
+    compositor.die();
+    EXPECT_TRUE(comesTrue([&] { return losses == 1; }));
+    DisplayBatch batch(*service);
+    correct();
+    EXPECT_FALSE(batch.finish());
+    loop.advance(60s);
+    EXPECT_EQ(losses, 1);
+    EXPECT_EQ(log, std::vector<std::string>{"The Wayland compositor has gone."});
+}
+
+}  // namespace
+}  // namespace tonquil
