@@ -10,16 +10,16 @@
 
 namespace tonquil {
 
-/// The timer that puts the curves on the displays again and again, because other programs and the
-/// system replace tables without a word.
+/// Re-applies the curves on a timer, because other programs and the system replace ramps without
+/// notice.
 class PeriodicUpdate {
  public:
     PeriodicUpdate(RunLoop& runLoop, const PreferencesStore& preferences,
                    std::function<void()> update)
         : _runLoop(runLoop), _preferences(preferences), _update(std::move(update)) {}
 
-    /// Does nothing while the timer runs, so that a changed interval counts from the next start,
-    /// and nothing where continuous application is switched off.
+    /// Does nothing while the timer runs, so a changed interval takes effect at the next start, or
+    /// if continuous application is off.
     void _startPeriodicUpdate();
     void _stopPeriodicUpdate() { _periodicTimer.reset(); }
     [[nodiscard]] bool isRunning() const { return _periodicTimer != nullptr; }
