@@ -58,7 +58,7 @@ TEST(Launch, RestoresPanelEntirelyOnAnAttachedDisplay) {
     }
 }
 
-TEST(Launch, LoadsCurvesSavedOnceAtShutdown) {
+TEST(Launch, SavesOnceAtShutdownAndLoadsOnNextStart) {
     ControllerBench bench;
     bench.launchAndSettle();
     bench.edit(PanelSlider::BlackRed, 0.25F);

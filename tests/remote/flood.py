@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Sends a server what a hostile neighbour might, and sees whether it is well afterwards.
+"""Floods a server like a hostile neighbour, and checks that it is healthy afterwards.
 
     flood.py HOST PORT DATAGRAMS PROCESS
 
-PROCESS is the server's. It must not have grown by more than 4 MiB, and answer a scan within 2 s of
-the last hostile datagram.
+PROCESS is the server's process ID. The server must not grow by more than 4 MiB, and must answer a
+scan within 2 s of the last hostile datagram.
 """
 import random
 import socket
