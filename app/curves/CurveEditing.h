@@ -47,7 +47,7 @@ class CurveEditing {
     /// A companion on the network is about to replace curves. Its edits with gaps of less than a
     /// second are one undo step, on any number of displays.
     void willEditFromAfar();
-    /// Call it after each edit: updates the display of curves and schedules saving.
+    /// Call it after each edit: shows the result and schedules saving.
     void curvesWereEdited();
 
  private:
