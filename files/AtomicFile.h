@@ -29,10 +29,11 @@ struct AtomicFileOptions {
 /// Saves `contents` to `target`. At any moment, even if the program or the machine crashes
 /// half-way, the file is either the old one or the complete new one.
 ///
-/// The bytes are written to `.<name>.tonquil-new` in the same folder, flushed if requested, and that
-/// file is renamed over the target. A temporary file left by a crashed program is removed; while another program is still
-/// writing its own, saving is refused. A symbolic link is kept and the file it points to, existing
-/// or not, is saved. An existing target must be a regular file that the user may write to.
+/// The bytes are written to `.<name>.tonquil-new` in the same folder, flushed if requested, and
+/// that file is renamed over the target. A temporary file left by a crashed program is removed;
+/// while another program is still writing its own, saving is refused. A symbolic link is kept and
+/// the file it points to, existing or not, is saved. An existing target must be a regular file that
+/// the user may write to.
 ///
 /// On failure the temporary file is removed, and the sentence says that the old file was kept.
 [[nodiscard]] Result<void> writeFileAtomically(const std::filesystem::path& target,
