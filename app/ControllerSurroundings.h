@@ -27,7 +27,7 @@
 
 namespace tonquil {
 
-/// What the controller works with. All of it must outlive the controller.
+/// The controller's dependencies. All must outlive the controller.
 struct ControllerSurroundings {
     DisplayService& service;
     ScreenRegistry& registry;
@@ -46,11 +46,11 @@ struct ControllerSurroundings {
     const InstalledPrograms& programs;
     DDHotKeyCenter& hotKeys;
     RemoteConfiguration::ServerOpener openServer;
-    /// Where session events come from; may be empty.
+    /// Sources of session events; may be empty.
     std::vector<SessionEvents*> sessionEvents;
-    /// Why there are no displays, where there never will be any; else empty.
+    /// Why there will never be any displays; empty if there may be.
     std::string whyNoDisplays;
-    /// Ends the program's run loop, after which `applicationWillTerminate` is due.
+    /// Quits the event loop; call `applicationWillTerminate` after that.
     std::function<void()> endProgram;
     Log log;
 };

@@ -12,7 +12,7 @@ namespace {
 
 struct RequestName {
     Request::Kind kind;
-    /// As an option; between processes without the dashes.
+    /// As a command-line option; between processes without the dashes.
     std::string_view option;
     std::string_view help;
 };
@@ -26,7 +26,7 @@ constexpr std::array<RequestName, 7> requestNames{{
     {Request::Kind::Preferences, "--preferences", "show the preferences"},
     {Request::Kind::Quit, "--quit", "end the program that runs; the correction stays"},
 }};
-/// Followed by the name of a file.
+/// Followed by a file name.
 constexpr std::string_view openWord = "open ";
 /// Followed by a display's reference ID, or nothing.
 struct TargetWord {
@@ -49,7 +49,7 @@ const RequestName* findName(std::string_view word) {
     return found == requestNames.end() ? nullptr : found;
 }
 
-/// The words of an option for a target: with its dashes, or without as between processes.
+/// Finds the target option for a word, with its dashes or, as between processes, without.
 const TargetWord* findTarget(std::string_view word, std::size_t dashes) {
     const auto* found =
         std::find_if(targetWords.begin(), targetWords.end(),
@@ -60,7 +60,7 @@ const TargetWord* findTarget(std::string_view word, std::size_t dashes) {
 constexpr std::string_view escapedLineEnd = "%n";
 constexpr std::string_view escapedPercent = "%p";
 
-/// A file's name may hold what ends a request.
+/// Escapes newlines, which would end the request.
 std::string escaped(std::string_view name) {
     std::string text;
     for (const char c : name) {
@@ -123,7 +123,7 @@ Result<CommandLine> readCommandLine(std::span<const char* const> arguments) {
             ++index;
             line.requests.back().referenceID = arguments[index];
         } else if (argument == "-session") {
-            // A session manager starts programs so, with its own name for them.
+            // A session manager adds this option, with its own client ID, when it starts a program.
             ++index;
         } else if (const RequestName* name =
                        argument.starts_with("--") ? findName(argument.substr(2)) : nullptr) {

@@ -16,53 +16,53 @@ namespace tonquil {
 
 class TQController;
 
-/// What another start of the program may ask of the one that runs.
+/// A request that a second start of the program can send to the running instance.
 struct Request {
     enum class Kind : std::uint8_t {
-        Reopen,  ///< It was started without anything to do.
+        Reopen,  ///< Started without arguments.
         Toggle,
         On,
         Off,
         ShowPanel,
         Preferences,
         Open,     ///< A settings file.
-        Targets,  ///< Floating, or all over a display.
+        Targets,  ///< Floating, or covering a display.
         Quit,
     };
 
     Kind kind = Kind::Reopen;
-    /// Absolute; only of `Open`.
+    /// Absolute; only for `Open`.
     std::filesystem::path file = {};
 
-    /// Only of `Targets`: without a kind the one shown last, without a display the floating window.
+    /// Only for `Targets`: without a kind the last one shown, without a display the floating
+    /// window.
     std::optional<TargetKind> target = {};
     std::string referenceID = {};
 
     bool operator==(const Request&) const = default;
 };
 
-/// What a command line asks for.
+/// The parsed command-line arguments.
 struct CommandLine {
-    /// Never empty unless the help or the version is wanted.
+    /// Only empty if help or version is wanted.
     std::vector<Request> requests;
     bool wantsHelp = false;
     bool wantsVersion = false;
 };
 
-/// Reads a command line without the program's name; what is no option, or comes after "--", is a
-/// file. The problem is
-/// one of usage.
+/// Parses the command-line arguments without the program name; anything that is not an option, or
+/// comes after "--", is a file. The problem is a usage error.
 [[nodiscard]] Result<CommandLine> readCommandLine(std::span<const char* const> arguments);
 [[nodiscard]] std::string commandLineHelp();
 
-/// Requests as text, one a line, to hand them over to another process; and back. A file's name may
-/// hold any bytes.
+/// Serialises requests as text, one per line, to send to another process; and parses them. A file
+/// name may contain any bytes.
 [[nodiscard]] std::string textFromRequests(const std::vector<Request>& requests);
 [[nodiscard]] Result<std::vector<Request>> requestsFromText(std::string_view text);
 
-/// Whether the program's end is among them.
+/// Whether the program is to quit.
 [[nodiscard]] bool wantsEnd(const std::vector<Request>& requests);
-/// Does what was asked.
+/// Carries out the requests.
 void carryOut(const std::vector<Request>& requests, TQController& controller);
 
 }  // namespace tonquil

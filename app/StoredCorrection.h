@@ -8,11 +8,11 @@
 
 namespace tonquil {
 
-/// Puts the stored curves on the displays, before there is a controller or anything that could keep
-/// one waiting. Changes nothing but the displays.
+/// Applies the stored curves to the displays, before there is a controller or anything else that
+/// could cause a delay. Changes nothing but the displays.
 ///
-/// Nothing happens where the program starts without a correction, or where it first asks whether
-/// it should run beside a rival.
+/// Does nothing if the program starts with the correction off, or if it first has to ask whether to
+/// run beside a rival program.
 void applyStoredCurves(ScreenRegistry& registry, DisplayService& service,
                        PreferencesStore& preferences, CurveRecovery& recovery,
                        const InstalledPrograms& programs);

@@ -75,8 +75,8 @@ TQController::TQController(const ControllerSurroundings& surroundings)
     _correction.show = [this](bool isOn) { showCorrection(isOn); };
 }
 
-// The curves come before anything that can be seen; what observes the surroundings comes last, so
-// that nothing is told of while it is being set up.
+// The curves come before anything visible; observers come last, so that nothing is reported while
+// it is still being set up.
 void TQController::applicationDidFinishLaunching() {
     _with.windows.setAboutBackground(248.0 / 255, 234.0 / 255, 198.0 / 255);
     if (!checkForConflict()) {
@@ -143,7 +143,7 @@ void TQController::_adoptDefaultCurves() {
     _view._updateCurveInPanel();
 }
 
-// The panel's place and the tab are only settled once the window is there.
+// The panel's position and tab are only final once its window exists.
 void TQController::finishPanelSetUp() {
     _view._setControlsEnabled(true);
     _with.panel.showTab(storedTab());
@@ -158,7 +158,8 @@ void TQController::observeSurroundings() {
     for (SessionEvents* events : _with.sessionEvents) {
         events->start([this](SessionEvent event) { sessionEvent(event); });
     }
-    // A profile may have been loaded after the curves were, and before anybody watched for it.
+    // A profile may have been loaded after the curves were applied but before the observers
+    // started.
     _with.runLoop.post([this] {
         if (adoptCalibration()) {
             _applyCurvesToScreen();
@@ -200,8 +201,9 @@ void TQController::_changedDefaults() {
     }
 }
 
-// The switch of the correction is a preference like the others: whoever turns it means it. It is
-// only followed: written back, it would undo what another program has turned again since.
+// The correction switch is a preference like the others, and a change to it is always deliberate.
+// It is only followed, never written back: that would undo a change that another program made
+// since.
 void TQController::_applyDefaultsToPanel() {
     if (applyCorrection() != _correction.isActive()) {
         _correction.switchTo(applyCorrection());
@@ -224,8 +226,8 @@ void TQController::applyAppearance() {
     _with.targets.setHintsShown(preferences.boolForKey(settingsKey::showsTargetHints));
 }
 
-// A display that is new gets the curve that is stored for it; the others keep theirs, which the
-// system may have taken off them in the course of the change.
+// A new display gets its stored curve; the others keep theirs, which the system may have removed
+// from the hardware during the change.
 void TQController::updateScreens() {
     _storage.keepPendingEdits();
     {

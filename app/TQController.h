@@ -22,8 +22,8 @@
 
 namespace tonquil {
 
-/// The program's coordinator: it starts and ends everything in order, and hands what happens to
-/// the part that knows the rules for it.
+/// The program's coordinator: starts and shuts down everything in order, and passes events to the
+/// classes responsible for them.
 class TQController final : public PanelActions {
  public:
     explicit TQController(const ControllerSurroundings& surroundings);
@@ -31,11 +31,11 @@ class TQController final : public PanelActions {
     TQController& operator=(const TQController&) = delete;
     ~TQController() override = default;
 
-    /// Starts everything, in an order that the steps rely on.
+    /// Starts everything. The steps depend on their order.
     void applicationDidFinishLaunching();
-    /// Saves everything. The correction stays on the displays. A second call does nothing.
+    /// Saves everything. The correction stays on the displays. Calling it again does nothing.
     void applicationWillTerminate();
-    /// The program was started again while it runs.
+    /// The program was started again while running.
     void applicationShouldHandleReopen();
 
     [[nodiscard]] bool applyCorrection() const { return _correction.applyCorrection(); }
@@ -43,7 +43,8 @@ class TQController final : public PanelActions {
     void toggleApplyCorrection() { setApplyCorrection(!applyCorrection()); }
     void _applyCurvesToScreen() { _correction._applyCurvesToScreen(); }
     void showPanel();
-    /// Shows a target, floating or, where a display is named by its reference ID, all over it.
+    /// Shows a target in the floating window or, given a display's reference ID, covering that
+    /// display.
     void showTarget(std::optional<TargetKind> kind, const std::string& referenceID);
 
     void applyGamma(PanelSlider sender, bool isLinked) override {
@@ -77,36 +78,36 @@ class TQController final : public PanelActions {
     }
     void quit() override { _with.endProgram(); }
 
-    /// Hot keys reach nobody while a combination is being recorded, so that it can be one of them.
+    /// Disables hot keys while the user records a combination, so that one of them can be recorded.
     void setHotKeysSuspended(bool areSuspended) { _hotKeys.setSuspended(areSuspended); }
-    /// What a session that ends is to bring back: a dictionary of the states of the windows that
-    /// are shown, by their identifiers.
+    /// What session restore saves: a dictionary of the states of the visible windows, by
+    /// identifier.
     [[nodiscard]] PropertyValue restorableWindows() const {
         return _restorableWindows.restorableWindows();
     }
-    /// Shows a window as it was; false where there is none of this identifier.
+    /// Restores a window; false if the identifier is unknown.
     bool restoreWindowWithIdentifier(std::string_view identifier, const PropertyValue& state) {
         return _restorableWindows.restoreWindowWithIdentifier(identifier, state);
     }
-    /// Tells the companions that have subscribed how the displays are, after the current event.
+    /// Sends the displays' state to subscribed companions, after the current event.
     void pushStateUpdate() { _remote.pushStateUpdate(); }
 
  private:
-    /// Warns of a program that fights for the displays; false where the person quits over it.
+    /// Warns of a rival program that also sets gamma ramps; false if the user chooses to quit.
     [[nodiscard]] bool checkForConflict();
     void _initDefaults();
     void _adoptDefaultCurves();
-    /// What needs the panel's window to be there.
+    /// The part of the setup that needs the panel's window.
     void finishPanelSetUp();
     void observeSurroundings();
     void sessionEvent(SessionEvent event);
     void reapply();
-    /// Lays the curves over the displays' present calibrations from their next application on;
-    /// tells whether one has changed.
+    /// Reads the displays' current calibrations, for curves to use the next time they are applied;
+    /// returns whether one changed.
     bool adoptCalibration();
     void _changedDefaults();
     void _applyDefaultsToPanel();
-    /// Brings the panel's form and theme and the targets' hints in line with the preferences.
+    /// Updates the panel's form and theme and the targets' hints from the preferences.
     void applyAppearance();
     void updateStatusItem() { _statusItem.updateStatusItem(applyCorrection()); }
     void updateHotKey() { _hotKeys.updateHotKey(); }

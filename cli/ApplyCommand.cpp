@@ -13,7 +13,7 @@ namespace {
 
 using Assignment = std::pair<ScreenRegistry::ScreenPointer, KVScreen::CurvePointer>;
 
-/// Which curve each screen gets: its entry under the first of its keys that has one.
+/// Assigns each screen its curve: the entry under the first of its keys that exists.
 Result<std::vector<Assignment>> assign(const CurvesByDisplay& curves,
                                        const ScreenRegistry::Screens& screens) {
     std::vector<Assignment> assignments;

@@ -24,10 +24,9 @@ std::string inQuotes(std::string_view text) {
 struct CommandForm {
     std::string_view name;
     Arguments::Command command;
-    /// The letters of the options that it takes; see `options`.
+    /// The letters of the accepted options; see `options`.
     std::string_view options;
-    /// What it takes besides, in order: h a host, i a reference ID, f a file. Capital letters may
-    /// be left out.
+    /// Positional arguments in order: h host, i reference ID, f file. Upper case means optional.
     std::string_view operands;
 };
 
@@ -83,7 +82,7 @@ bool isContent(std::string_view text) {
     return text == "colorTargets" || text == "grayscaleTargets" || text == "transparent";
 }
 
-/// Notes one option of the remote commands.
+/// Parses one option of the remote commands.
 std::optional<Problem> takeRemote(int letter, Arguments& arguments) {
     if (letter == 'a') {
         arguments.host = optarg;
@@ -104,7 +103,7 @@ std::optional<Problem> takeRemote(int letter, Arguments& arguments) {
     return std::nullopt;
 }
 
-/// Notes one option; the text of the problem if it has no sense here.
+/// Parses one option; returns a problem if the command does not accept it.
 std::optional<Problem> take(int letter, const CommandForm& form, Arguments& arguments) {
     if (letter != 'h' && letter != 'V' &&
         form.options.find(static_cast<char>(letter)) == std::string_view::npos) {
@@ -177,7 +176,7 @@ std::optional<Problem> takeOperands(const CommandForm& form, int argc, char* con
     return std::nullopt;
 }
 
-/// Whether a curve is there where one is needed, and only one.
+/// Checks that a curve is given if required, and only one.
 std::optional<Problem> checkCurve(const CommandForm& form, const Arguments& arguments) {
     if (form.operands.find('F') == std::string_view::npos) {
         return std::nullopt;
@@ -196,7 +195,7 @@ std::optional<Problem> checkCurve(const CommandForm& form, const Arguments& argu
     return std::nullopt;
 }
 
-/// The form that the first words name, and how many words that are; null where they name none.
+/// The form named by the first words, and how many words that took; null if there is none.
 std::pair<const CommandForm*, int> formFor(int argc, char* const* argv) {
     std::string name = argv[1];
     int words = 1;
@@ -236,7 +235,7 @@ Result<Arguments> parseArguments(int argc, char* const* argv) {
     optind = words + 1;
     for (int letter = 0; (letter = getopt_long(argc, argv, ":h", options.data(), nullptr)) != -1;) {
         if (letter == '?' || letter == ':') {
-            // In a cluster of short options only the letter tells which one it was.
+            // In a cluster of short options only the letter identifies the option.
             const std::string_view word = argv[optind - 1];
             const std::string culprit = optopt != 0 && !word.starts_with("--")
                                             ? std::string("-") + static_cast<char>(optopt)

@@ -11,7 +11,7 @@
 
 namespace tonquil {
 
-/// A command line, taken apart. Which options a command takes is checked already.
+/// The parsed command-line arguments. Whether the command accepts each option is already checked.
 struct Arguments {
     enum class Command {
         help,
@@ -38,16 +38,16 @@ struct Arguments {
     std::optional<std::string> file = {};
     std::optional<std::string> base = {};
     std::uint32_t samples = 256;
-    /// The host that a remote command talks to; for a scan, none means the whole network.
+    /// The host for a remote command; for a scan, none means the whole network.
     std::optional<std::string> host = {};
-    /// The remote display that is meant.
+    /// The selected remote display.
     std::optional<std::string> referenceID = {};
     std::optional<std::string> content = {};
     /// How long a scan listens.
     std::chrono::milliseconds timeout{1000};
 };
 
-/// The problem of a command line that makes no sense says what is wrong with it.
+/// On invalid arguments, the problem says what is wrong.
 [[nodiscard]] Result<Arguments> parseArguments(int argc, char* const* argv);
 
 }  // namespace tonquil

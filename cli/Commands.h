@@ -12,17 +12,17 @@
 
 namespace tonquil {
 
-/// What a command works with.
+/// A command's dependencies and output.
 struct CommandEnvironment {
     /// Opens the display service of this desktop.
     std::function<Result<std::unique_ptr<DisplayService>>()> openDisplays;
-    /// What the service logged last.
+    /// The last line that the service logged.
     const std::string& logged;
-    /// What the command prints.
+    /// The command's output.
     std::string& out;
-    /// What the remote commands talk through.
+    /// Network access for the remote commands.
     const RemoteAccess& remote;
-    /// Remarks that are of interest only if the command succeeds.
+    /// Notes that are only shown if the command succeeds.
     std::string& notes;
     /// Opens the display service for a command that stays: on the run loop of `remote`, which it
     /// stops when the displays are lost.
@@ -31,7 +31,7 @@ struct CommandEnvironment {
     std::function<bool()> areDisplaysLost = {};
 };
 
-/// Carries out a command. A fault in what it was given is found before any display is changed.
+/// Runs a command. Invalid input is detected before any display is changed.
 [[nodiscard]] Result<void> runCommand(const Arguments& arguments,
                                       const CommandEnvironment& environment);
 
@@ -51,7 +51,7 @@ struct CommandEnvironment {
                                         const CommandEnvironment& environment);
 [[nodiscard]] Result<void> runRemoteSet(const Arguments& arguments,
                                         const CommandEnvironment& environment);
-/// Ends when the access's `run` is stopped.
+/// Returns when the access's `run` is stopped.
 [[nodiscard]] Result<void> runRemoteWatch(const Arguments& arguments,
                                           const CommandEnvironment& environment);
 

@@ -12,17 +12,17 @@
 
 namespace tonquil {
 
-/// One curve for whatever displays are meant.
+/// One curve for all selected displays.
 using OneCurve = std::shared_ptr<KVGammaCurve>;
 /// Curve dictionaries by reference ID.
 struct CurvesByDisplay {
     PropertyValue screens;
 };
 
-/// The curves that a command line names, by --curve or by a settings file of any kind.
+/// Reads the curves given on the command line, by --curve or by a settings file of any kind.
 ///
-/// Nothing is guessed: a damaged property list is never taken for a raw table, and a mode that
-/// does not exist is a problem.
+/// Nothing is guessed: a damaged property list is never read as a raw table, and an unknown mode is
+/// a problem.
 [[nodiscard]] Result<std::variant<OneCurve, CurvesByDisplay>> readCurves(
     const Arguments& arguments);
 

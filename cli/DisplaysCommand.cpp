@@ -83,7 +83,7 @@ Result<void> runDisplays(const Arguments& arguments, const CommandEnvironment& e
     for (const auto& screen : registry.screens()) {
         lines.push_back(describe(lines.size() + 1, *screen, **service));
     }
-    // Nothing was set, but the server may have gone meanwhile.
+    // Nothing was set, but the connection to the X server may be lost.
     if (!batch.finish()) {
         return problem("The displays could not be listed.", environment.logged);
     }
@@ -94,7 +94,7 @@ Result<void> runDisplays(const Arguments& arguments, const CommandEnvironment& e
     } else {
         PropertyValue list = PropertyValue::array();
         std::ranges::transform(lines, std::back_inserter(list), json);
-        // A connector's name is whatever bytes its driver chose.
+        // A connector name can be any bytes, depending on the driver.
         environment.out += list.dump(2, ' ', false, PropertyValue::error_handler_t::replace) + '\n';
     }
     return {};

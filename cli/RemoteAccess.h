@@ -14,18 +14,18 @@
 
 namespace tonquil {
 
-/// How the remote commands reach the network.
+/// Network access for the remote commands.
 struct RemoteAccess {
     RunLoop& runLoop;
-    /// Runs the loop until `stop` is called from within it.
+    /// Runs the event loop until `stop` is called from within it.
     std::function<void()> run;
     std::function<void()> stop;
     std::function<Result<std::unique_ptr<DatagramSocket>>()> openSocket;
     /// The IPv4 address of a host, first number in the highest byte.
     std::function<Result<std::uint32_t>(const std::string& name)> lookUpHost;
-    /// Prints at once; false when that fails.
+    /// Prints and flushes; false if that fails.
     std::function<bool(const std::string& text)> printNow;
-    /// Where servers listen.
+    /// The port that servers listen on.
     std::uint16_t port = remote::serverPort;
 };
 

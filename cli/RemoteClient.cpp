@@ -69,7 +69,7 @@ Result<bool> RemoteClient::ask(std::string_view question, const SocketAddress& s
         return tl::unexpected(std::move(sent.error()));
     }
     const auto repetition = _access.runLoop.callRepeatedly(patience.interval, [&] {
-        // What fails now went well a moment ago, and may again.
+        // An error here is temporary: the same send just worked.
         static_cast<void>(_socket->send(question, server));
     });
     const auto limit = _access.runLoop.callOnce(patience.limit, _access.stop);

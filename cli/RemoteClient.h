@@ -14,21 +14,21 @@
 
 namespace tonquil {
 
-/// A server that was heard.
+/// A server that sent an announce.
 struct RemoteServer {
     SocketAddress address;
     Announce announce;
 };
 
-/// Asks servers what they have, and hears what they announce.
+/// Queries servers and receives their announces.
 ///
-/// Datagrams may be lost, so questions are repeated.
+/// Datagrams may be lost, so requests are repeated.
 class RemoteClient {
  public:
-    /// Takes one announce; true when nothing more is needed.
+    /// Handles one announce; returns true when no more are needed.
     using Heard = std::function<bool(const RemoteServer& server)>;
 
-    /// How often a question is asked, and for how long answers are awaited.
+    /// How often a request is sent, and how long to wait for answers.
     struct Patience {
         std::chrono::milliseconds interval{300};
         std::chrono::milliseconds limit{3000};
@@ -38,15 +38,16 @@ class RemoteClient {
 
     /// The server's address on a host.
     [[nodiscard]] Result<SocketAddress> addressOf(const std::string& host) const;
-    /// Where every server on the network hears it.
+    /// The broadcast address that reaches every server on the network.
     [[nodiscard]] SocketAddress everywhere() const;
 
-    /// Asks with `question`, a tag, until `heard` is content or the patience ends; whether it was.
+    /// Sends `question`, a tag, until `heard` returns true or time runs out; returns whether it
+    /// did.
     ///
-    /// Only announces from the host that is asked count. A problem when nothing can be sent.
+    /// Only announces from the queried host count. A problem if nothing can be sent.
     [[nodiscard]] Result<bool> ask(std::string_view question, const SocketAddress& server,
                                    const Patience& patience, const Heard& heard);
-    /// Asks one server once it answers; a problem when it does not.
+    /// Queries one server until it answers; a problem if it does not.
     [[nodiscard]] Result<Announce> announceOf(const std::string& host, const SocketAddress& server);
     [[nodiscard]] Result<void> send(std::string_view bytes, const SocketAddress& server);
 

@@ -11,9 +11,9 @@ namespace tonquil {
 
 namespace {
 
-// More than a network of this kind has; what a stranger makes up must end somewhere.
+// More than such a network has; a limit, because a stranger could announce any number.
 constexpr std::size_t mostServers = 1024;
-// Three renewals fit into the time that a subscription lasts.
+// Three renewals fit into one subscription period.
 constexpr std::chrono::milliseconds renewal = std::chrono::seconds(25);
 
 constexpr std::chrono::milliseconds forEver = std::chrono::hours(24 * 365 * 100);

@@ -12,7 +12,7 @@ namespace tonquil {
 
 namespace {
 
-/// What the display shall have in the end.
+/// The state that the display should end up with.
 struct Wanted {
     std::vector<float> gamma;
     std::optional<std::string> content;
@@ -66,7 +66,7 @@ bool hasTaken(const AnnouncedScreen* screen, const Wanted& wanted) {
            (!wanted.content || screen->content == *wanted.content);
 }
 
-/// Sends, and asks until the display has what is wanted: nothing else acknowledges a change.
+/// Sends, then queries until the display has the wanted state: there is no other acknowledgement.
 Result<bool> sendAndConfirm(RemoteClient& client, const SocketAddress& server,
                             const std::string& referenceID, const Wanted& wanted) {
     if (auto sent = client.send(stateUpdate(referenceID, wanted), server); !sent) {
@@ -107,8 +107,8 @@ Result<void> runRemoteSet(const Arguments& arguments, const CommandEnvironment& 
                        *arguments.referenceID + ".");
     }
     if (!hasCurve) {
-        // A state without a curve would put the display's curve back to neutral, so the one that
-        // it has goes along unchanged.
+        // A state without a curve would reset the display to the neutral curve, so send its current
+        // one along.
         wanted.gamma = screen->gamma;
     }
     const auto taken = sendAndConfirm(**client, *server, *arguments.referenceID, wanted);

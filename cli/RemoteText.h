@@ -9,17 +9,17 @@
 
 namespace tonquil {
 
-/// The numbers of a curve as a compact JSON array, each as short as its single precision allows.
+/// The numbers of a curve as a compact JSON array, each in the shortest text for its float.
 [[nodiscard]] std::string curveText(const std::vector<float>& curve);
 
-/// One line: number, reference ID, "unique" or "local", content and curve, separated by tabs. What
-/// comes from the network is made printable.
+/// One line: number, reference ID, "unique" or "local", content and curve, separated by tabs. Text
+/// from the network is made printable.
 [[nodiscard]] std::string screenLine(const AnnouncedScreen& screen);
 
-/// An object with the keys "address", "name", "guid" and "screens", an array by number.
+/// An object with the keys "address", "name", "guid" and "screens", an array sorted by number.
 [[nodiscard]] PropertyValue serverObject(const RemoteServer& server);
 
-/// JSON of ASCII characters alone; `indent` of spaces, or -1 for one line.
+/// JSON in pure ASCII; `indent` in spaces, or -1 for one line.
 [[nodiscard]] std::string jsonText(const PropertyValue& value, int indent);
 
 }  // namespace tonquil

@@ -10,11 +10,11 @@
 
 namespace tonquil {
 
-/// The screens with the given reference IDs or connectors, or all when none is given, without those
+/// The screens with the given reference IDs or connectors, or all if none are given, except those
 /// that cannot be corrected.
 ///
-/// A problem if a name is no attached display's, if a display that was named cannot be corrected,
-/// or if no screen is left. A display that was not named and cannot be corrected is only noted.
+/// A problem if a name matches no attached display, if a named display cannot be corrected, or if
+/// no screen is left. A display that was not named and cannot be corrected only gets a note.
 [[nodiscard]] Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry,
                                                             DisplayService& service,
                                                             const std::vector<std::string>& names,

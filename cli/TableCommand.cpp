@@ -11,7 +11,7 @@ namespace tonquil {
 
 namespace {
 
-/// A screen without a display: what a curve sets on it is what it would set on a real one.
+/// A screen without hardware: captures the table that a curve would set on a real one.
 class TableScreen : public CurveScreen {
  public:
     explicit TableScreen(const BaseGamma& base) : _base(base) {}

@@ -43,7 +43,7 @@ std::optional<TableLine> readLine(std::string_view line) {
 void printTable(const GammaTable& table, std::uint32_t sampleCount, std::string& out) {
     for (std::uint32_t i = 0; i < sampleCount; ++i) {
         std::array<char, 96> line{};
-        // The program never leaves the C locale, so the decimal point is a point.
+        // The program never leaves the C locale, so the decimal separator is a point.
         const int length = std::snprintf(line.data(), line.size(), "%u\t%.9g\t%.9g\t%.9g\n", i,
                                          static_cast<double>(table.channel(0)[i]),
                                          static_cast<double>(table.channel(1)[i]),

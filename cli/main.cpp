@@ -14,7 +14,7 @@
 #include "platform/posix/TerminationSignals.h"
 #include "platform/posix/UdpSocket.h"
 
-// No iostreams here: setting up their locales takes longer than everything else a command does.
+// No iostreams here: their locale setup takes longer than everything else a command does.
 
 namespace {
 
@@ -26,11 +26,11 @@ constexpr int wrongUsage = 2;
            std::fflush(stream) == 0;
 }
 
-/// One line, whatever the names of files and displays have in them.
+/// Prints one line, even if file or display names contain newlines.
 void say(std::string line) {
     std::ranges::replace_if(
         line, [](unsigned char c) { return std::iscntrl(c) != 0; }, '?');
-    // There is nowhere to say that this cannot be said.
+    // If this fails there is nowhere left to report it.
     static_cast<void>(print("tonquilctl: " + line + "\n", stderr));
 }
 

@@ -20,7 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Why a step failed: the system's error or, where there is none, words of ours.
+/// The reason a step failed: the system error, or our own text where there is none.
 struct Failure {
     int error = 0;
     std::string words;
@@ -37,7 +37,7 @@ Step checked(int result) {
     return result == 0 ? Step() : failed(errno);
 }
 
-/// In lower case and without a full stop, to end a sentence. Keys of the context "Problem".
+/// Lower case and without a full stop, to end a sentence. A key of the context "Problem".
 std::string reason(const Failure& failure) {
     switch (failure.error) {
         case 0:
@@ -66,7 +66,7 @@ std::string reason(const Failure& failure) {
     }
 }
 
-/// Where a chain of symbolic links ends, whether or not anything is there.
+/// The end of a chain of symbolic links, whether or not it exists.
 tl::expected<fs::path, Failure> followLinks(fs::path path) {
     constexpr int mostLinks = 40;
     for (int links = 0; links <= mostLinks; ++links) {
@@ -126,7 +126,7 @@ class Save {
         const fs::path folder = end->has_parent_path() ? end->parent_path() : fs::path(".");
         _folder = FileHandle(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
         if (!_folder.isOpen() && errno == EACCES) {
-            // One may write to a folder that one may not list; it only cannot be flushed then.
+            // A folder can be writable but not readable; then it just cannot be flushed.
             _folder = FileHandle(::open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
             _canFlushFolder = false;
         }
@@ -144,8 +144,8 @@ class Save {
             return failed(std::string(TONQUIL_TEXT("Problem", "it is not a regular file")));
         }
         _hasOlder = true;
-        // Taking its place needs no permission on the file itself, yet a file that its owner made
-        // read-only is not to change.
+        // rename() needs no permission on the file itself, but a file that its owner made read-only
+        // must not change.
         if (::faccessat(_folder.get(), _name.c_str(), W_OK, AT_EACCESS) != 0) {
             return errno == EACCES ? failed(std::string(TONQUIL_TEXT("Problem", "it is read-only")))
                                    : failed(errno);
@@ -172,7 +172,7 @@ class Save {
                 return errno == EEXIST ? busy() : failed(errno);
             }
         }
-        // Another program may have taken the new file for a stale one before the lock is held.
+        // Another program may remove the new file as stale before we hold the lock.
         if (!lock(_file) || !isTemporary(_file)) {
             return busy();
         }
@@ -185,8 +185,8 @@ class Save {
             std::string(TONQUIL_TEXT("Problem", "another program is saving it right now")));
     }
 
-    /// The lock tells a temporary that is being written from one whose writer has gone. Where the
-    /// file system has no locks, every one that is found counts as stale.
+    /// The lock tells a temporary file still being written from a leftover. Where the file system
+    /// has no locks, every temporary file counts as a leftover.
     static bool lock(const FileHandle& file) {
         return ::flock(file.get(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
     }
@@ -216,10 +216,11 @@ class Save {
         if (!_hasOlder) {
             return {};
         }
-        // Only a privileged user may give a file away; others keep their own name on it.
+        // Only a privileged user may change the owner; otherwise the file is owned by whoever saves
+        // it.
         const bool given = ::fchown(_file.get(), _older.st_uid, _older.st_gid) == 0 ||
                            ::fchown(_file.get(), static_cast<uid_t>(-1), _older.st_gid) == 0;
-        // Rights of a group that is not the older one's group would go to strangers.
+        // With a different group, the old group permissions would let the wrong users in.
         const mode_t kept = given ? 0777 : 0707;
         return checked(::fchmod(_file.get(), _older.st_mode & kept));
     }
@@ -247,11 +248,11 @@ class Save {
         }
         _ownsTemporary = false;
         _isReplaced = true;
-        // Closed only now, since closing gives up the lock.
+        // Closed this late because closing releases the lock.
         if (_file.close() != 0) {
             return failed(errno);
         }
-        // Some file systems have nothing to flush in a folder and say so.
+        // Some file systems cannot flush a folder and return EINVAL.
         if (_canFlushFolder && ::fsync(_folder.get()) != 0 && errno != EINVAL) {
             return failed(errno);
         }

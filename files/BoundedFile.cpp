@@ -50,7 +50,7 @@ auto cannotOpen(const std::string& name, int error) {
                                systemWords(error));
         case ENXIO:
         case ENODEV:
-            // A socket, or a device that is not there.
+            // A socket, or a device that does not exist.
             return notRegular(name, systemWords(error));
         default:
             return problemWith(TONQUIL_TEXT("Problem", "%@ could not be opened: %@."),
@@ -74,7 +74,7 @@ Result<void> checkKind(const std::string& name, const struct stat& status) {
     return {};
 }
 
-/// Reads up to one byte beyond the limit, which tells whether there is more.
+/// Reads up to one byte beyond the limit, to detect a file that is too large.
 Result<std::vector<std::uint8_t>> readToLimit(const FileHandle& file, const std::string& name,
                                               std::size_t mostBytes) {
     constexpr std::size_t step = std::size_t{64} * 1024;
@@ -96,7 +96,7 @@ Result<std::vector<std::uint8_t>> readToLimit(const FileHandle& file, const std:
 }
 
 Result<FileHandle> openRegular(const std::string& name) {
-    // A NUL would make the system open another file than the one that is named.
+    // A NUL would end the name early, so the system would open a different file.
     if (name.empty() || name.find('\0') != std::string::npos) {
         return problem(TONQUIL_TEXT("Problem", "The file name is empty or has a NUL in it."));
     }

@@ -5,19 +5,19 @@
 
 namespace tonquil {
 
-/// Does what may have to wait for a disk, so that the event loop need not: one piece of work after
-/// the other, in the order in which they were added.
+/// Runs work that may block on a disk, to keep it out of the event loop: one job at a time, in the
+/// order added.
 class DiskQueue {
  public:
     using Work = std::function<void()>;
 
     virtual ~DiskQueue() = default;
 
-    /// Runs `work` away from the event loop, where it may touch only what it holds itself, and then
-    /// `done` as an event of the loop.
+    /// Runs `work` outside the event loop, so it may only touch data it owns, then `done` on the
+    /// event loop.
     virtual void add(Work work, Work done) = 0;
-    /// Waits until everything that was added is done, what `done` adds included. Calls each `done`
-    /// itself.
+    /// Blocks until every job has finished, including those that `done` callbacks add. Calls each
+    /// `done` itself.
     virtual void finish() = 0;
 };
 

@@ -7,7 +7,7 @@
 
 namespace tonquil {
 
-/// Owns an open file descriptor and closes it; −1 owns none.
+/// Owns an open file descriptor and closes it; −1 means none.
 class FileHandle {
  public:
     FileHandle() = default;
@@ -25,8 +25,8 @@ class FileHandle {
     [[nodiscard]] int get() const { return _descriptor; }
     [[nodiscard]] bool isOpen() const { return _descriptor >= 0; }
 
-    /// Closes early, for those who want to know whether it worked: 0, or −1 with `errno` set.
-    /// The descriptor is gone in either case. Closing none works.
+    /// Closes early, for callers that need the result: 0, or −1 with `errno` set. The descriptor is
+    /// released in either case. Without a descriptor it returns 0.
     [[nodiscard]] int close() {
         const int descriptor = std::exchange(_descriptor, -1);
         return descriptor < 0 ? 0 : ::close(descriptor);

@@ -6,8 +6,8 @@
 
 namespace tonquil {
 
-/// Takes one line for the system log, without its newline. Whoever composes a program decides
-/// where lines go; an empty function drops them.
+/// Writes one line, without newline, to the system log. The composition root chooses where lines
+/// go; an empty function drops them.
 using Log = std::function<void(std::string_view line)>;
 
 }  // namespace tonquil

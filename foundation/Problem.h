@@ -8,19 +8,18 @@
 
 namespace tonquil {
 
-/// Why something could not be done.
+/// Why an operation failed.
 struct Problem {
-    /// One sentence that a person can act on, in English: what happened, to what, and what was
-    /// kept.
+    /// One English sentence for the user: what happened, to what, and what was kept.
     std::string sentence;
-    /// For the log only: the system's own words, a byte offset. May be empty.
+    /// For the log only: the system error text, a byte offset. May be empty.
     std::string detail;
-    /// For those who translate: the text that the sentence was made from, see `formattedText`, and
-    /// what was put into it. Without a format the sentence itself is the key.
+    /// For translation: the format the sentence was made from (see `formattedText`) and its
+    /// arguments. Without a format, the sentence itself is the key.
     std::string format = {};
     std::vector<std::string> arguments = {};
 
-    /// The key of the context "Problem" under which a translation is found.
+    /// The key for the translation in the context "Problem".
     [[nodiscard]] const std::string& key() const { return format.empty() ? sentence : format; }
 };
 
@@ -32,8 +31,8 @@ using Result = tl::expected<Value, Problem>;
     return tl::unexpected<Problem>(Problem{std::move(sentence), std::move(detail)});
 }
 
-/// A problem whose sentence is `format` with the arguments in their places. An argument may be a
-/// translatable text itself.
+/// A problem whose sentence is `format` with the arguments filled in. An argument may itself be a
+/// translatable text.
 [[nodiscard]] tl::unexpected<Problem> problemWith(std::string_view format,
                                                   std::vector<std::string> arguments,
                                                   std::string detail = {});

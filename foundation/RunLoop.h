@@ -7,17 +7,15 @@
 
 namespace tonquil {
 
-/// What runs after the current event: timers, posted work and readable descriptors, all on the
-/// one thread that everything here lives on.
+/// The event loop: timers, posted callbacks and readable file descriptors, all on the main thread.
 ///
-/// A timer or a watch lives as long as the handle that was returned for it; letting the handle go
-/// from inside its own call is allowed.
+/// A timer or watch lives as long as its handle; it may be destroyed from inside its own callback.
 class RunLoop {
  public:
     using Clock = std::chrono::steady_clock;
     using Call = std::function<void()>;
 
-    /// A timer or a watch; destroying it ends it.
+    /// A timer or a watch; the destructor cancels it.
     class Handle {
      public:
         virtual ~Handle() = default;
@@ -30,9 +28,9 @@ class RunLoop {
                                                            Call call) = 0;
     [[nodiscard]] virtual std::unique_ptr<Handle> callRepeatedly(std::chrono::milliseconds interval,
                                                                  Call call) = 0;
-    /// Calls whenever `descriptor` can be read without blocking.
+    /// Calls back whenever `descriptor` can be read without blocking.
     [[nodiscard]] virtual std::unique_ptr<Handle> watchReadable(int descriptor, Call call) = 0;
-    /// Calls once, after the event being handled.
+    /// Calls back once, after the current event.
     virtual void post(Call call) = 0;
 };
 

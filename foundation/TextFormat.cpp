@@ -9,13 +9,13 @@ namespace tonquil {
 
 namespace {
 
-/// One place of a format: its length as written, and the argument's number from 0.
+/// One placeholder of a format: its length as written, and the argument index from 0.
 struct Place {
     std::size_t length;
     std::optional<std::size_t> argument;
 };
 
-/// Reads what follows a percent sign; nothing where that is no place.
+/// Parses what follows a percent sign; nothing if it is no placeholder.
 std::optional<Place> placeAt(std::string_view text) {
     if (text.starts_with("%@")) {
         return Place{.length = 2, .argument = std::nullopt};

@@ -7,10 +7,10 @@
 
 namespace tonquil {
 
-/// Puts `arguments` in the places of a translatable text: "%@" takes the next argument, "%1$@" the
-/// first whatever came before, and "%%" is a percent sign.
+/// Fills the placeholders of a translatable text with `arguments`: "%@" takes the next argument,
+/// "%1$@" always the first, and "%%" is a percent sign.
 ///
-/// A place without an argument stays as it is written, and so does every other percent sign.
+/// A placeholder without an argument is left as written, and so is any other percent sign.
 [[nodiscard]] std::string formattedText(std::string_view format,
                                         std::span<const std::string> arguments);
 

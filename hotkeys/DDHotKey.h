@@ -16,37 +16,38 @@ namespace tonquil {
 
 class DDHotKeyCenter;
 
-/// Something that a receiver does: a name to find it by, and the call.
+/// A named callback of a receiver.
 struct HotKeyAction {
     using Call = std::function<void(const HotKeyEvent& event, const std::any& object)>;
 
     /// Empty for no action.
     std::string name{};
-    /// Empty where the receiver does not respond to the action.
+    /// Empty if the receiver does not implement the action.
     Call call{};
 };
 
-/// Who is told of a hot key, and how.
+/// Who handles a hot key, and how.
 struct HotKeyReceiver {
-    /// The receiver's identity; null for none. Not owned: unregister before it goes.
+    /// Identity of the receiver; null for none. Not owned: unregister before destroying it.
     const void* target = nullptr;
-    /// On release.
+    /// Called on release.
     HotKeyAction action{};
-    /// On press.
+    /// Called on press.
     HotKeyAction pressedAction{};
-    /// The second argument of the actions.
+    /// Passed as second argument to the actions.
     std::any object{};
 };
 
-/// One key combination, a virtual key code and modifier flags, and what it invokes.
+/// A key combination (virtual key code and modifier flags) and what it invokes.
 ///
-/// Two hot keys of one key code and one set of flags are equal, whatever they invoke. One that is
+/// Hot keys with the same key code and flags are equal, whatever they invoke. The destructor
+/// unregisters a registered hot key.
 /// registered unregisters itself when it goes.
 class DDHotKey {
  public:
     using Task = std::function<void(const HotKeyEvent& event)>;
 
-    /// A new hot key that is not registered. The task may be empty.
+    /// Creates an unregistered hot key. The task may be empty.
     [[nodiscard]] static std::shared_ptr<DDHotKey> hotKeyWithKeyCode(std::uint16_t keyCode,
                                                                      ModifierFlags modifierFlags,
                                                                      Task task);
@@ -61,25 +62,25 @@ class DDHotKey {
     [[nodiscard]] std::uint16_t keyCode() const { return _keyCode; }
     [[nodiscard]] ModifierFlags modifierFlags() const { return _modifierFlags; }
     [[nodiscard]] const Task& task() const { return _task; }
-    /// The name of the release action; empty when there is none.
+    /// The name of the release action; empty if there is none.
     [[nodiscard]] const std::string& actionString() const { return _action.name; }
 
-    /// The service's handle while this is registered.
+    /// The service's handle while registered.
     [[nodiscard]] std::optional<HotKeyHandle> hotKeyRef() const { return _hotKeyRef; }
     void setHotKeyRef(std::optional<HotKeyHandle> hotKeyRef) { _hotKeyRef = hotKeyRef; }
-    /// The registry's number for this; 0 before the first registration.
+    /// The ID assigned by the registry; 0 before the first registration.
     [[nodiscard]] std::uint32_t hotKeyID() const { return _hotKeyID; }
     void setHotKeyID(std::uint32_t hotKeyID) { _hotKeyID = hotKeyID; }
 
-    /// Performs the release action where there is a target that responds to it, and otherwise the
-    /// task, if any.
+    /// Calls the release action if there is a target that implements it, otherwise the task, if
+    /// any.
     void invokeWithEvent(const HotKeyEvent& event) const;
-    /// Performs the pressed action where there is a target that responds to it. Never the task.
+    /// Calls the pressed action if there is a target that implements it; never the task.
     void invokePressedWithEvent(const HotKeyEvent& event) const;
 
     [[nodiscard]] std::size_t hash() const;
     [[nodiscard]] bool isEqual(const DDHotKey& other) const;
-    /// Several lines, for a log.
+    /// Several lines, for the log.
     [[nodiscard]] std::string description() const;
 
  private:
@@ -103,7 +104,8 @@ class DDHotKey {
     Task _task;
     std::optional<HotKeyHandle> _hotKeyRef;
     std::uint32_t _hotKeyID = 0;
-    /// Where this is registered. Whichever of the two goes first tells the other.
+    /// The registry that holds this hot key. Whichever is destroyed first clears the other's
+    /// pointer.
     DDHotKeyCenter* _center = nullptr;
 };
 

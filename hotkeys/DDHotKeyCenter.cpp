@@ -53,7 +53,7 @@ DDHotKeyCenter::DDHotKeyCenter(HotKeyService& service, Log log)
 DDHotKeyCenter::~DDHotKeyCenter() {
     _service.setHandlers({}, {});
     unregisterAllHotKeys();
-    // Those whose handle somebody took away are still here.
+    // This list also has hot keys whose handle was taken away.
     for (const auto& hotKey : _registeredHotKeys) {
         hotKey->_center = nullptr;
     }
@@ -136,8 +136,8 @@ void DDHotKeyCenter::unregisterHotKey(DDHotKey& hotKey) {
     _service.unregisterHotKey(*handle);
     hotKey.setHotKeyRef(std::nullopt);
     hotKey._center = nullptr;
-    // By what it is equal to, since a hot key that is going has no owner to be found by. The last
-    // owner may be the set itself, so nothing of the hot key is touched after this.
+    // Found by value, because a hot key in its destructor has no shared_ptr to compare with. The
+    // set may hold the last reference, so do not touch the hot key after this.
     const auto equal = std::find_if(_registeredHotKeys.begin(), _registeredHotKeys.end(),
                                     [&hotKey](const auto& each) { return each->isEqual(hotKey); });
     if (equal != _registeredHotKeys.end()) {
@@ -183,7 +183,7 @@ std::shared_ptr<DDHotKey> DDHotKeyCenter::hotKeyWithID(std::uint32_t hotKeyID) c
 }
 
 void DDHotKeyCenter::handle(const HotKeyServiceEvent& event, Invocation invocation) const {
-    // Kept, since what it invokes may unregister it.
+    // Kept alive, because the action may unregister it.
     const auto hotKey = hotKeyWithID(event.id);
     if (hotKey) {
         (hotKey.get()->*invocation)(eventFor(event, *hotKey));

@@ -24,48 +24,48 @@ struct DDHotKeyEqual {
     }
 };
 
-/// Hot keys of which no two are equal.
+/// Hot keys, no two of them equal.
 using DDHotKeySet = std::unordered_set<std::shared_ptr<DDHotKey>, DDHotKeyHash, DDHotKeyEqual>;
 
-/// The program's registry of hot keys: registers combinations with a service, and invokes the hot
-/// key that an event of the service is for. The pressed action is performed when the keys go down,
-/// the main action when they are released.
+/// The program's registry of hot keys: registers combinations with a service and dispatches the
+/// service's events. The pressed action runs when the keys go down, the main action when they are
+/// released.
 ///
-/// Whoever composes a program makes one and shares it; there is one at a time. Main thread only.
+/// Created once when the program is composed, then shared. Main thread only.
 class DDHotKeyCenter {
  public:
     using Predicate = std::function<bool(const DDHotKey&)>;
 
-    /// Takes the service's events for itself. The service must outlive this.
+    /// Installs itself as the service's event handler. The service must outlive this.
     explicit DDHotKeyCenter(HotKeyService& service, Log log = {});
-    /// Gives all combinations up; is no longer shared.
+    /// Releases all combinations; if shared, `sharedHotKeyCenter` becomes null.
     ~DDHotKeyCenter();
     DDHotKeyCenter(const DDHotKeyCenter&) = delete;
     DDHotKeyCenter& operator=(const DDHotKeyCenter&) = delete;
 
-    /// The center that the program shares; null when there is none.
+    /// The shared center; null if there is none.
     [[nodiscard]] static DDHotKeyCenter* sharedHotKeyCenter();
-    /// Shares a center, which is not owned, in place of another; null for none.
+    /// Replaces the shared center, which is not owned; null for none.
     static void setSharedHotKeyCenter(DDHotKeyCenter* center);
 
-    /// Registers a new hot key with a task. False, with nothing registered, when this combination
-    /// is registered here already or the service refuses it: see `lastRefusal`.
+    /// Registers a new hot key with a task. False, with nothing registered, if this combination is
+    /// already registered here or the service refuses it: see `lastRefusal`.
     [[nodiscard]] bool registerHotKeyWithKeyCode(std::uint16_t keyCode, ModifierFlags modifierFlags,
                                                  DDHotKey::Task task);
     /// The same with a target and its actions.
     [[nodiscard]] bool registerHotKeyWithKeyCode(std::uint16_t keyCode, ModifierFlags modifierFlags,
                                                  HotKeyReceiver receiver);
-    /// Why the last registration failed, in a sentence for people; nothing when it succeeded.
+    /// Why the last registration failed, as a sentence for the user; nothing if it succeeded.
     [[nodiscard]] const std::optional<Problem>& lastRefusal() const { return _lastRefusal; }
 
-    /// Compares all the flags, also those that make no difference to the service.
+    /// Compares all flags, even those that the service ignores.
     [[nodiscard]] bool hasRegisteredHotKeyWithKeyCode(std::uint16_t keyCode,
                                                       ModifierFlags modifierFlags) const;
     [[nodiscard]] DDHotKeySet hotKeysMatchingPredicate(const Predicate& predicate) const;
-    /// Those that have a handle of the service.
+    /// Those with a service handle.
     [[nodiscard]] DDHotKeySet registeredHotKeys() const;
 
-    /// Gives the combination up and forgets the hot key. One without a handle is left alone.
+    /// Releases the combination and drops the hot key. Ignores one without a handle.
     void unregisterHotKey(DDHotKey& hotKey);
     void unregisterHotKeysMatchingPredicate(const Predicate& predicate);
     void unregisterHotKeysWithTarget(const void* target);

@@ -9,23 +9,23 @@
 
 namespace tonquil {
 
-/// The key event that a hot key's actions are given: always a key that goes up, of no window.
+/// The key event passed to a hot key's actions: always a key-up event without a window.
 struct HotKeyEvent {
     static constexpr int keyUp = 11;
     static constexpr int noWindow = -1;
 
     int type = keyUp;
-    /// The pointer, in pixels from the upper left corner of all displays.
+    /// Pointer position, in pixels from the upper left corner of all displays.
     double x = 0;
     double y = 0;
     ModifierFlags modifierFlags = 0;
-    /// Since a moment that is the hot-key service's own.
+    /// Relative to a start time of the hot-key service.
     std::chrono::milliseconds timestamp{0};
     int windowNumber = noWindow;
     std::string characters{};
     std::string charactersIgnoringModifiers{};
     bool isARepeat = false;
-    /// The virtual key code of the hot key.
+    /// The hot key's virtual key code.
     std::uint16_t keyCode = 0;
 };
 

@@ -13,38 +13,40 @@ namespace tonquil {
 /// A registration with the platform's hot-key service; never 0.
 using HotKeyHandle = std::uint64_t;
 
-/// What the service tells of a registered combination that went down or up.
+/// A registered combination was pressed or released.
 struct HotKeyServiceEvent {
-    /// The number that the combination was registered with.
+    /// The ID it was registered with.
     std::uint32_t id = 0;
-    /// The pointer, in pixels from the upper left corner of all displays.
+    /// Pointer position, in pixels from the upper left corner of all displays.
     double x = 0;
     double y = 0;
-    /// What is held at that moment, caps lock included.
+    /// The modifiers held at that moment, including caps lock.
     ModifierFlags modifierFlags = 0;
-    /// Since a moment that is the service's own.
+    /// Relative to a start time of the service.
     std::chrono::milliseconds timestamp{0};
 };
 
-/// Hears of key combinations whichever program is in front.
+/// Receives key combinations whatever program has the focus.
 ///
-/// Everything happens on the main thread. A combination that is held is told once: pressed when it
-/// goes down, released when its key goes up, whether the modifiers go up before or after. Handlers
-/// may register and unregister; a combination unregistered while it is held is told of no more.
+/// Everything happens on the main thread. A combination that is held is reported once: pressed when
+/// it goes down, released when its key goes up, whether the modifiers go up before or after.
+/// Handlers may register and unregister; after unregistering a held combination no further event is
+/// reported for it.
 class HotKeyService {
  public:
     using Handler = std::function<void(const HotKeyServiceEvent&)>;
 
     virtual ~HotKeyService() = default;
 
-    /// Takes the place of the handlers before; empty ones hear nothing.
+    /// Replaces the previous handlers; empty ones are not called.
     virtual void setHandlers(Handler pressed, Handler released) = 0;
-    /// Asks for a combination of a virtual key code and modifiers, under the caller's number.
-    /// Refused, with nothing kept, where anyone holds the combination or the keyboard lacks it.
+    /// Registers a combination of a virtual key code and modifiers under the caller's ID. Fails,
+    /// without side effects, if any program already holds the combination or the keyboard does not
+    /// have the key.
     [[nodiscard]] virtual Result<HotKeyHandle> registerHotKey(std::uint16_t keyCode,
                                                               HotKeyServiceMask modifiers,
                                                               std::uint32_t id) = 0;
-    /// Gives a combination up. Unknown handles are ignored.
+    /// Releases a combination. Ignores unknown handles.
     virtual void unregisterHotKey(HotKeyHandle handle) = 0;
 };
 

@@ -41,7 +41,7 @@ const Glyphs& glyphs() {
         {VirtualKey::rightShift, "⇧"},
         {VirtualKey::rightOption, "⌥"},
         {VirtualKey::rightControl, "⌃"},
-        // The command key's glyph, on purpose.
+        // Deliberately the same glyph as the command key.
         {VirtualKey::function, "⌘"},
         {VirtualKey::volumeUp, "🔊"},
         {VirtualKey::volumeDown, "🔈"},

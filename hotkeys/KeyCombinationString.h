@@ -9,12 +9,12 @@
 
 namespace tonquil {
 
-/// The short text by which a key combination is shown, as UTF-8: the glyphs of control, option,
-/// shift and command, in this order, and then the key's own glyph or its character in the layout.
+/// The short display text of a key combination, in UTF-8: the glyphs of control, option, shift and
+/// command, in this order, then the key's own glyph or its character in the layout.
 ///
-/// Letters come as the layout has them; callers upper-case the text before they show it. The four
-/// left modifier keys have no text beside their flags' glyphs. The layout is asked only for keys
-/// without a glyph.
+/// Letters are as the layout has them; callers convert the text to upper case before showing it.
+/// The four left modifier keys add no text to the glyphs of their flags. The layout is only queried
+/// for keys without a glyph.
 [[nodiscard]] std::string keyCombinationString(std::uint16_t keyCode, ModifierFlags modifierFlags,
                                                const KeyboardLayout& layout);
 

@@ -6,14 +6,14 @@
 
 namespace tonquil {
 
-/// What the keys of the person's keyboard are labelled with at the moment.
+/// The current labels of the user's keyboard.
 class KeyboardLayout {
  public:
     virtual ~KeyboardLayout() = default;
 
-    /// The text that a virtual key code gives in the current layout with no modifiers held, as
-    /// UTF-8. Empty for a dead key, for a key that gives no visible text or is not there, and where
-    /// there is no layout to ask.
+    /// The text of a virtual key code in the current layout without modifiers, in UTF-8. Empty for
+    /// a dead key, for a key that gives no visible text or does not exist, and if there is no
+    /// layout.
     [[nodiscard]] virtual std::string character(std::uint16_t keyCode) const = 0;
 };
 

@@ -5,7 +5,7 @@
 
 namespace tonquil {
 
-/// Modifier flags as events and hot keys bear them, whatever the device.
+/// Modifier flags of events and hot keys, on every platform.
 using ModifierFlags = std::uint64_t;
 
 namespace ModifierFlag {
@@ -15,11 +15,11 @@ inline constexpr ModifierFlags control = 0x40000;
 inline constexpr ModifierFlags option = 0x80000;    ///< Alt.
 inline constexpr ModifierFlags command = 0x100000;  ///< Super.
 inline constexpr ModifierFlags numericPad = 0x200000;
-/// Set for function, arrow and navigation keys, with nothing else held.
+/// Set for function, arrow and navigation keys even without any modifier.
 inline constexpr ModifierFlags function = 0x800000;
 }  // namespace ModifierFlag
 
-/// The modifiers of a combination as the hot-key service takes them.
+/// Modifiers in the format of the hot-key service.
 using HotKeyServiceMask = std::uint32_t;
 
 namespace HotKeyServiceModifier {
@@ -29,7 +29,7 @@ inline constexpr HotKeyServiceMask option = 0x800;
 inline constexpr HotKeyServiceMask control = 0x1000;
 }  // namespace HotKeyServiceModifier
 
-/// The service's mask for `flags`; flags other than the four modifiers are dropped.
+/// Converts `flags` to the service's mask, dropping flags other than the four modifiers.
 [[nodiscard]] constexpr HotKeyServiceMask hotKeyServiceMask(ModifierFlags flags) {
     HotKeyServiceMask mask = 0;
     mask |= (flags & ModifierFlag::command) != 0 ? HotKeyServiceModifier::command : 0;

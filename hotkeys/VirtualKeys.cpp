@@ -13,7 +13,7 @@ struct Key {
     std::uint8_t evdevCode;
 };
 
-// What a key is called on a keyboard with the layout of the United States.
+// Key names are those of the US layout.
 constexpr auto keys = std::to_array<Key>({
     {0, 30},     // A
     {1, 31},     // S
@@ -57,7 +57,7 @@ constexpr auto keys = std::to_array<Key>({
     {39, 40},    // '
     {40, 37},    // K
     {41, 39},    // ;
-    {42, 43},    // the backslash, and the key in its place
+    {42, 43},    // backslash, or the key in its place
     {43, 51},    // comma
     {44, 53},    // /
     {45, 49},    // N

@@ -6,8 +6,8 @@
 
 namespace tonquil {
 
-/// The virtual key codes that are named in the program. They number places on a keyboard, not what
-/// is printed there; letters, digits and punctuation are only in the table behind the functions.
+/// The virtual key codes that the code uses by name. They number physical key positions, not
+/// labels; letters, digits and punctuation are only in the lookup table.
 namespace VirtualKey {
 inline constexpr std::uint16_t returnKey = 36;
 inline constexpr std::uint16_t tab = 48;
@@ -58,16 +58,16 @@ inline constexpr std::uint16_t downArrow = 125;
 inline constexpr std::uint16_t upArrow = 126;
 }  // namespace VirtualKey
 
-/// The evdev code of a key; an X key code is this and 8. Nothing for a key that evdev's first 247
-/// codes lack, as they do the function (fn) key.
+/// The evdev code of a key; the X keycode is this plus 8. Nothing for a key that is not among
+/// evdev's first 247 codes, such as the function (fn) key.
 [[nodiscard]] std::optional<std::uint8_t> evdevForVirtualKey(std::uint16_t keyCode);
-/// The virtual key code of an evdev code; nothing for keys that have none, such as Print Screen.
+/// The virtual key code of an evdev code; nothing for keys without one, such as Print Screen.
 [[nodiscard]] std::optional<std::uint16_t> virtualKeyForEvdev(std::uint32_t evdevCode);
 
-/// Whether a key counts as having a modifier by itself (`ModifierFlag::function`): function, arrow
-/// and navigation keys, which give no text.
+/// Whether a key counts as having a modifier on its own (`ModifierFlag::function`): function, arrow
+/// and navigation keys, which produce no text.
 [[nodiscard]] bool isFunctionKey(std::uint16_t keyCode);
-/// Whether a key is a modifier, on either side, or the caps lock.
+/// Whether a key is a modifier, on either side, or caps lock.
 [[nodiscard]] bool isModifierKey(std::uint16_t keyCode);
 
 }  // namespace tonquil

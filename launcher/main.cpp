@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Starts the program at login, from wherever this launcher is by then.
+// Starts the program at login, from wherever this launcher is installed at that time.
 #include <unistd.h>
 
 #include <array>
@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The program in the launcher's own folder; empty where there is none.
+/// The program in the launcher's own folder; empty if there is none.
 std::string programBesideUs() {
     std::error_code error;
     const auto self = std::filesystem::read_symlink("/proc/self/exe", error);

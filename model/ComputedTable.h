@@ -8,14 +8,14 @@
 
 namespace tonquil {
 
-/// Keeps the last table that was computed for a screen, so that re-applying an unchanged curve
-/// costs a comparison and no arithmetic.
+/// Caches the last table computed for a screen, so that re-applying an unchanged curve costs one
+/// comparison and no computation.
 ///
-/// Everything that the table depends on is compared by value: a point that is changed through its
-/// setter, a changed mode and a base that was read anew are all noticed.
+/// All inputs are compared by value, so changes through a point's setter, a new mode or a re-read
+/// base are all noticed.
 class ComputedTable {
  public:
-    /// The table of `curve` over `base`. Allocates nothing; the reference stays valid, and its
+    /// The table of `curve` over `base`. Does not allocate; the reference stays valid, and its
     /// contents unchanged, until the next call.
     [[nodiscard]] const GammaTable& tableFor(const CurveValues& curve, const BaseGamma& base);
 

@@ -14,18 +14,18 @@ struct ChannelCurve {
     float white = 1;   ///< Output level that input 1 would reach.
 };
 
-/// All that a table is computed from, apart from the display's base: nine values and a mode.
+/// Everything that a table is computed from, apart from the display's base: nine values and a mode.
 struct CurveValues {
     /// Red, green, blue.
     std::array<ChannelCurve, 3> channels{};
-    /// A KVBlendingMode; any other number computes as 0.
+    /// A KVBlendingMode; any other number is treated as 0.
     std::int32_t blendingMode = 1;
 };
 
-/// Compares bits, so that a not-a-number equals itself and a changed sign of zero is a change.
+/// Compares bits, so NaN equals itself and a changed sign of zero is a change.
 [[nodiscard]] inline bool haveSameBits(const CurveValues& a, const CurveValues& b) {
     static_assert(sizeof(CurveValues) == 10 * sizeof(float), "no padding to compare by accident");
-    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): as said above.
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): see above.
     return std::memcmp(&a, &b, sizeof a) == 0;
 }
 

@@ -9,10 +9,10 @@
 
 namespace tonquil {
 
-/// A transfer table: 256 levels for each of red, green and blue, in this order.
+/// A transfer table: 256 levels each for red, green and blue, in this order.
 ///
-/// A level is 0 (dark) to 1 (full); nothing here enforces the range, whoever drives the hardware
-/// clamps. The channels always stand 256 slots apart, also where a display fills fewer of them.
+/// A level is 0 (dark) to 1 (full). The range is not enforced here; the code that drives the
+/// hardware clamps. Channels always start 256 slots apart, even if a display fills fewer slots.
 struct GammaTable {
     static constexpr std::uint32_t capacity = 256;
     static constexpr std::size_t channelCount = 3;
@@ -27,17 +27,16 @@ struct GammaTable {
     }
 };
 
-/// Whether two tables hold the same bits: not-a-number equals itself, 0 and -0 differ.
+/// Whether two tables hold the same bits: NaN equals itself, 0 and -0 differ.
 [[nodiscard]] inline bool haveSameBits(const GammaTable& a, const GammaTable& b) {
-    // Comparing representations is the point.
-    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison)
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): comparing bits is the point.
     return std::memcmp(a.levels.data(), b.levels.data(), sizeof a.levels) == 0;
 }
 
-/// A display's own calibration, over which curves are laid.
+/// A display's own calibration, to which curves are applied.
 struct BaseGamma {
     GammaTable table;
-    /// How many slots of each channel the display filled, 0 to 256; the others are 0.
+    /// How many slots of each channel the display filled, 0 to 256; the rest are 0.
     std::uint32_t sampleCount = 0;
 };
 

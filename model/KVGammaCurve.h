@@ -22,8 +22,8 @@ enum KVBlendingMode : std::int32_t {
 
 /// A correction curve: a black, a middle and a white point and a blending mode.
 ///
-/// Black and white are the output levels at input 0 and 1, middle is the exponent on the input.
-/// The points are owned but shared with whoever asked for them; one curve may serve several
+/// Black and white are the output levels at input 0 and 1, middle is the exponent on the input. The
+/// points are shared with every caller that asked for them, and one curve may serve several
 /// screens. Nothing is clamped.
 class KVGammaCurve {
  public:
@@ -31,12 +31,12 @@ class KVGammaCurve {
 
     /// The neutral curve: black 0, middle 1, white 1, over the base table.
     KVGammaCurve();
-    /// Keeps the given points themselves; a null one becomes neutral. Any mode is stored.
+    /// Keeps the given point objects; a null one becomes neutral. Stores any mode.
     KVGammaCurve(PointPointer blackPoint, PointPointer middlePoint, PointPointer whitePoint,
                  std::int32_t blendingMode);
-    /// Reads a plain curve dictionary; what is missing takes its default (the mode: absolute).
+    /// Reads a plain curve dictionary; missing values take their defaults (for the mode: absolute).
     explicit KVGammaCurve(const nlohmann::json& dictionary);
-    /// The neutral curve, then what `retriveFromScreen` makes of it.
+    /// The neutral curve, then updated by `retriveFromScreen`.
     explicit KVGammaCurve(CurveScreen& screen);
     KVGammaCurve(const KVGammaCurve&) = delete;
     KVGammaCurve& operator=(const KVGammaCurve&) = delete;
@@ -49,10 +49,10 @@ class KVGammaCurve {
         const nlohmann::json& dictionary);
     [[nodiscard]] static std::shared_ptr<KVGammaCurve> gammaCurveWithScreen(CurveScreen& screen);
 
-    /// The mode in any curve dictionary: absolute where there is none or it is no number, over the
-    /// base table for every number but 0.
+    /// The mode in any curve dictionary: absolute if it is missing or not a number, base table for
+    /// any number except 0.
     [[nodiscard]] static std::int32_t blendingModeFromDictionary(const nlohmann::json& dictionary);
-    /// Gives every display back to the system's own calibration.
+    /// Restores the system calibration of every display.
     static void restoreAllGammaCurves(SystemCalibration& calibration);
 
     [[nodiscard]] const PointPointer& blackPoint() const { return _blackPoint; }
@@ -61,16 +61,16 @@ class KVGammaCurve {
     [[nodiscard]] std::int32_t blendingMode() const { return _blendingMode; }
     void setBlendingMode(std::int32_t blendingMode) { _blendingMode = blendingMode; }
 
-    /// A plain curve has no master corrections: these are the neutral 0, 1 and 1.
+    /// A plain curve has no master corrections; these are the neutral 0, 1 and 1.
     [[nodiscard]] virtual float masterBlackCorrection() const { return 0; }
     [[nodiscard]] virtual float masterMiddleCorrection() const { return 1; }
     [[nodiscard]] virtual float masterWhiteCorrection() const { return 1; }
 
-    /// Computes this curve's points over the base in `table`, in place; see
+    /// Computes the result of this curve's points over the base in `table`, in place; see
     /// `computeTransferTable`.
     void _applyGammaValues(GammaTable& table, std::uint32_t sampleCount) const;
-    /// Sets the display's table from this curve. Computes only what changed since the screen was
-    /// last served, and allocates nothing.
+    /// Sets the display's table from this curve. Computes only what changed since the last call for
+    /// this screen, and does not allocate.
     virtual void applyToScreen(CurveScreen& screen) const;
     /// Replaces the points by the display's transfer formula (absolute) or by the neutral points
     /// (any other mode: the display's table is the base, which the neutral curve reproduces).
@@ -79,13 +79,13 @@ class KVGammaCurve {
     void _oldApplyToScreen(CurveScreen& screen) const;
     void _oldRetriveFromScreen(CurveScreen& screen);
 
-    /// The three points. The plain form does not carry the mode.
+    /// The three points. The plain form does not include the mode.
     [[nodiscard]] virtual nlohmann::json gammaCurveDictionary() const;
 
  protected:
     /// The values that `applyToScreen` puts on a display.
     [[nodiscard]] virtual CurveValues appliedValues() const { return values(); }
-    /// The values of the points as they stand.
+    /// The current values of the points.
     [[nodiscard]] CurveValues values() const;
 
  private:

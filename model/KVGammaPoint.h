@@ -7,11 +7,11 @@
 
 namespace tonquil {
 
-/// A red, a green and a blue value of a curve: levels for its black and white points, exponents
-/// for its middle point. Any number is stored as it is given.
+/// A red, a green and a blue value of a curve: levels for its black and white points, exponents for
+/// its middle point. Any number is stored as given.
 ///
-/// Points are shared: a curve hands out the point that it holds, so a setter changes every curve
-/// that holds it.
+/// Points are shared: a curve returns the point object it holds, so a setter changes every curve
+/// that holds that point.
 class KVGammaPoint {
  public:
     KVGammaPoint() = default;
@@ -22,7 +22,7 @@ class KVGammaPoint {
     /// Reads a point dictionary; null unless "Red", "Green" and "Blue" all have a float value.
     [[nodiscard]] static std::shared_ptr<KVGammaPoint> gammaPointWithDictionary(
         const nlohmann::json& dictionary);
-    /// Reads the point dictionary under `key` of a curve dictionary; null where there is none.
+    /// Reads the point dictionary under `key` of a curve dictionary; null if there is none.
     [[nodiscard]] static std::shared_ptr<KVGammaPoint> gammaPointEntry(
         const nlohmann::json& curveDictionary, std::string_view key);
 

@@ -22,7 +22,7 @@ void KVTableGammaCurve::applyToScreen(CurveScreen& screen) const {
 }
 
 void KVTableGammaCurve::retriveFromScreen(CurveScreen& screen) {
-    // How many samples the display filled plays no part: a shorter ramp leaves the rest.
+    // The number of slots filled does not matter: a shorter ramp leaves the rest unchanged.
     static_cast<void>(screen.getTransferTable(_array));
 }
 

@@ -9,7 +9,7 @@
 
 namespace tonquil {
 
-/// A curve that is a transfer table itself; its inherited points and mode play no part.
+/// A curve that is itself a transfer table; its inherited points and mode are unused.
 class KVTableGammaCurve : public KVGammaCurve {
  public:
     /// Bytes of a raw table file: 256 of red, 256 of green, 256 of blue.
@@ -17,15 +17,15 @@ class KVTableGammaCurve : public KVGammaCurve {
 
     explicit KVTableGammaCurve(const GammaTable& table) : _array(table) {}
 
-    /// Reads the first 768 bytes as 8-bit samples; null when there are fewer. A sample s is the
-    /// level s / 256, after the i / n rule of computed tables, so that none reaches 1.
+    /// Reads the first 768 bytes as 8-bit samples; null if there are fewer. A sample s is the level
+    /// s / 256, like the i / n rule of computed tables, so no sample reaches 1.
     [[nodiscard]] static std::shared_ptr<KVTableGammaCurve> tableGammaCurveWithData(
         std::span<const std::uint8_t> data);
 
     [[nodiscard]] const GammaTable& table() const { return _array; }
 
     void applyToScreen(CurveScreen& screen) const override;
-    /// Takes the display's present table; slots that the display does not fill stay as they are.
+    /// Reads the display's current table; slots that the display does not fill stay unchanged.
     void retriveFromScreen(CurveScreen& screen) override;
 
  private:

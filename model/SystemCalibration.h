@@ -3,12 +3,12 @@
 
 namespace tonquil {
 
-/// Whoever can give the displays back to the calibration that the system itself uses.
+/// Can restore the system's own calibration on the displays.
 class SystemCalibration {
  public:
     virtual ~SystemCalibration() = default;
 
-    /// Puts every display back to its system calibration; says in the log which it could not.
+    /// Restores the system calibration of every display; logs the displays where it could not.
     virtual void restoreSystemCalibration() = 0;
 };
 

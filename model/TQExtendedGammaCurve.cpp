@@ -14,11 +14,11 @@ namespace {
 
 using PointPointer = KVGammaCurve::PointPointer;
 
-// Two layers of lift: each closes its share of what the other left to full white.
+// Two stacked lifts: each closes its share of the distance to full white that the other left.
 float flattenBlack(float master, float black) {
     return 1.0F - (1.0F - master) * (1.0F - black);
 }
-// Exponents add around the straight line's 1.
+// Exponents add up as offsets from 1, the straight line.
 float flattenMiddle(float master, float middle) {
     return (master + middle) - 1.0F;
 }
@@ -26,7 +26,7 @@ float flattenWhite(float master, float white) {
     return master * white;
 }
 
-/// Replaces each value of a point by what `change` makes of it, red first.
+/// Replaces each value of a point by the result of `change`, red first.
 template <typename Change>
 void changeEach(KVGammaPoint& point, Change change) {
     point.setRedValue(change(point.redValue()));
@@ -41,7 +41,7 @@ PointPointer flattened(const KVGammaPoint& point, float master, Flatten flatten)
                                            flatten(master, point.blueValue()));
 }
 
-/// The number under `key`, or nothing where there is none: a string does not count here.
+/// The number under `key`, or nothing if there is none; strings do not count here.
 std::optional<float> numberEntry(const PropertyValue& dictionary, std::string_view key) {
     const PropertyValue* value = entry(dictionary, key);
     return value != nullptr && isNumber(*value) ? floatValue(*value) : std::nullopt;
@@ -49,7 +49,7 @@ std::optional<float> numberEntry(const PropertyValue& dictionary, std::string_vi
 
 }  // namespace
 
-/// What a curve dictionary of any generation holds.
+/// The contents of a curve dictionary of any generation.
 struct TQExtendedGammaCurve::StoredParts {
     Masters masters;
     PointPointer black;
@@ -77,7 +77,7 @@ TQExtendedGammaCurve::StoredParts TQExtendedGammaCurve::storedParts(
                 .blendingMode = mode};
     }
     const auto masterCorrection = numberEntry(dictionary, "MasterCorrection");
-    // Without any master the curve is split from masters of 0, as one made from points is.
+    // Without any master, the curve is split starting from masters of 0, like one made from points.
     return {.masters = masterCorrection ? Masters{0, *masterCorrection, 1} : Masters{0, 0, 0},
             .black = point("BlackPoint"),
             .middle = point("MiddlePoint"),
@@ -154,7 +154,7 @@ std::shared_ptr<TQExtendedGammaCurve> TQExtendedGammaCurve::gammaCurveWithCompac
         values[i] = floatValue(array[i]).value_or(values[i]);
     }
     // The mode is truncated towards zero, so everything between -1 and 2 is 0 or 1; the comparison
-    // also refuses a not-a-number.
+    // also refuses NaN.
     if (!(values[0] > -1.0F && values[0] < 2.0F)) {
         return nullptr;
     }
@@ -183,7 +183,7 @@ std::shared_ptr<KVGammaCurve> TQExtendedGammaCurve::flatGammaCurve() const {
                                                   flatWhitePoint(), blendingMode());
 }
 
-// The same numbers as flatGammaCurve's, without making its objects: this runs at every
+// The same numbers as flatGammaCurve, but without creating objects: this runs on every
 // re-application.
 CurveValues TQExtendedGammaCurve::appliedValues() const {
     CurveValues flat = values();
@@ -201,10 +201,9 @@ void TQExtendedGammaCurve::retriveFromScreen(CurveScreen& screen) {
 }
 
 void TQExtendedGammaCurve::_equilibrateMaster() {
-    // The order matters: each step reads what the ones before it left. The new master black is
-    // the least *flat* black, while the remainders are taken from the raw blacks; an old master
-    // black other than 0 therefore leaves remainders below 0, on purpose. fmin and fmax pass over
-    // a not-a-number.
+    // The order matters: each step reads what the previous ones left. The new master black is the
+    // lowest *flat* black, but the remainders are computed from the raw blacks; so an old master
+    // black other than 0 leaves negative remainders, on purpose. fmin and fmax ignore NaN.
     const PointPointer flatBlack = flatBlackPoint();
     _masterBlackCorrection = std::fmin(std::fmin(flatBlack->redValue(), flatBlack->greenValue()),
                                        flatBlack->blueValue());
@@ -233,8 +232,8 @@ PropertyValue TQExtendedGammaCurve::gammaCurveDictionary() const {
             {"v4-GammaPointBlack", blackPoint()->gammaPointDictionary()},
             {"v4-GammaPointMiddle", middlePoint()->gammaPointDictionary()},
             {"v4-GammaPointWhite", whitePoint()->gammaPointDictionary()},
-            // The generation before had one master, on the exponent: black and white carry theirs
-            // folded in, the middle does not.
+            // The previous generation had one master, on the exponent: its black and white have
+            // their masters folded in, its middle does not.
             {"MasterCorrection", singlePrecision(_masterMiddleCorrection)},
             {"BlackPoint", flatBlackPoint()->gammaPointDictionary()},
             {"MiddlePoint", middlePoint()->gammaPointDictionary()},

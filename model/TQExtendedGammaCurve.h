@@ -7,15 +7,14 @@
 
 namespace tonquil {
 
-/// The curve that people edit: three points per channel under three master corrections.
+/// The curve that users edit: three points per channel under three master corrections.
 ///
-/// What reaches a display is the flat curve, with the masters folded into the points. The class
-/// stores whatever it is given; values that make a division by zero come out as infinities or
-/// not-a-number and are kept as they are.
+/// A display gets the flat curve, with the masters folded into the points. The class stores any
+/// value it is given; values that cause a division by zero give infinities or NaN, which are kept.
 class TQExtendedGammaCurve : public KVGammaCurve {
  public:
-    /// The master corrections: a lift common to all channels, an offset of their exponents, a
-    /// factor on their white levels.
+    /// The master corrections: a lift for all channels, an offset of their exponents, a factor on
+    /// their white levels.
     struct Masters {
         float black = 0;
         float middle = 1;
@@ -26,7 +25,7 @@ class TQExtendedGammaCurve : public KVGammaCurve {
     TQExtendedGammaCurve();
     TQExtendedGammaCurve(Masters masters, PointPointer blackPoint, PointPointer middlePoint,
                          PointPointer whitePoint, std::int32_t blendingMode);
-    /// Splits the points into masters and remainders; the given points themselves are changed.
+    /// Splits the points into masters and remainders; modifies the given point objects.
     TQExtendedGammaCurve(PointPointer blackPoint, PointPointer middlePoint, PointPointer whitePoint,
                          std::int32_t blendingMode);
     /// Reads every generation of the dictionary form. Only the oldest, which has no master values,
@@ -45,8 +44,8 @@ class TQExtendedGammaCurve : public KVGammaCurve {
     [[nodiscard]] static std::shared_ptr<TQExtendedGammaCurve> gammaCurveWithScreen(
         CurveScreen& screen);
     /// Reads the compact form: mode, masters, then black, middle and white of red, green and blue.
-    /// What is missing or has no float value takes its default, what follows the 13th element is
-    /// ignored. Null when `array` is no array or its mode is neither 0 nor 1.
+    /// Missing values and values without a float value take their defaults; elements after the 13th
+    /// are ignored. Null if `array` is not an array or its mode is neither 0 nor 1.
     [[nodiscard]] static std::shared_ptr<TQExtendedGammaCurve> gammaCurveWithCompactArray(
         const nlohmann::json& array);
 
@@ -57,7 +56,7 @@ class TQExtendedGammaCurve : public KVGammaCurve {
     void setMasterMiddleCorrection(float correction) { _masterMiddleCorrection = correction; }
     void setMasterWhiteCorrection(float correction) { _masterWhiteCorrection = correction; }
 
-    /// The points with the masters folded in; each call makes a new object.
+    /// The points with the masters folded in; each call creates a new object.
     [[nodiscard]] PointPointer flatBlackPoint() const;
     [[nodiscard]] PointPointer flatMiddlePoint() const;
     [[nodiscard]] PointPointer flatWhitePoint() const;
@@ -68,7 +67,7 @@ class TQExtendedGammaCurve : public KVGammaCurve {
     /// same curve.
     void _equilibrateMaster();
 
-    /// Writes the current generation and, beside it, the one before, so that an older reader finds
+    /// Writes the current generation together with the previous one, so that an older reader finds
     /// a curve that flattens to the same.
     [[nodiscard]] nlohmann::json gammaCurveDictionary() const override;
     [[nodiscard]] nlohmann::json gammaCurveCompactArray() const;

@@ -24,7 +24,7 @@ void computePowers(float exponent, std::uint32_t n, Powers& powers) {
     }
 }
 
-/// white - black, rounded where the formula has always rounded: 1 - white to single precision,
+/// white - black, with the rounding that the formula has always had: 1 - white in single precision,
 /// the rest in double.
 float range(const ChannelCurve& curve) {
     return static_cast<float>((1.0 - static_cast<double>(curve.black)) -
@@ -36,7 +36,7 @@ float level(const ChannelCurve& curve, float range, double power) {
                               static_cast<double>(curve.black));
 }
 
-/// The base at a position that lies outside of it or is no number at all.
+/// The base at a position outside its range, or at NaN.
 float sampleOutside(const float* base, float position, float last) {
     if (!std::isfinite(position)) {
         return base[position > 0.0F ? static_cast<std::size_t>(last) : 0];
@@ -59,12 +59,12 @@ void sampleBase(const ChannelCurve& curve, const Powers& powers, std::uint32_t n
             slots[i] = sampleOutside(base.data(), position, last);
             continue;
         }
-        // Truncation is the floor of what is not negative, without a library call.
+        // For non-negative values truncation is floor, without a library call.
         const auto lower = static_cast<std::uint32_t>(position);
         const float fraction = position - static_cast<float>(lower);
         const std::uint32_t upper = lower + (fraction > 0.0F ? 1 : 0);
-        // The upper neighbour takes 1 - f and the lower takes f: the mirror of ordinary
-        // interpolation, and what every saved curve was tuned against. At whole positions both
+        // The upper neighbour is weighted 1 - f and the lower f: the reverse of ordinary
+        // interpolation, and what every saved curve was tuned with. At whole positions both
         // neighbours are the same.
         slots[i] = (1.0F - fraction) * base[upper] + fraction * base[lower];
     }
@@ -80,7 +80,7 @@ void computeTransferTable(const CurveValues& curve, GammaTable& table, std::uint
     Powers powers;
     for (std::size_t c = 0; c < GammaTable::channelCount; ++c) {
         const ChannelCurve& channel = curve.channels[c];
-        // The powers are most of the work, and channels often share their exponent.
+        // Powers are most of the work, and channels often share their exponent.
         const bool isSameExponent =
             c > 0 && std::bit_cast<std::uint32_t>(channel.middle) ==
                          std::bit_cast<std::uint32_t>(curve.channels[c - 1].middle);

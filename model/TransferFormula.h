@@ -3,8 +3,8 @@
 
 namespace tonquil {
 
-/// One channel's transfer as a power law: minimum + (maximum - minimum) * input ^ exponent, with
-/// input and result 0…1.
+/// One channel's transfer function as a power law: minimum + (maximum - minimum) * input ^
+/// exponent, with input and result 0…1.
 struct ChannelFormula {
     float minimum = 0;
     float maximum = 1;

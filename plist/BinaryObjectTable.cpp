@@ -20,11 +20,11 @@ auto damaged(const char* detail) {
     return problem(TONQUIL_TEXT("Problem", "The property list is damaged."), detail);
 }
 
-/// Bytes of contents of the types whose marker says it all; nothing for unknown types.
+/// Content size in bytes of the types that have it in the marker; nothing for unknown types.
 std::optional<std::size_t> fixedSize(const BinaryObject& object) {
     const unsigned low = object.low();
     switch (object.type()) {
-        case 0x0:  // false, true; null and fill stand for no value
+        case 0x0:  // false, true; null and fill have no value
             return low == 8 || low == 9 ? std::optional<std::size_t>(0) : std::nullopt;
         case 0x1:  // integer
             return low <= 4 ? std::optional(std::size_t{1} << low) : std::nullopt;
@@ -39,8 +39,8 @@ std::optional<std::size_t> fixedSize(const BinaryObject& object) {
     }
 }
 
-/// Takes the count off the bytes after a marker: its lower half or, where that is full, an integer
-/// of its own.
+/// Takes the count off the bytes after a marker: it is in the lower half or, if all its bits are
+/// set, in an integer that follows.
 std::optional<std::uint64_t> takeCount(unsigned low, std::span<const std::uint8_t>& bytes) {
     if (low != 0xF) {
         return low;
@@ -89,7 +89,7 @@ Result<BinaryObjectTable> BinaryObjectTable::open(std::span<const std::uint8_t> 
         return damaged("the offset of the table");
     }
     table._tableOffset = static_cast<std::size_t>(tableOffset);
-    // The table fills the room up to the trailer; compared so that nothing can overflow.
+    // The offset table must fill all bytes up to the trailer; the comparison cannot overflow.
     const std::size_t room = beforeTrailer - table._tableOffset;
     if (room % table._offsetSize != 0 || room / table._offsetSize != table._objects) {
         return damaged("the number of objects");

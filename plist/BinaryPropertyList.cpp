@@ -26,7 +26,7 @@ auto damagedObject(const char* detail) {
 }
 
 PropertyValue integer(std::int64_t number) {
-    // As from text: unsigned from 0 up.
+    // As when read from text: unsigned from 0 up.
     return number < 0 ? PropertyValue(number) : PropertyValue(static_cast<std::uint64_t>(number));
 }
 
@@ -71,7 +71,7 @@ std::optional<std::string> dateText(double secondsSince2001) {
     constexpr auto earliest = duration_cast<seconds>(sys_days(1y / January / 1) - epoch);
     constexpr auto latest = duration_cast<seconds>(sys_days(9999y / December / 31) - epoch);
     const double whole = std::floor(secondsSince2001);
-    // Written so that not-a-number is refused too.
+    // Written so that NaN is refused too.
     if (!(whole >= static_cast<double>(earliest.count()) &&
           whole < static_cast<double>(latest.count()) + 86400.0)) {
         return std::nullopt;
@@ -89,13 +89,13 @@ std::optional<std::string> dateText(double secondsSince2001) {
     return std::string(text.data(), static_cast<std::size_t>(length));
 }
 
-/// Reads the values of one list, each as often as it is referred to.
+/// Reads the values of one list; a value referenced twice is read twice.
 class Reader {
  public:
     Reader(const BinaryObjectTable& table, const PropertyListBudget& budget)
         : _table(table), _meter(budget) {}
 
-    /// Recursive, yet never deeper than the budget.
+    /// Recursive, but no deeper than the budget.
     Result<PropertyValue> value(std::uint64_t number, std::size_t depth) {
         if (auto counted = _meter.countValue(depth); !counted) {
             return tl::unexpected(counted.error());
@@ -190,7 +190,7 @@ class Reader {
 
     Result<PropertyValue> dictionary(const BinaryObject& object, std::size_t depth) {
         PropertyValue dictionary = PropertyValue::object();
-        // All the keys come first, then all the values.
+        // All keys come first, then all values.
         const std::size_t count = _table.references(object) / 2;
         for (std::size_t i = 0; i < count; ++i) {
             auto name = key(_table.reference(object, i));

@@ -8,16 +8,16 @@
 
 namespace tonquil {
 
-/// Counts what a property list has used of its budget while it is read or written.
+/// Counts how much of its budget a property list has used while it is read or written.
 class BudgetMeter {
  public:
     explicit BudgetMeter(const PropertyListBudget& budget) : _budget(budget) {}
 
-    /// Counts one value that lies `depth` levels deep, 1 being the outermost.
+    /// Counts one value at nesting level `depth`, where 1 is the root.
     [[nodiscard]] Result<void> countValue(std::size_t depth);
-    /// Counts text, a key or data; call it before copying them.
+    /// Counts text, a key or data; call it before copying the bytes.
     [[nodiscard]] Result<void> countText(std::size_t bytes);
-    /// Holds the size of the file, bytes, against the budget.
+    /// Checks the file size in bytes against the budget.
     [[nodiscard]] Result<void> checkFileSize(std::size_t bytes) const;
 
  private:

@@ -11,7 +11,7 @@ namespace tonquil {
 
 namespace {
 
-/// `from_chars` on the whole text or not at all.
+/// `from_chars`, but the whole text must match.
 template <typename Number, typename... Format>
 std::optional<Number> wholeNumber(std::string_view text, Format... format) {
     Number number{};
@@ -23,7 +23,7 @@ std::optional<Number> wholeNumber(std::string_view text, Format... format) {
     return number;
 }
 
-/// Takes one sign off the text; true for a minus. `from_chars` itself takes no plus.
+/// Takes one sign off the text; true for a minus. `from_chars` does not accept a plus.
 bool takeSign(std::string_view& text) {
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) {
@@ -39,7 +39,7 @@ std::string shortest(Number number) {
     return {text.data(), result.ptr};
 }
 
-/// All digits of a number, at most some 770 of them.
+/// All digits of a number, at most about 770.
 std::string exact(double number) {
     std::array<char, 1200> text{};
     const auto result = std::to_chars(text.data(), text.data() + text.size(), number,
@@ -78,14 +78,14 @@ std::optional<PropertyValue> integerFromText(std::string_view text) {
     if (*size > smallest) {
         return std::nullopt;
     }
-    // Negated while unsigned, since 2⁶³ has no signed counterpart.
+    // Negated while unsigned, because 2⁶³ has no signed counterpart.
     return PropertyValue(static_cast<std::int64_t>(-*size));
 }
 
 std::optional<double> realFromText(std::string_view text) {
     text = withoutSurroundingSpace(text);
     const bool negative = takeSign(text);
-    // A second sign is one too many.
+    // Refuses a second sign.
     if (text.starts_with('-')) {
         return std::nullopt;
     }
@@ -108,7 +108,8 @@ std::string textFromReal(double value) {
     if (static_cast<double>(single) == value) {
         return shortest(single);
     }
-    // Shortest digits may lie on the other side of the middle between two singles than the double.
+    // The shortest digits may lie on the other side of the midpoint between two floats than the
+    // double.
     std::string text = shortest(value);
     return realFromText(text) == value ? text : exact(value);
 }

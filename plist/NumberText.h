@@ -9,27 +9,27 @@
 
 namespace tonquil {
 
-/// Space, tab, carriage return or newline: what XML takes for white space.
+/// Whether XML counts it as white space: space, tab, carriage return or newline.
 [[nodiscard]] constexpr bool isXmlSpace(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
 
-/// The text without the white space around it.
+/// The text without leading and trailing white space.
 [[nodiscard]] std::string_view withoutSurroundingSpace(std::string_view text);
 
-/// The integer that the whole text is: decimal, or hexadecimal after 0x, with a sign if need be.
-/// Unsigned from 0 up. Nothing where it is none or does not fit −2⁶³ to 2⁶⁴−1.
+/// Parses the whole text as an integer: decimal, or hexadecimal after 0x, with an optional sign.
+/// Unsigned from 0 up. Nothing if it is no integer or does not fit −2⁶³ to 2⁶⁴−1.
 [[nodiscard]] std::optional<PropertyValue> integerFromText(std::string_view text);
 
-/// The real that the whole text is, whatever the locale: decimal, "nan", "inf" or "infinity" in
-/// any case, with a sign if need be. Nothing where it is none or is beyond the range of a double.
+/// Parses the whole text as a real, in any locale: decimal, "nan", "inf" or "infinity" in any case,
+/// with an optional sign. Nothing if it is no number or beyond the range of a double.
 ///
-/// Its single-precision bits are those of the text: where rounding to a double first and then to a
-/// single would give a neighbour, the result is the single itself.
+/// Rounds to the same float as the text does: if rounding to double first and then to float would
+/// give a neighbour, the result is that float itself.
 [[nodiscard]] std::optional<double> realFromText(std::string_view text);
 
-/// The shortest text that `realFromText` reads back to the same single if `value` is one, else to
-/// the same double; in both cases to the same single-precision bits.
+/// The shortest text that `realFromText` reads back to the same float if `value` is one, else to
+/// the same double; in both cases it rounds to the same float.
 [[nodiscard]] std::string textFromReal(double value);
 
 }  // namespace tonquil

@@ -19,22 +19,22 @@ constexpr std::string_view binaryMagic = "bplist";
 constexpr std::array<std::string_view, 4> xmlBeginnings = {"<?xml", "<!DOCTYPE", "<plist", "<!--"};
 
 bool beginsWith(std::span<const std::uint8_t> bytes, std::string_view beginning) {
-    // A plain char may be negative where the byte is not.
+    // A plain char may be signed; the byte is not.
     return bytes.size() >= beginning.size() &&
            std::equal(
                beginning.begin(), beginning.end(), bytes.begin(),
                [](char c, std::uint8_t byte) { return static_cast<std::uint8_t>(c) == byte; });
 }
 
-/// Text in an encoding that has ASCII in it, one character for each `unit` bytes.
+/// Text in an ASCII-compatible encoding, one character per `unit` bytes.
 struct Text {
     std::span<const std::uint8_t> bytes;
     std::size_t unit = 1;
-    /// Which byte of a unit holds the character if it is ASCII.
+    /// Index of the byte in a unit that holds an ASCII character.
     std::size_t lowByte = 0;
 
     [[nodiscard]] std::size_t size() const { return bytes.size() / unit; }
-    /// The character, or NUL where it is not ASCII.
+    /// The character, or NUL if it is not ASCII.
     [[nodiscard]] char at(std::size_t index) const {
         const auto character = bytes.subspan(index * unit, unit);
         if (unit == 2 && character[1 - lowByte] != 0) {
@@ -44,7 +44,7 @@ struct Text {
     }
 };
 
-/// The text behind the byte order mark; without one, a NUL in the first pair tells UTF-16.
+/// The text after the byte order mark; without a mark, a NUL in the first two bytes means UTF-16.
 Text textOf(std::span<const std::uint8_t> bytes) {
     using namespace std::string_view_literals;
     if (beginsWith(bytes, "\xEF\xBB\xBF")) {
@@ -99,7 +99,7 @@ Result<PropertyValue> readPropertyList(std::span<const std::uint8_t> bytes,
     if (!beginsLikePropertyList(bytes)) {
         return problem(TONQUIL_TEXT("Problem", "This is not a property list."));
     }
-    // Where people paste a list, white space gets before the declaration, which XML forbids.
+    // Pasted lists often have white space before the declaration, which XML forbids.
     const Text text = textOf(bytes);
     const std::size_t mark = bytes.size() - text.bytes.size();
     return readXmlPropertyList(bytes.first(mark),

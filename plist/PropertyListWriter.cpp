@@ -39,7 +39,7 @@ class Writer {
     }
 
  private:
-    /// Recursive, yet never deeper than the budget.
+    /// Recursive, but no deeper than the budget.
     Result<void> writeValue(const PropertyValue& value, std::size_t depth) {
         if (auto counted = _meter.countValue(depth); !counted) {
             return counted;
@@ -126,7 +126,6 @@ class Writer {
         return {};
     }
 
-    /// Appends one character, in UTF-8.
     void appendEscaped(std::string_view character) {
         switch (character.front()) {
             case '&':
@@ -139,7 +138,7 @@ class Writer {
                 _out += "&gt;";
                 break;
             case '\r':
-                // A parser would read a plain one as a newline.
+                // A parser would read an unescaped one as a newline.
                 _out += "&#13;";
                 break;
             default:
@@ -172,7 +171,7 @@ class Writer {
         _out.append(text).append("\n");
     }
 
-    /// The outermost value, depth 1, stands at the margin.
+    /// The root value, depth 1, is not indented.
     void indent(std::size_t depth) { _out.append(depth - 1, '\t'); }
 
     BudgetMeter _meter;

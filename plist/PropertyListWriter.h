@@ -11,14 +11,12 @@ namespace tonquil {
 
 /// Writes a property list as XML in UTF-8, indented with tabs, keys sorted.
 ///
-/// A real that is a single is written with the fewest digits that tell it from other singles,
-/// other reals with as many as a double needs. Infinities and not-a-number are "inf", "-inf" and
-/// "nan".
+/// A real that is exactly a float is written with the fewest digits that identify that float, any
+/// other real with as many as a double needs. Infinities and NaN are "inf", "-inf" and "nan".
 ///
-/// What is written here, the reader reads back under the same budget: equal values of the same
-/// types, reals to their single-precision bits. What it could not read back is a problem: null,
-/// text that is not UTF-8 or has characters that XML cannot carry (most controls), a value beyond
-/// the budget.
+/// The reader reads the output back under the same budget to equal values of the same types; reals
+/// round to the same float. What it could not read back is a problem: null, text that is not UTF-8
+/// or has characters XML cannot represent (most control characters), a value beyond the budget.
 [[nodiscard]] Result<std::string> writePropertyList(const PropertyValue& value,
                                                     const PropertyListBudget& budget = {});
 

@@ -19,8 +19,8 @@ namespace {
 
 using Parser = std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_ParserFree)>;
 
-/// One parse: the builder, and the first problem, after which the events still under way are
-/// ignored.
+/// State of one parse: the builder and the first problem. The parser may still deliver events after
+/// that; they are ignored.
 struct Parse {
     XML_Parser parser;
     XmlValueBuilder builder;
@@ -69,14 +69,14 @@ void onEntityDeclared(void* user, const XML_Char* /*name*/, int /*isParameter*/,
     refuse(user, "it declares an entity");
 }
 
-// Each attribute declared costs time at every element, which adds up to far more than the file.
+// Each declared attribute costs time at every element, which adds up to far more than the file.
 void onAttributeDeclared(void* user, const XML_Char* /*element*/, const XML_Char* /*name*/,
                          const XML_Char* /*type*/, const XML_Char* /*value*/, int /*isRequired*/) {
     refuse(user, "it declares an attribute");
 }
 
-// With an external document type that is not loaded, an unknown entity is no error to the parser,
-// which would leave it out of the text without a word.
+// With an external DTD that is not loaded, the parser does not report an unknown entity as an
+// error, but silently drops it from the text.
 void onEntitySkipped(void* user, const XML_Char* /*name*/, int /*isParameter*/) {
     refuse(user, "it refers to an unknown entity");
 }
@@ -90,7 +90,7 @@ void setHandlers(XML_Parser parser) {
 }
 
 XML_Status feed(XML_Parser parser, std::span<const std::uint8_t> bytes, XML_Bool isFinal) {
-    // The bytes are only looked at as bytes, which any type of character may do.
+    // Any character type may alias bytes.
     const auto* const text = reinterpret_cast<const char*>(bytes.data());  // NOLINT
     return XML_Parse(parser, text, static_cast<int>(bytes.size()), isFinal);
 }

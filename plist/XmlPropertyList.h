@@ -12,9 +12,9 @@ namespace tonquil {
 
 /// Reads an XML property list in UTF-8, UTF-16, ISO-8859-1 or ASCII.
 ///
-/// The usual document type is accepted and nothing is ever loaded for it; one that declares
-/// entities or attributes of its own is refused, as is any entity that XML itself does not name.
-/// A byte order mark, if there is one, is given by itself.
+/// The usual DTD is accepted but never loaded; one that declares its own entities or attributes is
+/// refused, as is any entity not predefined by XML. A byte order mark, if present, is passed
+/// separately.
 [[nodiscard]] Result<PropertyValue> readXmlPropertyList(std::span<const std::uint8_t> mark,
                                                         std::span<const std::uint8_t> bytes,
                                                         const PropertyListBudget& budget);

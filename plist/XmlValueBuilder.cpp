@@ -77,7 +77,7 @@ Result<void> XmlValueBuilder::begin(std::string_view name) {
         return fits;
     }
     if (*element != Element::List && *element != Element::Key) {
-        // The outermost value is inside plist alone, so what is open now is its depth.
+        // The root value is inside <plist> only, so the number of open elements is its depth.
         if (auto counted = _meter.countValue(_open.size()); !counted) {
             return counted;
         }

@@ -13,20 +13,20 @@
 
 namespace tonquil {
 
-/// Builds the value of an XML property list from the events of an XML parser.
+/// Builds the value of an XML property list from XML parser events.
 ///
-/// The parser vouches for well-formedness: each element that ends is the last one that began.
-/// After the first problem, no more may be fed. What is open is kept in a list, never on the stack.
+/// The parser guarantees well-formedness: each end tag matches the last open element. Feed nothing
+/// more after the first problem. Open elements are kept in a list, never on the stack.
 class XmlValueBuilder {
  public:
     explicit XmlValueBuilder(const PropertyListBudget& budget) : _meter(budget) {}
 
     [[nodiscard]] Result<void> begin(std::string_view name);
     [[nodiscard]] Result<void> end();
-    /// UTF-8; one run of text may come in any number of pieces.
+    /// UTF-8; one run of text may arrive in any number of pieces.
     [[nodiscard]] Result<void> text(std::string_view piece);
 
-    /// The value, once the root element has ended; nothing left afterwards.
+    /// The value, once the root element has ended; empties the builder.
     [[nodiscard]] std::optional<PropertyValue> takeValue();
 
  private:

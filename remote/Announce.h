@@ -9,10 +9,10 @@
 
 namespace tonquil {
 
-/// A display as its server announces it.
+/// A display as announced by its server.
 struct AnnouncedScreen {
     std::string referenceID;
-    /// From 1; 0 where the server gave none.
+    /// From 1; 0 if the server sent none.
     std::uint64_t number = 0;
     bool isLocal = false;
     /// The compact array of its curve.
@@ -22,21 +22,21 @@ struct AnnouncedScreen {
     friend bool operator==(const AnnouncedScreen&, const AnnouncedScreen&) = default;
 };
 
-/// What a companion makes of an announce. None of it can be trusted to be printable.
+/// An announce as parsed by a companion. Its text may not be printable.
 struct Announce {
     std::string name;
     std::string guid;
-    /// By number.
+    /// Sorted by number.
     std::vector<AnnouncedScreen> screens;
 
     friend bool operator==(const Announce&, const Announce&) = default;
 
-    /// The screen with this ID; null where there is none.
+    /// The screen with this ID; null if there is none.
     [[nodiscard]] const AnnouncedScreen* screen(std::string_view referenceID) const;
 };
 
-/// Nothing where the datagram is no announce with a "name" and "screens". What is missing or wrong
-/// inside a screen is empty; a member of "screens" that is no object is left out.
+/// Nothing if the datagram is not an announce with "name" and "screens". Missing or invalid members
+/// of a screen are left empty; members of "screens" that are not objects are skipped.
 [[nodiscard]] std::optional<Announce> readAnnounce(std::string_view datagram);
 
 }  // namespace tonquil

@@ -4,7 +4,7 @@
 namespace tonquil {
 
 bool AnswerLimits::take(std::uint32_t host, TokenBucket::Time now) {
-    // Asked for first, so that forged hosts do not even get into the table.
+    // Checked first, so that forged hosts do not even get into the table.
     if (!_all.has(now)) {
         return false;
     }

@@ -8,7 +8,7 @@ namespace tonquil {
 
 namespace {
 
-// The time in which the rate for all grants one answer.
+// The interval at which the global rate grants one answer.
 constexpr std::chrono::milliseconds betweenAttempts{20};
 
 }  // namespace
@@ -41,7 +41,7 @@ void AnswerQueue::answerWaiting() {
     std::vector<SocketAddress> admitted;
     std::erase_if(_waiting,
                   [&](const Waiting& waiting) { return now - waiting.since > longestWait; });
-    // The newest is asked for first, so it gets the grant where there is only one.
+    // The newest is tried first, so it gets the grant if there is only one.
     for (const auto& [recipient, since] : _waiting) {
         if (_limits.take(recipient.host(), now)) {
             admitted.push_back(recipient);
@@ -54,7 +54,7 @@ void AnswerQueue::answerWaiting() {
     if (!_waiting.empty()) {
         startTimer();
     }
-    // Nothing of this object is touched from here on: an answer may end it.
+    // Do not touch this object from here on: sending may destroy it.
     const Send send = _send;
     for (const SocketAddress& recipient : admitted) {
         send(recipient);

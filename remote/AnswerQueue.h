@@ -13,12 +13,12 @@
 
 namespace tonquil {
 
-/// Decides when a scan or a subscription is answered: at once as a rule, a little later or never
-/// where more is asked than `AnswerLimits` grants.
+/// Decides when a scan or subscription is answered: normally at once; later or never when there are
+/// more requests than `AnswerLimits` allows.
 ///
-/// What cannot be answered at once waits, one recipient of each host and `mostWaiting` hosts, and
-/// the newest is answered first. So a companion that asks right after a flood does not wait for the
-/// flood's leftovers to be answered. Whoever has waited for `longestWait` has to ask again.
+/// Deferred answers wait, one recipient per host and at most `mostWaiting` hosts, and the newest is
+/// answered first. So a companion that asks right after a flood does not wait behind it. After
+/// `longestWait` a recipient is dropped and has to ask again.
 class AnswerQueue {
  public:
     using Send = std::function<void(const SocketAddress& recipient)>;
@@ -31,10 +31,10 @@ class AnswerQueue {
     AnswerQueue(const AnswerQueue&) = delete;
     AnswerQueue& operator=(const AnswerQueue&) = delete;
 
-    /// Whether the recipient may be answered at once; the answer is then counted. Programs on this
-    /// computer (127.0.0.0/8) always may.
+    /// Whether the recipient may be answered now; if so, the answer is counted. Always true for
+    /// programs on this computer (127.0.0.0/8).
     [[nodiscard]] bool admits(const SocketAddress& recipient);
-    /// Has the recipient answered as soon as it may be, which may be never.
+    /// Answers the recipient as soon as the limits allow, which may be never.
     void defer(const SocketAddress& recipient);
 
  private:
@@ -49,7 +49,7 @@ class AnswerQueue {
     RunLoop& _runLoop;
     Send _send;
     AnswerLimits _limits;
-    /// The newest first.
+    /// Newest first.
     std::vector<Waiting> _waiting;
     std::unique_ptr<RunLoop::Handle> _timer;
 };

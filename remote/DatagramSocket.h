@@ -10,24 +10,24 @@
 
 namespace tonquil {
 
-/// An IPv4 datagram socket that never makes its caller wait.
+/// A non-blocking IPv4 datagram socket.
 class DatagramSocket {
  public:
-    /// Called with one whole datagram. It may destroy the socket and the handle of the watch.
+    /// Called with one whole datagram. It may destroy the socket and the watch handle.
     using Receiver = std::function<void(std::string_view bytes, const SocketAddress& source)>;
 
     virtual ~DatagramSocket() = default;
 
-    /// Allows sending to 255.255.255.255. Gives what the system's call gives: 0, or -1.
+    /// Allows sending to 255.255.255.255. Returns the result of the system call: 0 or -1.
     [[nodiscard]] virtual int enableBroadcast() = 0;
-    /// Gives 0, or the system's error code; a port that another socket has is an error.
+    /// Returns 0 or errno; a port already in use is an error.
     [[nodiscard]] virtual int bind(const SocketAddress& address) = 0;
-    /// Passes on what comes in, in order, for as long as the handle lives; null when the socket
-    /// cannot be watched. However much comes in, other work of the run loop is not held up.
+    /// Delivers incoming datagrams in order while the handle lives; null if the socket cannot be
+    /// watched. A flood of datagrams does not starve other work in the event loop.
     [[nodiscard]] virtual std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& runLoop,
                                                                      Receiver receiver) = 0;
-    /// Sends one datagram at once or not at all, from the recipient's `ownHost` where it has one.
-    /// To 255.255.255.255 it goes out on every network. Gives 0, or the system's error code.
+    /// Sends one datagram immediately or not at all, from the recipient's `ownHost` if it has one.
+    /// 255.255.255.255 sends on every network. Returns 0 or errno.
     [[nodiscard]] virtual int send(std::string_view bytes, const SocketAddress& recipient) = 0;
 };
 

@@ -8,21 +8,21 @@
 
 namespace tonquil {
 
-/// What the system says of the computer that the program runs on.
+/// System information about this computer.
 class LocalHost {
  public:
     using HardwareAddress = std::array<std::uint8_t, 6>;
 
     virtual ~LocalHost() = default;
 
-    /// The computer's name as a user knows it, in UTF-8; asked for at every announce.
+    /// The computer's name for users, in UTF-8; queried for every announce.
     [[nodiscard]] virtual std::string localizedName() const = 0;
-    /// The MAC address of the main network interface; nothing where it cannot be read.
+    /// The MAC address of the main network interface; nothing if it cannot be read.
     [[nodiscard]] virtual std::optional<HardwareAddress> hardwareAddress() const = 0;
-    /// Whether an IPv4 address (first number in the highest byte) is one of this computer's.
+    /// Whether an IPv4 address (first number in the highest byte) belongs to this computer.
     [[nodiscard]] virtual bool hasAddress(std::uint32_t host) const = 0;
-    /// Whether a datagram to this IPv4 address reaches every computer on one of the networks that
-    /// this one is on. Asked for each datagram.
+    /// Whether this IPv4 address is a broadcast address of a network that this computer is on.
+    /// Queried for every datagram.
     [[nodiscard]] virtual bool isBroadcastAddress(std::uint32_t host) const = 0;
 };
 

@@ -11,14 +11,14 @@
 
 namespace tonquil {
 
-/// Lets through the lines of one kind only as often as people can use them, so that a stranger on
-/// the network cannot fill the log: 20 at once, then one in 10 s.
+/// Rate-limits log lines of one kind, so that a stranger on the network cannot fill the log: 20 at
+/// once, then one in 10 s.
 class LogLimiter {
  public:
-    /// `further` names the kind for the line that counts what was left out: "datagrams ignored".
+    /// `further` names the kind in the line that counts suppressed lines: "datagrams ignored".
     LogLimiter(Log log, std::string further);
 
-    /// Whether a line may be written now; if so, what was left out before is told first.
+    /// Whether a line may be logged now; if so, first logs how many were suppressed before it.
     [[nodiscard]] bool admits(RunLoop::Clock::time_point now);
 
  private:

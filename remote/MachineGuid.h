@@ -8,11 +8,11 @@
 
 namespace tonquil {
 
-/// By what companions tell computers apart: the hardware address as twelve lower-case hexadecimal
-/// digits.
+/// The ID by which companions tell computers apart: the hardware address as twelve lower-case
+/// hexadecimal digits.
 ///
-/// A program makes one for its whole life. The answer to the first question stays, also when it is
-/// empty because the address could not be read.
+/// One instance for the program's lifetime. The first answer is kept, even if it is empty because
+/// the address could not be read.
 class MachineGuid {
  public:
     [[nodiscard]] const std::string& text(const LocalHost& host);

@@ -11,7 +11,7 @@ namespace tonquil::remote {
 
 namespace {
 
-/// Controls, and what changes the direction or the lines of the text around it.
+/// Whether it is neither a control character nor one that changes text direction or lines.
 bool isPlain(char32_t c) {
     return c >= 0x20 && (c < 0x7F || c >= 0xA0) && c != 0x61C && (c < 0x200B || c > 0x200F) &&
            (c < 0x2028 || c > 0x202E) && (c < 0x2066 || c > 0x2069) && c != 0xFEFF &&
@@ -20,7 +20,7 @@ bool isPlain(char32_t c) {
 
 void appendEscaped(std::uint32_t code, std::string& text) {
     std::array<char, 16> escaped{};
-    // The same letters as in C.
+    // The same escape letters as in C.
     const char* const form = code < 0x100 ? "\\x%02x" : code < 0x10000 ? "\\u%04x" : "\\U%08x";
     const int length = std::snprintf(escaped.data(), escaped.size(), form, code);
     text.append(escaped.data(), static_cast<std::size_t>(length));

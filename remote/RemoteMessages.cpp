@@ -19,11 +19,11 @@ struct Tag {
     Kind kind;
 };
 
-/// In the order in which they are tried.
+/// In matching order.
 constexpr std::array tags{Tag{scanTag, Kind::scan}, Tag{stateUpdateTag, Kind::stateUpdate},
                           Tag{announceTag, Kind::announce}, Tag{subscribeTag, Kind::subscribe}};
 
-/// Prepares each member's "gamma"; false where a number is not finite.
+/// Converts each member's "gamma" for output; false if a number is not finite.
 bool prepareCurves(PropertyValue& members) {
     for (auto& member : members) {
         if (entry(member, "gamma") == nullptr || !member["gamma"].is_array()) {

@@ -8,13 +8,13 @@
 
 #include "values/PropertyValue.h"
 
-/// The messages of the remote-configuration protocol as bytes: a tag, which ends in a space, and
-/// for some of them one JSON object.
+/// The messages of the remote-configuration protocol: a tag, which ends in a space, and for some of
+/// them one JSON object.
 namespace tonquil::remote {
 
-/// Where servers listen.
+/// The port that servers listen on.
 inline constexpr std::uint16_t serverPort = 44188;
-/// Where companions hear the announces that nobody asked for.
+/// The port where companions receive unsolicited announces.
 inline constexpr std::uint16_t companionPort = 48184;
 
 inline constexpr std::string_view scanTag = "Kantivel scan ";
@@ -24,25 +24,26 @@ inline constexpr std::string_view subscribeTag = "Kantivel sub ";
 
 enum class Kind { scan, stateUpdate, announce, subscribe, unrecognised };
 
-/// What a datagram is, by its tag. It must be UTF-8 from end to end: otherwise it is unrecognised.
+/// The kind of a datagram, by its tag. It must be entirely valid UTF-8, otherwise it is
+/// unrecognised.
 [[nodiscard]] Kind kindOf(std::string_view datagram);
 
-/// The JSON object behind a tag of `tagLength` bytes; nothing where there is none, or where it is
-/// beyond the bounds of `readBoundedJson`.
+/// The JSON object after a tag of `tagLength` bytes; nothing if there is none or it exceeds the
+/// bounds of `readBoundedJson`.
 [[nodiscard]] std::optional<PropertyValue> objectAfter(std::size_t tagLength,
                                                        std::string_view datagram);
 
-/// A finite single-precision number as JSON writes it shortest: 0.1 and not 0.10000000149011612.
-/// It reads back to the same single.
+/// A finite float as the double that JSON prints shortest: 0.1 and not 0.10000000149011612. It
+/// reads back to the same float.
 [[nodiscard]] double withShortestText(float single);
 
-/// An announce. `screens` holds screen infos by reference ID; the numbers of each "gamma" are
-/// written with the shortest text of their single-precision value. The tag alone where a number
-/// is not finite, which JSON cannot say. Text that is not UTF-8 is mended.
+/// Builds an announce. `screens` holds screen infos by reference ID; the numbers of each "gamma"
+/// are written in the shortest text of their float value. If a number is not finite, which JSON
+/// cannot represent, the result is the tag alone. Invalid UTF-8 in text is repaired.
 [[nodiscard]] std::string announceMessage(std::string_view name, std::string_view guid,
                                           PropertyValue screens);
 
-/// A state update. `states` holds states by reference ID; otherwise as `announceMessage`.
+/// Builds a state update. `states` holds states by reference ID; otherwise like `announceMessage`.
 [[nodiscard]] std::string stateUpdateMessage(PropertyValue states);
 
 }  // namespace tonquil::remote

@@ -9,19 +9,18 @@
 
 namespace tonquil {
 
-/// An IPv4 address and port: where a datagram comes from or goes to.
+/// An IPv4 address and port: the source or destination of a datagram.
 ///
-/// It is kept as the 16 bytes of a socket address: its length 16, the family 2, the port and the
-/// address in network order, eight zeros. Two addresses are the same when all of these are.
+/// Stored as the 16 bytes of a socket address: length 16, family 2, port and address in network
+/// byte order, eight zeros. Two addresses are equal if all of these are.
 ///
-/// The source of a datagram also knows which of this computer's addresses the datagram was sent
-/// to. A companion expects its answer from there, so what is sent to such an address leaves from
-/// it.
+/// The source of a datagram also records which of this computer's addresses the datagram was sent
+/// to. A companion expects the answer from that address, so a reply is sent from it.
 class SocketAddress {
  public:
     using Bytes = std::array<std::uint8_t, 16>;
 
-    /// 255.255.255.255, which reaches every machine on the network.
+    /// 255.255.255.255, which reaches every computer on the network.
     static constexpr std::uint32_t broadcastHost = 0xFFFFFFFF;
 
     /// 0.0.0.0, port 0.
@@ -35,11 +34,11 @@ class SocketAddress {
     [[nodiscard]] std::uint16_t port() const;
     [[nodiscard]] const Bytes& bytes() const { return _bytes; }
 
-    /// The same address, to which datagrams leave from `ownHost`.
+    /// The same address, with `ownHost` as the address to send from.
     [[nodiscard]] SocketAddress reachedFrom(std::uint32_t ownHost) const;
-    /// Our own address to send from; 0 leaves it to the system.
+    /// Our own address to send from; 0 lets the system choose.
     [[nodiscard]] std::uint32_t ownHost() const { return _ownHost; }
-    /// Whether it is in 127.0.0.0/8. The system takes no such source from the network.
+    /// Whether it is in 127.0.0.0/8. The system drops such sources when they come from the network.
     [[nodiscard]] bool isLoopback() const { return _bytes[4] == 127; }
 
     friend bool operator==(const SocketAddress& left, const SocketAddress& right) {

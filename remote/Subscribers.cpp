@@ -6,7 +6,7 @@
 namespace tonquil {
 
 void Subscribers::subscribe(const SocketAddress& address, Time now) {
-    // Taken out first: it comes back with the address of ours that it asked last.
+    // Erased first: it is added back with the address of ours that it used last.
     if (_expiries.erase(address) == 0 && !hasRoomFor(address)) {
         removeExpired(now);
         if (!hasRoomFor(address)) {

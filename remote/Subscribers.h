@@ -11,12 +11,12 @@
 
 namespace tonquil {
 
-/// Who is told of changes, and until when.
+/// Who gets state updates, and until when.
 ///
-/// An address stays for 90 s after its last subscription, or longer: expired ones are removed only
-/// when there is something to tell or no room for another. Strangers cannot make it grow, nor push
-/// anybody out: when it is full, or one host has its share, newcomers are refused. Programs on this
-/// computer (127.0.0.0/8) have no share, only the room that there is.
+/// An address stays for at least 90 s after its last subscription: expired ones are only removed
+/// before a push or when there is no room for a newcomer. Strangers can neither make the list grow
+/// without limit nor push anybody out: when it is full, or a host has used its share, newcomers are
+/// refused. Programs on this computer (127.0.0.0/8) have no share, only the overall limit.
 class Subscribers {
  public:
     using Time = RunLoop::Clock::time_point;
@@ -25,10 +25,9 @@ class Subscribers {
     static constexpr std::size_t most = 256;
     static constexpr std::size_t mostOfOneHost = 64;
 
-    /// Adds the address, or gives it its whole time again. A newcomer for whom there is no room is
-    /// left out.
+    /// Adds the address or renews its time. Drops a newcomer if there is no room.
     void subscribe(const SocketAddress& address, Time now);
-    /// Removes those whose expiry is strictly earlier than `now`.
+    /// Removes those that expired strictly before `now`.
     void removeExpired(Time now);
     [[nodiscard]] bool isEmpty() const { return _expiries.empty(); }
     [[nodiscard]] std::vector<SocketAddress> addresses() const;

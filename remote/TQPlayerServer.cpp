@@ -12,16 +12,16 @@ namespace tonquil {
 
 namespace {
 
-// How much of a datagram the log shows: a usual announce fits.
+// How much of a datagram is logged: a typical announce fits.
 constexpr std::size_t mostLoggedBytes = 1024;
 // How many names a self-test keeps. One is enough to pass it.
 constexpr std::size_t mostNames = 64;
 constexpr std::size_t mostNameBytes = 256;
 // Far more than a computer has displays; a datagram has room for a thousand empty states.
 constexpr int mostStates = 256;
-// `AnswerLimits::forPushes` allows one push in this time.
+// `AnswerLimits::forPushes` allows one push per interval.
 constexpr std::chrono::milliseconds betweenPushes{200};
-// How many of our own scans pass in one self-test: one comes back for each network.
+// How many of our own scans a self-test accepts: one comes back from each network.
 constexpr int mostOwnScans = 4;
 
 }  // namespace
@@ -88,7 +88,7 @@ void TQPlayerServer::startSelfTest() {
     _selfTestNames.emplace();
     _ownScansLeft = mostOwnScans;
     _selfTestTimer = _environment.runLoop.callOnce(selfTestTime, [this] { _selfTestEnd(); });
-    // Always to the protocol's port, whatever port this server itself has.
+    // Always to the protocol's port, whatever port this server uses.
     _sendData(remote::scanTag, SocketAddress(SocketAddress::broadcastHost, remote::serverPort));
 }
 
@@ -96,14 +96,14 @@ void TQPlayerServer::_selfTestEnd() {
     const bool heardNobody = _selfTestNames->empty();
     _selfTestTimer.reset();
     _selfTestNames.reset();
-    // Last, because the answer to it may well be to release the server.
+    // Last, because the callback may destroy the server.
     if (heardNobody && _dataSource != nullptr) {
         _dataSource->playerServerFailedBroadcastTest(*this, noAnnounceHeard);
     }
 }
 
 void TQPlayerServer::_receiveData(std::string_view bytes, const SocketAddress& source) {
-    // An answer to such a source would reach everybody.
+    // Answering such a source would reach everybody.
     if (source.host() == SocketAddress::broadcastHost ||
         _environment.host->isBroadcastAddress(source.host())) {
         return;
@@ -139,8 +139,8 @@ void TQPlayerServer::answer(const SocketAddress& source) {
     }
 }
 
-// A flood at the wrong moment must not make the self-test fail. The system drops datagrams from the
-// network that claim to come from this computer, so nobody else gets past the limits this way.
+// A flood during the self-test must not make it fail. The system drops datagrams from the network
+// that claim to come from this computer, so nobody else can bypass the limits this way.
 bool TQPlayerServer::isOwnScan(const SocketAddress& source) {
     if (!_selfTestNames || _ownScansLeft == 0 || source.port() != _udpPort ||
         !_environment.host->hasAddress(source.host())) {
@@ -217,7 +217,7 @@ void TQPlayerServer::sendAnnounceToRecipients(std::span<const SocketAddress> rec
                 break;
             }
             auto info = _dataSource->playerServerInfoForScreen(*this, referenceID);
-            // A display that goes while it is asked for is none any more.
+            // A display that disappears while it is queried counts as gone.
             if (info.is_object()) {
                 screens[referenceID] = std::move(info);
             }
@@ -239,7 +239,7 @@ void TQPlayerServer::sendStateToSubscribers() {
         return;
     }
     if (!_pushes.take(_environment.runLoop.now())) {
-        // The last state is always told, however many came before it.
+        // The last state is always sent, however many came before it.
         if (!_latePush) {
             _latePush = _environment.runLoop.callOnce(betweenPushes, [this] {
                 _latePush.reset();

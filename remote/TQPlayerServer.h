@@ -24,16 +24,16 @@
 
 namespace tonquil {
 
-/// Answers companions on the local network: describes the displays to them and passes on what they
-/// set. It knows no displays itself; its data source does.
+/// Serves companions on the local network: describes the displays to them and forwards the states
+/// they set. It does not know the displays itself; its data source does.
 ///
-/// Everything happens on the thread of the run loop. A server may be destroyed at any time, also
-/// from a call of its data source. A self-test that is running then ends without a result.
+/// Everything runs on the event loop's thread. A server may be destroyed at any time, even from a
+/// call of its data source; a running self-test then ends without a result.
 class TQPlayerServer {
  public:
     using SocketOpener = std::function<Result<std::unique_ptr<DatagramSocket>>()>;
 
-    /// What a server works with. The referenced objects must outlive it.
+    /// A server's dependencies. The referenced objects must outlive it.
     struct Environment {
         RunLoop& runLoop;
         SocketOpener openSocket;
@@ -42,15 +42,15 @@ class TQPlayerServer {
         Log log;
     };
 
-    /// For how long the server listens for announces after its start.
+    /// How long the server listens for announces after it starts.
     static constexpr std::chrono::milliseconds selfTestTime{300};
-    /// The reason of a failed self-test: no announce came, not even our own.
+    /// The reason for a failed self-test: no announce arrived, not even our own.
     static constexpr std::uint64_t noAnnounceHeard = 2281;
 
-    /// Opens the socket, binds it to `port` of all addresses and starts the self-test.
+    /// Opens the socket, binds it to `port` on all addresses and starts the self-test.
     ///
-    /// A problem when there is no socket or no port; its detail is also in the log. Set the data
-    /// source before the run loop turns.
+    /// Fails if there is no socket or the port is not available; the detail is also logged. Set the
+    /// data source before the event loop runs.
     [[nodiscard]] static Result<std::unique_ptr<TQPlayerServer>> initWithUDPPort(
         Environment environment, std::uint16_t port);
     /// The same with the protocol's port.
@@ -62,28 +62,28 @@ class TQPlayerServer {
     TQPlayerServer& operator=(const TQPlayerServer&) = delete;
 
     [[nodiscard]] std::uint16_t UDPPort() const { return _udpPort; }
-    /// Changes only the number, not the port of the socket.
+    /// Changes only the stored number, not the socket's port.
     void setUDPPort(std::uint16_t port) { _udpPort = port; }
     [[nodiscard]] TQPlayerServerDataSource* dataSource() const { return _dataSource; }
-    /// Not owned. Without one, the server has no displays and sets nothing.
+    /// Not owned. Without one, the server has no displays and ignores states.
     void setDataSource(TQPlayerServerDataSource* dataSource) { _dataSource = dataSource; }
 
     /// Announces to every companion on the network.
     void broadcastAnnounce();
     void sendAnnounceToRecipient(const SocketAddress& recipient);
-    /// Builds one announce and sends it to each, in order.
+    /// Builds one announce and sends it to each recipient, in order.
     void sendAnnounceToRecipients(std::span<const SocketAddress> recipients);
-    /// Drops the subscribers whose time is up and announces to the others. More often than
-    /// `AnswerLimits::forPushes` says, several calls become one a little later.
+    /// Drops expired subscribers and sends an announce to the others. Calls beyond the rate of
+    /// `AnswerLimits::forPushes` are merged into one a little later.
     void sendStateToSubscribers();
 
-    /// Handles one datagram, whatever it holds.
+    /// Handles one datagram with any contents.
     void _receiveData(std::string_view bytes, const SocketAddress& source);
     void _sendData(std::string_view bytes, const SocketAddress& recipient);
     void _broadcastData(std::string_view bytes);
-    /// 255.255.255.255 and the companions' port.
+    /// 255.255.255.255 with the companions' port.
     [[nodiscard]] static SocketAddress _broadcastRecipient();
-    /// An address in dotted numbers, with the companions' port; 255.255.255.255 for other text.
+    /// A dotted IPv4 address with the companions' port; 255.255.255.255 for any other text.
     [[nodiscard]] static SocketAddress _makeRecipientFromString(const std::string& text);
 
  private:
@@ -99,7 +99,7 @@ class TQPlayerServer {
     void ignore(std::string_view bytes);
     void log(std::string_view line) const;
 
-    /// Expires with the server: a call of the data source may destroy it.
+    /// Expires with the server, because a call of the data source may destroy it.
     std::shared_ptr<bool> _isAlive = std::make_shared<bool>(true);
     Environment _environment;
     std::uint16_t _udpPort;
@@ -113,7 +113,7 @@ class TQPlayerServer {
     Subscribers _stateSubscribers;
     TokenBucket _pushes{AnswerLimits::forPushes};
     std::unique_ptr<RunLoop::Handle> _latePush;
-    /// There only while the self-test's window is open.
+    /// Only set while the self-test is running.
     std::optional<std::set<std::string>> _selfTestNames;
     std::unique_ptr<RunLoop::Handle> _selfTestTimer;
     int _ownScansLeft = 0;

@@ -5,24 +5,24 @@
 
 namespace tonquil {
 
-/// How often something may happen: so many times at once, then so many times a second.
+/// A rate limit: a burst, then a number per second.
 struct Rate {
     double burst;
     double perSecond;
 };
 
-/// Grants what its rate allows; full at first.
+/// Token bucket for a rate; initially full.
 class TokenBucket {
  public:
     using Time = RunLoop::Clock::time_point;
 
     explicit TokenBucket(Rate rate) : _rate(rate), _tokens(rate.burst) {}
 
-    /// Whether a grant could be taken now.
+    /// Whether a token is available now.
     [[nodiscard]] bool has(Time now) const { return tokensAt(now) >= 1; }
-    /// Takes one grant; false, and nothing taken, where there is none.
+    /// Takes one token; false, without effect, if there is none.
     [[nodiscard]] bool take(Time now);
-    /// Whether it is as good as new.
+    /// Whether all tokens are back.
     [[nodiscard]] bool isFull(Time now) const { return tokensAt(now) >= _rate.burst; }
 
  private:

@@ -6,13 +6,13 @@
 
 namespace tonquil {
 
-/// Names a display while it is attached; another one may be given when it comes back. 0 stands for
+/// Identifies a display while it is attached; it may get a different ID when it comes back. 0 means
 /// the main display.
 using DisplayID = std::uint32_t;
 
-/// What a display says of itself.
+/// What a display reports about itself.
 struct DisplayIdentity {
-    /// 0 and 4294967295 mean that the display has none.
+    /// 0 and 4294967295 mean no serial number.
     std::uint32_t serialNumber = 0;
     std::uint32_t modelNumber = 0;
     std::uint32_t vendorNumber = 0;
@@ -23,15 +23,15 @@ struct DisplayIdentity {
     bool operator==(const DisplayIdentity&) const = default;
 };
 
-/// What people are told of a display.
+/// What the user sees about a display.
 struct DisplayDescription {
-    /// The name of the socket, such as "DP-1".
+    /// The connector name, such as "DP-1".
     std::string connector;
-    /// The monitor's own name, such as "DELL U2720Q"; may be empty.
+    /// The monitor's model name, such as "DELL U2720Q"; may be empty.
     std::string productName;
-    /// Entries per channel of the hardware ramp; 0 where there is none.
+    /// Entries per channel of the hardware gamma ramp; 0 if there is none.
     std::uint32_t rampSize = 0;
-    /// Why the display cannot be corrected, as a sentence; empty when it can.
+    /// Why the display cannot be corrected, as a sentence; empty if it can.
     std::string obstacle;
     /// Whether a correction stays on the display when the program that set it ends.
     bool outlivesProgram = true;

@@ -17,8 +17,8 @@
 
 namespace tonquil {
 
-/// Tells what a call of a reconfiguration callback is about: exactly `beginConfiguration` before a
-/// change, anything else after it.
+/// The phase of a reconfiguration callback: exactly `beginConfiguration` before a change, anything
+/// else after it.
 using ReconfigurationFlags = std::uint32_t;
 inline constexpr ReconfigurationFlags beginConfiguration = 1;
 inline constexpr ReconfigurationFlags endConfiguration = 2;
@@ -26,51 +26,54 @@ inline constexpr ReconfigurationFlags endConfiguration = 2;
 /// The attached displays and their transfer tables.
 ///
 /// A table is 256 levels of 0…1 per channel whatever the display's own ramp length; an
-/// implementation resamples end to end, clamps, and takes a not-a-number for 0. The table that is
-/// *read* is the system calibration: that of the display's colour profile where the desktop
-/// publishes one, otherwise the last ramp that was there while no correction was held. It is never
-/// a correction that was set through a service, in this process or an earlier one, and never a ramp
-/// with which somebody else replaced a correction that this service set and has not taken back.
+/// implementation resamples end to end, clamps, and treats NaN as 0.
+///
+/// The table that is *read* is the system calibration: from the display's colour profile if the
+/// desktop publishes one, otherwise the last ramp that was there while no correction was held. It
+/// is never a correction set through a service, in this process or an earlier one, and never a ramp
+/// that another program wrote over a correction of this service before the service restored the
+/// display.
+///
 /// Display ID 0 means the main display. Calls for a display that is gone, or that cannot be
-/// corrected, do nothing; the log says so once.
+/// corrected, do nothing and log it once.
 class DisplayService : public SystemCalibration {
  public:
-    /// Called on the main thread with each affected display, first for all of them with
-    /// `beginConfiguration`, then for all with another flag. A service that learns of changes only
+    /// Called on the main thread for each affected display: first for all of them with
+    /// `beginConfiguration`, then for all with another flag. A service that only learns of changes
     /// afterwards makes both calls then.
     using ReconfigurationCallback = std::function<void(DisplayID, ReconfigurationFlags)>;
 
-    /// Destroying it removes the callback.
+    /// The destructor removes the callback.
     class Subscription {
      public:
         virtual ~Subscription() = default;
     };
 
-    /// At most `most` displays that show something, the main display first.
+    /// At most `most` displays that show a picture, the main display first.
     [[nodiscard]] virtual std::vector<DisplayID> onlineDisplays(std::size_t most) = 0;
     /// 0 when there is no display.
     [[nodiscard]] virtual DisplayID mainDisplay() = 0;
-    /// All zeros for a display that is gone; so are the bounds.
+    /// All zeros for a display that is gone; the same for the bounds.
     [[nodiscard]] virtual DisplayIdentity identity(DisplayID display) = 0;
     [[nodiscard]] virtual DisplayDescription description(DisplayID display) = 0;
-    /// In the top-down desktop space: the origin is its upper left corner.
+    /// In top-down desktop space, with the origin in the upper left corner.
     [[nodiscard]] virtual Rectangle bounds(DisplayID display) = 0;
-    /// At most `most` displays whose bounds contain a point of the top-down space.
+    /// At most `most` displays whose bounds contain a point in top-down space.
     [[nodiscard]] std::vector<DisplayID> displaysWithPoint(const Point& point, std::size_t most);
 
-    /// Takes effect at the end of the batch, and so at once outside of one.
+    /// Takes effect at the end of the batch, or immediately outside a batch.
     virtual void setTransferTable(DisplayID display, const GammaTable& table) = 0;
-    /// Fills the first slots of each channel with the system's table, leaves the others, and
-    /// returns how many it filled: the lesser of 256 and the ramp's length, 0 when there is none.
+    /// Fills the first slots of each channel with the system's table, leaves the others unchanged,
+    /// and returns how many it filled: the smaller of 256 and the ramp length, 0 if there is none.
     [[nodiscard]] virtual std::uint32_t getTransferTable(DisplayID display, GammaTable& table) = 0;
-    /// The same for what is on the hardware now, corrected or not; 0 where that cannot be known.
+    /// The same for the table now on the hardware, corrected or not; 0 if it cannot be read.
     [[nodiscard]] virtual std::uint32_t getHardwareTable(DisplayID display, GammaTable& table) = 0;
     void setTransferFormula(DisplayID display, const TransferFormula& formula);
-    /// The power law that comes nearest to the system's table; a straight line where there is none.
+    /// The power law closest to the system's table; a straight line if there is none.
     [[nodiscard]] TransferFormula getTransferFormula(DisplayID display);
 
-    /// Puts the given displays back to the system calibration, or to a straight line where that is
-    /// not known.
+    /// Restores the system calibration of the given displays, or a straight line if it is not
+    /// known.
     virtual void restoreSystemCalibration(std::span<const DisplayID> displays) = 0;
     /// The same for every display.
     void restoreSystemCalibration() override;
@@ -86,18 +89,18 @@ class DisplayService : public SystemCalibration {
  protected:
     friend class DisplayBatch;
 
-    /// Batches nest; only the outermost begins and ends here.
+    /// Batches nest; only the outermost one calls this.
     virtual void beginBatch() = 0;
-    /// Carries out what is pending and returns whether all that was set since `beginBatch`
-    /// reached its display.
+    /// Sends everything pending and returns whether every change since `beginBatch` reached its
+    /// display.
     virtual bool endBatch() = 0;
 
  private:
     int _batchDepth = 0;
 };
 
-/// Joins the calls made during its life: what is set goes out together and is waited for once, and
-/// what is read is read at one moment.
+/// Groups the calls made during its lifetime: writes are sent together with a single wait, and
+/// reads see one moment in time.
 class DisplayBatch {
  public:
     explicit DisplayBatch(DisplayService& service);
@@ -105,8 +108,8 @@ class DisplayBatch {
     DisplayBatch& operator=(const DisplayBatch&) = delete;
     ~DisplayBatch() { static_cast<void>(finish()); }
 
-    /// Ends the batch now. False when something could not be set; the log says what. While another
-    /// batch is open nothing has been sent yet, and the answer is true.
+    /// Ends the batch now. False if a change failed; the log says which. Inside another batch
+    /// nothing has been sent yet, and it returns true.
     [[nodiscard]] bool finish();
 
  private:

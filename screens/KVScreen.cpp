@@ -44,7 +44,7 @@ std::shared_ptr<const PlatformScreen> KVScreen::nsscreen() {
 void KVScreen::readBaseGamma() {
     BaseGamma base;
     base.sampleCount = _service.getTransferTable(_directDisplayID, base.table);
-    // A display that vanishes at this moment must not lose the base that it had.
+    // A display that disappears right now must not lose the base it had.
     if (base.sampleCount > 0) {
         _baseGamma = base;
     }

@@ -19,28 +19,28 @@
 
 namespace tonquil {
 
-/// One physical display: its identity, its own calibration (the base), the curve that it was given
-/// and whether a curve is applied as soon as it is assigned. Where the registry cannot tell twins
-/// apart, one screen stands for several displays.
+/// One physical display: its identity, its own calibration (the base), its assigned curve and
+/// whether a curve is applied as soon as it is assigned. If the registry cannot tell twins apart,
+/// one screen stands for several displays.
 ///
-/// Screens are made by the registry and live as long as it does, so that a display that is
-/// unplugged and comes back finds its curve. The display service must outlive them.
+/// The registry creates screens and keeps them as long as it lives, so a display that is unplugged
+/// and comes back finds its curve. The display service must outlive them.
 class KVScreen : public CurveScreen {
  public:
     using CurvePointer = std::shared_ptr<KVGammaCurve>;
 
     /// The main display.
     explicit KVScreen(DisplayService& service);
-    /// Computes the reference ID and reads the base; without a curve and with auto-apply off.
+    /// Computes the reference ID and reads the base; no curve, auto-apply off.
     KVScreen(DisplayService& service, DisplayID directDisplayID);
     KVScreen(const KVScreen&) = delete;
     KVScreen& operator=(const KVScreen&) = delete;
     ~KVScreen() override = default;
 
     [[nodiscard]] DisplayID directDisplayID() const { return _directDisplayID; }
-    /// Binds the screen to its display's new ID; everything else stays as it was.
+    /// Binds the screen to its display's new ID; everything else is unchanged.
     void _setDirectDisplayID(DisplayID display);
-    /// Displays other than the one it is bound to that get the same tables.
+    /// Further displays that get the same tables.
     void setOtherDisplayIDs(std::vector<DisplayID> displays) {
         _otherDisplayIDs = std::move(displays);
     }
@@ -48,34 +48,33 @@ class KVScreen : public CurveScreen {
     /// The reference ID with the connector that the display is, or was last, plugged into.
     [[nodiscard]] std::string twinReferenceID() const;
     [[nodiscard]] bool isReferenceIDLocallyUnique() const { return _referenceID.isLocallyUnique; }
-    /// The identity that earlier settings used: the display ID in decimal.
+    /// The ID used by earlier settings: the display ID in decimal.
     [[nodiscard]] std::string oldReferenceID() const { return std::to_string(_directDisplayID); }
-    /// The keys that a settings file may hold its curve under, the most exact one first.
+    /// The keys under which a settings file may hold its curve, most specific first.
     [[nodiscard]] std::array<std::string, 3> keys() const {
         return {twinReferenceID(), referenceID(), oldReferenceID()};
     }
-    /// Whether a person may mean this display by `name`: its reference ID or its connector.
+    /// Whether `name` means this display for a user: its reference ID or its connector.
     [[nodiscard]] bool isNamed(std::string_view name) const {
         return name == referenceID() || name == _connector;
     }
-    /// The screen that windows know this display by; null while there is none. The first one found
-    /// is kept.
+    /// The platform screen of this display; null while there is none. Cached once found.
     [[nodiscard]] std::shared_ptr<const PlatformScreen> nsscreen();
 
-    /// Reads the base anew, so that it becomes the system's present calibration. A display that
-    /// cannot be read keeps the base that it had.
+    /// Reads the base again, so that it is the system's current calibration. A display that cannot
+    /// be read keeps its old base.
     void readBaseGamma();
     /// Copies all 256 slots of each channel and returns how many of them the display filled.
     std::uint32_t getBaseGamma(GammaTable& table) const;
 
     /// Null until a curve is assigned.
     [[nodiscard]] const CurvePointer& gammaCurve() const { return _gammaCurve; }
-    /// Assigns a curve, or none; with auto-apply on it is applied at once.
+    /// Assigns a curve, or none; with auto-apply on it is applied immediately.
     void setGammaCurve(CurvePointer curve);
-    /// Puts the curve on the display; does nothing without one. Allocates nothing.
+    /// Applies the curve to the display; does nothing without one. Does not allocate.
     void applyGammaCurve();
     [[nodiscard]] bool autoApplyGamma() const { return _autoApplyGamma; }
-    /// Switching it on applies the curve.
+    /// Switching it on also applies the curve.
     void setAutoApplyGamma(bool autoApplyGamma);
     void activateAutoApplyGamma() { setAutoApplyGamma(true); }
     void deactivateAutoApplyGamma() { setAutoApplyGamma(false); }
@@ -84,8 +83,8 @@ class KVScreen : public CurveScreen {
     /// Assigns an extended curve made from this screen: the neutral one over the base.
     void retriveExtendedGammaCurve();
     /// Assigns the curve that an all-screens dictionary holds under this screen's twin reference
-    /// ID, else under its reference ID or its old-style one, whichever key comes first; without any
-    /// of them, the initial curve itself if one is given.
+    /// ID, else under its reference ID or old-style ID, whichever key sorts first; if it has none
+    /// of them, the initial curve object if given.
     void adoptGammaCurveDictionary(const nlohmann::json& dictionary, CurvePointer initialCurve);
 
     [[nodiscard]] const BaseGamma& baseGamma() const override { return _baseGamma; }

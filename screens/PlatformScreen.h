@@ -9,11 +9,11 @@
 
 namespace tonquil {
 
-/// A screen as windows know it: where it lies in the bottom-up desktop space, whose origin is the
-/// lower left corner of the main display, and what people call it.
+/// A screen as windows see it: its position in bottom-up desktop space, with the origin in the
+/// lower left corner of the main display, and its name for users.
 ///
-/// It asks the display service each time, so it stays true when its display moves; once the display
-/// is gone its frame is empty.
+/// It asks the display service on each call, so it stays correct when the display moves; once the
+/// display is gone its frame is empty.
 class PlatformScreen {
  public:
     PlatformScreen(DisplayService& service, DisplayID screenNumber)
@@ -21,7 +21,7 @@ class PlatformScreen {
 
     [[nodiscard]] DisplayID screenNumber() const { return _screenNumber; }
     [[nodiscard]] Rectangle frame() const;
-    /// The connector, followed by the monitor's name where it has one.
+    /// The connector, followed by the monitor's name if it has one.
     [[nodiscard]] std::string localizedName() const;
 
  private:
@@ -29,11 +29,11 @@ class PlatformScreen {
     DisplayID _screenNumber;
 };
 
-/// The screens that windows can be on, in the display service's order.
+/// The screens that can show windows, in the display service's order.
 [[nodiscard]] std::vector<std::shared_ptr<const PlatformScreen>> platformScreens(
     DisplayService& service);
 
-/// Turns a rectangle of the top-down desktop space into the bottom-up one, and back.
+/// Converts a rectangle from top-down to bottom-up desktop space, and back.
 [[nodiscard]] Rectangle flipped(DisplayService& service, const Rectangle& rectangle);
 [[nodiscard]] Point flipped(DisplayService& service, const Point& point);
 

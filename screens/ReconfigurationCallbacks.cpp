@@ -29,7 +29,7 @@ std::unique_ptr<DisplayService::Subscription> ReconfigurationCallbacks::add(
 }
 
 void ReconfigurationCallbacks::call(DisplayID display, ReconfigurationFlags flags) const {
-    // The copies keep alive what is being called.
+    // The copies keep the list and the callback alive during the call.
     const std::shared_ptr<List> list = _list;
     const List callbacks = *list;
     for (const auto& callback : callbacks) {

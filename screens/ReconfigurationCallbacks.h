@@ -8,10 +8,10 @@
 
 namespace tonquil {
 
-/// The callbacks that a display service was given, for its implementations.
+/// The list of registered callbacks, for display service implementations.
 ///
-/// A callback may end its own registration or another's, and may add one, while it is called. A
-/// subscription may outlive the list.
+/// A callback may add callbacks and remove itself or others while it runs. A subscription may
+/// outlive the list.
 class ReconfigurationCallbacks {
  public:
     [[nodiscard]] std::unique_ptr<DisplayService::Subscription> add(

@@ -10,7 +10,7 @@ namespace tonquil {
 namespace {
 
 std::string sixDecimals(double value) {
-    // Locale-free, unlike printf. The buffer holds the longest double in this form.
+    // Unlike printf, independent of the locale. The buffer holds the longest double in this form.
     std::array<char, 330> text{};
     const auto [end, error] =
         std::to_chars(text.data(), text.data() + text.size(), std::isfinite(value) ? value : 0.0,
@@ -23,7 +23,7 @@ std::string sixDecimals(double value) {
 ReferenceID referenceIDFor(const DisplayIdentity& identity) {
     const std::string kind =
         std::to_string(identity.modelNumber) + "-" + std::to_string(identity.vendorNumber);
-    // Wraps, so that it is true for neither 0 nor 4294967295.
+    // Wraps around, so it is false for both 0 and 4294967295.
     if (identity.serialNumber + 1U > 1U) {
         return {std::to_string(identity.serialNumber) + "-" + kind, false};
     }

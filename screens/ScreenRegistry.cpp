@@ -9,7 +9,7 @@
 namespace tonquil {
 
 void ScreenRegistry::updateScreenList() {
-    // New screens read their bases: at one moment, and waiting once.
+    // New screens read their bases: all at one moment, with a single wait.
     const DisplayBatch batch(_service);
     Screens online;
     std::vector<Place> places;
@@ -20,7 +20,7 @@ void ScreenRegistry::updateScreenList() {
             _sightedScreens.end()) {
             _sightedScreens.push_back(screen);
         }
-        // Over a base of another length than its ramp, or of none, a curve would come out black.
+        // A base of a different length than the ramp, or an empty one, would turn a curve black.
         const std::uint32_t rampSize = _service.description(display).rampSize;
         if (std::min(rampSize, GammaTable::capacity) != screen->baseGamma().sampleCount) {
             screen->readBaseGamma();
@@ -33,8 +33,8 @@ void ScreenRegistry::updateScreenList() {
     shareTablesAmongPlaces();
 }
 
-// Twins that share a screen take it over from each other at every update, so what a display found
-// when it came is known only from its place in the previous list.
+// Twins that share a screen take it over from each other on every update, so the curve that a
+// display found on arrival is known only from its place in the previous list.
 ScreenRegistry::Place ScreenRegistry::placeFor(const KVScreen& screen, bool isTakenOver) const {
     const DisplayID display = screen.directDisplayID();
     const auto before = std::ranges::find(_places, display, &Place::display);
@@ -63,7 +63,7 @@ bool ScreenRegistry::isShared(const std::string& referenceID) {
            }) > 1;
 }
 
-// Until the new list is complete, the reference IDs are looked up in the previous one.
+// While the new list is being built, reference IDs are looked up in the previous one.
 ScreenRegistry::ScreenPointer ScreenRegistry::screenForOnlineDisplay(DisplayID display) {
     if (auto sighted = _sightedScreenWithDirectDisplayID(display)) {
         return sighted;
@@ -128,7 +128,7 @@ ScreenRegistry::ScreenPointer ScreenRegistry::screenWithDirectDisplayID(DisplayI
 
 ScreenRegistry::ScreenPointer ScreenRegistry::_sightedScreenWithDirectDisplayID(
     DisplayID display) const {
-    // Without an update nothing has been sighted, so this is null until then.
+    // Before the first update no screen is sighted, so this is null.
     const auto found =
         std::find_if(_sightedScreens.begin(), _sightedScreens.end(),
                      [=](const auto& screen) { return screen->directDisplayID() == display; });
@@ -152,7 +152,7 @@ void ScreenRegistry::adoptGammaCurveDictionary(const PropertyValue& dictionary,
     for (const ScreenPointer& screen : screens()) {
         const PropertyValue* stored = entry(dictionary, screen->twinReferenceID());
         if (stored == nullptr) {
-            // Stored before the display had a twin, so it is for each of them.
+            // Stored before the display had a twin, so it applies to both.
             stored = entry(dictionary, screen->referenceID());
         }
         if (stored != nullptr) {

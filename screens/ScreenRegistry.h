@@ -15,14 +15,14 @@ namespace tonquil {
 
 /// The screens online at the last update, and every screen seen since the program started.
 ///
-/// A program has one registry, made where the program is composed. Looking up a screen never
-/// reports an error: a null pointer or an empty list means that there is none.
+/// A program creates one registry at startup. Looking up a screen never reports an error: a null
+/// pointer or an empty list means that there is none.
 class ScreenRegistry {
  public:
     using ScreenPointer = std::shared_ptr<KVScreen>;
     using Screens = std::vector<ScreenPointer>;
 
-    /// No more displays than this are listed.
+    /// At most this many displays are listed.
     static constexpr std::size_t mostScreens = 25;
 
     /// The service must outlive the registry and its screens.
@@ -30,57 +30,56 @@ class ScreenRegistry {
     ScreenRegistry(const ScreenRegistry&) = delete;
     ScreenRegistry& operator=(const ScreenRegistry&) = delete;
 
-    /// Lists the displays anew. A display is recognised by its display ID if that was ever seen,
-    /// else by its reference ID if a screen of the list so far has it.
+    /// Refreshes the list of displays. A display is recognised by its display ID if that was seen
+    /// before, otherwise by its reference ID if a screen in the current list has it.
     ///
     /// So when a twin (a display with the same reference ID as a listed one) arrives, it takes over
     /// the other's screen. The list then holds that screen twice, and it sets both displays. Twins
-    /// have screens of their own when they arrive together, or come back.
+    /// get screens of their own if they arrive together, or come back.
     void updateScreenList();
-    /// In the display service's order; the first call makes the list.
+    /// In the display service's order; the first call builds the list.
     [[nodiscard]] const Screens& screens();
     /// In no particular order.
     [[nodiscard]] const Screens& sightedScreens() const { return _sightedScreens; }
 
-    /// The screens whose bounds contain a point of the bottom-up desktop space.
+    /// The screens whose bounds contain a point in bottom-up desktop space.
     [[nodiscard]] Screens screensWithPoint(const Point& point);
-    /// The screens whose bounds are exactly a rectangle of the bottom-up desktop space.
+    /// The screens whose bounds are exactly a rectangle in bottom-up desktop space.
     [[nodiscard]] Screens screensWithRect(const Rectangle& rectangle);
-    /// The screens whose bounds contain, or intersect, a rectangle of the *top-down* space.
+    /// The screens whose bounds contain, or intersect, a rectangle in *top-down* space.
     [[nodiscard]] Screens screensContainingRect(const Rectangle& rectangle);
     [[nodiscard]] Screens screensIntersectingRect(const Rectangle& rectangle);
-    /// The screen under the centre of the platform screen's frame, taken unflipped; null for null
-    /// only where no display lies at the origin.
+    /// The screen under the centre of the platform screen's frame, used without flipping. A null
+    /// argument gives null only if no display lies at the origin.
     [[nodiscard]] ScreenPointer screenWithScreen(const PlatformScreen* platformScreen);
-    /// The sighted screen with this ID, else a new one that the registry does not keep.
+    /// The sighted screen with this ID, or a new one that the registry does not keep.
     [[nodiscard]] ScreenPointer screenWithDirectDisplayID(DisplayID display);
-    /// Null also before the first update.
+    /// Also null before the first update.
     [[nodiscard]] ScreenPointer _sightedScreenWithDirectDisplayID(DisplayID display) const;
-    /// The first listed screen with this reference ID, by exact match; null before the first
-    /// update.
+    /// The first listed screen with exactly this reference ID; null before the first update.
     [[nodiscard]] ScreenPointer screenWithReferenceID(std::string_view referenceID) const;
 
-    /// Assigns to each listed screen that has an entry in an all-screens dictionary (under its twin
-    /// reference ID, else its reference ID; old-style IDs are not looked for) its curve, and to all
-    /// others the initial curve itself, if one is given: they share it.
+    /// Assigns curves from an all-screens dictionary to the listed screens (by twin reference ID,
+    /// else reference ID; old-style IDs are ignored). All others get the initial curve object, if
+    /// one is given, and share it.
     void adoptGammaCurveDictionary(const nlohmann::json& dictionary,
                                    const KVScreen::CurvePointer& initialCurve);
     /// The curves of the listed screens by reference ID; those of twins also by twin reference ID.
     [[nodiscard]] nlohmann::json gammaCurveDictionary();
-    /// The same, for merging into a stored all-screens dictionary. A twin's entry in there is
-    /// updated even while its twin is unplugged. But a display that took over its twin's screen
-    /// keeps its stored entry until that screen gets another curve: nobody chose to replace it.
+    /// The same, for merging into a stored all-screens dictionary. A twin's stored entry is updated
+    /// even while its twin is unplugged. But a display that took over its twin's screen keeps its
+    /// stored entry until that screen gets another curve, because nobody chose to replace it.
     [[nodiscard]] nlohmann::json gammaCurveDictionaryOver(const nlohmann::json& stored);
-    /// These laid over the given all-screens dictionary, whose other entries stay as they are.
+    /// The same, merged over the given all-screens dictionary, whose other entries are kept.
     [[nodiscard]] nlohmann::json gammaCurveDictionaryExtendingDictionary(
         const nlohmann::json& dictionary);
 
  private:
-    /// A place in the list. One screen may have several, each for another display.
+    /// An entry of the list. One screen may have several, one per display.
     struct Place {
         DisplayID display;
         std::string twinReferenceID;
-        /// The curve of the screen that the display took over when it came; null once it changed.
+        /// The curve of the screen that the display took over on arrival; null once it changed.
         KVScreen::CurvePointer takenOver;
     };
 
@@ -93,7 +92,7 @@ class ScreenRegistry {
 
     DisplayService& _service;
     std::optional<Screens> _screens;
-    /// As many as there are screens in the list, in its order.
+    /// Parallel to the list of screens.
     std::vector<Place> _places;
     Screens _sightedScreens;
 };

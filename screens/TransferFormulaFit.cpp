@@ -19,7 +19,7 @@ ChannelFormula fit(std::span<const float> levels) {
         return formula;
     }
     // With y = (level - min) / (max - min) the law is log y = exponent * log x, a line through the
-    // origin, whose least-squares slope is sum(log x log y) / sum(log x log x).
+    // origin with the least-squares slope sum(log x log y) / sum(log x log x).
     double sumXY = 0;
     double sumXX = 0;
     for (std::size_t i = 1; i + 1 < levels.size(); ++i) {

@@ -8,9 +8,9 @@
 
 namespace tonquil {
 
-/// Minimum and maximum from the ends of each channel's first `sampleCount` slots, the exponent as
-/// the least-squares line through the logarithms of what lies between. A channel that is constant,
-/// or of fewer than three slots, has the exponent 1; no slots at all give 0, 1 and 1.
+/// Fits a power law: minimum and maximum from the ends of each channel's first `sampleCount` slots,
+/// the exponent by least squares through the logarithms in between. A channel that is constant, or
+/// has fewer than three slots, gets the exponent 1; no slots at all give 0, 1 and 1.
 [[nodiscard]] TransferFormula fitTransferFormula(const GammaTable& table,
                                                  std::uint32_t sampleCount);
 

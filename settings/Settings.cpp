@@ -39,7 +39,7 @@ Result<Settings> readSettings(std::vector<std::uint8_t> bytes) {
     if (screens == nullptr || !screens->is_object()) {
         return MultiDisplaySettings{.screens = nullptr};
     }
-    // All of them would be kept in the preferences, and saved with them from then on.
+    // All of them would go into the preferences and be saved there from then on.
     if (screens->size() > mostDisplays) {
         return problemWith(
             TONQUIL_TEXT("Problem", "The file has curves for more than %@ displays."),

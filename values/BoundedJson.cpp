@@ -8,8 +8,8 @@ namespace {
 constexpr int deepest = 16;
 constexpr int mostSeparators = 4096;
 
-/// Counts brackets and separators without regard to strings: a string full of brackets is refused
-/// too, which costs no real message anything and keeps the scan free of a second grammar.
+/// Counts brackets and separators even inside strings: this also refuses a string full of brackets,
+/// which no real message has, and avoids a second JSON grammar.
 bool isWithinBounds(std::string_view text) {
     int depth = 0;
     int separators = 0;

@@ -8,10 +8,10 @@
 
 namespace tonquil {
 
-/// Reads JSON that comes from outside the program, such as a command line or the network.
+/// Reads JSON from outside the program, such as the command line or the network.
 ///
-/// Before the parser sees it, the text must pass a linear scan: at most 16 levels of nesting, at
-/// most 4,096 separators and no NUL, all far above any real use. Never throws.
+/// Before parsing, the text must pass a linear scan: at most 16 levels of nesting, at most 4,096
+/// separators and no NUL, all far above any real use. Never throws.
 [[nodiscard]] Result<PropertyValue> readBoundedJson(std::string_view text);
 
 }  // namespace tonquil

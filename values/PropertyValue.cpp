@@ -11,7 +11,7 @@ namespace tonquil {
 
 namespace {
 
-/// The text after leading white space and one plus sign, neither of which `from_chars` accepts.
+/// The text after leading white space and one plus sign, which `from_chars` does not accept.
 std::string_view numberText(const PropertyValue& string) {
     std::string_view text = string.get_ref<const std::string&>();
     const auto start = text.find_first_not_of(" \t\r\n\v\f");
@@ -22,8 +22,8 @@ std::string_view numberText(const PropertyValue& string) {
     return text;
 }
 
-/// Whether a decimal number other than 0 is smaller than 1, judged by where its first digit that
-/// counts stands and by its exponent, either of which may be beyond any number type.
+/// Whether a nonzero decimal number is below 1, judged by the position of its first nonzero digit
+/// and its exponent, which may exceed any number type.
 bool isBelowOne(std::string_view number) {
     const auto mantissa = number.substr(0, number.find_first_of("eE"));
     std::string_view exponentText = number.substr(mantissa.size());
@@ -43,11 +43,10 @@ bool isBelowOne(std::string_view number) {
     return point - first <= (negative ? exponent : -exponent);
 }
 
-/// The leading number of a string: 0 where there is none, the nearest that there is where it does
-/// not fit.
+/// The leading number of a string: 0 if there is none, clamped to the type's range.
 template <typename Number>
 Number leadingNumber(std::string_view text) {
-    // `from_chars` would also read "inf" and "nan", which are words and not decimal numbers.
+    // `from_chars` would also accept "inf" and "nan".
     const auto first = text.find_first_not_of('-');
     if (first == std::string_view::npos || std::isalpha(static_cast<unsigned char>(text[first]))) {
         return Number{};
@@ -57,7 +56,7 @@ Number leadingNumber(std::string_view text) {
     if (error == std::errc::result_out_of_range) {
         const bool negative = text.front() == '-';
         if constexpr (std::is_floating_point_v<Number>) {
-            // Too large and too small are the same error.
+            // `from_chars` reports overflow and underflow as the same error.
             const bool tiny =
                 isBelowOne({text.data(), static_cast<std::size_t>(end - text.data())});
             const Number size = tiny ? Number{0} : std::numeric_limits<Number>::infinity();
@@ -91,7 +90,7 @@ bool isNumber(const PropertyValue& value) {
 }
 
 float toSinglePrecision(double value) {
-    // Half a step beyond the largest finite single is where rounding reaches infinity.
+    // Half a step above the largest finite float, rounding gives infinity.
     constexpr double overflow = 0x1.ffffffp+127;
     if (value >= overflow) {
         return std::numeric_limits<float>::infinity();

@@ -7,14 +7,15 @@
 
 namespace tonquil {
 
-/// Takes the first character off UTF-8 text that is not empty. Nothing, and the text as it was,
-/// where it does not begin with a valid one: overlong forms and surrogates are not.
+/// Takes the first character off non-empty UTF-8 text. If the text does not start with a valid
+/// character (overlong forms and surrogates are invalid), returns nothing and leaves the text
+/// unchanged.
 [[nodiscard]] std::optional<char32_t> takeCharacter(std::string_view& text);
 
-/// Whether the bytes are UTF-8 from end to end.
+/// Whether all bytes are valid UTF-8.
 [[nodiscard]] bool isUtf8(std::string_view bytes);
 
-/// Appends a character as UTF-8. It must be no surrogate and at most U+10FFFF.
+/// Appends a character as UTF-8. It must not be a surrogate and is at most U+10FFFF.
 void appendUtf8(std::string& text, char32_t character);
 
 }  // namespace tonquil

@@ -19,7 +19,7 @@ void Correction::setApplyCorrection(bool isOn) {
 
 void Correction::switchTo(bool isOn) {
     if (isOn && std::exchange(_wasSwitchedOff, false)) {
-        // What others set in the meantime is the system's.
+        // A ramp set by others in the meantime belongs to the system.
         readBases();
     }
     _isActive = isOn;

@@ -11,32 +11,32 @@
 
 namespace tonquil {
 
-/// Whether the displays are corrected, and what that means for all of them.
+/// Switches the correction on and off for all displays.
 class Correction {
  public:
     Correction(DisplayService& service, ScreenRegistry& registry, PreferencesStore& preferences)
         : _service(service), _registry(registry), _preferences(preferences) {}
 
     [[nodiscard]] bool applyCorrection() const;
-    /// On: every display takes its curve, now and whenever it is given one. Off: the displays are
-    /// given back to the system's calibration at once. The preferences keep it.
+    /// On: every display gets its curve, now and whenever one is assigned. Off: the system
+    /// calibration is restored immediately. Stores the state in the preferences.
     void setApplyCorrection(bool isOn);
-    /// The same, where the preferences say so already.
+    /// The same without storing, for when the preferences already have the state.
     void switchTo(bool isOn);
-    /// Puts every display's curve on it, whatever is there now; does nothing while off.
+    /// Applies every display's curve, whatever is on the hardware now; does nothing while off.
     void _applyCurvesToScreen();
-    /// Takes the system's present calibration of every display for its base; tells whether one has
-    /// changed. The curves are not applied again by this.
+    /// Reads the current system calibration of every display as its base; returns whether one
+    /// changed. Does not re-apply the curves.
     bool readBases();
-    /// Gives the displays back to the system's calibration, on or off.
+    /// Restores the system calibration of all displays, whether on or off.
     void restoreAllGammaCurves();
 
-    /// Whether it was switched on last, by this program.
+    /// The last state set by this program.
     [[nodiscard]] bool isActive() const { return _isActive; }
-    /// Lets every listed display take part in what was switched on or off, new ones too.
+    /// Applies the on/off state to every listed display, including new ones.
     void activateScreens();
 
-    /// Called with the new state whenever the correction is switched, before it is stored.
+    /// Called with the new state on every switch, before it is stored.
     std::function<void(bool)> show;
 
  private:

@@ -9,8 +9,8 @@ namespace tonquil {
 
 namespace {
 
-/// From a tenth of a second, below which the program would do nothing else, to a day. What is no
-/// interval at all counts as the default.
+/// Clamps to 0.1 s, below which the program would do nothing else, up to one day. An invalid
+/// interval becomes the default.
 std::chrono::milliseconds intervalFrom(float seconds) {
     constexpr float shortest = 0.1F;
     constexpr float longest = 86'400;

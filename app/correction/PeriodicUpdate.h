@@ -11,8 +11,8 @@
 
 namespace tonquil {
 
-/// The timer that puts the curves on the displays again and again, because other programs and the
-/// system replace tables without a word.
+/// Re-applies the curves on a timer, because other programs and the system replace ramps without
+/// notice.
 class PeriodicUpdate {
  public:
     PeriodicUpdate(RunLoop& runLoop, const PreferencesStore& preferences,

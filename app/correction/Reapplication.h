@@ -10,9 +10,9 @@
 
 namespace tonquil {
 
-/// Puts the curves back after an event that may have disturbed them: after the first one at once,
-/// and after all those that follow within `pause` once more at its end. A storm of events therefore
-/// costs no more than two of them.
+/// Re-applies the curves after an event that may have replaced them: once at the first event, and
+/// once more at the end of `pause` if more follow within it. A burst of events therefore costs at
+/// most two re-applications.
 class Reapplication {
  public:
     static constexpr std::chrono::milliseconds pause{200};

@@ -10,20 +10,20 @@
 
 namespace tonquil {
 
-/// How many displays a reconfiguration has begun for and not ended. There is one in a program.
+/// Number of displays with a reconfiguration in progress. One instance per program.
 struct ReconfigurationCounter {
     std::int64_t depth = 0;
 };
 
-/// Counts the beginnings and ends of a reconfiguration, and calls once it is over.
+/// Counts the begin and end callbacks of a reconfiguration, and calls back once it is over.
 class ReconfigurationObserver {
  public:
     ReconfigurationObserver(ReconfigurationCounter& counter, Log log,
                             std::function<void()> updateScreens)
         : _counter(counter), _log(std::move(log)), _updateScreens(std::move(updateScreens)) {}
 
-    /// Only flags that are exactly `beginConfiguration` begin one. An end without a beginning
-    /// counts as a whole reconfiguration.
+    /// Only flags exactly equal to `beginConfiguration` begin one. An end without a begin counts as
+    /// a complete reconfiguration.
     void displayReconfigured(ReconfigurationFlags flags);
 
  private:

@@ -6,19 +6,20 @@
 
 namespace tonquil {
 
-/// What happens around the program that may have disturbed the displays' tables.
+/// Desktop events that may have changed the displays' gamma ramps.
 enum class SessionEvent : std::uint8_t {
-    Woke,                   ///< The machine came back from sleep.
-    SessionBecameActive,    ///< The person switched back to this session.
-    ApplicationTerminated,  ///< Another program ended.
-    ScreenSaverStopped,     ///< The screen saver, lock or power saving let the displays go.
-    ColourSpaceChanged,     ///< A display was given another colour profile.
+    Woke,                   ///< The machine resumed from sleep.
+    SessionBecameActive,    ///< The user switched back to this session.
+    ApplicationTerminated,  ///< Another program exited.
+    ScreenSaverStopped,     ///< The screen saver, screen lock or power saving ended.
+    ColourSpaceChanged,     ///< A display's colour profile changed.
 };
 
 /// Watches the desktop for session events.
 ///
-/// What a desktop does not offer is left out, with one line in the log. Several events within a
-/// moment may be told once; one event may be told several times, seconds apart, where displays are
+/// An event that the desktop does not support is skipped, with one line in the log. Several events
+/// in a short time may be reported once; one event may be reported several times, seconds apart, if
+/// displays are slow to react.
 /// slow to follow.
 class SessionEvents {
  public:
@@ -26,8 +27,7 @@ class SessionEvents {
 
     virtual ~SessionEvents() = default;
 
-    /// Begins to watch, and calls on the main thread until the object is destroyed. To be called
-    /// once.
+    /// Starts watching; calls back on the main thread until destroyed. Call it only once.
     virtual void start(Handler handler) = 0;
 };
 

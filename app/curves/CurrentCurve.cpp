@@ -10,7 +10,7 @@ struct CurrentCurve::ColourSlider {
     float RememberedValues::*remembered;
 };
 
-// Three by three: the colours of a point stand together.
+// In groups of three: the colours of one point are adjacent.
 const std::array<CurrentCurve::ColourSlider, 9> CurrentCurve::colourSliders{{
     {PanelSlider::BlackRed, &RememberedValues::blackRedValue},
     {PanelSlider::BlackGreen, &RememberedValues::blackGreenValue},
@@ -64,7 +64,7 @@ PanelValues CurrentCurve::valuesOf(const KVGammaCurve& curve) {
 void CurrentCurve::_setCurrentGammaCurve(const KVGammaCurve& curve) {
     _controls.setValues(valuesOf(curve));
     _controls.updateTouchBarSlider();
-    // Only for the values that it remembers.
+    // Called only to remember the values.
     static_cast<void>(_currentGammaCurve());
 }
 

@@ -8,23 +8,24 @@
 
 namespace tonquil {
 
-/// The curve that the panel's controls stand for.
+/// Converts between the panel's controls and a curve.
 class CurrentCurve {
  public:
     explicit CurrentCurve(PanelControls& controls) : _controls(controls) {}
 
-    /// A new curve from the controls. Remembers the colour sliders' values for linked editing.
+    /// Builds a new curve from the controls. Remembers the colour sliders' values for linked
+    /// editing.
     [[nodiscard]] std::shared_ptr<TQExtendedGammaCurve> _currentGammaCurve();
     /// Shows a curve in the controls.
     void _setCurrentGammaCurve(const KVGammaCurve& curve);
-    /// What the controls stand at when they show a curve.
+    /// The control values that represent a curve.
     [[nodiscard]] static PanelValues valuesOf(const KVGammaCurve& curve);
-    /// Moves the other two colour sliders of the sender's point as far from their remembered
-    /// values as the sender has come from its own. Master sliders are never linked.
+    /// Moves the other two colour sliders of the sender's point by as much as the sender moved,
+    /// each relative to its remembered value. Master sliders are never linked.
     void moveLinkedSliders(PanelSlider sender);
 
  private:
-    /// The colour sliders' values when the last curve was built.
+    /// The colour sliders' values from when the last curve was built.
     struct RememberedValues {
         float blackRedValue = 0;
         float blackGreenValue = 0;

@@ -59,7 +59,7 @@ PanelSubject CurrentScreens::subject() {
         }
         return subject;
     }
-    // A screen that stands for twins is named for the one that the panel is on.
+    // A screen shared by twins is named after the twin under the panel.
     const auto underPanel = subject.isAllDisplays ? std::nullopt : displayUnderPanel();
     const DisplayDescription first =
         _service.description(underPanel.value_or(screens.front()->directDisplayID()));
@@ -72,7 +72,7 @@ PanelSubject CurrentScreens::subject() {
             subject.title += first.productName;
         }
     }
-    // Among several displays, one that can be corrected is enough.
+    // Of several displays, one that can be corrected is enough.
     const bool areAllBarred = std::all_of(screens.begin(), screens.end(), [&](const auto& screen) {
         return !_service.description(screen->directDisplayID()).obstacle.empty();
     });

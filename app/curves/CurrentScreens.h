@@ -13,7 +13,7 @@
 
 namespace tonquil {
 
-/// Which displays the panel edits.
+/// Determines which displays the panel edits.
 class CurrentScreens {
  public:
     CurrentScreens(DisplayService& service, ScreenRegistry& registry,
@@ -25,12 +25,12 @@ class CurrentScreens {
           _panel(panel),
           _whyNoDisplays(std::move(whyNoDisplays)) {}
 
-    /// All of them, or those that lie exactly where the display under the panel does: more than
-    /// one only for displays that show the same. Empty while the panel is on no display.
+    /// All displays, or those with exactly the bounds of the display under the panel: several only
+    /// if they mirror each other. Empty while the panel is on no display.
     [[nodiscard]] ScreenRegistry::Screens _currentScreens();
-    /// The display that most of the panel is on; nothing if it is not on any.
+    /// The display that shows most of the panel; nothing if it is on none.
     [[nodiscard]] std::optional<DisplayID> displayUnderPanel();
-    /// What the panel says about them.
+    /// What the panel says about these displays.
     [[nodiscard]] PanelSubject subject();
 
  private:

@@ -8,10 +8,10 @@ namespace tonquil {
 namespace {
 
 constexpr std::chrono::milliseconds resetPause{500};
-// Between two slider drags of a companion, which does not tell where one ends.
+// Separates two slider drags of a companion, which does not report the end of a drag.
 constexpr std::chrono::seconds pauseFromAfar{1};
 
-/// Whether each of the screens has a curve of these values already.
+/// Whether each of the screens already has a curve with these values.
 bool haveCurve(const ScreenRegistry::Screens& screens, const KVGammaCurve& curve) {
     return std::ranges::all_of(screens, [&curve](const auto& screen) {
         return screen->gammaCurve() &&
@@ -22,7 +22,7 @@ bool haveCurve(const ScreenRegistry::Screens& screens, const KVGammaCurve& curve
 }  // namespace
 
 void CurveEditing::applyGamma(PanelSlider sender, bool isLinked) {
-    // What is edited is what the panel names, whatever has happened to its frame since.
+    // Edits go to the display that the panel names, even if its frame moved in between.
     _with.view.panelMoved();
     const DisplayBatch batch(_with.service);
     if (isLinked) {
@@ -40,8 +40,8 @@ void CurveEditing::changeBlendingMode() {
     _with.history.endStep();
 }
 
-// Values that a display has already still go out, since its ramp may have been disturbed; but a
-// wheel that turns on at the end of a slider leaves nothing to undo.
+// Unchanged values are still sent, because the ramp may have been replaced; but turning the wheel
+// at the end of a slider's range must not add an undo step.
 void CurveEditing::replaceCurves(int subject) {
     const auto screens = _with.currentScreens._currentScreens();
     const auto curve = _with.currentCurve._currentGammaCurve();
@@ -67,8 +67,8 @@ void CurveEditing::adoptCurve(const KVGammaCurve& curve) {
     _with.view._updateCurveInPanel();
 }
 
-// A table passes over the displays and is at once replaced by the curve that they are read back
-// as; what it leaves is the way back.
+// A table is put on the displays and then immediately replaced by the curve read back from them;
+// what remains is the undo step.
 void CurveEditing::adoptTable(const std::shared_ptr<KVGammaCurve>& table) {
     const DisplayBatch batch(_with.service);
     willEdit(_with.registry.screens(), editSubject::openedFile);
@@ -79,7 +79,7 @@ void CurveEditing::adoptTable(const std::shared_ptr<KVGammaCurve>& table) {
     curvesWereEdited();
 }
 
-// The pause gives the system time to put its calibration back before it is read as the new base.
+// The pause gives the system time to restore its calibration before it is read as the new base.
 void CurveEditing::resetGamma() {
     _with.view._setControlsEnabled(false);
     _with.correction.restoreAllGammaCurves();
@@ -127,8 +127,8 @@ void CurveEditing::willEdit(const ScreenRegistry::Screens& screens, int subject)
     _with.history.endStep();
 }
 
-// The step is about all displays, since one slider of a companion may move several of them, each
-// with a datagram of its own.
+// One step covers all displays, because one slider of a companion may move several, each with its
+// own datagram.
 void CurveEditing::willEditFromAfar() {
     const auto now = _with.runLoop.now();
     if (now - _lastFromAfar >= pauseFromAfar) {

@@ -10,8 +10,8 @@
 
 namespace tonquil {
 
-/// Every way in which curves are replaced, by the panel or by anybody else: each reaches the
-/// displays in one batch, can be undone, and is kept on the disk.
+/// Every way to replace curves, from the panel or elsewhere: each goes to the displays in one
+/// batch, can be undone, and is saved to disk.
 class CurveEditing {
  public:
     struct Surroundings {
@@ -29,25 +29,25 @@ class CurveEditing {
 
     explicit CurveEditing(const Surroundings& surroundings) : _with(surroundings) {}
 
-    /// A slider was moved. `isLinked`: the other colours of its point follow.
+    /// A slider moved. `isLinked`: the other colours of its point follow.
     void applyGamma(PanelSlider sender, bool isLinked);
     void changeBlendingMode();
-    /// Gives the displays back to the system's calibration and, after a pause, starts from that.
+    /// Restores the system calibration and, after a pause, starts over from it.
     void resetGamma();
     void undo();
     void redo();
 
-    /// Gives the current displays a curve from elsewhere.
+    /// Assigns a curve from elsewhere to the current displays.
     void adoptCurve(const KVGammaCurve& curve);
-    /// Puts a table on the current displays, then takes every display's curve from its tables.
+    /// Puts a table on the current displays, then derives every display's curve from its tables.
     void adoptTable(const std::shared_ptr<KVGammaCurve>& table);
 
-    /// Somebody else is about to replace curves: one step to undo, whatever came before.
+    /// Call it before other code replaces curves: starts a new undo step.
     void willEdit(const ScreenRegistry::Screens& screens, int subject);
-    /// A companion on the network is about to replace curves. What it does without a second's pause
-    /// is one step to undo, on however many displays.
+    /// A companion on the network is about to replace curves. Its edits with gaps of less than a
+    /// second are one undo step, on any number of displays.
     void willEditFromAfar();
-    /// To be called after each edit: shows it, and sees to it that it is kept.
+    /// Call it after each edit: shows the result and schedules saving.
     void curvesWereEdited();
 
  private:

@@ -5,20 +5,20 @@
 
 namespace tonquil {
 
-/// Keeps the curves of a running program where a crash cannot take them.
+/// Keeps the curves of a running program safe from a crash.
 ///
-/// What is kept is an all-screens dictionary: reference IDs of displays, each with its curve.
+/// Stores an all-screens dictionary: the curve of each display, by reference ID.
 class CurveRecovery {
  public:
     virtual ~CurveRecovery() = default;
 
-    /// What a program that did not end in order has left; an empty dictionary when there is
-    /// nothing, or nothing that can be read.
+    /// The curves left by a run that did not shut down properly; an empty dictionary if there are
+    /// none, or if they cannot be read.
     [[nodiscard]] virtual PropertyValue leftCurves() = 0;
-    /// Replaces what is kept, as soon as the disk allows: of what is asked for meanwhile, only the
-    /// newest is kept.
+    /// Replaces the stored curves as soon as the disk allows; of several calls in between, only the
+    /// last is written.
     virtual void keep(PropertyValue curves) = 0;
-    /// Forgets what is kept; done when it returns.
+    /// Deletes the stored curves; done on return.
     virtual void forget() = 0;
 };
 

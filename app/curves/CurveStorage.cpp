@@ -13,8 +13,8 @@ namespace tonquil {
 
 namespace {
 
-// A file that has only one curve for all twins means them all: their older curves go. Returns how
-// many went.
+// A file with one curve for all twins applies to all of them, so their stored curves are removed.
+// Returns how many.
 std::size_t eraseReplaced(PropertyValue& stored, const PropertyValue& curves) {
     const std::size_t before = stored.size();
     for (auto each = stored.begin(); each != stored.end();) {
@@ -63,8 +63,8 @@ bool CurveStorage::hasRoomFor(const PropertyValue& curves) const {
     return all.size() <= std::max(mostStored, before);
 }
 
-// The opened file must win over curves that are still waiting to be saved. What the recovery file
-// holds has the last word after a crash, so it must hold the same.
+// The opened file must win over curves that are not yet saved. After a crash the recovery file
+// overrides the preferences, so it must hold the same curves.
 void CurveStorage::storeCurves(const PropertyValue& curves) {
     PropertyValue all = storedCurves();
     std::size_t replaced = 0;
@@ -103,7 +103,7 @@ void CurveStorage::keepCurves() {
 
 void CurveStorage::close() {
     keepPendingEdits();
-    // Another program may have stored curves of other displays, unseen.
+    // Another program may have stored curves of other displays since.
     static_cast<void>(_preferences.synchronize());
     _updateDefaultCurves();
     // If the preferences cannot be saved, the recovery file is the only copy.

@@ -14,10 +14,10 @@ namespace tonquil {
 /// so that a crash does not lose them.
 class CurveStorage {
  public:
-    /// Within this time after an edit the curves are on the disk.
+    /// After an edit the curves are on disk within this time.
     static constexpr std::chrono::milliseconds keepingDelay{500};
 
-    /// The most displays whose curves are kept for the day that they come back.
+    /// How many displays' curves are stored at most, including displays that are not attached.
     static constexpr std::size_t mostStored = 512;
 
     /// Loads the recovery file that a crashed run left behind, if any.
@@ -27,17 +27,17 @@ class CurveStorage {
     /// The curves by reference ID: those in the preferences, overlaid with edits that have not been
     /// saved there yet.
     [[nodiscard]] PropertyValue storedCurves() const;
-    /// Gives each display the neutral curve, then the one that is stored for it.
+    /// Assigns each display the neutral curve, then its stored one.
     void _adoptDefaultCurves();
-    /// Writes the displays' curves into the preferences. Those stored for displays that are not
-    /// attached now stay.
+    /// Writes the displays' curves to the preferences. Keeps the stored curves of displays that are
+    /// not attached.
     void _updateDefaultCurves();
-    /// Whether there is room for these beside those that are stored.
+    /// Whether these curves fit beside the stored ones.
     [[nodiscard]] bool hasRoomFor(const PropertyValue& curves) const;
-    /// Adds the curves of an opened file to the stored ones, replacing those with the same key. To
-    /// be called once the displays have them.
+    /// Adds the curves of an opened file to the stored ones, replacing those with the same key.
+    /// Call it once the displays have them.
     void storeCurves(const PropertyValue& curves);
-    /// To be called after each edit.
+    /// Call it after each edit.
     void curvesWereEdited();
     /// Writes pending edits to disk now. Call it before the screen list is rebuilt.
     void keepPendingEdits();
@@ -51,9 +51,9 @@ class CurveStorage {
     PreferencesStore& _preferences;
     CurveRecovery& _recovery;
     RunLoop& _runLoop;
-    /// What a run that crashed has left, until this one ends.
+    /// Left by a run that crashed; kept until this run ends.
     PropertyValue _left;
-    /// Edited in this run, or opened over what was.
+    /// Edited in this run, or opened from a file.
     PropertyValue _kept = PropertyValue::object();
     std::unique_ptr<RunLoop::Handle> _timer;
 };

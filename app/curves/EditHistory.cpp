@@ -36,7 +36,7 @@ bool EditHistory::step(std::vector<Step>& from, std::vector<Step>& to) {
     Step step = std::move(from.back());
     from.pop_back();
     for (auto& [screen, curve] : step) {
-        // What is put back leaves in the step what the way back needs.
+        // Each undo leaves the replaced curve in the step, for redo, and the other way round.
         KVScreen::CurvePointer present = screen->gammaCurve();
         screen->setGammaCurve(std::exchange(curve, std::move(present)));
     }

@@ -10,7 +10,7 @@
 
 namespace tonquil {
 
-/// What an edit is about, beside the sliders, whose numbers are those of `PanelSlider`.
+/// Edit subjects besides the sliders, which use the numbers of `PanelSlider`.
 namespace editSubject {
 inline constexpr int blendingMode = 100;
 inline constexpr int reset = 101;
@@ -18,24 +18,22 @@ inline constexpr int openedFile = 102;
 inline constexpr int remote = 103;
 }  // namespace editSubject
 
-/// What edits of the curves can be undone and done again.
+/// Undo and redo of curve edits.
 ///
-/// A step is the curves that some screens had. Curves are replaced and never changed, so a step
+/// A step holds the curves that some screens had. Curves are replaced and never modified, so a step
 /// costs a few pointers.
 class EditHistory {
  public:
     static constexpr std::size_t mostSteps = 200;
 
-    /// To be called before the curves of `screens` are replaced. Edits of the same `subject` (any
-    /// number that tells one control from another) on the same screens are one step, until
-    /// `endStep`.
+    /// Call it before replacing the curves of `screens`. Edits of the same `subject` (any number
+    /// that identifies a control) on the same screens are one step, until `endStep`.
     void willEdit(const ScreenRegistry::Screens& screens, int subject);
     void endStep() { _isOpen = false; }
 
     [[nodiscard]] bool canUndo() const { return !_undone.empty(); }
     [[nodiscard]] bool canRedo() const { return !_redone.empty(); }
-    /// Gives the screens of the last step the curves back that they had before it; false when
-    /// there is none.
+    /// Restores the curves from before the last step; false if there is none.
     bool undo() { return step(_undone, _redone); }
     /// The reverse.
     bool redo() { return step(_redone, _undone); }

@@ -32,7 +32,7 @@ void PanelView::panelMoved() {
 
 void PanelView::_changeScreen() {
     _with.history.endStep();
-    // What somebody began to type was meant for the display before.
+    // Uncommitted typing was meant for the previous display.
     _with.controls.revertTyping();
     rememberDisplay();
     _setControlsEnabled(_areControlsEnabled);

@@ -11,8 +11,8 @@
 
 namespace tonquil {
 
-/// What the panel shows: the displays that it edits, their curve, and whether its controls can
-/// change anything there.
+/// Updates what the panel shows: which displays it edits, their curve, and whether the controls are
+/// enabled.
 class PanelView {
  public:
     struct Surroundings {
@@ -26,21 +26,21 @@ class PanelView {
 
     explicit PanelView(const Surroundings& surroundings) : _with(surroundings) {}
 
-    /// Shows the curve that the first of the current displays holds.
+    /// Shows the curve of the first current display.
     void _updateCurveInPanel();
-    /// Shows the curve of the display at a point of the desktop, if there is one.
+    /// Shows the curve of the display at a desktop position, if there is one.
     void showCurveAt(const Point& point);
-    /// Follows the panel onto another display; does nothing while it stays on the same one.
+    /// Follows the panel to another display; does nothing while it stays on the same one.
     void panelMoved();
-    /// The panel edits other displays now, or the same ones have changed.
+    /// Call it when the panel edits other displays, or the same ones changed.
     void _changeScreen();
-    /// Enables the controls, except where there is nothing that they could change.
+    /// Enables the controls, unless no display can be edited.
     void _setControlsEnabled(bool enabled);
-    /// To be called once the panel's window is in place.
+    /// Call it once the panel's window is in place.
     void rememberDisplay() { _displayUnderPanel = _with.currentScreens.displayUnderPanel(); }
-    /// Whether the panel says that it edits all displays.
+    /// Whether the panel shows that it edits all displays.
     [[nodiscard]] bool showsAllScreens() const { return _showsAllScreens; }
-    /// What the plot draws; nothing where there is no display to show.
+    /// The curves for the plot; nothing if there is no display to show.
     [[nodiscard]] std::optional<PlottedCurves> plottedCurves() const;
 
  private:

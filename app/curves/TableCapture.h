@@ -6,7 +6,7 @@
 
 namespace tonquil {
 
-/// A screen that exists on paper only: tells what a curve would put on a display with a base.
+/// A screen without hardware: captures the table that a curve would produce over a base.
 class TableCapture final : public CurveScreen {
  public:
     explicit TableCapture(const BaseGamma& base) : _base(base) {}
@@ -20,7 +20,7 @@ class TableCapture final : public CurveScreen {
         table = _base.table;
         return _base.sampleCount;
     }
-    /// Nothing that is plotted is set by a formula.
+    /// Plotting never uses a formula.
     void setTransferFormula(const TransferFormula& /*formula*/) override {}
     [[nodiscard]] TransferFormula getTransferFormula() const override { return {}; }
 

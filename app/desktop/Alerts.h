@@ -8,30 +8,30 @@
 
 namespace tonquil {
 
-/// What an alert says and offers. Texts are keys of the string table `table`, to be translated
-/// before their arguments are put in (see `formattedText`).
+/// Text and buttons of an alert. Texts are keys of the string table `table` and are translated
+/// before their arguments are filled in (see `formattedText`).
 struct Alert {
     enum class Style { Informational, Critical };
 
     Style style = Style::Informational;
-    /// The desktop's name of an icon, or the path of its file; empty for the style's own.
+    /// Icon name in the desktop's theme, or path of an icon file; empty for the style's own.
     std::string icon{};
     std::string_view table{};
     std::string_view message;
     std::vector<std::string> messageArguments{};
     std::string_view informativeText;
     std::vector<std::string> informativeArguments{};
-    /// The first is the default one, and stands for closing the alert.
+    /// The first is the default, and the result if the alert is closed.
     std::vector<std::string_view> buttons;
 };
 
-/// Puts questions to the person.
+/// Shows modal questions to the user.
 class Alerts {
  public:
     virtual ~Alerts() = default;
 
-    /// Shows an alert, which has at least one button, and waits for the person. Returns the index
-    /// of the button; 0 also where the alert was closed without any.
+    /// Shows an alert, which has at least one button, and blocks until the user answers. Returns
+    /// the index of the button; 0 also if the alert was closed without one.
     [[nodiscard]] virtual std::size_t runModal(const Alert& alert) = 0;
 };
 

@@ -17,8 +17,8 @@ ConflictCheck::ConflictCheck(PreferencesStore& preferences, const InstalledProgr
       _alerts(alerts),
       _terminate(std::move(terminate)) {}
 
-// The night colours that desktops have built in are settings of theirs and no programs: whether
-// they are in use cannot be seen from what is installed.
+// Night light features built into desktops are settings, not programs: what is installed does not
+// say whether they are in use.
 std::span<const std::string_view> ConflictCheck::rivals() {
     static constexpr std::array<std::string_view, 5> ids = {
         "fluxgui.desktop", "redshift-gtk.desktop", "redshift.desktop",

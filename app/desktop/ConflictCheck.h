@@ -13,28 +13,28 @@
 
 namespace tonquil {
 
-/// Warns once, at a start, of an installed program that fights for the same tables.
+/// Warns once, at startup, of an installed program that also sets gamma ramps.
 class ConflictCheck {
  public:
     enum class Outcome : int {
-        Continued = 0,  ///< Warned now, and never again.
+        Continued = 0,  ///< Warned now, never again.
         NotShown = 1,
         Ended = 2,  ///< Warned, and `terminate` was called; the next start warns again.
     };
 
-    /// Everything must outlive the check. `terminate` may return, as long as the program ends
-    /// without doing anything more.
+    /// All references must outlive the check. `terminate` may return, but the program must then
+    /// quit without doing anything else.
     ConflictCheck(PreferencesStore& preferences, const InstalledPrograms& programs, Alerts& alerts,
                   std::function<void()> terminate);
 
-    /// The desktop file IDs of the programs that are looked for, the likeliest first.
+    /// The desktop file IDs of known rival programs, most likely first.
     [[nodiscard]] static std::span<const std::string_view> rivals();
 
-    /// The program that a start would warn of.
+    /// The program that startup would warn of.
     [[nodiscard]] static std::optional<InstalledProgram> rivalToWarnOf(
         const PreferencesStore& preferences, const InstalledPrograms& programs);
 
-    /// `ownName` is the name that this program shows.
+    /// `ownName` is the display name of this program.
     Outcome run(const std::string& ownName);
 
  private:

@@ -8,20 +8,20 @@
 
 namespace tonquil {
 
-/// A program that the desktop knows.
+/// An installed program.
 struct InstalledProgram {
-    /// As the desktop shows it, in the person's language; never empty.
+    /// Display name in the user's language; never empty.
     std::string name;
-    /// The desktop's name of its icon, or the path of its file; empty where it has none.
+    /// Icon name in the desktop's theme, or path of an icon file; empty if it has none.
     std::string icon;
 };
 
-/// The programs on this computer.
+/// Looks up programs installed on this computer.
 class InstalledPrograms {
  public:
     virtual ~InstalledPrograms() = default;
 
-    /// The first that is installed of those with the desktop file IDs `candidates` (such as
+    /// The first installed program among the desktop file IDs `candidates` (such as
     /// "tonquil.desktop"), in their order.
     [[nodiscard]] virtual std::optional<InstalledProgram> firstInstalled(
         std::span<const std::string_view> candidates) const = 0;

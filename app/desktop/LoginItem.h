@@ -7,20 +7,20 @@
 
 namespace tonquil {
 
-/// Whether the desktop starts this program at login.
+/// Controls whether the desktop starts this program at login.
 class LoginItem {
  public:
     virtual ~LoginItem() = default;
 
-    /// As the desktop has it now, whoever changed it.
+    /// The current state, even if another program changed it.
     [[nodiscard]] virtual bool isEnabled() const = 0;
-    /// Asking for what is so already is no failure.
+    /// Setting the current state again is not an error.
     [[nodiscard]] virtual Result<void> setEnabled(bool isEnabled) = 0;
 };
 
-/// Whether a program at the absolute path `program` is likely to be there at the next login: below
-/// /usr, /opt, `home`/.local or `home`/Applications, or anywhere with "/Applications/" in its path.
-/// `home` may be empty.
+/// Whether a program at the absolute path `program` will probably still exist at the next login:
+/// below /usr, /opt, `home`/.local or `home`/Applications, or anywhere with "/Applications/" in its
+/// path. `home` may be empty.
 [[nodiscard]] bool isInstalledReliably(const std::filesystem::path& program,
                                        const std::filesystem::path& home);
 

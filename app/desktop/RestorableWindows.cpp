@@ -14,7 +14,7 @@ constexpr std::string_view kindKey = "kind";
 }  // namespace
 
 void RestorableWindows::openTargetWindow(std::optional<TargetKind> kind) {
-    // Settled when the window is made: only where the preferences window was there by then.
+    // Decided when the window is created: only if the preferences window existed by then.
     if (!_isTargetWindowRestorable) {
         _isTargetWindowRestorable = _windows.isPreferencesWindowLoaded();
     }

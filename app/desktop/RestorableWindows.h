@@ -10,24 +10,23 @@
 
 namespace tonquil {
 
-/// Which windows a session that ends brings back when it starts again: the preferences and the
-/// floating targets.
+/// The windows that session restore brings back: the preferences and the floating targets.
 class RestorableWindows {
  public:
     RestorableWindows(ProgramWindows& windows, TargetWindows& targets)
         : _windows(windows), _targets(targets) {}
 
-    /// Shows the floating window of targets, with the kind shown last where none is asked for.
+    /// Shows the floating targets window, with the last kind shown if none is given.
     void openTargetWindow(std::optional<TargetKind> kind);
-    /// A dictionary of the states of the windows that are shown, by their identifiers.
+    /// A dictionary of the states of the visible windows, by identifier.
     [[nodiscard]] PropertyValue restorableWindows() const;
-    /// Shows a window as it was; false where there is none of this identifier.
+    /// Restores a window; false if the identifier is unknown.
     bool restoreWindowWithIdentifier(std::string_view identifier, const PropertyValue& state);
 
  private:
     ProgramWindows& _windows;
     TargetWindows& _targets;
-    /// Nothing before the floating window of targets is made.
+    /// Nothing until the floating targets window is created.
     std::optional<bool> _isTargetWindowRestorable;
 };
 

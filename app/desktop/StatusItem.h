@@ -6,17 +6,17 @@
 
 namespace tonquil {
 
-/// Keeps the status item and the task-bar entries as the preferences want them: exactly one of the
-/// two.
+/// Shows either the status item or the task-bar entries, as the preferences say: always exactly one
+/// of the two.
 class StatusItem {
  public:
     StatusItem(DesktopPresence& presence, const PreferencesStore& preferences)
         : _presence(presence), _preferences(preferences) {}
 
-    /// From now on updates have an effect. Until the first one the program is in no task bar.
+    /// Makes updates take effect. Until the first one the program has no task-bar entry.
     void setReady() { _isStatusItemReady = true; }
     void updateStatusItem(bool isCorrectionOn);
-    /// Shows whether the correction is on, where there is an item.
+    /// Updates the icon to show whether the correction is on, if there is an item.
     void updateStatusItemImage(bool isCorrectionOn);
 
  private:

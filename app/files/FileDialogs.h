@@ -9,14 +9,15 @@
 
 namespace tonquil {
 
-/// What a settings file is to hold; the number is what the preferences store.
+/// The contents of a settings file; the number is stored in the preferences.
 enum class SettingsFormat : std::int64_t {
     SingleDisplay = 0,  ///< One curve.
-    MultiDisplay = 1,   ///< The curves of all displays, by their reference IDs.
+    MultiDisplay = 1,   ///< The curves of all displays, by reference ID.
 };
 
-/// The dialogs of settings files, attached to the panel. They return at once and call back when
-/// the person has decided; a dialog that is given up calls nothing. At most one is up at a time.
+/// The file dialogs for settings files, attached to the panel. They return immediately and call
+/// back when the user has chosen; a cancelled dialog does not call back. At most one is open at a
+/// time.
 class FileDialogs {
  public:
     using Chosen = std::function<void(const std::filesystem::path& file)>;
@@ -26,12 +27,12 @@ class FileDialogs {
     virtual ~FileDialogs() = default;
 
     virtual void chooseFileToOpen(Chosen chosen) = 0;
-    /// Begins with `format`; the person may choose the other one.
+    /// Preselects `format`; the user may choose the other one.
     virtual void chooseFileToSave(SettingsFormat format, ChosenWithFormat chosen) = 0;
-    /// One sentence with a title above it, and the button "OK"; while one is up, it shows the new
-    /// sentence instead. Both are keys of the context "Problem"; `arguments` are put into the
-    /// translated message (see `formattedText`). A message that nobody has translated is shown as
-    /// it is.
+    /// An alert with a title, one sentence and an "OK" button; one already open shows the new
+    /// sentence instead. Both texts are keys of the context "Problem"; `arguments` are filled into
+    /// the translated message (see `formattedText`). A message without a translation is shown as
+    /// is.
     virtual void alert(const std::string& title, const std::string& message,
                        const std::vector<std::string>& arguments) = 0;
 };

@@ -13,8 +13,8 @@ MultiDisplayFile::MultiDisplayFile(const PropertyValue& screens) {
         return;
     }
     for (const auto& [key, value] : screens.items()) {
-        // A key of control characters could not be stored, and all that is stored beside it
-        // neither.
+        // A key with control characters could not be saved, and would block saving everything else
+        // too.
         if (value.is_object() && isPropertyListText(key)) {
             _curves[key] = TQExtendedGammaCurve::gammaCurveWithDictionary(value);
         }

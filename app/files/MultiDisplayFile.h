@@ -12,22 +12,23 @@
 
 namespace tonquil {
 
-/// The curves of several displays, as a settings file holds them.
+/// The curves of several displays, as in a settings file.
 class MultiDisplayFile {
  public:
     /// Reads the file's "Screens". Entries that are not dictionaries, or whose key a property list
     /// cannot hold, are skipped.
     explicit MultiDisplayFile(const PropertyValue& screens);
 
-    /// The curves as an all-screens dictionary, in the form that is written today.
+    /// The curves as an all-screens dictionary, in the current format.
     [[nodiscard]] PropertyValue allScreensDictionary() const;
-    /// Gives each sighted screen its curve, by the first of its keys that the file has, and puts it
-    /// on the display. Returns how many of those screens are attached.
+    /// Assigns and applies to each sighted screen its curve, found by the first of its keys that
+    /// the file has. Returns how many of those screens are attached.
     [[nodiscard]] std::size_t applyTo(ScreenRegistry& registry) const;
 
-    /// What a file of the attached displays' curves holds. Each curve is there under its display's
-    /// reference ID and its old-style one, so that older programs find it too. Those of twins are
-    /// also there under their twin reference IDs, so that each gets its own back.
+    /// Builds the contents of a file with the curves of the attached displays. Each curve is stored
+    /// under its display's reference ID and its old-style ID, so that older programs find it too.
+    /// Those of twins are also stored under their twin reference IDs, so that each twin gets its
+    /// own curve back.
     [[nodiscard]] static PropertyValue contentsFor(ScreenRegistry& registry);
 
  private:

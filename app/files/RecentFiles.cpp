@@ -24,7 +24,7 @@ std::vector<std::filesystem::path> RecentFiles::files() const {
 void RecentFiles::add(const std::filesystem::path& file) {
     std::error_code unknown;
     const std::filesystem::path whole = std::filesystem::absolute(file, unknown).lexically_normal();
-    // A file's name may be any bytes, of which the preferences can hold only text.
+    // A file name may be any bytes, but the preferences can only store text.
     if (!isPropertyListText(whole.native())) {
         return;
     }

@@ -11,16 +11,16 @@
 
 namespace tonquil {
 
-/// The settings files that were opened or saved last, kept in the preferences.
+/// The most recently opened or saved settings files, stored in the preferences.
 class RecentFiles {
  public:
     static constexpr std::size_t most = 8;
 
     explicit RecentFiles(PreferencesStore& preferences) : _preferences(preferences) {}
 
-    /// Newest first; those that are gone are left out.
+    /// Newest first; files that no longer exist are left out.
     [[nodiscard]] std::vector<std::filesystem::path> files() const;
-    /// Does nothing for a name that is no text.
+    /// Does nothing if the name is not valid text.
     void add(const std::filesystem::path& file);
 
  private:

@@ -32,7 +32,7 @@ void SettingsFiles::loadGamma() {
     _with.dialogs.chooseFileToOpen([this](const std::filesystem::path& file) { openFile(file); });
 }
 
-// After the event, so that whoever asked has an answer first.
+// Deferred to after the event, so that the caller returns first.
 void SettingsFiles::openFile(const std::filesystem::path& file) {
     _with.runLoop.post([this, file] { static_cast<void>(_openFile(file)); });
 }
@@ -63,7 +63,7 @@ bool SettingsFiles::openSettings(const SingleDisplaySettings& settings) {
     return true;
 }
 
-// What a file says of displays that are not here is kept for the day that they are.
+// Curves for displays that are not attached are kept until they are.
 bool SettingsFiles::openSettings(const MultiDisplaySettings& settings) {
     if (settings.screens.is_object()) {
         const MultiDisplayFile file(settings.screens);
@@ -115,7 +115,7 @@ void SettingsFiles::saveGamma() {
         });
 }
 
-// A save that fails over an older file says nothing: that one is whole, and still there.
+// A failed save over an existing file shows no alert: the old file is unchanged.
 void SettingsFiles::savePanelDidEnd(const std::filesystem::path& file, SettingsFormat format) {
     _with.preferences.setValue(settingsKey::saveFormat, static_cast<std::int64_t>(format));
     const Result<void> saved =

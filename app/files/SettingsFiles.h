@@ -12,8 +12,7 @@
 
 namespace tonquil {
 
-/// Opens and saves settings files. What goes wrong is told by an alert on the panel, and nothing
-/// has been changed then.
+/// Opens and saves settings files. On failure the panel shows an alert and nothing is changed.
 class SettingsFiles {
  public:
     struct Surroundings {
@@ -34,9 +33,9 @@ class SettingsFiles {
 
     /// Asks for a file and opens it.
     void loadGamma();
-    /// Asks for a place and a format, and saves there.
+    /// Asks for a location and a format, and saves there.
     void saveGamma();
-    /// Opens a file after the event being handled.
+    /// Opens a file after the current event.
     void openFile(const std::filesystem::path& file);
     /// Newest first.
     [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const {
@@ -44,7 +43,7 @@ class SettingsFiles {
     }
 
  private:
-    /// Returns whether the file's settings are in force now.
+    /// Returns whether the file's settings were applied.
     bool _openFile(const std::filesystem::path& file);
     bool openSettings(const SingleDisplaySettings& settings);
     bool openSettings(const MultiDisplaySettings& settings);

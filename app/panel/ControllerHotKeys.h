@@ -14,30 +14,30 @@
 
 namespace tonquil {
 
-/// Keeps the hot keys that the preferences want registered.
+/// Keeps the hot keys from the preferences registered.
 class ControllerHotKeys {
  public:
-    /// What the hot keys do. All must be callable.
+    /// Callbacks of the hot keys. All must be set.
     struct Actions {
         std::function<void()> toggleApplyCorrection;
-        /// Called with the time stamp of the key's event.
+        /// Called with the timestamp of the key event.
         std::function<void(std::chrono::milliseconds time)> showPanelAndCenterMouse;
         std::function<void(std::chrono::milliseconds time)> showPanelAndCenterMouseRelease;
-        /// Says why the hot key of a role does not work; an empty sentence means that it works.
+        /// Reports why the hot key of a role does not work; an empty sentence means that it works.
         std::function<void(HotKeyRole, const std::string& sentence)> showProblem;
     };
 
     ControllerHotKeys(DDHotKeyCenter& center, const PreferencesStore& preferences, Actions actions)
         : _center(center), _preferences(preferences), _actions(std::move(actions)) {}
 
-    /// Registers the two anew, unless nothing about them has changed since they were registered:
-    /// one that is held must not miss its release.
+    /// Re-registers both hot keys, unless nothing about them changed: a key that is held must not
+    /// miss its release.
     void updateHotKey();
-    /// Gives all up while a combination is being recorded, and takes them back.
+    /// Unregisters all while a combination is being recorded, then registers them again.
     void setSuspended(bool isSuspended);
 
  private:
-    /// One role, as the preferences have it.
+    /// The hot key of one role, as in the preferences.
     struct Wanted {
         HotKeyRole role;
         std::uint16_t keyCode;
@@ -54,7 +54,7 @@ class ControllerHotKeys {
     const PreferencesStore& _preferences;
     Actions _actions;
     bool _isSuspended = false;
-    /// Registered, all of them; nothing before the first time and after a refusal.
+    /// The hot keys when all are registered; nothing before the first time and after a refusal.
     std::optional<std::vector<Wanted>> _registered;
 };
 

@@ -13,28 +13,28 @@ namespace tonquil {
 
 /// The transfer curves that the panel draws.
 struct PlottedCurves {
-    /// What the current curve makes.
+    /// The table from the current curve.
     GammaTable result;
     /// The display's own calibration.
     GammaTable base;
-    /// How many slots of each channel count, in both.
+    /// How many slots of each channel are valid, in both.
     std::uint32_t sampleCount = 0;
 };
 
-/// What a person does in the panel.
+/// User actions in the panel.
 class PanelActions {
  public:
     virtual ~PanelActions() = default;
 
-    /// A slider was moved, by any means. `isLinked` while Shift is held: the other colours of the
-    /// same point follow.
+    /// A slider moved, by any means. `isLinked` while Shift is held: the other colours of the same
+    /// point follow.
     virtual void applyGamma(PanelSlider sender, bool isLinked) = 0;
-    /// A drag or a run of steps has ended: the next edit is one of its own to undo.
+    /// A drag or a series of steps ended: the next edit is a new undo step.
     virtual void endEdit() = 0;
     virtual void changeBlendingMode() = 0;
     virtual void changeApplyCorrection(bool isOn) = 0;
     virtual void resetGamma() = 0;
-    /// The person chose a tab, 0 to 2.
+    /// The user chose a tab, 0 to 2.
     virtual void setSelectedTab(int index) = 0;
     virtual void setAffectsAllScreens(bool affectsAll) = 0;
     virtual void setAdvancedPanel(bool advanced) = 0;
@@ -42,9 +42,9 @@ class PanelActions {
     virtual void setChannelStrip(bool isShown) = 0;
     virtual void undo() = 0;
     virtual void redo() = 0;
-    /// The panel has moved or was resized.
+    /// The panel was moved or resized.
     virtual void panelMoved() = 0;
-    /// Nothing where there is no display to show.
+    /// Nothing if there is no display to show.
     [[nodiscard]] virtual std::optional<PlottedCurves> plottedCurves() = 0;
     virtual void openTargetWindow() = 0;
     virtual void openPreferences() = 0;
@@ -54,7 +54,7 @@ class PanelActions {
     virtual void loadGamma() = 0;
     virtual void saveGamma() = 0;
     virtual void openFile(const std::filesystem::path& file) = 0;
-    /// The settings files to offer, newest first.
+    /// The settings files for the menu, newest first.
     [[nodiscard]] virtual std::vector<std::filesystem::path> recentFiles() const = 0;
     virtual void quit() = 0;
 };

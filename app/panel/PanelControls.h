@@ -12,35 +12,34 @@ struct PanelSubject {
     /// "DP-1 · Dell U2720Q", or, as a key of the context "PanelSubject", "All displays".
     std::string title;
     bool isAllDisplays = false;
-    /// Why nothing can be edited, as a sentence and key of the context "Problem"; empty when it
-    /// can.
+    /// Why nothing can be edited, as a sentence and key of the context "Problem"; empty if editing
+    /// is possible.
     std::string obstacle;
 
     bool operator==(const PanelSubject&) const = default;
 };
 
-/// The controls of the panel, as the controller sees them. Setting one is not an edit: it calls
-/// nothing back.
+/// The controls of the panel. Setting one is not an edit and triggers no callback.
 class PanelControls {
  public:
     virtual ~PanelControls() = default;
 
     [[nodiscard]] virtual PanelValues values() const = 0;
-    /// Sets sliders, number fields and blending mode. A slider whose range ends before its value
-    /// is given the room.
+    /// Sets sliders, number fields and blending mode. A slider whose range is too small for its
+    /// value is extended.
     virtual void setValues(const PanelValues& values) = 0;
-    /// Takes back what was typed into a number field and not committed.
+    /// Discards uncommitted text in a number field.
     virtual void revertTyping() = 0;
-    /// Moves one slider, which stays within its range.
+    /// Moves one slider, clamped to its range.
     virtual void setSlider(PanelSlider slider, float value) = 0;
-    /// Shows no mode where the panel does not know `blendingMode`.
+    /// Shows no mode if the panel does not know `blendingMode`.
     virtual void selectBlendingMode(std::int32_t blendingMode) = 0;
-    /// Brings the channel strip in line with the slider that it stands for.
+    /// Updates the channel strip to match the slider that it represents.
     virtual void updateTouchBarSlider() = 0;
     virtual void _setControlsEnabled(bool enabled) = 0;
     virtual void showCorrection(bool isOn) = 0;
     virtual void showSubject(const PanelSubject& subject) = 0;
-    /// The curves that the plot shows have changed; it asks for them when it is drawn.
+    /// The plotted curves changed; the plot asks for them when it is painted.
     virtual void updatePlot() = 0;
     virtual void showUndo(bool canUndo, bool canRedo) = 0;
 };

@@ -17,7 +17,7 @@ Rectangle keptInside(Rectangle frame, const Rectangle& screen) {
     return frame;
 }
 
-// The panel is moved by its upper edge, so that is the part that must be on a display.
+// Users move the panel by its upper edge, so that part must be on a display.
 std::optional<DisplayID> PanelFrame::displayWithGrip(const Rectangle& frame) const {
     constexpr double grip = 14;
     const auto displays =

@@ -9,26 +9,27 @@
 
 namespace tonquil {
 
-/// `frame` moved into `screen`; the upper left corner counts where it does not fit.
+/// Moves `frame` inside `screen`; if it does not fit, the upper left corner stays visible.
 [[nodiscard]] Rectangle keptInside(Rectangle frame, const Rectangle& screen);
 
-/// Remembers where the panel was, and keeps it where it can be reached.
+/// Remembers the panel's position, and keeps it within reach.
 class PanelFrame {
  public:
     PanelFrame(DisplayService& service, PreferencesStore& preferences, PanelWindow& panel)
         : _service(service), _preferences(preferences), _panel(panel) {}
 
-    /// Puts the panel where it was saved, or, where its upper edge would be on no display or
-    /// nothing was saved, into the upper right of the main display.
+    /// Moves the panel to its saved position or, if its upper edge would be on no display or
+    /// nothing was saved, to the upper right of the main display.
     void restore();
-    /// Moves all of the panel onto the display that it was put on: its size is its form's and the
-    /// desktop's, not what it was when its place was saved.
+    /// Moves the whole panel onto its display: its size depends on its form and the desktop, and
+    /// may differ from when its position was saved.
     void keepWhole();
-    /// Whether the middle of the panel's upper edge, where it is moved, is on a display.
+    /// Whether the middle of the panel's upper edge, the grip for moving it, is on a display.
     [[nodiscard]] bool isWithinReach() const;
-    /// Restores a panel that is out of reach or was never placed, and keeps it whole.
+    /// Restores a panel that is out of reach or was never placed, and moves all of it onto its
+    /// display.
     void bringBack();
-    /// Does nothing before the panel has been put anywhere.
+    /// Does nothing before the panel has been placed.
     void save();
 
  private:
@@ -37,7 +38,7 @@ class PanelFrame {
     DisplayService& _service;
     PreferencesStore& _preferences;
     PanelWindow& _panel;
-    /// Where the panel was put; nothing until there was a display.
+    /// The display the panel was placed on; nothing until there was a display.
     std::optional<DisplayID> _display;
 };
 

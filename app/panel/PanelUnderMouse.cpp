@@ -12,8 +12,8 @@ using std::chrono::milliseconds;
 
 namespace {
 
-// The slider's own geometry: how far its bar ends from its sides, in points, and how high above its
-// lower edge the knob's centre is, as a fraction of its height.
+// Slider geometry: the distance of the bar's ends from the slider's sides, in points, and the
+// height of the knob's centre above the lower edge, as a fraction of the slider's height.
 constexpr double barMargin = 7;
 constexpr double knobHeight = 0.3;
 
@@ -60,7 +60,7 @@ void PanelUnderMouse::showPanelAndCenterMouse(milliseconds time) {
     frame = constrained(frame, *pointer);
     _.panel.setFrameOrigin({frame.x, frame.y});
     _.showPanel();
-    // The window system may have put the panel elsewhere; the pointer goes where the knob is.
+    // The window manager may have moved the panel; the pointer goes to the knob's actual position.
     const Rectangle placed = _.panel.frame();
     _.service.warpPointer(rounded({placed.x + knob.x, placed.y + knob.y}));
     _press->modifiedMouseLocationForPanelHotKey = _.windowSystem.pointerLocation();
@@ -77,7 +77,7 @@ void PanelUnderMouse::showPanelAndCenterMouseRelease(milliseconds time) {
 }
 
 void PanelUnderMouse::putBack(const Press& press) {
-    // If the person has moved the pointer, it stays where it is.
+    // If the user has moved the pointer, leave it there.
     if (_.windowSystem.pointerLocation() == press.modifiedMouseLocationForPanelHotKey) {
         _.service.warpPointer(press.initialMouseLocationForPanelHotKey);
     }

@@ -11,39 +11,40 @@
 
 namespace tonquil {
 
-/// Brings the panel to the pointer for as long as a hot key is held, or until it is closed when the
-/// key is only tapped. The knob of the shown tab's master slider is then right under the pointer.
+/// Shows the panel at the pointer while a hot key is held or, after a short tap, until it is
+/// closed. The knob of the shown tab's master slider is then under the pointer.
 ///
-/// Everything is in pixels of the top-down desktop space.
+/// Everything is in pixels of top-down desktop space.
 class PanelUnderMouse {
  public:
-    /// A key held longer than this puts everything back when it goes up.
+    /// If the key is held longer than this, its release restores everything.
     static constexpr std::chrono::milliseconds longestTap{400};
 
     struct Surroundings {
         DisplayService& service;
         PanelWindow& panel;
         WindowSystem& windowSystem;
-        /// Shows the curve of the display at a point.
+        /// Shows the curve of the display at a position.
         std::function<void(const Point& pointer)> showCurveAt;
-        /// Shows the panel where it is.
+        /// Shows the panel at its current position.
         std::function<void()> showPanel;
     };
     explicit PanelUnderMouse(Surroundings surroundings) : _(std::move(surroundings)) {}
 
-    /// The key has gone down: shows the panel, or hides it when it was shown.
+    /// Key press: shows the panel, or hides it if it was shown.
     ///
-    /// `time` is when it did, by the keyboard's own clock, and not when we come to hear of it:
-    /// showing the panel may take a busy machine longer than a tap.
+    /// `time` is the keyboard's own event time, not the time of this call: showing the panel can
+    /// take longer than a tap on a busy machine.
     void showPanelAndCenterMouse(std::chrono::milliseconds time);
-    /// The key has gone up.
+    /// Key release.
     void showPanelAndCenterMouseRelease(std::chrono::milliseconds time);
 
-    /// Where the knob of a slider is: its fill's end, in the coordinates of `slider.frame`.
+    /// The centre of a slider's knob: the end of its filled part, in the coordinates of
+    /// `slider.frame`.
     [[nodiscard]] static Point knobCentre(const PanelSliderGeometry& slider);
 
  private:
-    /// What a press has found, and where it has put the pointer.
+    /// The state found at a key press, and where the pointer was moved.
     struct Press {
         std::chrono::milliseconds initialTimeForPanelHotKey;
         Point initialMouseLocationForPanelHotKey;
@@ -56,7 +57,7 @@ class PanelUnderMouse {
     void putBack(const Press& press);
 
     Surroundings _;
-    /// There while the key is down.
+    /// Set while the key is down.
     std::optional<Press> _press;
 };
 

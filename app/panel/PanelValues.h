@@ -26,9 +26,9 @@ enum class PanelSlider : std::uint8_t {
 };
 inline constexpr std::size_t panelSliderCount = 12;
 
-/// What the panel's controls stand at.
+/// The values of the panel's controls.
 struct PanelValues {
-    /// By `PanelSlider`; starts at the neutral curve.
+    /// Indexed by `PanelSlider`; initially the neutral curve.
     std::array<float, panelSliderCount> sliders{0, 1, 1, 0, 0, 0, 1, 1, 1, 1, 1, 1};
     std::int32_t blendingMode = KVBlendingModeBaseTable;
 

@@ -8,42 +8,40 @@
 
 namespace tonquil {
 
-/// A window as the window system numbers it.
+/// The window system's ID of a window.
 using WindowID = std::uint64_t;
 
-/// What a panel asks of the window system beyond what the window toolkit offers.
+/// Window operations that Qt does not offer.
 ///
-/// The window must exist in the window system by the time of a call: a toolkit may hold its
-/// creation back until the event being handled is over. What a window manager keeps of a window it
-/// forgets when that is hidden, so the commands are repeated before each showing. Where the window
-/// system has gone, or knows no such thing, commands do nothing and questions are answered with
-/// false.
+/// The native window must exist at the time of a call: Qt may delay its creation until after the
+/// current event. A window manager forgets a window's properties when it is hidden, so the commands
+/// are repeated each time before it is shown. Without a connection, or if the window system does
+/// not support an operation, commands do nothing and queries return false.
 class WindowSystem {
  public:
     virtual ~WindowSystem() = default;
 
-    /// Shows the window whichever workspace the person switches to.
+    /// Shows the window on every workspace.
     virtual void keepOnAllWorkspaces(WindowID window) = 0;
-    /// Moves a window that is on another workspace to the one that the person is at.
+    /// Moves a window from another workspace to the current one.
     virtual void bringToActiveWorkspace(WindowID window) = 0;
-    /// Un-minimises and raises a window, and gives it the keyboard, because the person asks for it:
-    /// whatever keeps programs from taking the keyboard by themselves does not count here. A window
-    /// that is not shown stays hidden.
+    /// Un-minimises, raises and focuses a window at the user's request, bypassing focus stealing
+    /// prevention. A hidden window stays hidden.
     virtual void activate(WindowID window) = 0;
-    /// Leaves the window out of the task bar and of the overview of workspaces, or puts it back.
+    /// Removes the window from the task bar and pager, or adds it again.
     virtual void skipTaskbar(WindowID window, bool skip) = 0;
 
-    /// Holds the window to the proportions `width` : `height` whenever the person resizes it.
+    /// Keeps the aspect ratio `width` : `height` when the user resizes the window.
     virtual void keepProportions(WindowID window, std::uint32_t width, std::uint32_t height) = 0;
 
-    /// False only where the window is known to be on another workspace.
+    /// False only if the window is known to be on another workspace.
     [[nodiscard]] virtual bool isOnActiveWorkspace(WindowID window) const = 0;
-    /// In pixels of the top-down desktop space.
+    /// In pixels of top-down desktop space.
     [[nodiscard]] virtual std::optional<Point> pointerLocation() const = 0;
 
-    /// Whether translucent windows are blended with what lies below them at the moment.
+    /// Whether a compositor is currently running, so that translucent windows are blended.
     [[nodiscard]] virtual bool isCompositing() const = 0;
-    /// Whether a window manager answers to requests at the moment.
+    /// Whether a window manager is currently running.
     [[nodiscard]] virtual bool hasWindowManager() const = 0;
 };
 

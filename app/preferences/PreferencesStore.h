@@ -12,13 +12,13 @@
 
 namespace tonquil {
 
-/// A person's settings under string keys, with a layer of defaults below them.
+/// User settings under string keys, with registered defaults.
 ///
-/// Reading never fails. A number counts as a boolean and a boolean as a number, a string counts as
-/// the number that it begins with; what is missing or has no number in it reads as false or 0.
+/// Reading never fails. A number reads as a boolean and a boolean as a number, a string as its
+/// leading number; a missing value or one without a number reads as false or 0.
 class PreferencesStore {
  public:
-    /// Destroying it ends the subscription.
+    /// The destructor ends the subscription.
     class Subscription {
      public:
         virtual ~Subscription() = default;
@@ -29,29 +29,28 @@ class PreferencesStore {
     [[nodiscard]] bool boolForKey(std::string_view key) const;
     [[nodiscard]] std::int64_t integerForKey(std::string_view key) const;
     [[nodiscard]] float floatForKey(std::string_view key) const;
-    /// Empty where the value is missing or is no text.
+    /// Empty if the value is missing or not text.
     [[nodiscard]] std::string stringForKey(std::string_view key) const;
-    /// The strings of an array; empty where the value is missing or is none.
+    /// The strings of an array; empty if the value is missing or not an array.
     [[nodiscard]] std::vector<std::string> stringsForKey(std::string_view key) const;
-    /// An empty dictionary where the value is missing or is none.
+    /// An empty dictionary if the value is missing or not a dictionary.
     [[nodiscard]] PropertyValue dictionaryForKey(std::string_view key) const;
 
-    /// Lays `defaults`, a dictionary, below what is stored: they are read where nothing is stored
-    /// and are never saved.
+    /// Registers the dictionary `defaults`: they are read where nothing is stored, and never saved.
     virtual void registerDefaults(PropertyValue defaults) = 0;
-    /// Readable at once. What is set within one event is saved together after it.
+    /// Readable immediately. Values set during one event are saved together after it.
     virtual void setValue(std::string_view key, PropertyValue value) = 0;
-    /// Saves now what still waits to be saved, reads what others have saved, and returns whether
-    /// all that was set is saved.
+    /// Saves pending values now, reads what others have saved, and returns whether everything that
+    /// was set is saved.
     virtual bool synchronize() = 0;
 
-    /// Calls once after each event that set a value, or in which another program was seen to have
-    /// changed one. Changes made before the subscription are not told.
+    /// Calls back once after each event that set a value, or in which a change by another program
+    /// was detected. Changes made before the subscription are not reported.
     [[nodiscard]] virtual std::unique_ptr<Subscription> subscribe(
         std::function<void()> changed) = 0;
 
  private:
-    /// What is stored under `key`, else its default, else null. Valid until the next change.
+    /// The stored value under `key`, else its default, else null. Valid until the next change.
     [[nodiscard]] virtual const PropertyValue* valueForKey(std::string_view key) const = 0;
 };
 

@@ -7,25 +7,25 @@
 
 namespace tonquil {
 
-/// The keys of the preferences store: what each means, its type, and its default where it has one.
-/// A key without a default starts as false, 0 or absent.
+/// The keys of the preferences store: type, default if any, and meaning. A key without a default
+/// starts as false, 0 or absent.
 namespace settingsKey {
 
-/// Boolean, true: the panel shows its sliders for the single channels.
+/// Boolean, true: the panel shows sliders for each channel.
 inline constexpr std::string_view advancedPanel = "AdvancedPanel";
 /// Boolean, true: the panel is dark.
 inline constexpr std::string_view darkTheme = "DarkTheme";
-/// Boolean, true: the curves are put on the displays again and again.
+/// Boolean, true: the curves are re-applied periodically.
 inline constexpr std::string_view continuouslyApply = "ContinuouslyApply";
-/// Number, 3: seconds between two such re-applications.
+/// Number, 3: seconds between re-applications.
 inline constexpr std::string_view continuouslyApplyInterval = "ContinuouslyApplyInterval";
-/// Boolean, true: the program shows its panel when it starts.
+/// Boolean, true: the panel is shown at startup.
 inline constexpr std::string_view showAtLaunch = "ShowAtLaunch";
-/// Boolean, true: the correction is on when the program has started; otherwise it is off.
+/// Boolean, true: the correction is on after startup; otherwise it is off.
 inline constexpr std::string_view rememberSettings = "RememberSettings";
 /// Boolean, true: the correction is on now.
 inline constexpr std::string_view applyCorrection = "ApplyCorrection";
-/// Boolean, false: an edit goes to every display instead of the one under the panel.
+/// Boolean, false: edits go to every display instead of only the one under the panel.
 inline constexpr std::string_view affectAllScreens = "AffectAllScreens";
 /// Integer, 1: the panel's tab; 0 black, 1 middle, 2 white.
 inline constexpr std::string_view selectedTab = "SelectedTab";
@@ -38,29 +38,29 @@ inline constexpr std::string_view showStatusItem = "ShowStatusItem";
 /// Boolean: companions on the local network may read and set the curves.
 inline constexpr std::string_view allowRemote = "AllowRemote";
 /// The hot key that toggles the correction: boolean, integer of which the low 16 bits count, and
-/// integer. Code and modifiers 0 together are none.
+/// integer. Code and modifiers both 0 mean none.
 inline constexpr std::string_view useHotKey = "UseHotKey";
 inline constexpr std::string_view useHotKeyCode = "UseHotKeyCode";
 inline constexpr std::string_view useHotKeyModifiers = "UseHotKeyModifiers";
-/// The same for the one that shows the panel under the pointer.
+/// The same for the hot key that shows the panel under the pointer.
 inline constexpr std::string_view panelHotKey = "PanelHotKey";
 inline constexpr std::string_view panelHotKeyCode = "PanelHotKeyCode";
 inline constexpr std::string_view panelHotKeyModifiers = "PanelHotKeyModifiers";
-/// Integer: the format chosen last for a settings file; 0 one display, 1 several.
+/// Integer: the last chosen format for a settings file; 0 one display, 1 several.
 inline constexpr std::string_view saveFormat = "SaveFormat";
-/// Array of strings: the settings files opened or saved last, newest first.
+/// Array of strings: the most recently opened or saved settings files, newest first.
 inline constexpr std::string_view recentFiles = "RecentFiles";
-/// Boolean: the warning of a program that fights for the same tables was shown.
+/// Boolean: the warning of a rival program was shown.
 inline constexpr std::string_view conflictWarned = "KVFluxWarned";
 /// Boolean: the panel shows the strip with the slider of the focused channel.
 inline constexpr std::string_view channelStrip = "ChannelStrip";
-/// Boolean, true: windows of targets say below the pattern what to look for.
+/// Boolean, true: target windows explain below the pattern what to look for.
 inline constexpr std::string_view showsTargetHints = "ShowTargetHints";
-/// Text "X Y WIDTH HEIGHT": where the panel was, in pixels of the desktop from its upper left.
+/// Text "X Y WIDTH HEIGHT": the panel's last position, in desktop pixels from the upper left.
 inline constexpr std::string_view controlWindowFrame = "Window Frame ControlWindow";
-/// The same of the floating window of targets.
+/// The same for the floating targets window.
 inline constexpr std::string_view targetsFrame = "Window Frame Targets";
-/// Integer: the target that it shows; 0 colour, 1 grayscale.
+/// Integer: the target shown in that window; 0 colour, 1 grayscale.
 inline constexpr std::string_view targetKind = "TargetKind";
 /// The frame of the preferences window, as above.
 inline constexpr std::string_view preferencesFrame = "Window Frame Preferences";

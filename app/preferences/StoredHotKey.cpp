@@ -16,7 +16,6 @@ HotKeySettings hotKeySettings(HotKeyRole role) {
 
 std::shared_ptr<DDHotKey> storedHotKey(const PreferencesStore& preferences, HotKeyRole role) {
     const HotKeySettings keys = hotKeySettings(role);
-    // Only the low 16 bits count.
     const auto code = static_cast<std::uint16_t>(preferences.integerForKey(keys.code));
     const auto modifiers = static_cast<ModifierFlags>(preferences.integerForKey(keys.modifiers));
     return code == 0 && modifiers == 0 ? nullptr

@@ -10,10 +10,10 @@
 
 namespace tonquil {
 
-/// Which of the program's hot keys.
+/// The program's hot keys.
 enum class HotKeyRole : std::uint8_t { ToggleCorrection, ShowPanel };
 
-/// Where the preferences keep a hot key.
+/// The preferences keys of a hot key.
 struct HotKeySettings {
     std::string_view isUsed;
     std::string_view code;
@@ -21,11 +21,10 @@ struct HotKeySettings {
 };
 [[nodiscard]] HotKeySettings hotKeySettings(HotKeyRole role);
 
-/// The hot key that the preferences hold for a role, without a task; null for none. It is stored
-/// also while it is switched off.
+/// The stored hot key of a role, without a task; null for none. It stays stored while switched off.
 [[nodiscard]] std::shared_ptr<DDHotKey> storedHotKey(const PreferencesStore& preferences,
                                                      HotKeyRole role);
-/// Stores a hot key for a role; null stores none.
+/// Stores a hot key for a role; null removes it.
 void storeHotKey(PreferencesStore& preferences, HotKeyRole role, const DDHotKey* hotKey);
 
 }  // namespace tonquil

@@ -8,10 +8,10 @@
 
 namespace tonquil {
 
-/// A window's frame as the preferences keep it: "X Y WIDTH HEIGHT", in whole pixels of the
-/// top-down desktop space.
+/// Formats a window frame for the preferences: "X Y WIDTH HEIGHT", in whole pixels of top-down
+/// desktop space.
 [[nodiscard]] std::string textFromWindowFrame(const Rectangle& frame);
-/// Nothing where the text is no frame.
+/// Nothing if the text is not a frame.
 [[nodiscard]] std::optional<Rectangle> windowFrameFrom(const std::string& text);
 
 }  // namespace tonquil

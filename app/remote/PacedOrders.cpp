@@ -30,7 +30,7 @@ void PacedOrders::startInterval(const std::string& referenceID) {
         _runLoop.callOnce(interval, [this, referenceID] { intervalEnded(referenceID); });
 }
 
-// By value: the timer that keeps the ID is replaced here.
+// By value: the timer callback that owns the ID is destroyed here.
 void PacedOrders::intervalEnded(const std::string referenceID) {  // NOLINT(*-value-param)
     const auto display = _displays.find(referenceID);
     if (display == _displays.end()) {

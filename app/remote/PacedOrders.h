@@ -13,18 +13,18 @@
 
 namespace tonquil {
 
-/// What a companion wants of a display; what is empty stays as it is.
+/// A companion's request for a display; empty members are left unchanged.
 struct RemoteOrder {
     std::shared_ptr<TQExtendedGammaCurve> curve;
     /// As in a state update: the word for a target, any other text for none.
     std::optional<std::string> content;
 };
 
-/// Carries orders out at most 60 times a second for each display, however many come in.
+/// Limits orders to 60 a second per display, however many arrive.
 ///
-/// The first is carried out at once. Those that come within `interval` after it become one, in
-/// which the newest curve and the newest content win, and that one is carried out at the end of the
-/// interval. So the last order always is.
+/// The first is carried out immediately. Those that arrive within `interval` after it are merged,
+/// with the newest curve and the newest content, and carried out at the end of the interval. So the
+/// last order is always carried out.
 class PacedOrders {
  public:
     using CarryOut = std::function<void(const std::string& referenceID, const RemoteOrder& order)>;
@@ -36,9 +36,9 @@ class PacedOrders {
     PacedOrders(const PacedOrders&) = delete;
     PacedOrders& operator=(const PacedOrders&) = delete;
 
-    /// The caller sees to it that there are not too many different IDs.
+    /// The caller must limit the number of different IDs.
     void add(const std::string& referenceID, RemoteOrder order);
-    /// Drops what waits.
+    /// Drops waiting orders.
     void clear() { _displays.clear(); }
 
  private:
@@ -52,7 +52,7 @@ class PacedOrders {
 
     RunLoop& _runLoop;
     CarryOut _carryOut;
-    /// Those in whose interval we are.
+    /// Displays whose interval is still running.
     std::map<std::string, Display> _displays;
 };
 

@@ -22,7 +22,7 @@ void RemoteConfiguration::_applyDefaultsToServer() {
 }
 
 void RemoteConfiguration::startServer() {
-    // The same failure every few seconds is one line in the log.
+    // Log a repeated failure only once.
     const bool isRetry = _retry != nullptr;
     auto opened = _with.openServer([this](std::string_view line) {
         if (line != _lastFailure) {
@@ -64,8 +64,7 @@ void RemoteConfiguration::pushStateUpdate() {
     });
 }
 
-// A curve from the network is an edit like any other: it can be undone, and a crash does not lose
-// it.
+// A curve from the network is a normal edit: it can be undone, and survives a crash.
 RemoteDisplays::Reactions RemoteConfiguration::reactions() {
     return {.willEdit = [this] { _with.editing.willEditFromAfar(); },
             .didEdit = [this] { _with.editing.curvesWereEdited(); },

@@ -13,10 +13,10 @@ namespace tonquil {
 
 /// Runs the server for companions on the network while the preferences allow it.
 ///
-/// While it cannot be started, as when another program has its port, it is tried again and again.
+/// If it cannot start, for example because its port is in use, it keeps retrying.
 class RemoteConfiguration {
  public:
-    /// Opens a server, which writes to `log`; the problem's detail is the line that it left there.
+    /// Opens a server that logs to `log`; the problem's detail is the line it logged.
     using ServerOpener = std::function<Result<std::unique_ptr<TQPlayerServer>>(Log log)>;
 
     static constexpr std::chrono::seconds retryInterval{5};
@@ -32,17 +32,17 @@ class RemoteConfiguration {
         ServerOpener openServer;
         /// Called with whether a server runs, whenever that may have changed.
         std::function<void(bool)> showRunning;
-        /// Called with why none runs although it should, a text of the table "Problem"; empty when
-        /// there is no problem any more.
+        /// Called with the reason why no server runs although it should, a text of the table
+        /// "Problem"; empty once the problem is gone.
         std::function<void(const std::string&)> showProblem;
         Log log;
     };
 
     explicit RemoteConfiguration(const Surroundings& surroundings);
 
-    /// Starts or ends the server, as the preferences want it.
+    /// Starts or stops the server according to the preferences.
     void _applyDefaultsToServer();
-    /// Tells the companions that have subscribed about the displays, after the current event.
+    /// Sends the displays' state to subscribed companions, after the current event.
     void pushStateUpdate();
 
  private:
@@ -54,9 +54,9 @@ class RemoteConfiguration {
     Surroundings _with;
     RemoteDisplays _displays;
     std::unique_ptr<TQPlayerServer> _server;
-    /// There while no server can be started.
+    /// Set while no server can be started.
     std::unique_ptr<RunLoop::Handle> _retry;
-    /// The line that the last attempt left in the log.
+    /// What the last attempt logged.
     std::string _lastFailure;
 };
 

@@ -15,8 +15,8 @@ constexpr std::string_view colorTargets = "colorTargets";
 constexpr std::string_view grayscaleTargets = "grayscaleTargets";
 constexpr std::string_view transparent = "transparent";
 
-// The numbers of a curve are a few units at most. Beyond this a table is only zeros and ones, and
-// an infinity could not be written into an announce.
+// Normal curve values are a few units at most. Beyond this limit a table has only zeros and ones,
+// and infinity could not be written into an announce.
 constexpr float largestMagnitude = 1000;
 
 std::string_view contentOf(TargetKind kind) {
@@ -34,7 +34,7 @@ bool isUsable(const TQExtendedGammaCurve& curve) {
            isPointInReach(curve.middlePoint()) && isPointInReach(curve.whitePoint());
 }
 
-/// The display's curve as it is sent.
+/// The display's curve in network format.
 PropertyValue compactArrayOf(const KVScreen& screen) {
     const auto curve = std::dynamic_pointer_cast<TQExtendedGammaCurve>(screen.gammaCurve());
     return curve ? curve->gammaCurveCompactArray() : PropertyValue();
@@ -86,7 +86,7 @@ PropertyValue RemoteDisplays::playerServerInfoForScreen(TQPlayerServer& /*server
             {"content", kind ? contentOf(*kind) : transparent}};
 }
 
-// The words differ from those of the infos; readers of states know these.
+// These words differ from those of the infos; readers of states expect them.
 PropertyValue RemoteDisplays::playerServerStateForScreen(TQPlayerServer& /*server*/,
                                                          const std::string& referenceID) {
     const auto screen = _registry.screenWithReferenceID(referenceID);
@@ -110,8 +110,8 @@ void RemoteDisplays::playerServerSetStateForScreen(TQPlayerServer& /*server*/,
                                                    const std::string& referenceID) {
     const auto screen = _registry.screenWithReferenceID(referenceID);
     if (!screen) {
-        // All that a display we do not have leads to is one more look at the panel. The names that
-        // strangers make up are not kept.
+        // An unknown display only triggers a panel refresh. Its ID is not kept, because strangers
+        // can make up any number.
         _orders.add("", {});
         return;
     }
@@ -140,7 +140,7 @@ std::shared_ptr<TQExtendedGammaCurve> RemoteDisplays::curveFrom(const PropertyVa
 }
 
 void RemoteDisplays::carryOut(const std::string& referenceID, const RemoteOrder& order) {
-    // It may have gone while the order waited.
+    // The display may be gone by the time the order is carried out.
     const auto screen = _registry.screenWithReferenceID(referenceID);
     if (screen && order.curve) {
         setCurve(*screen, order.curve);
@@ -153,8 +153,8 @@ void RemoteDisplays::carryOut(const std::string& referenceID, const RemoteOrder&
 
 void RemoteDisplays::setCurve(KVScreen& screen,
                               const std::shared_ptr<TQExtendedGammaCurve>& curve) const {
-    // Companions repeat what they have sent, since nobody tells them that it arrived. It is no edit,
-    // yet the display may have been disturbed.
+    // Companions resend, because nothing confirms delivery. A repeat is not an edit, but the ramp
+    // may have been replaced in the meantime.
     if (compactArrayOf(screen) == curve->gammaCurveCompactArray()) {
         screen.setGammaCurve(curve);
         return;

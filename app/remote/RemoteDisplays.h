@@ -14,17 +14,17 @@
 
 namespace tonquil {
 
-/// Tells companions on the network about the displays, and sets what they ask for.
+/// Describes the displays to companions on the network, and applies what they request.
 class RemoteDisplays final : public TQPlayerServerDataSource {
  public:
-    /// What an order from the network leads to. All must be callable.
+    /// Callbacks for network orders. All must be set.
     struct Reactions {
         /// A curve is about to be replaced.
         std::function<void()> willEdit;
         std::function<void()> didEdit;
         /// The panel may be out of date.
         std::function<void()> refreshPanel;
-        /// A target that was shown for a companion has been closed.
+        /// A target shown for a companion was closed.
         std::function<void()> targetClosed;
         std::function<void()> broadcastFailed;
     };
@@ -37,13 +37,13 @@ class RemoteDisplays final : public TQPlayerServerDataSource {
                                                           const std::string& referenceID) override;
     [[nodiscard]] PropertyValue playerServerStateForScreen(TQPlayerServer& server,
                                                            const std::string& referenceID) override;
-    /// A curve with a number beyond all use, or of an unknown mode, is not taken; the target is.
-    /// What comes faster than `PacedOrders` allows is set a little later.
+    /// A curve with an out-of-range number or an unknown mode is ignored; its target is still
+    /// shown. Orders faster than `PacedOrders` allows are applied a little later.
     void playerServerSetStateForScreen(TQPlayerServer& server, const PropertyValue& state,
                                        const std::string& referenceID) override;
     void playerServerFailedBroadcastTest(TQPlayerServer& server, std::uint64_t reason) override;
 
-    /// Drops what is to be set a little later.
+    /// Drops waiting orders.
     void dropWaiting() { _orders.clear(); }
 
  private:

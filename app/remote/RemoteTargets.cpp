@@ -29,7 +29,7 @@ void RemoteTargets::dismiss(DisplayID display) {
 }
 
 void RemoteTargets::targetClosed(DisplayID display) {
-    // The first report of several is the one that counts.
+    // Of several reports for one close, only the first counts as a dismissal.
     const bool isFirst = std::exchange(_reports[display], 0) > 0;
     if (isFirst && !_isDismissing && isListed(display)) {
         countDismissal();
@@ -37,7 +37,7 @@ void RemoteTargets::targetClosed(DisplayID display) {
     _with.closed();
 }
 
-// A target also goes with its display, which is no longer listed then.
+// A target also closes when its display is unplugged, which is then no longer listed.
 bool RemoteTargets::isListed(DisplayID display) const {
     return std::ranges::any_of(_with.registry.screens(), [display](const auto& screen) {
         return screen->directDisplayID() == display;

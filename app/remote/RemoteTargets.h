@@ -15,22 +15,22 @@ namespace tonquil {
 
 /// Covers displays with targets for companions.
 ///
-/// A target takes the keyboard and hides what is below. A person who closes `mostDismissals` of
-/// them within `dismissalTime` has had enough: for `ignoringTime` no more are shown.
+/// A target takes the keyboard focus and hides everything below. If a user closes `mostDismissals`
+/// of them within `dismissalTime`, no more are shown for `ignoringTime`.
 class RemoteTargets {
  public:
     static constexpr std::size_t mostDismissals = 3;
     static constexpr std::chrono::seconds dismissalTime{10};
     static constexpr std::chrono::seconds ignoringTime{60};
-    /// A target that is shown several times is reported as closed as many times, up to this.
-    /// Subscribers are told at most 20 times at once (`AnswerLimits::forPushes`).
+    /// A target that is shown several times is reported as closed as many times, up to this limit.
+    /// Subscribers get at most 20 reports at once (`AnswerLimits::forPushes`).
     static constexpr int mostReports = 32;
 
     struct Surroundings {
         ScreenRegistry& registry;
         TargetWindows& targets;
         RunLoop& runLoop;
-        /// A target that was shown for a companion has been closed.
+        /// A target shown for a companion was closed.
         std::function<void()> closed;
         Log log;
     };
@@ -50,9 +50,9 @@ class RemoteTargets {
     void countDismissal();
 
     Surroundings _with;
-    /// How often a display's present target will be reported as closed.
+    /// How often the close of a display's current target will be reported.
     std::map<DisplayID, int> _reports;
-    /// By hand, the latest last.
+    /// Closed by the user, latest last.
     std::vector<Time> _dismissals;
     Time _ignoredUntil{};
     bool _isDismissing = false;

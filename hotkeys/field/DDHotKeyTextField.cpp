@@ -31,16 +31,16 @@ constexpr int clearButtonSpace = 20;
 DDHotKeyTextField::DDHotKeyTextField(const KeyboardLayout& layout, QWidget* parent)
     : QLineEdit(parent), _layout(layout), _clearButton(new HotKeyClearButton(this)) {
     setFrame(false);
-    // The same on both sides, so that the text stays in the middle.
+    // The same on both sides, so that the text stays centred.
     setTextMargins(clearButtonSpace, 0, clearButtonSpace, 0);
     setAlignment(Qt::AlignCenter);
-    // Keys are recorded, never typed: no cursor, no input method, no menu.
+    // Keys are recorded, not typed: no cursor, no input method, no menu.
     setReadOnly(true);
     setAcceptDrops(false);
     setContextMenuPolicy(Qt::NoContextMenu);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::ArrowCursor);
-    // The background is drawn here.
+    // The field draws its own background.
     QPalette palette;
     palette.setColor(QPalette::Base, Qt::transparent);
     setPalette(palette);
@@ -50,7 +50,7 @@ DDHotKeyTextField::DDHotKeyTextField(const KeyboardLayout& layout, QWidget* pare
 }
 
 DDHotKeyTextField::~DDHotKeyTextField() {
-    // Nobody is told any more, but the keys must be let go.
+    // No more signals, but the keys must be released.
     const QSignalBlocker silence(this);
     endRecording();
 }
@@ -163,7 +163,7 @@ void DDHotKeyTextField::placeClearButton() {
     _clearButton->setGeometry(QStyle::visualRect(layoutDirection(), rect(), QRect(corner, size)));
 }
 
-// There is nothing to select; the click itself brings the focus.
+// There is nothing to select; the click itself gives focus.
 void DDHotKeyTextField::mousePressEvent(QMouseEvent* event) {
     event->accept();
     if (event->button() == Qt::LeftButton && hasFocus()) {
@@ -184,7 +184,7 @@ void DDHotKeyTextField::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void DDHotKeyTextField::keyPressEvent(QKeyEvent* event) {
-    // While a recording is under way, the editor has taken the key.
+    // During a recording the editor has already consumed the key.
     const bool isBegin = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
                          event->key() == Qt::Key_Enter;
     if (isBegin && !event->isAutoRepeat()) {
@@ -196,8 +196,8 @@ void DDHotKeyTextField::keyPressEvent(QKeyEvent* event) {
 
 void DDHotKeyTextField::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    // Who passes by with Tab, or brings the window to the front, does not mean to record; and a
-    // recording would swallow the next Tab.
+    // Tabbing through or activating the window must not start a recording, which would swallow the
+    // next Tab.
     if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::OtherFocusReason) {
         beginRecording();
     }

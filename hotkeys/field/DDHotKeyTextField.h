@@ -13,34 +13,33 @@ namespace tonquil {
 class DDHotKeyTextFieldEditor;
 class HotKeyClearButton;
 
-/// A field in which a person records a key combination, and which shows it.
+/// Records and shows a key combination.
 ///
-/// A click, Space or Return begins a recording, and so does the program by giving the field the
-/// focus; Tab and a window that comes to the front only bring the focus. The next combination with
-/// a modifier, or a function, arrow or navigation key alone, becomes the field's hot key and ends
-/// the recording. Return ends it without a change, Escape puts back what was there when it began, a
-/// loss of the focus keeps what is there. A button at the end takes the hot key away and leaves the
-/// field empty. Nothing is registered here.
+/// A click, Space, Return or a `setFocus` call from the program starts a recording; Tab and window
+/// activation only move the focus. The next combination with a modifier, or a function, arrow or
+/// navigation key alone, becomes the field's hot key and ends the recording. Return ends it without
+/// a change, Escape restores the hot key from before the recording, and losing focus keeps the
+/// current one. A button at the end removes the hot key and clears the field. The field registers
+/// nothing.
 ///
-/// Combinations that a hot-key service has registered for this program never reach the field: give
-/// them up from `recordingBegan` to `recordingEnded`.
+/// Combinations that this program has registered with a hot-key service never reach the field:
+/// release them from `recordingBegan` to `recordingEnded`.
 class DDHotKeyTextField : public QLineEdit {
     Q_OBJECT
 
  public:
-    /// The layout, which says what keys are called, must outlive the field.
+    /// The layout, which provides the key labels, must outlive the field.
     explicit DDHotKeyTextField(const KeyboardLayout& layout, QWidget* parent = nullptr);
     ~DDHotKeyTextField() override;
     Q_DISABLE_COPY_MOVE(DDHotKeyTextField)
 
     /// The combination; null for none.
     [[nodiscard]] const std::shared_ptr<DDHotKey>& hotKey() const { return _hotKey; }
-    /// Shows a hot key in place of the one before, unless it is the same object. Null in place of a
-    /// hot key shows what key code 0 gives; only the person's own button empties the field. Tells
-    /// nobody.
+    /// Shows another hot key, unless it is the same object. Null replacing a hot key shows the text
+    /// of key code 0; only the user's clear button empties the field. Emits no signal.
     void setHotKey(std::shared_ptr<DDHotKey> hotKey);
 
-    /// The text as such, with a warning in the log: `hotKey` and `setHotKey` are what is meant.
+    /// The raw text, with a warning in the log: use `hotKey` and `setHotKey` instead.
     [[nodiscard]] QString stringValue() const;
     void setStringValue(const QString& text);
 
@@ -50,8 +49,8 @@ class DDHotKeyTextField : public QLineEdit {
     [[nodiscard]] QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
-    /// The person recorded a combination, be it the same again, or took the hot key away. While a
-    /// recording ends by it, this comes before `recordingEnded`.
+    /// The user recorded a combination, even an unchanged one, or removed the hot key. If this ends
+    /// a recording, it is emitted before `recordingEnded`.
     void hotKeyChanged();
     void recordingBegan();
     void recordingEnded();
@@ -81,7 +80,7 @@ class DDHotKeyTextField : public QLineEdit {
     std::shared_ptr<DDHotKey> _hotKey;
     /// Owned by this widget.
     HotKeyClearButton* _clearButton;
-    /// What catches the keys of a recording; the application owns it.
+    /// Grabs the keys during a recording; owned by the application.
     QPointer<DDHotKeyTextFieldEditor> _editor;
     bool _isRecording = false;
 };

@@ -12,7 +12,7 @@ namespace tonquil {
 namespace {
 
 DDHotKeyTextFieldEditor& sharedEditor() {
-    // A program that makes a second application object, as tests do, gets a second editor.
+    // A program that creates a second application object, as tests do, gets a second editor.
     static QPointer<DDHotKeyTextFieldEditor> editor;
     if (!editor) {
         editor = new DDHotKeyTextFieldEditor(QCoreApplication::instance());

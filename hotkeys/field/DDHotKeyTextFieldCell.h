@@ -7,11 +7,11 @@ namespace tonquil {
 
 class DDHotKeyTextFieldEditor;
 
-/// Hands out what edits a field.
+/// Provides the editor of a field.
 class DDHotKeyTextFieldCell {
  public:
-    /// The editor that all hot-key fields of the program share, given this field; null for any
-    /// other widget. The application owns the editor, and must exist.
+    /// The editor shared by all hot-key fields of the program, set to this field; null for any
+    /// other widget. Needs an application object, which owns the editor.
     [[nodiscard]] static DDHotKeyTextFieldEditor* fieldEditorForView(QWidget* view);
 };
 

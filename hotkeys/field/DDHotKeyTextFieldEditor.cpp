@@ -12,7 +12,7 @@ namespace tonquil {
 
 namespace {
 
-// Any of them makes a combination of a key. Caps lock and the numeric pad do not.
+// Each of these with a key is a combination. Caps lock and the numeric keypad flag do not count.
 constexpr ModifierFlags combiningFlags = ModifierFlag::shift | ModifierFlag::control |
                                          ModifierFlag::option | ModifierFlag::command |
                                          ModifierFlag::function;
@@ -75,7 +75,7 @@ bool DDHotKeyTextFieldEditor::eventFilter(QObject* watched, QEvent* event) {
     if (_globalMonitor && key.type() == QEvent::KeyPress) {
         processHotkeyEvent(key);
     }
-    // An override that is accepted keeps shortcuts from running; the key follows by itself.
+    // Accepting the override blocks shortcuts; the key event itself follows.
     key.accept();
     return true;
 }
@@ -95,14 +95,14 @@ bool DDHotKeyTextFieldEditor::isHeldRepeat(const QKeyEvent& event) {
     if (!_heldKey) {
         return false;
     }
-    // The toolkit makes some events without a scan code; names change with the modifiers.
+    // Qt creates some events without a scan code; Qt key names change with the modifiers.
     const bool isHeldKey = event.nativeScanCode() != 0
                                ? event.nativeScanCode() == _heldKey->scanCode
                                : event.key() == _heldKey->name;
     if (event.isAutoRepeat()) {
         return isHeldKey;
     }
-    // It went up, or another key went down, after which it repeats no more.
+    // It was released, or another key was pressed, which stops its repeat.
     if (isHeldKey || event.type() != QEvent::KeyRelease) {
         letHeldKeyGo();
     }
@@ -110,8 +110,8 @@ bool DDHotKeyTextFieldEditor::isHeldRepeat(const QKeyEvent& event) {
 }
 
 void DDHotKeyTextFieldEditor::processHotkeyEvent(const QKeyEvent& event) {
-    // A repeat is of a key that was held before: one that is ignored stays ignored, and the Tab
-    // that brought the focus here is no combination.
+    // A repeat belongs to a key that was already held. If its press was ignored, so are its
+    // repeats: the Tab that moved the focus here is not a combination.
     if (!_hotKeyField || event.isAutoRepeat() || isModifierEvent(event)) {
         return;
     }
@@ -125,7 +125,7 @@ void DDHotKeyTextFieldEditor::processHotkeyEvent(const QKeyEvent& event) {
         }
         return;
     }
-    // What the layout makes an Escape is one too.
+    // Also a key that the layout maps to Escape.
     const bool isEscape = keyCode == VirtualKey::escape || event.key() == Qt::Key_Escape;
     if (isEscape || isNewline(event.text())) {
         hold(event);
@@ -151,7 +151,7 @@ void DDHotKeyTextFieldEditor::restoreOriginal() {
     if (_originalHotKey) {
         field->showCombination(_originalHotKey->keyCode(), _originalHotKey->modifierFlags());
     }
-    // Whoever set another during the recording hears that it is gone again.
+    // If another hot key was set during the recording, report that it was undone.
     if (wasReplaced) {
         Q_EMIT field->hotKeyChanged();
     }

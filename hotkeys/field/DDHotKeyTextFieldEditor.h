@@ -15,12 +15,11 @@ namespace tonquil {
 
 class DDHotKeyTextField;
 
-/// Catches the keys while a hot-key field records: from `becomeFirstResponder` to
-/// `resignFirstResponder` no key that goes down reaches anything else in the program, shortcuts
-/// included.
+/// Grabs the keys while a hot-key field records: from `becomeFirstResponder` to
+/// `resignFirstResponder` no key press reaches anything else in the program, shortcuts included.
 ///
-/// A key that ended the recording and is still held goes on repeating; those repeats are caught
-/// too, until it goes up.
+/// If the key that ended the recording is still held, its repeats are consumed too, until it is
+/// released.
 class DDHotKeyTextFieldEditor : public QObject {
     Q_OBJECT
 
@@ -29,22 +28,22 @@ class DDHotKeyTextFieldEditor : public QObject {
 
     /// The field being edited; null between recordings. Not owned.
     [[nodiscard]] DDHotKeyTextField* hotKeyField() const;
-    /// Takes the field's present hot key for what Escape puts back.
+    /// Remembers the field's current hot key, for Escape to restore.
     void setHotKeyField(DDHotKeyTextField* field);
 
-    /// Begins to catch keys; false, with nothing begun, without a field.
+    /// Starts grabbing keys; false, without effect, if there is no field.
     [[nodiscard]] bool becomeFirstResponder();
     void resignFirstResponder();
-    /// Whether a key went down in the present or the last recording.
+    /// Whether a key was pressed in the current or last recording.
     [[nodiscard]] bool hasSeenKeyDown() const { return _hasSeenKeyDown; }
 
-    /// Takes a key that went down; modifiers by themselves and repeats change nothing.
+    /// Handles a key press; ignores modifiers on their own and repeats.
     void processHotkeyEvent(const QKeyEvent& event);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-    /// A key as the keyboard numbers it and as the layout names it.
+    /// A key by scan code and by its name in the layout.
     struct Key {
         std::uint32_t scanCode;
         int name;
@@ -60,9 +59,9 @@ class DDHotKeyTextFieldEditor : public QObject {
     QPointer<DDHotKeyTextField> _hotKeyField;
     std::shared_ptr<DDHotKey> _originalHotKey;
     bool _hasSeenKeyDown = false;
-    /// Whether keys are being caught.
+    /// Whether keys are being grabbed.
     bool _globalMonitor = false;
-    /// What ended the last recording, until it goes up.
+    /// The key that ended the last recording, until it is released.
     std::optional<Key> _heldKey;
 };
 

@@ -21,7 +21,7 @@ constexpr double ringRadius = 4;
 }  // namespace
 
 HotKeyClearButton::HotKeyClearButton(QWidget* parent) : QAbstractButton(parent) {
-    // Not by a click, which would end a recording before the button is let go.
+    // No click focus: it would end a recording before the button is released.
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::ArrowCursor);
     setAccessibleName(tr("Clear shortcut"));

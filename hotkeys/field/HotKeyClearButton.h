@@ -5,7 +5,7 @@
 
 namespace tonquil {
 
-/// The small cross in a hot-key field that takes the hot key away.
+/// The small cross in a hot-key field that removes the hot key.
 class HotKeyClearButton : public QAbstractButton {
     Q_OBJECT
 

@@ -8,7 +8,7 @@
 namespace tonquil {
 
 std::optional<std::uint16_t> virtualKeyCode(const QKeyEvent& event) {
-    // X11 and Wayland both count scan codes from here.
+    // Scan codes start here on both X11 and Wayland.
     constexpr quint32 firstScanCode = 8;
     if (event.nativeScanCode() < firstScanCode) {
         return std::nullopt;
@@ -29,9 +29,9 @@ ModifierFlags modifierFlags(const QKeyEvent& event) {
     return flags;
 }
 
-// A layout may put a switch between layouts on a modifier, alone or with another one held, for
-// which the toolkit has no name. Then the key's place tells, or what X calls it. The place alone
-// does not: a layout can make an Escape of the caps lock.
+// A layout may put a layout switch on a modifier, alone or combined with another one, and Qt has no
+// name for it. Then decide by scan code or by the X keysym. The scan code alone is not enough: a
+// layout can map caps lock to Escape.
 bool isModifierEvent(const QKeyEvent& event) {
     // XKB_KEY_ISO_Lock to XKB_KEY_ISO_Level5_Lock.
     constexpr quint32 firstLevelOrGroup = 0xFE01;

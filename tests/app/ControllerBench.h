@@ -79,7 +79,7 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
     Journal& _journal;
 };
 
-/// Dialogs in which a test decides at once.
+/// Dialogs that the test answers immediately.
 class ScriptedDialogs final : public FileDialogs {
  public:
     void chooseFileToOpen(Chosen chosen) override { chosen(file); }
@@ -94,12 +94,12 @@ class ScriptedDialogs final : public FileDialogs {
 
     std::filesystem::path file;
     std::optional<SettingsFormat> format;
-    /// What happens before the person has chosen where to save.
+    /// Runs before the user has chosen where to save.
     std::function<void()> whileUp = [] {};
     std::vector<std::string> alerts;
 };
 
-/// Tells what targets are asked for.
+/// Records requests for targets.
 class RecordedTargets final : public TargetWindows {
  public:
     void openTargetWindow() override {
@@ -143,7 +143,7 @@ class RecordedTargets final : public TargetWindows {
     std::vector<std::function<void()>> closings;
 };
 
-/// Tells what is asked of a display service.
+/// Records calls to a display service.
 class RecordedService final : public SimulatedDisplayService {
  public:
     RecordedService(SimulatedDesk& desk, Journal& journal, RecordedDesktop& desktop)
@@ -164,12 +164,13 @@ class RecordedService final : public SimulatedDisplayService {
     RecordedDesktop& _desktop;
 };
 
-/// A desk of two displays side by side, 1000 by 800 each, and one program after the other at it.
+/// A simulated desk with two displays side by side, 1000 by 800 each, and one running program at a
+/// time.
 class ControllerBench {
  public:
     ControllerBench();
 
-    /// Starts a program, ending without order the one that runs: what was not saved is lost.
+    /// Starts a program; a running one is killed and loses unsaved data.
     void launch();
     /// The same, and lets it settle.
     void launchAndSettle() {
@@ -177,9 +178,9 @@ class ControllerBench {
         loop.runPosted();
     }
     [[nodiscard]] TQController& controller() { return *_program->controller; }
-    /// Moves a slider as a person does.
+    /// Moves a slider as a user does.
     void edit(PanelSlider slider, float value, bool isLinked = false);
-    /// Changes a preference, as another program would, and lets the program take notice.
+    /// Changes a preference as another program would, and notifies the program.
     void set(std::string_view key, PropertyValue value) {
         preferences.setValue(key, std::move(value));
         loop.runPosted();
@@ -188,16 +189,16 @@ class ControllerBench {
         panel.place.x = x;
         controller().panelMoved();
     }
-    /// The first level that a display's red hardware ramp has, in entries.
+    /// The first entry of a display's red hardware ramp.
     [[nodiscard]] int firstEntry(DisplayID display) {
         return desk.find(display)->ramp.channel(0).front();
     }
-    /// The curve that a display has been given, and its red black level, which tests tell it by.
+    /// A display's curve and its red black level, by which tests identify it.
     [[nodiscard]] std::shared_ptr<KVGammaCurve> curve(DisplayID display) {
         return _program->registry->screenWithDirectDisplayID(display)->gammaCurve();
     }
     [[nodiscard]] float red(DisplayID display) { return curve(display)->blackPoint()->redValue(); }
-    /// Puts another program's ramp on the left display; gives how long it stays, at most 10 s.
+    /// Writes another program's ramp to the left display; returns how long it stays, at most 10 s.
     [[nodiscard]] std::chrono::milliseconds timeToReapply();
 
     static SimulatedDisplay makeDisplay(DisplayID display, double x);

@@ -18,7 +18,7 @@ namespace tonquil {
 /// What happened, in order.
 using Journal = std::vector<std::string>;
 
-/// A desktop without windows: tells what it is asked to show, and does as a test says.
+/// A desktop without windows: records what it is asked to show, and answers as the test says.
 class RecordedDesktop final : public DesktopPresence,
                               public ProgramWindows,
                               public WindowSystem,
@@ -80,11 +80,11 @@ class RecordedDesktop final : public DesktopPresence,
     std::map<HotKeyRole, std::string> problems;
     std::string remoteProblem;
     std::optional<Point> pointer = Point{500, 400};
-    /// The desktop file of the only program that is installed.
+    /// The desktop file of the only installed program.
     std::string installed;
-    /// Makes an event of the session.
+    /// Triggers a session event.
     Handler tell;
-    /// The curves that a crash would leave.
+    /// The curves in the recovery file.
     PropertyValue recovery = PropertyValue::object();
 
  private:
@@ -121,7 +121,7 @@ class ScriptedHotKeys final : public HotKeyService {
     std::map<std::uint16_t, std::uint32_t> ids;
     std::set<std::uint16_t> refused;
     int registrations = 0;
-    /// What the keys' events bear, whatever the run loop's clock says.
+    /// The key events' timestamp, independent of the run loop's clock.
     std::chrono::milliseconds time{0};
 
  private:

@@ -27,7 +27,7 @@ class Desktop : public testing::Test {
     ControllerBench bench;
 };
 
-TEST_F(Desktop, HotKeysFollowThePreferences) {
+TEST_F(Desktop, RegistersHotKeysFromPreferences) {
     bench.hotKeys.refused = {toggleKey};
     launchWithHotKeys();
     EXPECT_EQ(bench.desktop.problems[HotKeyRole::ToggleCorrection], "Another program holds it.");
@@ -58,13 +58,13 @@ TEST_F(Desktop, HotKeysFollowThePreferences) {
     EXPECT_TRUE(bench.hotKeys.ids.contains(0)) << "Code 0 is a key.";
 }
 
-// Where the knob comes to on a desktop, the tests of the whole program see.
-TEST_F(Desktop, ATapLeavesThePanelAndHoldingItsKeyPutsEverythingBack) {
+// Where the knob ends up on a real desktop is covered by the tests of the whole program.
+TEST_F(Desktop, TapKeepsPanelAndHoldRestoresEverything) {
     launchWithHotKeys();
     const Rectangle before = bench.panel.place;
     bench.hotKeys.press(panelKey);
     bench.hotKeys.time += milliseconds(400);
-    bench.loop.advance(milliseconds(2000));  // Showing the panel takes a busy machine long.
+    bench.loop.advance(milliseconds(2000));  // Showing the panel is slow on a busy machine.
     bench.hotKeys.release(panelKey);
     EXPECT_TRUE(bench.panel.isShown);
     EXPECT_NE(bench.panel.place, before);
@@ -86,7 +86,7 @@ TEST_F(Desktop, ATapLeavesThePanelAndHoldingItsKeyPutsEverythingBack) {
     }
 }
 
-TEST_F(Desktop, WarnsOfARivalBeforeAnythingElseUntilThePersonContinues) {
+TEST_F(Desktop, WarnsOfRivalFirstUntilUserContinues) {
     bench.desktop.installed = "gammastep.desktop";
     bench.alerts.answer = 1;
     bench.launch();
@@ -102,14 +102,14 @@ TEST_F(Desktop, WarnsOfARivalBeforeAnythingElseUntilThePersonContinues) {
     EXPECT_EQ(bench.alerts.shown.size(), 2U);
 }
 
-TEST(TextFormat, PutsArgumentsInTheirPlaces) {
+TEST(TextFormat, FillsPlaceholdersWithArguments) {
     const std::vector<std::string> two = {"a", "%@"};
     EXPECT_EQ(formattedText("%@ (%@), 100 %%", two), "a (%@), 100 %");
     EXPECT_EQ(formattedText("%2$@ before %1$@", two), "%@ before a");
     EXPECT_EQ(formattedText("%3$@ %0$@ %1$ %", two), "%3$@ %0$@ %1$ %");
 }
 
-TEST(CommandLine, IsReadAndPassedOn) {
+TEST(CommandLine, ParsesAndSerialisesRequests) {
     const std::vector<const char*> arguments{
         "--on",      "-session", "10ab", "--show-panel", "/a\n100%nfile", "--targets=grayscale",
         "--display", "101-0-0",  "--",   "--on"};
@@ -131,7 +131,7 @@ TEST(CommandLine, IsReadAndPassedOn) {
     EXPECT_FALSE(requestsFromText("on\n\n"));
 }
 
-TEST(Requests, AreCarriedOutInTheirOrder) {
+TEST(Requests, RunInOrder) {
     ControllerBench bench;
     bench.launchAndSettle();
     carryOut({{Request::Kind::Off},

@@ -22,18 +22,18 @@ class Edit : public testing::Test {
 class Correction : public Edit {};
 class Reconfiguration : public Edit {};
 
-TEST_F(Edit, GoesToTheDisplayUnderThePanelOrToAll) {
+TEST_F(Edit, ChangesDisplayUnderPanelOrAll) {
     bench.movePanel(100);
     bench.edit(PanelSlider::MasterBlack, 0.25F);
     EXPECT_GT(bench.firstEntry(left), neutral);
     EXPECT_EQ(bench.firstEntry(right), neutral);
 
-    // Mostly on the right display: what it has is shown, and what is edited is its curve.
+    // Mostly on the right display, so its curve is shown and edited.
     bench.movePanel(900);
     EXPECT_EQ(shown(PanelSlider::MasterBlack), 0);
     bench.edit(PanelSlider::MasterBlack, 0.5F);
     EXPECT_GT(bench.firstEntry(right), bench.firstEntry(left));
-    // Nobody told that the panel moved.
+    // No move notification arrived.
     bench.panel.place.x = 100;
     bench.edit(PanelSlider::BlackGreen, 0.5F);
     EXPECT_EQ(shown(PanelSlider::MasterBlack), 0.25F) << "Not what the right display has.";
@@ -48,27 +48,27 @@ TEST_F(Edit, GoesToTheDisplayUnderThePanelOrToAll) {
     EXPECT_EQ(bench.panel.subject.title, "DP-2") << "Another program took it back.";
 }
 
-TEST_F(Edit, LinksTheColoursOfAPointByTheDistanceTravelled) {
+TEST_F(Edit, MovesLinkedColoursByTheSameDistance) {
     bench.edit(PanelSlider::MiddleRed, 1.25F);
     bench.edit(PanelSlider::MiddleGreen, 1.0625F, true);
     EXPECT_EQ(shown(PanelSlider::MiddleRed), 1.3125F);
     EXPECT_EQ(shown(PanelSlider::MiddleBlue), 1.0625F);
     EXPECT_EQ(shown(PanelSlider::WhiteRed), 1);
-    // From the edit before, not from the beginning of the drag.
+    // Relative to the previous edit, not to the start of the drag.
     bench.edit(PanelSlider::MiddleGreen, 1.125F, true);
     EXPECT_EQ(shown(PanelSlider::MiddleRed), 1.375F);
     PanelValues expected = bench.panel.shown;
     expected[PanelSlider::MasterMiddle] = 1.5F;
     bench.edit(PanelSlider::MasterMiddle, 1.5F, true);
     EXPECT_EQ(bench.panel.shown, expected);
-    // Another mode leaves the sliders.
+    // Changing the mode leaves the sliders unchanged.
     bench.panel.shown.blendingMode = KVBlendingModeAbsolute;
     bench.controller().changeBlendingMode();
     EXPECT_EQ(bench.curve(left)->blendingMode(), KVBlendingModeAbsolute);
     EXPECT_EQ(bench.panel.shown.sliders, expected.sliders);
 }
 
-TEST_F(Edit, IsUndoneAndRedoneByDragAndByControl) {
+TEST_F(Edit, UndoesAndRedoesPerDragAndControl) {
     bench.edit(PanelSlider::BlackRed, 0.25F);
     bench.edit(PanelSlider::BlackRed, 0.5F);
     bench.controller().endEdit();
@@ -84,21 +84,21 @@ TEST_F(Edit, IsUndoneAndRedoneByDragAndByControl) {
     EXPECT_EQ(bench.firstEntry(left), neutral);
     EXPECT_FALSE(bench.panel.canUndo);
     bench.controller().undo();
-    // What changes nothing is no step.
+    // An edit without a change is no undo step.
     bench.edit(PanelSlider::WhiteRed, 1);
     EXPECT_FALSE(bench.panel.canUndo);
     bench.controller().redo();
     EXPECT_EQ(bench.firstEntry(left), first);
-    // After a new edit there is nothing to do again.
+    // A new edit clears the redo steps.
     bench.edit(PanelSlider::BlackBlue, 0.25F);
     bench.controller().redo();
     EXPECT_EQ(shown(PanelSlider::BlackBlue), 0.25F);
-    // The control that was undone begins a step of its own.
+    // After undo, the same control starts a new step.
     bench.controller().undo();
     EXPECT_EQ(bench.firstEntry(left), first);
 }
 
-TEST_F(Edit, OutlivesTheUnpluggingOfItsDisplay) {
+TEST_F(Edit, SurvivesUnpluggingTheDisplay) {
     bench.edit(PanelSlider::BlackRed, 0.25F);
     bench.desk.unplug(left);
     EXPECT_EQ(bench.panel.subject.title, "DP-2") << "The panel comes back into view.";
@@ -111,7 +111,7 @@ TEST_F(Edit, OutlivesTheUnpluggingOfItsDisplay) {
     EXPECT_EQ(shown(PanelSlider::BlackRed), 0.25F);
 }
 
-TEST_F(Edit, ResetTakesTheSystemsCalibrationForTheBase) {
+TEST_F(Edit, ResetReadsSystemCalibrationAsBase) {
     bench.edit(PanelSlider::BlackRed, 0.25F);
     bench.controller().resetGamma();
     HardwareRamp calibrated = HardwareRamp::straight(256);
@@ -128,7 +128,7 @@ TEST_F(Edit, ResetTakesTheSystemsCalibrationForTheBase) {
     EXPECT_EQ(bench.firstEntry(left), 5000) << "Over the new base.";
 }
 
-TEST_F(Correction, OffRestoresTheDisplaysAndOnCorrectsThemAgain) {
+TEST_F(Correction, OffRestoresDisplaysAndOnCorrectsAgain) {
     bench.edit(PanelSlider::BlackRed, 0.25F);
     const int edited = bench.firstEntry(left);
     bench.controller().setApplyCorrection(false);
@@ -144,7 +144,7 @@ TEST_F(Correction, OffRestoresTheDisplaysAndOnCorrectsThemAgain) {
     bench.controller().toggleApplyCorrection();
     EXPECT_EQ(bench.firstEntry(left), edited);
 
-    // Another program turns it, and is not answered: it may have turned it back by now.
+    // Another program's change is not written back: it may have changed again by now.
     bench.preferences.written.clear();
     bench.set("ApplyCorrection", false);
     EXPECT_EQ(bench.firstEntry(left), neutral);
@@ -155,7 +155,7 @@ TEST_F(Correction, OffRestoresTheDisplaysAndOnCorrectsThemAgain) {
     EXPECT_TRUE(bench.panel.correction);
 }
 
-TEST_F(Correction, LiesOverWhatOthersSetWhileOffAndOverAChangedProfile) {
+TEST_F(Correction, UsesForeignRampSetWhileOffAndChangedProfileAsBase) {
     HardwareRamp calibrated(256);
     calibrated.entries()[0] = 5000;
     bench.controller().setApplyCorrection(false);
@@ -171,7 +171,7 @@ TEST_F(Correction, LiesOverWhatOthersSetWhileOffAndOverAChangedProfile) {
     EXPECT_EQ(bench.firstEntry(left), 6000);
 }
 
-TEST_F(Correction, OffWhileADisplayIsAwayHoldsForItToo) {
+TEST_F(Correction, StaysOffForDisplayUnpluggedDuringSwitch) {
     bench.movePanel(1100);
     bench.edit(PanelSlider::BlackRed, 0.25F);
     bench.desk.unplug(right);
@@ -182,7 +182,7 @@ TEST_F(Correction, OffWhileADisplayIsAwayHoldsForItToo) {
     EXPECT_EQ(bench.firstEntry(right), neutral);
 }
 
-TEST_F(Correction, IsReappliedAtTheIntervalAndAfterEverySessionEvent) {
+TEST_F(Correction, ReappliesAtIntervalAndAfterEachSessionEvent) {
     bench.edit(PanelSlider::BlackRed, 0.25F);
     const int edited = bench.firstEntry(left);
     for (const SessionEvent event :
@@ -211,7 +211,7 @@ TEST_F(Correction, IsReappliedAtTheIntervalAndAfterEverySessionEvent) {
     EXPECT_EQ(bench.timeToReapply(), std::chrono::seconds(10)) << "Never.";
 }
 
-TEST_F(Reconfiguration, GivesANewDisplayItsCurveAndLeavesTheOthersTheirs) {
+TEST_F(Reconfiguration, AssignsStoredCurveToNewDisplayOnly) {
     bench.edit(PanelSlider::BlackRed, 0.25F);
     bench.controller().applicationWillTerminate();
     bench.desk.unplug(left);
@@ -227,18 +227,18 @@ TEST_F(Reconfiguration, GivesANewDisplayItsCurveAndLeavesTheOthersTheirs) {
     EXPECT_EQ(bench.firstEntry(right), edited);
     EXPECT_THAT(bench.log,
                 testing::ElementsAre("Begin display reconfiguration.", "Updating screen list."));
-    // The new one follows an edit at once, not only with the next re-application.
+    // The new display follows an edit immediately, not only at the next re-application.
     bench.controller().setAffectsAllScreens(true);
     bench.edit(PanelSlider::BlackRed, 0.75F);
     EXPECT_EQ(bench.firstEntry(left), bench.firstEntry(right));
 }
 
-TEST_F(Reconfiguration, IsOverWhenAllThatBeganHasEnded) {
+TEST_F(Reconfiguration, EndsWhenEveryBeginHasEnded) {
     ReconfigurationCounter counter;
     std::string told;
     ReconfigurationObserver observer(
         counter, [&](std::string_view line) { told += line.front(); }, [&] { told += '!'; });
-    // Nested; an end alone; a begin with another bit, which is an end.
+    // Nested; an end alone; a begin with another bit set, which counts as an end.
     for (const ReconfigurationFlags flags : {1U, 1U, 2U, 2U, 2U, 1U, 3U}) {
         observer.displayReconfigured(flags);
         told += ' ';

@@ -32,7 +32,7 @@ class Files : public testing::Test {
         bench.controller().openFile(file);
         bench.loop.runPosted();
     }
-    /// A curve whose red black level tells it from others.
+    /// A curve that its red black level identifies.
     [[nodiscard]] static PropertyValue curve(float red) {
         return TQExtendedGammaCurve(TQExtendedGammaCurve::Masters{},
                                     KVGammaPoint::gammaPointWithRed(red, 0, 0), nullptr, nullptr,
@@ -44,19 +44,19 @@ class Files : public testing::Test {
     ControllerBench bench;
 };
 
-TEST_F(Files, ForOneDisplayGoToTheOneUnderThePanel) {
+TEST_F(Files, WithOneCurveApplyToDisplayUnderPanel) {
     open(fileWith(curve(0.25F)));
     EXPECT_EQ(bench.red(left), 0.25F);
     EXPECT_EQ(bench.red(right), 0);
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.25F);
     bench.controller().undo();
     EXPECT_EQ(bench.red(left), 0);
-    // What has these values is given them again, with nothing to undo.
+    // Opening the same values again creates no undo step.
     open(fileWith(curve(0)));
     EXPECT_FALSE(bench.panel.canUndo);
 }
 
-TEST_F(Files, WithoutADictionaryAreRawTablesWhateverFollows) {
+TEST_F(Files, WithoutDictionaryAreRawTablesWithIgnoredTail) {
     const auto list = writePropertyList(PropertyValue::array({std::string(768, 'x')})).value();
     const auto huge = fileWith(std::string(std::size_t{2} << 20U, '\x40'));
     for (const auto& file : {fileWith(std::string(768, '\x40')), fileWith(list), huge}) {
@@ -71,7 +71,7 @@ TEST_F(Files, WithoutADictionaryAreRawTablesWhateverFollows) {
     EXPECT_EQ(bench.controller().recentFiles().size(), 3U);
 }
 
-TEST_F(Files, ForSeveralDisplaysGoToTheirOwnAndWaitForTheOthers) {
+TEST_F(Files, WithSeveralCurvesApplyByDisplayAndWaitForUnplugged) {
     const auto file = fileWith(PropertyValue{{"Format", 1},
                                              {"Screens",
                                               {{ControllerBench::referenceID(left), curve(0.25F)},
@@ -88,7 +88,7 @@ TEST_F(Files, ForSeveralDisplaysGoToTheirOwnAndWaitForTheOthers) {
     EXPECT_THAT(bench.dialogs.alerts, IsEmpty());
 }
 
-TEST_F(Files, ForDisplaysThatAreNotHereSaySoAndAreKept) {
+TEST_F(Files, ForUnpluggedDisplaysAreReportedAndKept) {
     bench.desk.unplug(right);
     bench.edit(PanelSlider::BlackRed, 0.125F);
     open(fileWith(PropertyValue{
@@ -103,7 +103,7 @@ TEST_F(Files, ForDisplaysThatAreNotHereSaySoAndAreKept) {
     EXPECT_EQ(bench.red(right), 0.5F);
 }
 
-TEST_F(Files, AreNotUndoneByWhatACrashLeaves) {
+TEST_F(Files, OverrideRecoveredCurvesAfterCrash) {
     bench.movePanel(1100);
     bench.edit(PanelSlider::BlackRed, 0.25F);
     bench.desk.unplug(right);
@@ -111,11 +111,11 @@ TEST_F(Files, AreNotUndoneByWhatACrashLeaves) {
     open(fileWith(PropertyValue{
         {"Format", 1}, {"Screens", {{ControllerBench::referenceID(right), curve(0.5F)}}}}));
     bench.desk.plug(ControllerBench::makeDisplay(right, 1000));
-    bench.launchAndSettle();  // The program before ended without a word.
+    bench.launchAndSettle();  // The previous run crashed.
     EXPECT_EQ(bench.red(right), 0.5F);
 }
 
-TEST_F(Files, ThatAreNoSettingsChangeNothing) {
+TEST_F(Files, WithoutSettingsChangeNothing) {
     bench.edit(PanelSlider::BlackRed, 0.25F);
     PropertyValue many = {{"Format", 1}};
     for (int display = 0; display <= 256; ++display) {
@@ -132,7 +132,7 @@ TEST_F(Files, ThatAreNoSettingsChangeNothing) {
     }
 }
 
-TEST_F(Files, AreSavedInTheChosenFormat) {
+TEST_F(Files, SaveInChosenFormat) {
     const auto file = fileWith(curve(0.25F));
     bench.dialogs.file = folder.path() / "one.tonquil";
     bench.dialogs.whileUp = [&] { open(file); };
@@ -151,9 +151,9 @@ TEST_F(Files, AreSavedInTheChosenFormat) {
     EXPECT_EQ(all.screens[std::to_string(left)], curve(0.25F));
 }
 
-TEST_F(Files, ThatCannotBeSavedAreReportedWhereNothingIsThere) {
+TEST_F(Files, ReportFailedSaveUnlessOldFileRemains) {
     std::filesystem::create_directory(folder.path() / "folder");
-    // What is there is still there, and nobody need be told.
+    // An existing file is unchanged, so no alert is needed.
     for (const auto& [name, alerts] : {std::pair("no/such/folder", 1U), {"folder", 0U}}) {
         SCOPED_TRACE(name);
         bench.dialogs.alerts.clear();
@@ -166,7 +166,7 @@ TEST_F(Files, ThatCannotBeSavedAreReportedWhereNothingIsThere) {
     }
 }
 
-/// Two displays with nothing but their connectors to tell them apart.
+/// Two displays that only differ in their connectors.
 class Twins : public Files {
  protected:
     Twins() {
@@ -197,7 +197,7 @@ class Twins : public Files {
     const std::string id = "0.000000x0.000000-0-0";
 };
 
-TEST_F(Twins, KeepTheirCurvesByConnector) {
+TEST_F(Twins, KeepCurvesByConnector) {
     start({{id, curve(0.75F)}});
     restart();
     EXPECT_EQ(reds(), std::pair(0.75F, 0.75F)) << "Stored when there was one, and for both.";
@@ -208,7 +208,7 @@ TEST_F(Twins, KeepTheirCurvesByConnector) {
     plug(left);
     EXPECT_EQ(reds(), std::pair(0.25F, 0.5F));
 
-    // The one that is left stays what it is, and an edit of it is there when both are back.
+    // The remaining twin keeps its screen, and its edit is still there when both are back.
     bench.desk.unplug(right);
     restart();
     EXPECT_EQ(bench.red(left), 0.25F);
@@ -217,7 +217,8 @@ TEST_F(Twins, KeepTheirCurvesByConnector) {
     restart();
     EXPECT_EQ(reds(), std::pair(0.125F, 0.5F));
 
-    // A file has both; one that has the shared ID only is for both, also for one that is away.
+    // A saved file has both; a file with only the shared ID applies to both, even to an unplugged
+    // one.
     bench.dialogs.file = folder.path() / "twins";
     bench.dialogs.format = SettingsFormat::MultiDisplay;
     bench.controller().saveGamma();
@@ -231,7 +232,7 @@ TEST_F(Twins, KeepTheirCurvesByConnector) {
     EXPECT_EQ(reds(), std::pair(0.125F, 0.5F));
 }
 
-TEST_F(Twins, ThatComeOneAfterTheOtherShowTheSameAndLoseNothing) {
+TEST_F(Twins, PluggedInOneByOneShareCurveAndLoseNothing) {
     bench.desk.unplug(right);
     start({{id + "@DP-1", curve(0.25F)}, {id + "@DP-2", curve(0.5F)}});
     bench.desk.unplug(left);

@@ -13,7 +13,7 @@ using testing::IsEmpty;
 
 constexpr const char* frameKey = "Window Frame ControlWindow";
 
-TEST(Launch, TakesItsStepsInOrder) {
+TEST(Launch, RunsStepsInOrder) {
     ControllerBench bench;
     bench.launch();
     EXPECT_THAT(
@@ -26,7 +26,7 @@ TEST(Launch, TakesItsStepsInOrder) {
     EXPECT_THAT(bench.journal, ElementsAre("controls enabled", "tab 1", "master focused"));
 }
 
-TEST(Launch, FollowsThePreferences) {
+TEST(Launch, FollowsPreferences) {
     ControllerBench bench;
     bench.preferences.stored = {{"AdvancedPanel", false},  {"DarkTheme", false},
                                 {"ShowAtLaunch", false},   {"RememberSettings", false},
@@ -43,7 +43,7 @@ TEST(Launch, FollowsThePreferences) {
     EXPECT_THAT(bench.journal, testing::Contains("status active"));
 }
 
-TEST(Launch, PutsThePanelBackWhereADisplayStillIsAndKeepsItWhole) {
+TEST(Launch, RestoresPanelEntirelyOnAnAttachedDisplay) {
     const std::vector<std::pair<const char*, Point>> rows{{"1200 50 320 132", {1200, 50}},
                                                           {"1800 700 320 132", {1680, 330}},
                                                           {"5000 50 320 132", {648, 64}},
@@ -58,7 +58,7 @@ TEST(Launch, PutsThePanelBackWhereADisplayStillIsAndKeepsItWhole) {
     }
 }
 
-TEST(Launch, FindsWhatAnOrderlyEndHasSavedOnce) {
+TEST(Launch, SavesOnceAtShutdownAndLoadsOnNextStart) {
     ControllerBench bench;
     bench.launchAndSettle();
     bench.edit(PanelSlider::BlackRed, 0.25F);
@@ -80,7 +80,7 @@ TEST(Launch, FindsWhatAnOrderlyEndHasSavedOnce) {
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.25F);
 }
 
-TEST(Launch, PutsStoredCurvesOnTheDisplaysFirstUnlessAQuestionOrNoCorrectionComesFirst) {
+TEST(Launch, AppliesStoredCurvesFirstUnlessOffOrAsking) {
     ControllerBench bench;
     bench.launchAndSettle();
     bench.edit(PanelSlider::BlackRed, 0.25F);
@@ -103,7 +103,7 @@ TEST(Launch, PutsStoredCurvesOnTheDisplaysFirstUnlessAQuestionOrNoCorrectionCome
     EXPECT_EQ(start(), 0);
 }
 
-TEST(Launch, AppliesTwiceAtMostAfterAStormOfEvents) {
+TEST(Launch, AppliesAtMostTwiceAfterEventBurst) {
     ControllerBench bench;
     bench.launchAndSettle();
     bench.journal.clear();
@@ -117,7 +117,7 @@ TEST(Launch, AppliesTwiceAtMostAfterAStormOfEvents) {
     EXPECT_EQ(bench.journal.size(), 4U);
 }
 
-TEST(Launch, PrefersWhatACrashLeftToWhatIsStored) {
+TEST(Launch, PrefersRecoveredCurvesToStoredOnes) {
     ControllerBench bench;
     bench.launchAndSettle();
     bench.edit(PanelSlider::BlackRed, 0.25F);
@@ -125,7 +125,7 @@ TEST(Launch, PrefersWhatACrashLeftToWhatIsStored) {
     bench.launchAndSettle();
     bench.edit(PanelSlider::BlackRed, 0.5F);
     bench.loop.advance(std::chrono::milliseconds(500));
-    bench.launchAndSettle();  // The program before ended without a word.
+    bench.launchAndSettle();  // The previous run crashed.
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.5F);
     bench.edit(PanelSlider::BlackRed, 0.75F);
     bench.preferences.isWritable = false;
@@ -139,7 +139,7 @@ TEST(Launch, PrefersWhatACrashLeftToWhatIsStored) {
     EXPECT_EQ(bench.panel.shown[PanelSlider::BlackRed], 0.75F);
 }
 
-TEST(Launch, ReopeningShowsThePanelOrTogglesAsThePreferencesSay) {
+TEST(Launch, ReopenShowsPanelOrTogglesPerPreference) {
     ControllerBench bench;
     bench.launchAndSettle();
     bench.journal.clear();

@@ -10,7 +10,7 @@
 
 namespace tonquil {
 
-/// Settings in memory, of whose changes nobody is told before `tell`. The defaults lie among them.
+/// Preferences in memory, with the defaults among them. Subscribers are only called by `tell`.
 class PlainStore final : public PreferencesStore {
  public:
     void registerDefaults(PropertyValue defaults) override {
@@ -30,7 +30,7 @@ class PlainStore final : public PreferencesStore {
         subscribers.push_back(std::move(changed));
         return std::make_unique<Subscription>();
     }
-    /// Ends an event in which something was changed.
+    /// Ends an event that changed something: calls the subscribers.
     void tell() const {
         for (const auto& changed : subscribers) {
             changed();
@@ -38,7 +38,7 @@ class PlainStore final : public PreferencesStore {
     }
 
     PropertyValue stored = PropertyValue::object();
-    /// What the disk holds.
+    /// The contents on disk.
     PropertyValue saved = PropertyValue::object();
     /// The keys that were set, in order.
     std::vector<std::string> written;
@@ -52,7 +52,7 @@ class PlainStore final : public PreferencesStore {
     }
 };
 
-/// The person in front of the alerts, who chooses `answer` each time.
+/// A user who answers every alert with `answer`.
 class ScriptedAlerts final : public Alerts {
  public:
     [[nodiscard]] std::size_t runModal(const Alert& alert) override {

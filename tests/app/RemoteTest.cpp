@@ -20,7 +20,7 @@ class Remote : public testing::Test {
     Remote() {
         bench.preferences.stored = {{"AllowRemote", true}};
         bench.launchAndSettle();
-        // The self-test hears the program's own announce.
+        // The self-test receives the program's own announce.
         receive("Kantivel ann {\"name\":\"desk\"}");
         bench.loop.advance(std::chrono::seconds(1));
         bench.network.sent.clear();
@@ -33,12 +33,12 @@ class Remote : public testing::Test {
         receive("Kantivel state-update " +
                 PropertyValue{{ControllerBench::referenceID(display), state}}.dump());
     }
-    /// The same, with a pause in which what waits is set.
+    /// The same, followed by a pause in which waiting orders are applied.
     void setStateInPeace(DisplayID display, const PropertyValue& state) {
         setState(display, state);
         bench.loop.advance(PacedOrders::interval * 2);
     }
-    /// What an announce says of a display.
+    /// What an announce contains about a display.
     [[nodiscard]] PropertyValue info(DisplayID display) {
         bench.network.sent.clear();
         receive("Kantivel scan ");
@@ -52,7 +52,7 @@ class Remote : public testing::Test {
     ControllerBench bench;
 };
 
-TEST_F(Remote, ACurveFromTheNetworkIsOneEdit) {
+TEST_F(Remote, AppliesNetworkCurveAsOneEdit) {
     setState(left, {{"gamma", gamma(0.25F)}});
     EXPECT_EQ(bench.red(left), 0.25F) << "at once";
     EXPECT_GT(bench.firstEntry(left), 16000);
@@ -70,7 +70,7 @@ TEST_F(Remote, ACurveFromTheNetworkIsOneEdit) {
     EXPECT_THAT(bench.network.sent, IsEmpty());
 }
 
-TEST_F(Remote, IgnoresCurvesThatNoDisplayCanShow) {
+TEST_F(Remote, IgnoresCurvesOutOfRange) {
     bench.edit(PanelSlider::BlackRed, 0.125F);
     for (const PropertyValue& bad : PropertyValue{{2, 0, 1, 1}, {1, 0, 1, 1, 1001}, "text"}) {
         setStateInPeace(left, {{"gamma", bad}, {"content", "colorTargets"}});
@@ -82,13 +82,13 @@ TEST_F(Remote, IgnoresCurvesThatNoDisplayCanShow) {
     for (int i = 0; i < 1000; ++i) {
         setState(left, {{"gamma", {2, 0, 1, 1}}});
     }
-    // 20 on orders, 20 on curves; some of both went before.
+    // 20 for orders, 20 for curves; some of both were logged earlier.
     EXPECT_LE(bench.log.size(), 40U) << "A stranger cannot fill the log.";
     receive("Kantivel state-update {\"9-9-9\":{\"gamma\":[1,1,1,1]}}");
     EXPECT_EQ(bench.red(left), 0.125F);
 }
 
-TEST_F(Remote, PushesTheClosingOfATarget) {
+TEST_F(Remote, PushesStateWhenTargetCloses) {
     setStateInPeace(left, {{"content", "grayscaleTargets"}});
     EXPECT_EQ(info(left)["content"], "grayscaleTargets");
     setStateInPeace(left, {{"content", 7}});
@@ -107,7 +107,7 @@ TEST_F(Remote, PushesTheClosingOfATarget) {
     EXPECT_EQ(bench.targets.closings.size(), std::size_t{RemoteTargets::mostReports});
 }
 
-TEST_F(Remote, LeavesAPersonInPeaceWhoClosesThreeTargets) {
+TEST_F(Remote, StopsShowingTargetsAfterUserClosesThree) {
     const auto isShown = [this] {
         setStateInPeace(left, {{"content", "colorTargets"}});
         return bench.targets.covers.contains(left);
@@ -126,7 +126,7 @@ TEST_F(Remote, LeavesAPersonInPeaceWhoClosesThreeTargets) {
     EXPECT_TRUE(isShown());
 }
 
-TEST_F(Remote, SetsAFloodAtThePaceOfTheDisplayAndTheLastStateAlways) {
+TEST_F(Remote, PacesFloodAndAlwaysAppliesLastState) {
     bench.edit(PanelSlider::BlackRed, 0.5F);
     int changes = 0;
     for (int i = 1; i <= 1000; ++i) {
@@ -158,7 +158,7 @@ TEST_F(Remote, SetsAFloodAtThePaceOfTheDisplayAndTheLastStateAlways) {
     EXPECT_EQ(bench.red(left), 0.25F) << "What waited is dropped.";
 }
 
-TEST_F(Remote, TriesATakenPortAgainAndSaysSoUntilItIsFree) {
+TEST_F(Remote, RetriesUsedPortAndReportsItUntilFree) {
     bench.set("AllowRemote", false);
     bench.network.bindResult = 98;
     bench.log.clear();
@@ -171,7 +171,7 @@ TEST_F(Remote, TriesATakenPortAgainAndSaysSoUntilItIsFree) {
     EXPECT_TRUE(bench.desktop.remoteProblem.empty() && bench.desktop.isRemoteShown);
 }
 
-TEST_F(Remote, FollowsItsPreferenceAndSwitchesItOffWhenNobodyIsHeard) {
+TEST_F(Remote, FollowsPreferenceAndClearsItWhenSelfTestFails) {
     bench.set("AllowRemote", true);
     EXPECT_THAT(bench.network.sent, IsEmpty()) << "It runs already.";
     EXPECT_TRUE(bench.desktop.isRemoteShown);
@@ -184,7 +184,7 @@ TEST_F(Remote, FollowsItsPreferenceAndSwitchesItOffWhenNobodyIsHeard) {
     EXPECT_EQ(bench.network.sent[0].bytes, "Kantivel scan ");
     EXPECT_EQ(bench.network.sent[1].recipient, SocketAddress(SocketAddress::broadcastHost, 48184));
 
-    // Nobody is heard now.
+    // No announce arrives now.
     bench.loop.advance(std::chrono::seconds(1));
     bench.loop.runPosted();
     EXPECT_EQ(bench.preferences.stored["AllowRemote"], false);

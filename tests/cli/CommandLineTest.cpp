@@ -18,7 +18,7 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-/// What the words between spaces mean.
+/// Parses space-separated arguments.
 Result<Arguments> parsed(const std::string& line) {
     std::istringstream text("tonquilctl " + line);
     std::vector<std::string> words(std::istream_iterator<std::string>(text), {});
@@ -30,7 +30,7 @@ Result<Arguments> parsed(const std::string& line) {
     return parseArguments(static_cast<int>(words.size()), argv.data());
 }
 
-TEST(Arguments, AreUnderstoodInAnyOrder) {
+TEST(Arguments, ParseInAnyOrder) {
     const auto apply = parsed("apply --display 1-2-3 file --display=4-5-6");
     ASSERT_TRUE(apply);
     EXPECT_EQ(apply->displays, (std::vector<std::string>{"1-2-3", "4-5-6"}));
@@ -47,7 +47,7 @@ TEST(Arguments, AreUnderstoodInAnyOrder) {
     EXPECT_EQ(parsed("read --help")->command, Arguments::Command::help);
 }
 
-TEST(Arguments, ThatMakeNoSenseAreRefused) {
+TEST(Arguments, RefuseInvalidCombinations) {
     std::istringstream lines(
         ";frobnicate;displays file;displays --hardware;read --json;read --display;apply;"
         "apply one two;apply file --curve [0];apply file --samples 3;restore --nonsense;"
@@ -62,23 +62,23 @@ TEST(Arguments, ThatMakeNoSenseAreRefused) {
     }
 }
 
-/// What the command prints, or its exit status.
+/// The command's output, or its exit status.
 std::string table(std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), "table");
     const ProcessResult result = tonquilctl("", arguments);
     return result.exitStatus == 0 ? result.standardOutput : std::to_string(result.exitStatus);
 }
 
-TEST(TableCommand, PrintsEveryDigitThatASingleNeeds) {
+TEST(TableCommand, PrintsAllDigitsOfAFloat) {
     const std::string absolute = table({"--curve", "[0,0,1,1,0.25,1,0.75,0,2.2]"});
     EXPECT_THAT(absolute, StartsWith("0\t0.25\t0\t0\n"));
-    // 0.5 to the single nearest to 2.2, computed apart.
+    // 0.5 to the power of the float nearest to 2.2, computed independently.
     EXPECT_THAT(absolute, HasSubstr("\n128\t0.5\t0.217637628\t0.5\n"));
     EXPECT_EQ(std::ranges::count(absolute, '\n'), 256);
 }
 
-TEST(TableCommand, LaysACurveOverTheGivenBase) {
-    // Slot 1 of 2 lies at position 0.5 of the base: half of each slot.
+TEST(TableCommand, AppliesCurveOverGivenBase) {
+    // Slot 1 of 2 is at position 0.5 of the base: half of each slot.
     EXPECT_EQ(table({"--curve", "[1]", "--samples", "2"}), "0\t0\t0\t0\n1\t0.5\t0.5\t0.5\n");
     const std::string base = fileWith("0\t0.25\t0.5\t1e-1\n1\t0.75\t1\t0.3\n");
     EXPECT_EQ(table({"--curve", "[1]", "--samples", "2", "--base", base}),
@@ -90,7 +90,7 @@ TEST(TableCommand, LaysACurveOverTheGivenBase) {
     }
 }
 
-TEST(TableCommand, TakesTheOneCurveThatIsMeant) {
+TEST(TableCommand, ReadsOnlyUnambiguousCurves) {
     const PropertyValue neutral = TQExtendedGammaCurve().gammaCurveDictionary();
     PropertyValue half = neutral;
     half["v4-MasterBlack"] = 0.5;
@@ -112,7 +112,7 @@ void expectFailure(const ProcessResult& result) {
     EXPECT_TRUE(result.standardError.starts_with("tonquilctl: ")) << result.standardError;
 }
 
-TEST(Failures, OfTheServerAreOneLine) {
+TEST(Failures, OfXServerPrintOneLine) {
     expectFailure(tonquilctl("", {"apply", "--curve", "[1]"}));
     expectFailure(tonquilctl(":987", {"displays"}));
     const auto server =
@@ -123,7 +123,7 @@ TEST(Failures, OfTheServerAreOneLine) {
     EXPECT_EQ(nowhere.exitStatus, 1) << "output that is lost is a failure";
 }
 
-TEST(Failures, OfWhatIsGivenChangeNoDisplay) {
+TEST(Failures, OfInputChangeNoDisplay) {
     const auto server = XServer::start().value();
     const RampReader reader = RampReader::connect(server->display()).value();
     const Ramp before = reader.read("DUMMY0").value();
@@ -131,7 +131,7 @@ TEST(Failures, OfWhatIsGivenChangeNoDisplay) {
     const std::vector<std::vector<std::string>> rows{
         {"apply", "/nowhere/at/all"},
         {"apply", fileWith(std::string(767, 'x'))},
-        // Long enough for raw tables, but they set out to be something else.
+        // Long enough for raw tables, but they start like something else.
         {"apply", fileWith("<?xml version=\"1.0\"?>" + std::string(2'000, ' '))},
         {"apply", fileWith("bplist00" + std::string(2'000, '\1'))},
         {"apply", fileWith("<plist><array>" + std::string(700, ' ') + "</array></plist>")},

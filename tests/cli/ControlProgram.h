@@ -28,7 +28,7 @@ namespace tonquil {
     return run(tonquilctlRequest(display, arguments)).value();
 }
 
-/// A file with these contents that lives as long as the test program.
+/// Creates a file with these contents, which exists as long as the test program runs.
 [[nodiscard]] inline std::string fileWith(const std::string& contents) {
     static const ScratchFolder folder;
     static int count = 0;

@@ -18,7 +18,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Three displays: serial numbers 1 and 2, and one known by its size.
+/// Three displays: serial numbers 1 and 2, and one identified by its size.
 class ProgramOnXServer : public testing::Test {
  protected:
     ProgramOnXServer() {
@@ -60,14 +60,14 @@ Ramp absoluteRamp(double exponent, double white) {
         [=](int i) { return std::lround(65535 * white * std::pow(i / 256.0, exponent)); });
 }
 
-TEST_F(ProgramOnXServer, ListsTheDisplays) {
+TEST_F(ProgramOnXServer, ListsDisplays) {
     EXPECT_EQ(control({"displays"}).standardOutput,
               "1\t1-10-21036\tDUMMY0\t1400x1050+0+0\t256\tunique\n"
               "2\t2-10-21036\tDUMMY1\t1280x1024+1400+0\t256\tunique\n"
               "3\t600.000000x340.000000-3246328619-0\tDUMMY2\t1024x768+2680+0\t256\tlocal\n");
 }
 
-TEST_F(ProgramOnXServer, AppliesAFileToTheDisplaysThatItNames) {
+TEST_F(ProgramOnXServer, AppliesFileToItsDisplays) {
     const auto dictionary = [](float exponent) {
         return TQExtendedGammaCurve::gammaCurveWithMasterBlack(0, exponent, 1, nullptr, nullptr,
                                                                nullptr, 0)
@@ -89,7 +89,7 @@ TEST_F(ProgramOnXServer, AppliesAFileToTheDisplaysThatItNames) {
     mustRun({"restore", "--display", "DUMMY0"});
     EXPECT_EQ(ramp(0), startRamp);
     EXPECT_EQ(ramp(2), absoluteRamp(0.5, 1));
-    // Somebody else's ramp between two applies becomes the system's.
+    // Another program's ramp between two applies becomes the system ramp.
     mustRun({"apply", file, "--display", "1-10-21036"});
     EXPECT_EQ(ramp(0), absoluteRamp(2, 1));
     mustSucceed(server->xrandr({"--output", "DUMMY0", "--gamma", "1.2:1:0.8"}));
@@ -98,13 +98,13 @@ TEST_F(ProgramOnXServer, AppliesAFileToTheDisplaysThatItNames) {
     EXPECT_EQ(ramp(0), absoluteRamp(2, 1));
     mustRun({"restore"});
     EXPECT_EQ(ramp(0), foreign);
-    // A raw table goes to all; byte 255 is 255 / 256.
+    // A raw table goes to all displays; byte 255 is 255 / 256.
     mustRun({"apply", fileWith(std::string(768, '\xFF'))});
     EXPECT_EQ(ramp(1).green[3], 65279);
     EXPECT_EQ(ramp(2).green[3], 65279);
 }
 
-TEST_F(ProgramOnXServer, ReadsTheBaseOrTheHardware) {
+TEST_F(ProgramOnXServer, ReadsBaseOrHardware) {
     const std::string before = control({"read"}).standardOutput;
     EXPECT_TRUE(before.starts_with("0\t0\t0\t0\n1\t0.0039063096\t0.0039063096\t0.0039063096\n"));
     mustRun({"apply", "--curve", "[0,0,1,0.5]", "--display", "2-10-21036"});
@@ -116,14 +116,14 @@ TEST_F(ProgramOnXServer, ReadsTheBaseOrTheHardware) {
     EXPECT_EQ(control({"read", "--hardware"}).standardOutput, before);
 }
 
-TEST_F(ProgramOnXServer, DoesNotCompoundHoweverOftenItIsKilled) {
+TEST_F(ProgramOnXServer, DoesNotCompoundWhenKilledRepeatedly) {
     const std::vector<std::string> apply{"apply", "--curve", "[1,0.05,1.3,0.9]"};
     const std::vector<std::string> other{"apply", "--curve", "[0,0.1,0.7,1]"};
     mustRun(apply);
     const Ramp once = ramp(1);
     ASSERT_NE(once, startRamp);
     mustRun({"restore"});
-    // Killed at ever later moments of its short life, with two curves in turn.
+    // Killed later and later in its short run, alternating two curves.
     for (int round = 0; round < 120; ++round) {
         const auto process =
             BackgroundProcess::start(
@@ -140,7 +140,7 @@ TEST_F(ProgramOnXServer, DoesNotCompoundHoweverOftenItIsKilled) {
     EXPECT_EQ(ramp(1), startRamp);
 }
 
-TEST_F(ProgramOnXServer, RestoresWhatAPublishedProfileAsksFor) {
+TEST_F(ProgramOnXServer, RestoresCalibrationOfPublishedProfile) {
     const Ramp calibration = absoluteRamp(1.1, 0.95);
     mustSucceed(server->setRootProperty("_ICC_PROFILE_2", buildIccWithTable(calibration)));
     mustSucceed(server->setRootProperty("_ICC_PROFILE_1", {1, 2, 3}));
@@ -150,7 +150,7 @@ TEST_F(ProgramOnXServer, RestoresWhatAPublishedProfileAsksFor) {
     EXPECT_EQ(ramp(2), calibration);
     EXPECT_EQ(ramp(1), startRamp) << "a broken profile counts as none";
     EXPECT_EQ(ramp(0), startRamp) << "so does one without a calibration";
-    // The other form that profiles have it in: min 0, max 0.95, exponent 1.1.
+    // The other vcgt form, a formula: min 0, max 0.95, exponent 1.1.
     mustSucceed(server->setRootProperty(
         "_ICC_PROFILE", buildIccWithFormula({{{1.1, 0, 0.95}, {1, 0, 1}, {1, 0.5, 0.5}}})));
     mustRun({"restore"});

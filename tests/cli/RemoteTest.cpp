@@ -11,7 +11,7 @@ namespace {
 const SocketAddress desk(0x0A000001, remote::serverPort);
 const SocketAddress companion(0x0A000003, 50000);
 
-/// tonquilctl and a server, which reach each other in the time of a run loop driven by hand.
+/// tonquilctl and a server, connected through a run loop that the test drives.
 class RemoteCommands : public testing::Test, public ServerBench {
  protected:
     RemoteCommands() {
@@ -20,7 +20,7 @@ class RemoteCommands : public testing::Test, public ServerBench {
                              {"1-2-3", {0, 0, singlePrecision(1.2F)}, "colorTargets", true}};
         start();
     }
-    /// Brings the datagrams to their recipients. Another server is always faster with an answer.
+    /// Delivers the datagrams. Another server always answers first.
     void deliver() {
         for (const auto& [bytes, recipient] : std::exchange(client.sent, {})) {
             const bool isForAll = recipient.host() == SocketAddress::broadcastHost;
@@ -36,7 +36,7 @@ class RemoteCommands : public testing::Test, public ServerBench {
             }
         }
     }
-    /// What is printed, or the sentence of a failure.
+    /// The output, or the sentence of a failure.
     std::string run(const Arguments& arguments) {
         std::string out;
         std::string notes;
@@ -66,8 +66,8 @@ class RemoteCommands : public testing::Test, public ServerBench {
     Arguments set{.command = Arguments::Command::remoteSet, .host = "desk", .referenceID = "1-2-3"};
 };
 
-TEST_F(RemoteCommands, ScanListsEveryServerHeardAndGetAsksOne) {
-    // The first question gets lost on its way.
+TEST_F(RemoteCommands, ScanListsEveryServerAndGetQueriesOne) {
+    // The first request gets lost.
     isLost = [lost = false](std::string_view) mutable { return !std::exchange(lost, true); };
     EXPECT_EQ(run({.command = Arguments::Command::remoteScan}),
               "10.0.0.1\tDesk\\x09\\x1b[2J\t0200abcd0eff\n"
@@ -82,7 +82,7 @@ TEST_F(RemoteCommands, ScanListsEveryServerHeardAndGetAsksOne) {
     EXPECT_EQ(run(get), "No server answers on nobody.");
 }
 
-TEST_F(RemoteCommands, SetIsConfirmedByWhatTheServerThenAnnounces) {
+TEST_F(RemoteCommands, SetIsConfirmedByNextAnnounce) {
     set.content = "grayscaleTargets";
     EXPECT_EQ(run(set), "");
     EXPECT_EQ(displays.displays[1].content, "grayscaleTargets");

@@ -30,10 +30,10 @@ std::string save(const std::filesystem::path& target, std::string_view text,
     return saved ? "saved" : saved.error().sentence;
 }
 
-TEST(AtomicFile, GivesTheFileThePermissionsOfItsKind) {
+TEST(AtomicFile, SetsPermissionsByKindOfFile) {
     const mode_t former = ::umask(027);
     const AtomicFileOptions document = AtomicFileOptions::document();
-    // The mode of the older file, 0 for none, and of the new one.
+    // The mode of the existing file, 0 for none, and of the new one.
     const std::vector<std::tuple<mode_t, AtomicFileOptions, mode_t>> rows = {
         {0, {}, 0600},       {0666, {}, 0600},       {0, {.mode = 0666}, 0666},
         {0, document, 0640}, {0664, document, 0664}, {0600, document, 0600}};
@@ -52,7 +52,7 @@ TEST(AtomicFile, GivesTheFileThePermissionsOfItsKind) {
     ::umask(former);
 }
 
-TEST(AtomicFile, KeepsTheOlderFileWhenTheDiskIsFull) {
+TEST(AtomicFile, KeepsOldFileWhenDiskIsFull) {
     const ScratchFolder folder;
     putContents(folder / "file", "older");
     rlimit former{};
@@ -60,7 +60,7 @@ TEST(AtomicFile, KeepsTheOlderFileWhenTheDiskIsFull) {
     auto* const formerHandler = std::signal(SIGXFSZ, SIG_IGN);
     const rlimit low{10'000, former.rlim_max};
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &low), 0);
-    // The first part of it fits, so the system writes less than it is asked to, and then nothing.
+    // The first part fits, so write() is first short and then fails.
     const std::string sentence = save(folder / "file", std::string(100'000, 'x'));
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &former), 0);
     std::signal(SIGXFSZ, formerHandler);
@@ -69,7 +69,7 @@ TEST(AtomicFile, KeepsTheOlderFileWhenTheDiskIsFull) {
     EXPECT_EQ(entriesIn(folder.path()), 1);
 }
 
-TEST(AtomicFile, RemovesAStaleTemporaryFileButNotOneInUse) {
+TEST(AtomicFile, RemovesStaleTemporaryFileButNotOneInUse) {
     const ScratchFolder folder;
     const auto temporary = folder / ".file.tonquil-new";
     putContents(temporary, "left behind, and rather long");
@@ -87,7 +87,7 @@ TEST(AtomicFile, RemovesAStaleTemporaryFileButNotOneInUse) {
     EXPECT_EQ(save(folder / "file", "third"), "saved");
 }
 
-TEST(AtomicFile, SavesThroughSymbolicLinksAndLeavesThem) {
+TEST(AtomicFile, SavesThroughSymbolicLinks) {
     const ScratchFolder folder;
     std::filesystem::create_directory(folder / "real");
     putContents(folder / "real/there", "older");
@@ -100,7 +100,7 @@ TEST(AtomicFile, SavesThroughSymbolicLinksAndLeavesThem) {
     EXPECT_EQ(contentsOf(folder / "real/not yet"), "d");
 }
 
-TEST(AtomicFile, RefusesTargetsThatCannotOrMustNotBeReplaced) {
+TEST(AtomicFile, RefusesTargetsItCannotOrMustNotReplace) {
     const ScratchFolder folder;
     std::filesystem::create_symlink("circle", folder / "circle");
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
@@ -108,7 +108,7 @@ TEST(AtomicFile, RefusesTargetsThatCannotOrMustNotBeReplaced) {
     ::chmod((folder / "closed").c_str(), 0555);
     putContents(folder / "file", "older");
     ::chmod((folder / "file").c_str(), 0444);
-    // May be written to, but not listed.
+    // Writable, but not readable.
     ::chmod(folder.path().c_str(), 0333);
     const std::vector<std::pair<std::filesystem::path, const char*>> rows = {
         {folder / "closed", "it is a folder"},
@@ -116,7 +116,7 @@ TEST(AtomicFile, RefusesTargetsThatCannotOrMustNotBeReplaced) {
         {folder / "file", "it is read-only. The older file was kept."},
         {folder / "pipe", "it is not a regular file"},
         {folder / "circle", "lead in a circle"},
-        // Fits by itself, but not with what the temporary name adds.
+        // Valid by itself, but too long with the temporary file's prefix and suffix.
         {folder / std::string(250, 'n'), "its name is too long"},
         {std::string("a\0b", 3), "has a NUL"},
         {folder / "new", "saved"}};
@@ -138,7 +138,7 @@ bool isWhole(const std::filesystem::path& target) {
     return bytes && !bytes->empty() && *bytes == std::vector<std::uint8_t>(size, bytes->front());
 }
 
-/// Saves files of one repeated byte, another each time, and tells of each, until it is killed.
+/// Saves files of one repeated byte, a different one each time, and reports each, until killed.
 [[noreturn]] void saveForever(const std::filesystem::path& target, std::uint8_t fill, int end) {
     for (;; ++fill) {
         const std::vector<std::uint8_t> contents(size, fill);
@@ -148,7 +148,7 @@ bool isWhole(const std::filesystem::path& target) {
     }
 }
 
-TEST(AtomicFileCrash, LeavesAWholeFileWheneverItsWriterIsKilled) {
+TEST(AtomicFileCrash, LeavesCompleteFileWheneverWriterIsKilled) {
     const ScratchFolder folder;
     const auto target = folder / "file";
     std::ptrdiff_t leftBehind = 0;
@@ -161,7 +161,7 @@ TEST(AtomicFileCrash, LeavesAWholeFileWheneverItsWriterIsKilled) {
         }
         ::close(ends[1]);
         char saved = 0;
-        // The first save works in spite of what the killed one before may have left behind.
+        // The first save works despite leftovers of the killed writer before it.
         EXPECT_EQ(::read(ends[0], &saved, 1), 1);
         for (int reads = round % 7; reads > 0; --reads) {
             EXPECT_TRUE(isWhole(target));
@@ -172,7 +172,7 @@ TEST(AtomicFileCrash, LeavesAWholeFileWheneverItsWriterIsKilled) {
         ASSERT_TRUE(isWhole(target)) << round;
         leftBehind += entriesIn(folder.path()) - 1;
     }
-    // Else no writer was ever killed while it was writing, and the test has shown nothing.
+    // Otherwise no writer was killed during a write, and the test proves nothing.
     EXPECT_GT(leftBehind, 0);
 }
 
@@ -181,7 +181,7 @@ std::string problemWith(const std::filesystem::path& path, std::size_t mostBytes
     return bytes ? "none" : bytes.error().sentence;
 }
 
-TEST(BoundedFile, ReadsUpToTheLimitWhateverSizeTheFileClaims) {
+TEST(BoundedFile, ReadsUpToLimitWhateverTheReportedSize) {
     const ScratchFolder folder;
     const std::string contents(200'000, 'x');
     putContents(folder / "file", contents);
@@ -193,12 +193,12 @@ TEST(BoundedFile, ReadsUpToTheLimitWhateverSizeTheFileClaims) {
     EXPECT_EQ(problemWith(name, contents.size() - 1), name + " is larger than 199999 bytes.");
     std::filesystem::resize_file(name, std::uintmax_t{1} << 40U);  // sparse
     EXPECT_EQ(problemWith(name), name + " is larger than 1 KiB.");
-    // Files in /proc claim no size at all.
+    // Files in /proc report a size of 0.
     EXPECT_EQ(problemWith("/proc/self/status", 10), "/proc/self/status is larger than 10 bytes.");
     EXPECT_EQ(problemWith("/proc/self/status", 100'000), "none");
 }
 
-TEST(BoundedFile, RefusesWhatIsNoRegularFileWithoutWaitingForIt) {
+TEST(BoundedFile, RefusesNonRegularFilesWithoutBlocking) {
     const ScratchFolder folder;
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
     const std::vector<std::pair<std::filesystem::path, const char*>> rows = {

@@ -25,7 +25,7 @@ inline void putContents(const std::filesystem::path& path, std::string_view cont
     std::ofstream(path, std::ios::binary) << contents;
 }
 
-/// How many entries a folder has, hidden ones included.
+/// Number of entries in a folder, including hidden ones.
 [[nodiscard]] inline std::ptrdiff_t entriesIn(const std::filesystem::path& folder) {
     return std::distance(std::filesystem::directory_iterator(folder),
                          std::filesystem::directory_iterator());

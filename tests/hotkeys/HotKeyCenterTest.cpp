@@ -11,7 +11,7 @@ using testing::ElementsAre;
 
 constexpr std::uint16_t f5 = 96;
 
-/// A platform that grants everything but what somebody else holds.
+/// A platform that grants every combination except those held by another program.
 class GrantingService final : public HotKeyService {
  public:
     struct Grant {
@@ -63,7 +63,7 @@ class HotKeyCenterTest : public testing::Test {
     std::unique_ptr<DDHotKeyCenter> center = std::make_unique<DDHotKeyCenter>(service, Log());
 };
 
-TEST_F(HotKeyCenterTest, AsksTheServiceForTheFourModifiersAlone) {
+TEST_F(HotKeyCenterTest, RegistersOnlyTheFourModifiers) {
     service.isHeldByOthers = true;
     EXPECT_FALSE(center->registerHotKeyWithKeyCode(f5, 0, task()));
     EXPECT_EQ(center->lastRefusal()->sentence, "Another program holds it.");
@@ -84,7 +84,7 @@ TEST_F(HotKeyCenterTest, AsksTheServiceForTheFourModifiersAlone) {
     }
 }
 
-TEST_F(HotKeyCenterTest, RefusesACombinationThatIsRegisteredAndComparesAllFlags) {
+TEST_F(HotKeyCenterTest, RefusesRegisteredCombinationAndComparesAllFlags) {
     const ModifierFlags withFunction = ModifierFlag::control | ModifierFlag::function;
     EXPECT_TRUE(center->registerHotKeyWithKeyCode(f5, withFunction, task()));
     EXPECT_FALSE(center->registerHotKeyWithKeyCode(f5, withFunction, HotKeyReceiver{}));
@@ -94,7 +94,7 @@ TEST_F(HotKeyCenterTest, RefusesACombinationThatIsRegisteredAndComparesAllFlags)
     EXPECT_FALSE(center->lastRefusal());
 }
 
-TEST_F(HotKeyCenterTest, InvokesWhatTheReceiverRespondsTo) {
+TEST_F(HotKeyCenterTest, InvokesActionsThatReceiverImplements) {
     const int target = 0;
     const std::vector<HotKeyReceiver> receivers{
         {&target, told("up"), told("down"), std::string(" it")},
@@ -106,7 +106,7 @@ TEST_F(HotKeyCenterTest, InvokesWhatTheReceiverRespondsTo) {
         ASSERT_TRUE(center->registerHotKeyWithKeyCode(++keyCode, 0, receiver));
     }
     ASSERT_TRUE(center->registerHotKeyWithKeyCode(++keyCode, 0, task()));
-    // The last is a number of nobody's.
+    // The last ID is not registered.
     for (std::uint32_t id = 1; id <= receivers.size() + 2; ++id) {
         service.press(id);
         service.release(id);
@@ -114,7 +114,7 @@ TEST_F(HotKeyCenterTest, InvokesWhatTheReceiverRespondsTo) {
     EXPECT_THAT(heard, ElementsAre("down it", "up it", "up", "task")) << "a task on release";
 }
 
-TEST_F(HotKeyCenterTest, AnActionHearsOfTheKeyAndMayUnregisterAndTheEndGivesEverythingUp) {
+TEST_F(HotKeyCenterTest, ActionGetsEventAndMayUnregisterAndDestructorReleasesAll) {
     HotKeyEvent last;
     ASSERT_TRUE(center->registerHotKeyWithKeyCode(f5, 0, [&](const HotKeyEvent& event) {
         center->unregisterAllHotKeys();
@@ -134,7 +134,7 @@ TEST_F(HotKeyCenterTest, AnActionHearsOfTheKeyAndMayUnregisterAndTheEndGivesEver
     EXPECT_FALSE(service.isHeard());
 }
 
-TEST_F(HotKeyCenterTest, UnregistersThoseThatAreMeantAndNoOthers) {
+TEST_F(HotKeyCenterTest, UnregistersOnlyMatchingHotKeys) {
     const int first = 0;
     const int second = 0;
     const std::vector<std::pair<std::function<void()>, std::vector<std::uint16_t>>> rows{

@@ -54,7 +54,7 @@ class HotKeyTextFieldTest : public testing::Test {
         other->setFocus();
         field->setHotKey(former);
     }
-    /// A key event as the platform makes it: what a shortcut might take is asked for first.
+    /// Sends a key event as the platform does: first the shortcut override, then the key.
     void send(QEvent::Type type, const Key& key, Qt::KeyboardModifiers held, bool isRepeat) {
         QWidget* const receiver = window.focusWidget() != nullptr ? window.focusWidget() : &window;
         const auto make = [&](QEvent::Type made) {
@@ -93,7 +93,7 @@ class HotKeyTextFieldTest : public testing::Test {
     bool wasOverridden = false;
 };
 
-TEST_F(HotKeyTextFieldTest, RecordsACombinationAndThenEnds) {
+TEST_F(HotKeyTextFieldTest, EndsAfterRecordingACombination) {
     struct Row {
         Key key;
         Qt::KeyboardModifiers held;
@@ -129,7 +129,7 @@ TEST_F(HotKeyTextFieldTest, RecordsACombinationAndThenEnds) {
     EXPECT_EQ(calls, rows.size()) << "the task goes on from one to the next";
 }
 
-TEST_F(HotKeyTextFieldTest, TakesOtherKeysWithoutAModifierAndGoesOn) {
+TEST_F(HotKeyTextFieldTest, SwallowsKeysWithoutModifierAndKeepsRecording) {
     record();
     for (const Key& key : {a, tab, backspace, del, printScreen}) {
         SCOPED_TRACE(key.key);
@@ -137,7 +137,7 @@ TEST_F(HotKeyTextFieldTest, TakesOtherKeysWithoutAModifierAndGoesOn) {
         EXPECT_TRUE(wasOverridden);
     }
     press({KEY_LEFTSHIFT, Qt::Key_Shift}, Qt::ShiftModifier);
-    // Where Alt and Shift together, or Super and the space bar, switch between layouts.
+    // With a layout switch on Alt+Shift or on Super+Space.
     press({KEY_LEFTSHIFT, Qt::Key_unknown}, Qt::AltModifier);
     press({KEY_SPACE, Qt::Key_unknown, "", 0xFE08}, Qt::MetaModifier);
     press(printScreen, Qt::ControlModifier);
@@ -149,7 +149,7 @@ TEST_F(HotKeyTextFieldTest, TakesOtherKeysWithoutAModifierAndGoesOn) {
     EXPECT_EQ(shown(), "⌘A");
 }
 
-TEST_F(HotKeyTextFieldTest, EndsWithoutAChangeByReturnByEscapeAndByALossOfTheFocus) {
+TEST_F(HotKeyTextFieldTest, EndsUnchangedByReturnEscapeAndFocusLoss) {
     for (const Key& key : {enter, keypadEnter, escape, capsAsEscape}) {
         SCOPED_TRACE(key.evdevCode);
         record();
@@ -162,13 +162,13 @@ TEST_F(HotKeyTextFieldTest, EndsWithoutAChangeByReturnByEscapeAndByALossOfTheFoc
     other->setFocus();
     EXPECT_THAT(told, ElementsAre("ended"));
     EXPECT_EQ(field->hotKey(), former);
-    // Escape puts back what the recording began with.
+    // Escape restores the hot key from the start of the recording.
     record();
     field->setHotKey(DDHotKey::hotKeyWithKeyCode(12, ModifierFlag::shift, {}));
     press(escape);
     EXPECT_EQ(field->hotKey(), former);
     EXPECT_THAT(told, ElementsAre("changed", "ended"));
-    // A field that goes while it records lets go of the keys.
+    // A field destroyed during a recording releases the keys.
     record();
     delete field;
     other->setFocus();

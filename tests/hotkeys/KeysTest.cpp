@@ -12,7 +12,7 @@
 namespace tonquil {
 namespace {
 
-TEST(KeyCombinationString, IsTheModifiersInTheirOrderAndThenTheKey) {
+TEST(KeyCombinationString, ShowsModifiersInOrderThenKey) {
     TableLayout layout;
     layout.set(36, "the layout is not asked for a key with a glyph");
     constexpr std::uint16_t deadKey = 24;
@@ -28,7 +28,7 @@ TEST(KeyCombinationString, IsTheModifiersInTheirOrderAndThenTheKey) {
              Row{36, ModifierFlag::shift, "⇧↩"},
              Row{123, ModifierFlag::function | ModifierFlag::numericPad | ModifierFlag::capsLock,
                  "←"},
-             // A left modifier key stands in its flag alone; a right one is a key as well.
+             // A left modifier key only shows as its flag; a right one also as a key.
              Row{56, ModifierFlag::shift, "⇧"},
              Row{56, 0, ""},
              Row{55, ModifierFlag::control, "⌃"},
@@ -41,7 +41,7 @@ TEST(KeyCombinationString, IsTheModifiersInTheirOrderAndThenTheKey) {
     }
 }
 
-TEST(VirtualKeys, AreTheKeysThatTheKernelMeans) {
+TEST(VirtualKeys, MatchKernelKeyCodes) {
     struct Row {
         std::uint16_t keyCode;
         std::uint32_t evdevCode;
@@ -60,7 +60,7 @@ TEST(VirtualKeys, AreTheKeysThatTheKernelMeans) {
         SCOPED_TRACE(row.keyCode);
         EXPECT_EQ(evdevForVirtualKey(row.keyCode), row.evdevCode);
     }
-    // Every key comes back from its own code, and no code is listed twice.
+    // Every key round-trips through its code, and no code occurs twice.
     std::set<std::uint32_t> codes;
     for (std::uint16_t keyCode = 0; keyCode < 256; ++keyCode) {
         if (const auto code = evdevForVirtualKey(keyCode)) {

@@ -8,7 +8,7 @@
 
 namespace tonquil {
 
-/// A keyboard of a few keys: A, and on the key of the German layout's acute accent nothing.
+/// A keyboard with few keys: A, and an empty text on the German layout's acute accent key.
 class TableLayout final : public KeyboardLayout {
  public:
     [[nodiscard]] std::string character(std::uint16_t keyCode) const override {

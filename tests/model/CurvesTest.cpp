@@ -19,7 +19,7 @@ float uniform(std::mt19937& random, float low, float high) {
     return std::uniform_real_distribution<float>(low, high)(random);
 }
 
-/// A curve within the ranges that the panel offers.
+/// A curve within the ranges of the panel.
 std::shared_ptr<TQExtendedGammaCurve> randomCurve(std::mt19937& random) {
     const auto point = [&](float low, float high) {
         return KVGammaPoint::gammaPointWithRed(
@@ -46,7 +46,7 @@ void expectNear(const KVGammaPoint& actual, const Values& expected, float tolera
     }
 }
 
-TEST(Flattening, FoldsTheMastersIn) {
+TEST(Flattening, FoldsMastersIn) {
     const auto curve = TQExtendedGammaCurve::gammaCurveWithMasterBlack(
         0.5F, 1.2F, 0.8F, point({0.5F, 0, 1}), point({0.9F, 1, 2}), point({0.5F, 1, 0}), 0);
     // 1 - 0.5 * 0.5; 1.2 + 0.9 - 1; 0.8 * 0.5.
@@ -56,7 +56,7 @@ TEST(Flattening, FoldsTheMastersIn) {
     EXPECT_EQ(curve->flatGammaCurve()->blendingMode(), 0);
 }
 
-TEST(Equilibration, SplitsTheWorkedExample) {
+TEST(Equilibration, SplitsWorkedExample) {
     const TQExtendedGammaCurve curve(point({0.1F, 0.2F, 0.3F}), point({0.9F, 1.0F, 1.4F}),
                                      point({0.8F, 0.9F, 1.0F}), 1);
     EXPECT_NEAR(curve.masterBlackCorrection(), 0.1F, 1e-6F);
@@ -65,7 +65,7 @@ TEST(Equilibration, SplitsTheWorkedExample) {
     expectNear(*curve.blackPoint(), {0, 0.111111F, 0.222222F});
     expectNear(*curve.middlePoint(), {0.8F, 0.9F, 1.3F});
     expectNear(*curve.whitePoint(), {0.8F, 0.9F, 1.0F});
-    // The least flat black, but the raw ones are divided.
+    // Uses the lowest flat black, but divides the raw ones.
     TQExtendedGammaCurve lifted;
     lifted.setMasterBlackCorrection(0.5F);
     lifted._equilibrateMaster();
@@ -73,7 +73,7 @@ TEST(Equilibration, SplitsTheWorkedExample) {
     expectNear(*lifted.blackPoint(), {-1, -1, -1}, 0);
 }
 
-TEST(Equilibration, FlattensBackToTheRawPointsWhateverTheMastersWere) {
+TEST(Equilibration, FlattensBackToRawPointsForAnyMasters) {
     std::mt19937 random(11);
     for (int round = 0; round < 2'000; ++round) {
         const auto curve = randomCurve(random);
@@ -81,7 +81,7 @@ TEST(Equilibration, FlattensBackToTheRawPointsWhateverTheMastersWere) {
         const Values middle = valuesOf(*curve->middlePoint());
         const Values white = valuesOf(*curve->whitePoint());
         curve->_equilibrateMaster();
-        // A few roundings of numbers up to 4.
+        // A few rounding errors of numbers up to 4.
         expectNear(*curve->flatBlackPoint(), black, 2e-6F);
         expectNear(*curve->flatMiddlePoint(), middle, 2e-6F);
         expectNear(*curve->flatWhitePoint(), white, 2e-6F);
@@ -91,7 +91,7 @@ TEST(Equilibration, FlattensBackToTheRawPointsWhateverTheMastersWere) {
     }
 }
 
-TEST(Retrieval, ReadsTheFormulaOnlyWhenTheCurveIsAbsolute) {
+TEST(Retrieval, ReadsFormulaOnlyIfAbsolute) {
     FakeScreen screen;
     screen.formula = {.red = {0.1F, 0.8F, 0.9F}, .green = {0.2F, 0.9F, 1}, .blue = {0.3F, 1, 1.4F}};
     const auto old = point({7, 7, 7});
@@ -108,9 +108,9 @@ TEST(Retrieval, ReadsTheFormulaOnlyWhenTheCurveIsAbsolute) {
         << "a new one is over the base table, and neutral";
 }
 
-// A dictionary maps every number but zero to the base table; a compact array truncates, and -1
-// stands here for its refusal of what becomes neither 0 nor 1.
-TEST(BlendingMode, IsReadByTheRuleOfItsForm) {
+// A dictionary maps every nonzero number to the base table; a compact array truncates, and -1 here
+// means that it refuses anything but 0 or 1 after that.
+TEST(BlendingMode, FollowsRuleOfEachStoredForm) {
     PropertyValue rows = PropertyValue::parse(R"([[0, 0, 0], [1, 1, 1], [2, 1, -1], [-1, 1, -1],
         [0.9, 0, 0], [-0.99999, 0, 0], [1.9, 1, 1], [true, 1, 1], [1.99999999, 1, -1],
         ["1", 0, 1], ["x", 0, 0], [1e300, 1, -1], [4294967296, 1, -1], [null, 0, 1]])");
@@ -128,7 +128,7 @@ TEST(BlendingMode, IsReadByTheRuleOfItsForm) {
     EXPECT_FALSE(TQExtendedGammaCurve::gammaCurveWithCompactArray({{"0", 1}}));
 }
 
-TEST(PlainCurveDictionary, LosesTheModeAndTakesDefaultsForWhatIsMissing) {
+TEST(PlainCurveDictionary, OmitsModeAndDefaultsMissingValues) {
     const KVGammaCurve written(point({0.1F, 0.2F, 0.3F}), nullptr, nullptr, 1);
     PropertyValue dictionary = written.gammaCurveDictionary();
     dictionary["WhitePoint"] = {{"Red", 0.5}, {"Green", 0.5}};
@@ -140,7 +140,7 @@ TEST(PlainCurveDictionary, LosesTheModeAndTakesDefaultsForWhatIsMissing) {
     expectNear(*read->middlePoint(), {0.1F, 1, 1}, 0);
 }
 
-TEST(ExtendedCurveDictionary, IsWrittenWithElevenEntriesOfTwoGenerations) {
+TEST(ExtendedCurveDictionary, WritesElevenEntriesOfTwoGenerations) {
     const auto curve = TQExtendedGammaCurve::gammaCurveWithMasterBlack(
         0.5F, 1.2F, 0.8F, point({0.5F, 0, 0}), point({0.9F, 1, 1}), point({0.5F, 1, 1}), 1);
     const PropertyValue dictionary = curve->gammaCurveDictionary();
@@ -162,7 +162,7 @@ std::array<std::uint32_t, 12> bitsOf(const TQExtendedGammaCurve& curve) {
     return bits;
 }
 
-TEST(StoredForms, GiveBackTheSameBits) {
+TEST(StoredForms, RoundTripBitExactly) {
     std::mt19937 random(3);
     for (int round = 0; round < 2'000; ++round) {
         const auto curve = randomCurve(random);
@@ -170,7 +170,7 @@ TEST(StoredForms, GiveBackTheSameBits) {
             TQExtendedGammaCurve::gammaCurveWithDictionary(curve->gammaCurveDictionary());
         ASSERT_EQ(bitsOf(*fromDictionary), bitsOf(*curve));
         ASSERT_EQ(fromDictionary->blendingMode(), curve->blendingMode());
-        // The way over JSON text is the one that the compact array takes.
+        // Through JSON text, as a compact array really travels.
         const auto fromArray = TQExtendedGammaCurve::gammaCurveWithCompactArray(
             PropertyValue::parse(curve->gammaCurveCompactArray().dump()));
         ASSERT_EQ(bitsOf(*fromArray), bitsOf(*curve));
@@ -178,7 +178,7 @@ TEST(StoredForms, GiveBackTheSameBits) {
     }
 }
 
-TEST(ExtendedCurveReader, FallsThroughTheGenerations) {
+TEST(ExtendedCurveReader, FallsBackToOlderGenerations) {
     const PropertyValue oldest = {{"BlackPoint", {{"Red", 0.1}, {"Green", 0.2}, {"Blue", 0.3}}}};
     const auto split = TQExtendedGammaCurve::gammaCurveWithDictionary(oldest);
     EXPECT_NEAR(split->masterBlackCorrection(), 0.1F, 1e-6F);
@@ -206,7 +206,7 @@ TEST(ExtendedCurveReader, FallsThroughTheGenerations) {
     EXPECT_EQ(newest->blackPoint()->redValue(), 0) << "its own points are missing";
 }
 
-TEST(ExtendedCurveReader, TakesWhatCannotBeReadForNeutral) {
+TEST(ExtendedCurveReader, DefaultsUnreadableValuesToNeutral) {
     const PropertyValue whole = TQExtendedGammaCurve().gammaCurveDictionary();
     for (const PropertyValue& value :
          {PropertyValue(nullptr), PropertyValue("text"), PropertyValue(-1),
@@ -223,7 +223,7 @@ TEST(ExtendedCurveReader, TakesWhatCannotBeReadForNeutral) {
     }
 }
 
-TEST(CompactArray, TakesItsOwnOrderAndDefaultsForWhatIsMissing) {
+TEST(CompactArray, UsesItsOwnOrderAndDefaultsMissingValues) {
     const PropertyValue whole = {0, 0.5, 1.5, 0.75, 0.1, 1.1, 0.9, 0.2, 1.2, 0.8, 0.3, 1.3, 0.7, 9};
     const PropertyValue neutral = TQExtendedGammaCurve().gammaCurveCompactArray();
     PropertyValue given = PropertyValue::array();

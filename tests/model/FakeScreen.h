@@ -6,7 +6,7 @@
 
 namespace tonquil {
 
-/// A screen in memory that a test can set up and look into.
+/// A screen in memory that a test can set up and inspect.
 class FakeScreen : public CurveScreen {
  public:
     BaseGamma base;

@@ -10,18 +10,18 @@ namespace tonquil {
 
 [[nodiscard]] inline float sampled(const float* base, float v, std::uint32_t n) {
     const auto at = [&](float index) {
-        // fmax and fmin pass over a not-a-number.
+        // fmax and fmin ignore NaN.
         return base[static_cast<std::size_t>(
             std::fmin(std::fmax(index, 0.0F), static_cast<float>(n - 1)))];
     };
     if (!std::isfinite(v)) {
-        return at(v);  // There is no fraction to weigh by.
+        return at(v);  // There is no fraction to weight by.
     }
     const float f = v - std::floor(v);
     return (1 - f) * at(std::ceil(v)) + f * at(std::floor(v));
 }
 
-/// The table computation as it is written on paper, slot by slot and without any shortcut.
+/// The table formula, slot by slot and without any shortcut.
 inline void computeByPlainFormula(const CurveValues& curve, GammaTable& table, std::uint32_t n) {
     const GammaTable base = table;
     for (std::size_t c = 0; c < 3; ++c) {

@@ -41,7 +41,7 @@ void operator delete(void* memory, std::size_t) noexcept {
 namespace tonquil {
 namespace {
 
-TEST(TableComputation, GivesTheWorkedValues) {
+TEST(TableComputation, MatchesValuesComputedByHand) {
     // From the formula by hand: black + (white - black) * (slot / 256) ^ middle.
     const std::vector<std::tuple<ChannelCurve, std::uint32_t, float>> rows{
         {{0, 1, 1}, 255, 0.99609375F},
@@ -71,8 +71,8 @@ float randomBetween(std::mt19937& random, float low, float high) {
     return std::uniform_real_distribution<float>(low, high)(random);
 }
 
-/// Curves as people make them, and now and then as nobody should: out of range, huge, infinite,
-/// not a number, exponents equal between channels or not.
+/// Normal curves, and some bad ones: out of range, huge, infinite, NaN, with exponents equal
+/// between channels or not.
 CurveValues randomCurveValues(std::mt19937& random) {
     using Limits = std::numeric_limits<float>;
     constexpr float infinity = Limits::infinity();
@@ -101,9 +101,9 @@ CurveValues randomCurveValues(std::mt19937& random) {
     return curve;
 }
 
-TEST(TableComputation, EqualsThePlainFormulaToTheBit) {
+TEST(TableComputation, MatchesPlainFormulaBitExactly) {
     std::mt19937 random(20'231);
-    // Ten thousand unless the environment asks for a longer run.
+    // Ten thousand unless the environment asks for more.
     const char* count = std::getenv("TONQUIL_RANDOM_CURVES");
     for (int round = 0; round < (count == nullptr ? 10'000 : std::atoi(count)); ++round) {
         const CurveValues curve = randomCurveValues(random);
@@ -116,7 +116,7 @@ TEST(TableComputation, EqualsThePlainFormulaToTheBit) {
         computeByPlainFormula(curve, expected, n);
         computeTransferTable(curve, table, n);
         for (std::size_t i = 0; i < table.levels.size(); ++i) {
-            // A not-a-number has no one representation; that it is one is what counts.
+            // NaN has many representations; only that it is NaN counts.
             ASSERT_TRUE(table.levels[i] == expected.levels[i] ||
                         (std::isnan(table.levels[i]) && std::isnan(expected.levels[i])))
                 << "round " << round << ", slot " << i << ", mode " << curve.blendingMode;
@@ -124,7 +124,7 @@ TEST(TableComputation, EqualsThePlainFormulaToTheBit) {
     }
 }
 
-TEST(ComputedTable, NoticesEveryChangeOfWhatItWasComputedFrom) {
+TEST(ComputedTable, RecomputesWhenAnyInputChanges) {
     FakeScreen screen;
     screen.base.sampleCount = 256;
     for (std::size_t i = 0; i < 768; ++i) {
@@ -162,7 +162,7 @@ TEST(Applying, AllocatesNothing) {
     EXPECT_GT(allocations, before) << "the counter counts";
 }
 
-TEST(TableCurve, TakesTheFirst768BytesAsLevelsOf256) {
+TEST(TableCurve, ReadsFirst768BytesAsLevelsOf256) {
     std::vector<std::uint8_t> bytes(769, 0x80);
     bytes[256] = 255;
     bytes[767] = 1;

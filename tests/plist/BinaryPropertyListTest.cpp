@@ -10,8 +10,8 @@ namespace {
 
 using namespace std::string_literals;
 
-TEST(BinaryPropertyList, ReadsEachTypeAsItsOwn) {
-    // The objects on the left, and what they mean as JSON.
+TEST(BinaryPropertyList, ReadsEveryType) {
+    // Objects on the left, their JSON equivalent on the right.
     const std::string table =
         R"(08 → false | 09 → true | 10FF → 255 | 11FFFE → 65534 | 12FFFFFFFE → 4294967294
 13FFFFFFFFFFFFFFFF → -1 | 137FFFFFFFFFFFFFFF → 9223372036854775807
@@ -31,7 +31,7 @@ D201020304 517A 61263E 08 09 → {"z":false,"☾":true} | D201020304 517A 61007A
     }
 }
 
-TEST(BinaryPropertyList, ReadsReferencesOfEverySizeAndAnyOutermostObject) {
+TEST(BinaryPropertyList, ReadsReferencesOfEverySizeAndAnyRootObject) {
     for (std::size_t size = 1; size <= 8; ++size) {
         const std::string zeros(2 * size - 2, '0');
         const std::string objects = "08 516B D1" + zeros + "01" + zeros + "00";
@@ -39,21 +39,21 @@ TEST(BinaryPropertyList, ReadsReferencesOfEverySizeAndAnyOutermostObject) {
     }
 }
 
-TEST(BinaryPropertyList, RefusesObjectsThatAreDamaged) {
+TEST(BinaryPropertyList, RefusesDamagedObjects) {
     const std::vector<std::string> tables = {
-        // Types without a meaning, and sizes that a type does not have.
+        // Unknown types, and sizes that a type does not have.
         "00 | 0F | 70 | 15" + std::string(64, '0') + " | 217A7A | 327A7A7A7A",
-        // Contents that are cut short.
+        // Truncated contents.
         "1331323334353637 | 437A7A | 62006100",
         // Integers beyond 64 bits.
         "1401000000000000000000000000000000 | 14FFFFFFFFFFFFFFFF0000000000000000",
-        // Dates: not a number, infinite, the second after the last, the second before the first.
+        // Dates: NaN, infinite, one second after the last, one second before the first.
         "337FF8000000000000 | 337FF0000000000000 | 33424D62D23C800000 | 33C22D63C37F020000",
-        // Counts: absent, not an integer, cut short, past every end, and overflowing when doubled.
+        // Counts: missing, not an integer, truncated, past the end, and overflowing when doubled.
         "4F | 4F08 | 4F1101 | 4F13FFFFFFFFFFFFFFFF | 6F138000000000000000",
-        // Text: not ASCII, NUL in both encodings, halves of surrogate pairs.
+        // Text: not ASCII, NUL in both encodings, unpaired surrogates.
         "526880 | 5100 | 610000 | 61D83C | 61DF19 | 62D83C0061",
-        // References to nothing, keys that are not text, and lists that contain themselves.
+        // Dangling references, keys that are not text, and lists that contain themselves.
         "A101 | D10102 1005 08 | D10102 416B 08 | A100 | A101 A100 | D10100 516B"};
     for (const std::string& table : tables) {
         for (const std::string& objects : cellsOf(table)) {
@@ -62,12 +62,12 @@ TEST(BinaryPropertyList, RefusesObjectsThatAreDamaged) {
     }
 }
 
-TEST(BinaryPropertyList, RefusesAFrameThatIsDamaged) {
+TEST(BinaryPropertyList, RefusesDamagedTrailerAndOffsetTable) {
     const std::string whole = binaryList("A101 427A7A");
     ASSERT_EQ(read(whole), R"([{"bytes":[122,122],"subtype":null}])");
-    // How far from the end which bytes go: sizes of offsets and of references, the number of
-    // objects, the outermost object, the table's place, and the two offsets in the table, of which
-    // the last lets an object end in the table.
+    // Distance from the end and bytes to overwrite: sizes of offsets and of references, number of
+    // objects, root object, position of the offset table, and the two offsets in the table, the
+    // last of which makes an object end inside the table.
     for (const std::string& row : cellsOf(R"(26 00 | 26 02 | 26 09 | 25 00 | 25 09
 24 0000000000000003 | 24 FFFFFFFFFFFFFFFF | 16 0000000000000002
 8 0000000000000007 | 8 000000000000000E | 8 FFFFFFFFFFFFFFFF | 34 07 | 33 0D | 33 0C)")) {
@@ -84,7 +84,7 @@ TEST(BinaryPropertyList, RefusesAFrameThatIsDamaged) {
     EXPECT_EQ(read("bplist0z" + whole.substr(8)), read(whole));
 }
 
-TEST(PropertyListBudget, HoldsReadersAndWriterToTheSameLimits) {
+TEST(PropertyListBudget, LimitsReadersAndWriterAlike) {
     // Four values on three levels, with 1 + 3 + 2 bytes of key, text and data.
     const PropertyValue value = {{"k", {"☾", PropertyValue::binary({0, 0})}}};
     const auto xml = bytesOf(
@@ -105,7 +105,7 @@ TEST(PropertyListBudget, HoldsReadersAndWriterToTheSameLimits) {
     EXPECT_TRUE(readPropertyList(xml, {xml.size(), 3, 4, 6}));
 }
 
-TEST(PropertyListBudget, RefusesNestingOfAnyDepthWithoutUsingTheStack) {
+TEST(PropertyListBudget, RefusesAnyNestingDepthWithoutUsingTheStack) {
     for (const char* const element : {"<array>", "<dict><key/>"}) {
         std::string text = "<plist>\n";
         for (int level = 0; level < 80'000; ++level) {
@@ -117,8 +117,8 @@ TEST(PropertyListBudget, RefusesNestingOfAnyDepthWithoutUsingTheStack) {
     }
 }
 
-TEST(PropertyListBudget, CountsASharedObjectEachTimeItIsReferredTo) {
-    // Arrays of twice the next one, and at the end the leaf.
+TEST(PropertyListBudget, CountsSharedObjectPerReference) {
+    // Arrays that hold the next one twice, and the leaf at the end.
     const auto doubled = [](std::uint64_t levels, const std::string& leaf) {
         std::string objects;
         for (std::uint64_t next = 1; next <= levels; ++next) {

@@ -10,18 +10,18 @@
 
 namespace tonquil {
 
-/// The bytes of a text, of which every one counts.
+/// The bytes of a text, including NUL.
 [[nodiscard]] inline std::vector<std::uint8_t> bytesOf(std::string_view text) {
     return {text.begin(), text.end()};
 }
 
-/// What the list says, as JSON, or "refused".
+/// The list as JSON, or "refused".
 [[nodiscard]] inline std::string read(std::string_view text) {
     const auto value = readPropertyList(bytesOf(text));
     return value ? value->dump() : "refused";
 }
 
-/// The pieces of a text between separators, empty ones included.
+/// Splits a text at separators, keeping empty pieces.
 [[nodiscard]] inline std::vector<std::string> split(std::string_view text,
                                                     std::string_view separator) {
     std::vector<std::string> pieces;
@@ -34,7 +34,7 @@ namespace tonquil {
     return pieces;
 }
 
-/// The cells of a table, several of them in a line.
+/// The cells of a table, several per line.
 [[nodiscard]] inline std::vector<std::string> cellsOf(std::string_view table) {
     std::vector<std::string> cells;
     for (const std::string& line : split(table, "\n")) {
@@ -44,7 +44,7 @@ namespace tonquil {
     return cells;
 }
 
-/// A number as `size` bytes, the most significant first.
+/// A big-endian number of `size` bytes.
 [[nodiscard]] inline std::string bigEndianBytes(std::uint64_t value, std::size_t size) {
     std::string text;
     for (std::size_t i = size; i-- > 0;) {
@@ -53,7 +53,7 @@ namespace tonquil {
     return text;
 }
 
-/// Bytes from two hexadecimal digits each.
+/// Decodes hexadecimal digits.
 [[nodiscard]] inline std::string bytesFromHex(std::string_view hex) {
     std::string bytes;
     for (; !hex.empty(); hex.remove_prefix(2)) {
@@ -62,8 +62,8 @@ namespace tonquil {
     return bytes;
 }
 
-/// A binary property list of objects in hexadecimal digits with a space between two objects; what
-/// its fields say may well be untrue.
+/// Builds a binary property list from objects in hexadecimal digits, separated by spaces; its
+/// fields may be deliberately wrong.
 [[nodiscard]] inline std::string binaryList(const std::string& objects, std::size_t offsetSize = 1,
                                             std::size_t referenceSize = 1, std::uint64_t top = 0) {
     std::string out = "bplist00";

@@ -28,8 +28,8 @@ open(folder + "own utf16", "wb").write(
     plistlib.dumps(own).decode().replace("UTF-8", "UTF-16").encode("utf-16"))
 )";
 
-// Python's plistlib knows nothing of our reader and writer, so what both agree on is right.
-TEST(PropertyListWriter, WritesWhatTheReaderAndAnIndependentPeerReadBack) {
+// Python's plistlib is independent of our reader and writer, so what both agree on is right.
+TEST(PropertyListWriter, ReadsBackInOurReaderAndPlistlib) {
     std::vector<std::uint8_t> data(300);
     std::iota(data.begin(), data.end(), std::uint8_t{0});
     PropertyValue ours = PropertyValue::parse(R"([true, false, 0, 255, -129, 65536,
@@ -53,16 +53,16 @@ TEST(PropertyListWriter, WritesWhatTheReaderAndAnIndependentPeerReadBack) {
     }
 }
 
-TEST(PropertyListWriter, WritesWhatBecomesTheSameSingleAgain) {
+TEST(PropertyListWriter, RoundTripsFloatsExactly) {
     using Real = std::numeric_limits<double>;
-    // The last one's shortest digits lie above the middle of two singles, itself in the middle.
+    // The last one is the midpoint of two floats; its shortest digits lie above that midpoint.
     PropertyValue values = {
         " a\r\n\rb\t",     "\uFFFD\U0010FFFF\u0085", Real::infinity(),
         -Real::infinity(), Real::quiet_NaN(),        -0.0,
         Real::max(),       Real::denorm_min(),       1.000000059604644775390625};
     std::mt19937_64 random(20260101);
     while (values.size() < 1000) {
-        // The middle of two singles, or a double beside it: where rounding twice goes wrong.
+        // The midpoint of two floats, or a double next to it: where double rounding goes wrong.
         const auto odd = static_cast<double>((random() % (1U << 24U)) * 2 + 1);
         const double middle = std::ldexp(odd, static_cast<int>(random() % 250) - 148);
         values.push_back(std::nextafter(middle, middle * static_cast<double>(random() % 3)));
@@ -76,7 +76,7 @@ TEST(PropertyListWriter, WritesWhatBecomesTheSameSingleAgain) {
     }
 }
 
-TEST(PropertyListWriter, RefusesWhatTheReaderCouldNotReadBack) {
+TEST(PropertyListWriter, RefusesValuesTheReaderCannotReadBack) {
     for (const char* const hex :
          {"610062", "1F", "EFBFBE", "80", "C3", "C0AF", "E080AF", "EDA080", "F4908080"}) {
         EXPECT_FALSE(writePropertyList(bytesFromHex(hex))) << hex;

@@ -9,9 +9,8 @@
 
 namespace tonquil {
 
-/// Equality as property lists have it: an integer is never equal to a real, which the library's
-/// own comparison would allow, and reals are equal by their single-precision bits; one
-/// not-a-number is as good as another.
+/// Equality for property lists: an integer never equals a real, which the library's own comparison
+/// would allow; reals are equal if they round to the same float; all NaNs are equal.
 [[nodiscard]] inline bool isSameValue(const PropertyValue& a, const PropertyValue& b) {
     if (a.is_number_float() && b.is_number_float()) {
         const float first = toSinglePrecision(a.get<double>());

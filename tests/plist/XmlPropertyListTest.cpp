@@ -21,8 +21,8 @@ std::string utf16(std::u16string_view text, bool bigEndian) {
     return bytes;
 }
 
-TEST(XmlPropertyList, ReadsEachTypeAsItsOwn) {
-    // The contents of the list on the left, and what they mean as JSON.
+TEST(XmlPropertyList, ReadsEveryType) {
+    // List contents on the left, their JSON equivalent on the right.
     const std::string table = R"(<true/> → true | <false> </false> → false
 <integer> 12&#10;</integer> → 12 | <integer>-0</integer> → 0 | <integer>+0x1F</integer> → 31
 <integer>18446744073709551615</integer> → 18446744073709551615
@@ -40,7 +40,7 @@ TEST(XmlPropertyList, ReadsEachTypeAsItsOwn) {
     }
 }
 
-TEST(XmlPropertyList, RefusesWhatIsNotAPropertyListInWhole) {
+TEST(XmlPropertyList, RefusesInvalidPropertyLists) {
     const auto expectRefused = [](const std::string& open, const std::string& table,
                                   const std::string& close) {
         for (const std::string& cell : cellsOf(table)) {
@@ -74,7 +74,7 @@ TEST(XmlPropertyList, RefusesWhatIsNotAPropertyListInWhole) {
                   "</string></plist>");
 }
 
-TEST(XmlPropertyList, IsReadInEveryUsualEncodingAndToldFromOtherFilesByItsBeginning) {
+TEST(XmlPropertyList, IsDetectedAndReadInEveryCommonEncoding) {
     const std::string utf8 = "<plist version='1.0' a='b'><string>é</string></plist>";
     std::vector<std::string> rows = {
         "\xEF\xBB\xBF" + utf8,
@@ -105,7 +105,7 @@ struct CommaPoint : std::numpunct<char> {
     std::string do_grouping() const override { return "\3"; }
 };
 
-TEST(XmlPropertyList, ReadsAndWritesNumbersAlikeInEveryLocale) {
+TEST(XmlPropertyList, ReadsAndWritesNumbersInAnyLocale) {
     const std::string before = std::setlocale(LC_ALL, nullptr);
     const std::locale former = std::locale::global(std::locale(std::locale(), new CommaPoint));
     std::setlocale(LC_ALL, "de_DE.UTF-8");

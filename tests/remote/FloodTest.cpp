@@ -19,7 +19,7 @@ class Flood : public testing::Test, public ServerBench {
     }
 };
 
-TEST_F(Flood, FromOneHostDrawsFewAnswersWhateverItsPorts) {
+TEST_F(Flood, FromOneHostGetsFewAnswersOnAnyPorts) {
     for (std::uint16_t i = 0; i < 10'000; ++i) {
         receive(i % 2 == 0 ? "Kantivel scan " : "Kantivel sub ", {stranger, i});
         loop.advance(1ms);
@@ -39,7 +39,7 @@ TEST_F(Flood, FromOneHostDrawsFewAnswersWhateverItsPorts) {
     EXPECT_EQ(sentTo(local), 1000) << "a program on this computer";
 }
 
-TEST_F(Flood, FromForgedHostsIsLimitedInAllAndForgotten) {
+TEST_F(Flood, FromForgedHostsIsLimitedGloballyAndForgotten) {
     for (std::uint32_t i = 0; i < 100'000; ++i) {
         receive("Kantivel scan ", {stranger + i, 44188});
         loop.advance(i % 10 == 0 ? 1ms : 0ms);
@@ -54,7 +54,7 @@ TEST_F(Flood, FromForgedHostsIsLimitedInAllAndForgotten) {
     EXPECT_TRUE(wire.sent.empty()) << "who waited in vain is forgotten";
 }
 
-TEST_F(Flood, DoesNotKeepAServerFromItsOwnScan) {
+TEST_F(Flood, DoesNotBlockTheServersOwnScan) {
     server = make().value();
     forget();
     for (std::uint32_t i = 0; i < 5'000; ++i) {
@@ -70,7 +70,7 @@ TEST_F(Flood, DoesNotKeepAServerFromItsOwnScan) {
     EXPECT_LT(sentTo(own), 10) << "but not without end";
 }
 
-TEST_F(Flood, OfSubscriptionsLeavesTheSubscribersOfOtherHosts) {
+TEST_F(Flood, OfSubscriptionsKeepsSubscribersOfOtherHosts) {
     receive("Kantivel sub ", honest);
     for (std::uint16_t i = 0; i < 10'000; ++i) {
         receive("Kantivel sub ", {stranger, i});
@@ -79,7 +79,7 @@ TEST_F(Flood, OfSubscriptionsLeavesTheSubscribersOfOtherHosts) {
     server->sendStateToSubscribers();
     EXPECT_EQ(sentTo(honest), 1);
     EXPECT_EQ(wire.sent.size(), 65U) << "64 of one host";
-    // Who renews in time keeps the place, however many others want it.
+    // A subscriber that renews in time keeps its place, however many others want it.
     for (std::uint32_t i = 0; i < 500'000; ++i) {
         receive("Kantivel sub ", {stranger + i % 5'000, 1});
         if (i % 50'000 == 0) {
@@ -93,7 +93,7 @@ TEST_F(Flood, OfSubscriptionsLeavesTheSubscribersOfOtherHosts) {
     EXPECT_EQ(sentTo(honest), 1);
 }
 
-TEST_F(Flood, OfPushesEndsInOneThatTellsTheLastState) {
+TEST_F(Flood, OfPushesEndsWithTheLastState) {
     receive("Kantivel sub ");
     forget();
     for (int i = 0; i < 1000; ++i) {
@@ -106,12 +106,12 @@ TEST_F(Flood, OfPushesEndsInOneThatTellsTheLastState) {
     EXPECT_NE(wire.sent.back().bytes.find("[1,999]"), std::string::npos);
 }
 
-TEST_F(Flood, OfNonsenseLeavesALineOnlyNowAndThen) {
+TEST_F(Flood, OfInvalidDatagramsIsRateLimitedInTheLog) {
     for (int i = 0; i < 100'000; ++i) {
         receive("nonsense");
         loop.advance(1ms);
     }
-    // A burst of 20, and one in 10 s, before which a line tells how many had none.
+    // A burst of 20, then one in 10 s, each preceded by a line with the number suppressed.
     EXPECT_NEAR(static_cast<double>(log.size()), 20 + 2 * 100 / 10, 2);
     EXPECT_TRUE(log[20].ends_with(" further datagrams were ignored without a line of their own"));
 }

@@ -10,8 +10,8 @@
 
 namespace tonquil {
 
-/// Displays that exist only in memory, as a server's data source. Of one with the reference ID
-/// "gone" nothing is known.
+/// A server's data source with displays in memory. It knows nothing about one with the reference ID
+/// "gone".
 class PlainDisplays final : public TQPlayerServerDataSource {
  public:
     struct Display {
@@ -65,7 +65,7 @@ class PlainDisplays final : public TQPlayerServerDataSource {
     }
 
     std::vector<Display> displays;
-    /// Takes what is set without doing it.
+    /// Accepts states without applying them.
     bool isStubborn = false;
     std::function<void()> beforeInfo = [] {};
     std::function<void()> afterSet = [] {};

@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 
 constexpr std::uint32_t localhost = 0x7F000001;
 
-/// Two sockets of this machine, each bound to a free port.
+/// Two sockets on this machine, each bound to a free port.
 class UdpSockets : public testing::Test {
  protected:
     UdpSockets() {
@@ -30,7 +30,7 @@ class UdpSockets : public testing::Test {
     std::unique_ptr<UdpSocket> second = UdpSocket::open().value();
 };
 
-TEST_F(UdpSockets, PassOnWholeDatagramsWithTheirSourceOnlySoManyInOneTurn) {
+TEST_F(UdpSockets, DeliverDatagramsWithSourceAndBoundedPerTurn) {
     std::vector<std::string> sent{"one", "", std::string("\0x", 2), std::string(65507, 'x')};
     sent.resize(UdpSocket::mostDatagrams + 10, "more");
     std::vector<std::string> received;
@@ -50,7 +50,7 @@ TEST_F(UdpSockets, PassOnWholeDatagramsWithTheirSourceOnlySoManyInOneTurn) {
     EXPECT_EQ(received, sent);
 }
 
-TEST_F(UdpSockets, HaveTheirPortForThemselvesUntilTheReceiverLetsGo) {
+TEST_F(UdpSockets, HoldTheirPortExclusivelyUntilReleased) {
     const SocketAddress address = first->localAddress();
     EXPECT_EQ(UdpSocket::open().value()->bind(SocketAddress(0, address.port())), EADDRINUSE);
     int count = 0;
@@ -67,7 +67,7 @@ TEST_F(UdpSockets, HaveTheirPortForThemselvesUntilTheReceiverLetsGo) {
     EXPECT_EQ(count, 1) << "it hears no more";
 }
 
-TEST_F(UdpSockets, AnswerFromTheAddressThatWasAsked) {
+TEST_F(UdpSockets, AnswerFromTheQueriedAddress) {
     const auto server = UdpSocket::open().value();
     EXPECT_EQ(server->bind(SocketAddress(0, 0)), 0);
     const SocketAddress asked(localhost + 5, server->localAddress().port());
@@ -84,7 +84,7 @@ TEST_F(UdpSockets, AnswerFromTheAddressThatWasAsked) {
     EXPECT_EQ(sources, std::vector{asked});
 }
 
-TEST_F(UdpSockets, TellWhySomethingIsNotSentAndGoOn) {
+TEST_F(UdpSockets, ReportSendErrorsAndContinue) {
     EXPECT_EQ(second->send("x", SocketAddress(0xFFFFFFFF, 9)), EACCES) << "not without leave";
     const SocketAddress gone = first->localAddress();
     first.reset();
@@ -100,7 +100,7 @@ TEST_F(UdpSockets, TellWhySomethingIsNotSentAndGoOn) {
     EXPECT_EQ(count, 1);
 }
 
-TEST(PollRunLoops, CallWhatIsDueInOrderAndEndWhenNothingIsLeft) {
+TEST(PollRunLoops, RunDueCallbacksInOrderAndEndWhenIdle) {
     PollRunLoop loop;
     std::string order;
     const FileDescriptor readable(eventfd(1, EFD_CLOEXEC));

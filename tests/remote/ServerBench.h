@@ -12,7 +12,7 @@
 
 namespace tonquil {
 
-/// What a socket was told, and what it answers.
+/// The calls a socket received, and its answers.
 struct Wire {
     struct Datagram {
         std::string bytes;
@@ -50,7 +50,7 @@ class FakeSocket final : public DatagramSocket {
     Wire& _wire;
 };
 
-/// A computer whose answers a test chooses.
+/// A computer with answers chosen by the test.
 class FakeHost final : public LocalHost {
  public:
     [[nodiscard]] std::string localizedName() const override { return name; }
@@ -68,7 +68,7 @@ class FakeHost final : public LocalHost {
     std::uint32_t broadcastAddress = 0x0A0000FF;
 };
 
-/// A server on a made-up network, at a time that stands still.
+/// A server on a simulated network with a stopped clock.
 class ServerBench {
  public:
     Result<std::unique_ptr<TQPlayerServer>> make(std::uint16_t port = 44188) {
@@ -86,7 +86,7 @@ class ServerBench {
         }
         return made;
     }
-    /// Makes the server, with its self-test over and forgotten.
+    /// Creates the server and skips its self-test.
     void start() {
         server = make().value();
         receive("Kantivel ann {\"name\":\"Desk\"}");

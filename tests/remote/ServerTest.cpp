@@ -16,7 +16,7 @@ const std::string announceStart = R"(Kantivel ann {"guid":"0200abcd0eff","name":
 
 class Server : public testing::Test, public ServerBench {};
 
-TEST_F(Server, SetsUpStepByStepAndSaysWhichOneFailed) {
+TEST_F(Server, SetsUpInStepsAndReportsTheFailedOne) {
     wire.broadcastResult = -1;
     EXPECT_FALSE(make(50000));
     wire.broadcastResult = 0;
@@ -36,7 +36,7 @@ TEST_F(Server, SetsUpStepByStepAndSaysWhichOneFailed) {
     EXPECT_EQ(wire.sent[0].recipient, SocketAddress(0xFFFFFFFF, 44188)) << "not its own port";
 }
 
-TEST_F(Server, FailsItsSelfTestUnlessAGoodAnnounceComesInTime) {
+TEST_F(Server, FailsSelfTestWithoutValidAnnounceInTime) {
     const auto failuresAfter = [](std::chrono::milliseconds time, const std::string& payload) {
         ServerBench bench;
         bench.server = bench.make().value();
@@ -54,9 +54,9 @@ TEST_F(Server, FailsItsSelfTestUnlessAGoodAnnounceComesInTime) {
     }
 }
 
-TEST_F(Server, AnswersDropsOrLogsWhatComesByItsTag) {
+TEST_F(Server, AnswersDropsOrLogsDatagramsByTag) {
     const std::string longText(1023, 'x');
-    // What comes, and what is logged; "answered" where there is an answer, and no line.
+    // The datagram and the expected log line; "answered" for an answer without a log line.
     const std::vector<std::pair<std::string, std::string>> rows{
         {"Kantivel scan and more", "answered"},
         {std::string("Kantivel scan \0\1", 16), "answered"},
@@ -65,7 +65,7 @@ TEST_F(Server, AnswersDropsOrLogsWhatComesByItsTag) {
         {" Kantivel scan ", "ignored:  Kantivel scan "},
         {"Kantivel ann {}", "ignored: Kantivel ann {}"},
         {"", "ignored: "},
-        // No UTF-8: too long, a surrogate, beyond the last character, and cut off.
+        // Invalid UTF-8: overlong, a surrogate, beyond the last character, and truncated.
         {"Kantivel scan \xC0\x80", "ignored: (null)"},
         {"\xED\xA0\x80", "ignored: (null)"},
         {"\xF4\x90\x80\x80", "ignored: (null)"},
@@ -93,7 +93,7 @@ TEST_F(Server, AnswersDropsOrLogsWhatComesByItsTag) {
     }
 }
 
-TEST_F(Server, PassesOnTheStatesThatAreObjects) {
+TEST_F(Server, ForwardsStatesThatAreObjects) {
     start();
     receive(R"(Kantivel state-update {"1-1":{"gamma":[0],"content":7},"b":3,"c":{},"d":[]})");
     EXPECT_EQ(PropertyValue(displays.statesSet),
@@ -103,7 +103,7 @@ TEST_F(Server, PassesOnTheStatesThatAreObjects) {
     displays.statesSet.clear();
     log.clear();
 
-    // Beyond the bounds of what is parsed, nothing of it is applied.
+    // Beyond the parser's bounds, nothing is applied.
     for (const std::string& payload :
          {R"({"a":{},"b":)" + std::string(20, '[') + std::string(20, ']') + "}",
           R"({"a":{},"b":[)" + std::string(5000, ',') + "]}", std::string("{\"a\":{}}\0", 9),
@@ -126,7 +126,7 @@ TEST_F(Server, PassesOnTheStatesThatAreObjects) {
     EXPECT_EQ(wire.sent[0].bytes, announceStart + "{}}") << "no data source, no screens";
 }
 
-TEST_F(Server, AnnouncesTheDisplaysAsTheyAreNow) {
+TEST_F(Server, AnnouncesCurrentDisplays) {
     displays.displays = {
         {.referenceID = "b", .gamma = {0, singlePrecision(0.1F)}},
         {.referenceID = "gone"},
@@ -144,13 +144,13 @@ TEST_F(Server, AnnouncesTheDisplaysAsTheyAreNow) {
         "Kantivel ann {\"guid\":\"0200abcd0eff\",\"name\":\"B\xC3\xBCro\xEF\xBF\xBD \\\"1\\\"\","
         R"("screens":{"a":{"content":"colorTargets","gamma":[1],"local":true,"number":3},)"
         R"("b":{"content":"transparent","gamma":[0,0.1],"local":false,"number":1}}})");
-    // JSON has no word for it, so the tag travels alone.
+    // JSON cannot represent it, so the tag is sent alone.
     displays.displays[0].gamma = {0, std::numeric_limits<double>::infinity()};
     server->broadcastAnnounce();
     EXPECT_EQ(wire.sent[2].bytes, "Kantivel ann ");
 }
 
-TEST_F(Server, TellsEachSubscriberForNinetySeconds) {
+TEST_F(Server, PushesToSubscribersForNinetySeconds) {
     start();
     const auto told = [this] {
         forget();
@@ -176,7 +176,7 @@ TEST_F(Server, TellsEachSubscriberForNinetySeconds) {
     EXPECT_THAT(told(), ElementsAre(other)) << "a subscription renews itself";
 }
 
-TEST_F(Server, MayBeReleasedByItsDataSource) {
+TEST_F(Server, MayBeDestroyedByItsDataSource) {
     const auto release = [this] { server.reset(); };
     server = make().value();
     displays.afterFailure = release;
@@ -195,7 +195,8 @@ TEST_F(Server, MayBeReleasedByItsDataSource) {
     EXPECT_TRUE(wire.sent.empty());
     displays.beforeInfo = [] {};
 
-    // Nor does anything come once it is gone, from its self-test or from those who wait.
+    // After destruction nothing more happens, neither from the self-test nor for waiting
+    // recipients.
     server = make().value();
     for (int i = 0; i < 300; ++i) {
         receive("Kantivel scan ");

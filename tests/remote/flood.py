@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Sends a server what a hostile neighbour might, and sees whether it is well afterwards.
+"""Floods a server like a hostile neighbour, and checks that it is healthy afterwards.
 
     flood.py HOST PORT DATAGRAMS PROCESS
 
-PROCESS is the server's. It must not have grown by more than 4 MiB, and answer a scan within 2 s of
-the last hostile datagram.
+PROCESS is the server's process ID. The server must not grow by more than 4 MiB, and must answer a
+scan within 2 s of the last hostile datagram.
 """
 import random
 import socket
@@ -25,7 +25,7 @@ payloads = [
     b"{" + b",".join(b'"%d":{}' % i for i in range(4000)) + b"}", b"\x00" * 100,
     b"\xff\xfe" * 1000, b"\x1b[2J\r\nfaked line", "\u202e".encode() * 300, b"x" * 60000,
 ] + [rng.randbytes(rng.randrange(200)) for _ in range(400)]
-# Small ones are most of it, so that the number can be large.
+# Mostly small datagrams, so that their number can be large.
 weights = [1 if len(payload) > 1500 else 30 for payload in payloads]
 datagrams = [rng.choice(tags) + rng.choices(payloads, weights)[0] for _ in range(5000)]
 
@@ -37,8 +37,8 @@ for i in range(count):
 
 honest = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
 honest.settimeout(0.5)
-# The system drops what comes while the server's buffer is full of the flood's last datagrams, so an
-# honest companion asks again, as any has to.
+# The system drops datagrams while the server's buffer is still full of the flood, so an honest
+# companion retries, as every companion must.
 for attempt in range(1, 5):
     honest.sendto(b"Kantivel scan ", (host, port))
     try:

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Two computers on a network of their own: servers, a companion, and a hostile neighbour.
+# Two hosts on a private network: servers, a companion, and a hostile neighbour.
 #
 #   tests/remote/network.sh REMOTE_HOST TONQUILCTL [DATAGRAMS]
 #
-# Needs network namespaces, and says so where there are none. DATAGRAMS is the size of the flood.
+# Needs network namespaces, and says so if there are none. DATAGRAMS is the size of the flood.
 set -euo pipefail
 remote_host=$1
 tonquilctl=$2
@@ -37,7 +37,7 @@ for name in "$left" "$right"; do
 done
 
 failures=0
-# expect WHAT COMMAND...: the command has to succeed.
+# expect WHAT COMMAND...: the command must succeed.
 expect() {
     local what=$1
     shift
@@ -46,7 +46,7 @@ expect() {
         failures=$((failures + 1))
     fi
 }
-# refuse WHAT COMMAND...: the command has to fail with status 1 and one line.
+# refuse WHAT COMMAND...: the command must fail with status 1 and one line.
 refuse() {
     local what=$1 status=0
     shift
@@ -58,7 +58,7 @@ refuse() {
 }
 in_left() { ip netns exec "$left" "$@"; }
 in_right() { ip netns exec "$right" "$@"; }
-# await FILE TEXT: for up to 5 s.
+# await FILE TEXT: waits up to 5 s for TEXT to appear in FILE.
 await() {
     for _ in {1..50}; do
         if grep -qsF -- "$2" "$folder/$1"; then
@@ -84,7 +84,7 @@ cat "$folder/scan"
 refuse "a second server on one computer" in_left "$remote_host"
 expect "it says why" grep -qx "CFSocketSetAddress() failed 98" "$folder/refused"
 
-# A shell keeps SIGINT from what it starts in the background.
+# A shell makes its background processes ignore SIGINT.
 ip netns exec "$right" env --default-signal=INT "$tonquilctl" remote watch 10.99.0.1 \
     > "$folder/watch" &
 watch=$!
@@ -99,7 +99,7 @@ expect "two lines were shown" test "$(wc -l < "$folder/watch")" == 2
 refuse "an unknown display" in_right "$tonquilctl" remote get 10.99.0.1 none
 refuse "a computer without a server" in_right "$tonquilctl" remote get 10.99.0.3
 
-# A second network, when there is a default route for the first.
+# A second network, while the first one has the default route.
 ip link add tq1 netns "$left" type veth peer name tq1 netns "$right"
 ip -n "$left" address add 10.97.0.1/24 brd + dev tq1
 ip -n "$right" address add 10.97.0.2/23 brd + dev tq1

@@ -18,7 +18,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A simulated desk with a registry on it.
+/// A simulated desk and its registry.
 struct Desk {
     explicit Desk(const std::string& json) : desk(readSimulatedDesk(json).value()) {}
 
@@ -55,7 +55,7 @@ float whiteOf(const KVScreen& screen) {
     return screen.gammaCurve()->masterWhiteCorrection();
 }
 
-TEST(Applying, WaitsForAutoApplyUnlessAsked) {
+TEST(Applying, WaitsForAutoApplyOrExplicitCall) {
     Desk desk(threeDisplays);
     KVScreen& screen = *desk.registry.screens()[0];
     screen.applyGammaCurve();
@@ -73,7 +73,7 @@ TEST(Applying, WaitsForAutoApplyUnlessAsked) {
     EXPECT_EQ(desk.ramp(11).channel(2)[128], middleEntry(0.25F)) << "no curve changes nothing";
 }
 
-TEST(Applying, ToAShortRampComputesForItsLength) {
+TEST(Applying, ToShortRampUsesItsLength) {
     Desk desk(R"([{"rampSize": 64}])");
     KVScreen& screen = *desk.registry.screens()[0];
     EXPECT_EQ(screen.baseGamma().sampleCount, 64U);
@@ -85,7 +85,7 @@ TEST(Applying, ToAShortRampComputesForItsLength) {
     EXPECT_GT(desk.ramp(1).channel(1)[63], desk.ramp(1).channel(1)[62]);
 }
 
-TEST(Adoption, ByOneScreenTakesTheFirstOfItsTwoIDs) {
+TEST(Adoption, ByOneScreenUsesFirstMatchingID) {
     Desk desk(threeDisplays);
     KVScreen& screen = *desk.registry.screens()[0];
     const auto initial = absoluteCurve(0.125F);
@@ -95,13 +95,13 @@ TEST(Adoption, ByOneScreenTakesTheFirstOfItsTwoIDs) {
     EXPECT_EQ(screen.gammaCurve(), initial);
     screen.adoptGammaCurveDictionary({{"11", dictionaryOf(0.5F)}}, initial);
     EXPECT_EQ(whiteOf(screen), 0.5F) << "its old-style ID";
-    // Keys are in the order of their text, and "1-7-9" comes before "11".
+    // Keys are sorted as text, and "1-7-9" comes before "11".
     screen.adoptGammaCurveDictionary({{"11", dictionaryOf(0.5F)}, {"1-7-9", dictionaryOf(0.75F)}},
                                      initial);
     EXPECT_EQ(whiteOf(screen), 0.75F);
 }
 
-TEST(Adoption, ByAllScreensServesTheRestWithTheInitialCurve) {
+TEST(Adoption, ByAllScreensGivesTheRestTheInitialCurve) {
     Desk desk(threeDisplays);
     const auto& screens = desk.registry.screens();
     screens[0]->activateAutoApplyGamma();
@@ -116,7 +116,7 @@ TEST(Adoption, ByAllScreensServesTheRestWithTheInitialCurve) {
     desk.registry.adoptGammaCurveDictionary({{"1-7-9", "no curve"}}, nullptr);
     EXPECT_EQ(whiteOf(*screens[0]), 1) << "all defaults";
 
-    // What is stored has the entries of displays that are not there, too.
+    // The stored dictionary also has entries of displays that are not attached.
     const PropertyValue stored = {{"1-7-9", dictionaryOf(0.5F)}, {"elsewhere", "kept as it is"}};
     screens[1]->setGammaCurve(nullptr);
     EXPECT_EQ(desk.registry.gammaCurveDictionaryExtendingDictionary(stored),
@@ -133,7 +133,7 @@ Ids idsOf(const ScreenRegistry::Screens& screens) {
     return ids;
 }
 
-TEST(ScreenRegistry, GivesADisplayThatComesBackItsScreen) {
+TEST(ScreenRegistry, ReusesScreenOfReturningDisplay) {
     Desk desk(threeDisplays);
     EXPECT_EQ(desk.registry.screenWithReferenceID("1-7-9"), nullptr) << "nothing is listed yet";
     const auto before = desk.registry.screens();
@@ -165,7 +165,7 @@ TEST(ScreenRegistry, GivesADisplayThatComesBackItsScreen) {
     EXPECT_NE(desk.registry.screens()[2], before[1]) << "it was not in the last list";
 }
 
-TEST(ScreenRegistry, LetsATwinThatComesLaterShareTheScreen) {
+TEST(ScreenRegistry, SharesScreenWithTwinPluggedInLater) {
     constexpr const char* twins = R"([{"id": 1, "model": 4, "vendor": 9},
                                       {"id": 2, "model": 4, "vendor": 9}])";
     Desk both(twins);
@@ -189,9 +189,9 @@ TEST(ScreenRegistry, LetsATwinThatComesLaterShareTheScreen) {
         << "found where either display is";
 }
 
-// The main display is 1080 high. Points and equal rectangles are counted from its lower edge, so
-// that display 13 below it is at negative heights; the other look-ups count from the upper edge.
-TEST(ScreenRegistry, FindsScreensByTheirPlaces) {
+// The main display is 1080 high. Points and equal rectangles are measured from its lower edge, so
+// display 13 below it has negative y; the other look-ups measure from the upper edge.
+TEST(ScreenRegistry, FindsScreensByPosition) {
     Desk desk(threeDisplays);
     ScreenRegistry& registry = desk.registry;
     const std::vector<std::pair<Point, Ids>> points{{{0, 1080}, {11}},
@@ -213,7 +213,7 @@ TEST(ScreenRegistry, FindsScreensByTheirPlaces) {
     EXPECT_EQ(registry.screenWithScreen(second->nsscreen().get()), second);
 }
 
-TEST(ScreenRegistry, ReadsTheBaseOfADisplayThatCouldNotBeReadBefore) {
+TEST(ScreenRegistry, RetriesReadingAMissingBase) {
     Desk desk(R"([{"id": 1}, {"id": 2, "rampSize": 0}])");
     const auto second = desk.registry.screens()[1];
     EXPECT_EQ(second->baseGamma().sampleCount, 0U);
@@ -229,7 +229,7 @@ TEST(ScreenRegistry, ReadsTheBaseOfADisplayThatCouldNotBeReadBefore) {
     EXPECT_EQ(desk.registry.sightedScreens().size(), 2U) << "a screen for no display is not kept";
 }
 
-TEST(ReconfigurationCallbacks, MayEndTheirOwnRegistration) {
+TEST(ReconfigurationCallbacks, MayUnregisterThemselves) {
     Desk desk(threeDisplays);
     std::string calls;
     std::unique_ptr<DisplayService::Subscription> own;
@@ -243,7 +243,7 @@ TEST(ReconfigurationCallbacks, MayEndTheirOwnRegistration) {
     EXPECT_EQ(calls, "own other other ");
 }
 
-TEST(ReferenceID, UsesTheSerialNumberWhereThereIsOne) {
+TEST(ReferenceID, UsesSerialNumberIfPresent) {
     const std::vector<std::pair<DisplayIdentity, const char*>> rows{
         {{4294967294U, 7, 9, true, 300, 200}, "4294967294-7-9"},
         {{0, 7, 9, true, 300, 200}, "builtin-7-9"},

@@ -10,10 +10,10 @@
 namespace tonquil {
 namespace {
 
-TEST(PropertyValue, GivesASingleForNumbersBooleansAndText) {
+TEST(PropertyValue, ConvertsNumbersBooleansAndTextToFloat) {
     constexpr float infinity = std::numeric_limits<float>::infinity();
-    // The values and their singles, null for infinity. The last ones are too large or too small,
-    // with an exponent or zeros that suggest the other.
+    // Values and their floats, null for infinity. The last ones overflow or underflow, although
+    // their exponent or zeros suggest the opposite.
     const auto rows = PropertyValue::parse(R"([[true, 1], [-3, -3],
         [18446744073709551615, 18446744073709551616.0], [3.4028235677973366e38, null],
         [3.40282356e38, 3.4028234663852886e38], [" \t+0.5x", 0.5], ["-.5e1", -5], ["1e39", null],
@@ -35,7 +35,7 @@ TEST(PropertyValue, GivesASingleForNumbersBooleansAndText) {
     }
 }
 
-TEST(PropertyValue, GivesAnIntegerHeldAtTheEndsOfTheRange) {
+TEST(PropertyValue, ClampsIntegersToTheirRange) {
     for (const auto& row : PropertyValue::parse(R"([[true, 1], [-1.9, -1],
         [9223372036854775808.0, 9223372036854775807], [-1e300, -9223372036854775808],
         [18446744073709551615, 9223372036854775807], [" +12ab", 12], ["x1", 0], ["-", 0],
@@ -46,7 +46,7 @@ TEST(PropertyValue, GivesAnIntegerHeldAtTheEndsOfTheRange) {
     EXPECT_EQ(integerValue(std::numeric_limits<double>::quiet_NaN()), 0);
 }
 
-TEST(BoundedJson, ReadsUpToItsBoundsAndNoFurther) {
+TEST(BoundedJson, ReadsOnlyWithinItsBounds) {
     std::string separated = "[0";
     for (int separator = 0; separator < 4096; ++separator) {
         separated += ",0";
