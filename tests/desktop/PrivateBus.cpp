@@ -12,7 +12,7 @@ namespace tonquil {
 
 namespace {
 
-/// Answers the methods of a made-up service.
+/// Implements the methods of a made-up service.
 class Service final : public QDBusVirtualObject {
  public:
     explicit Service(PrivateBus::Methods methods) : _methods(std::move(methods)) {}

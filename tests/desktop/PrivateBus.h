@@ -12,8 +12,8 @@
 
 namespace tonquil {
 
-/// A bus daemon of the test's own, which an environment variable names while it lives, with a
-/// connection to it that plays the desktop.
+/// A private bus daemon, announced in an environment variable while it lives, with a connection to
+/// it that plays the desktop.
 class PrivateBus {
  public:
     explicit PrivateBus(const char* variable);
@@ -23,15 +23,15 @@ class PrivateBus {
 
     void emitSignal(const char* path, const char* interface, const char* name,
                     const QVariantList& arguments);
-    /// Takes a well-known name and gives it up again.
+    /// Takes a well-known name and releases it again.
     void takeAndLeave(const char* name);
-    /// Ends the daemon, or with SIGSTOP makes it hang.
+    /// Stops the daemon, or with SIGSTOP makes it hang.
     void send(int signal) { _daemon->send(signal); }
 
     using Answer = std::function<QVariant(const QVariantList& arguments)>;
     using Methods = std::map<const char*, Answer>;
-    /// Becomes a service whose object at `path`, and all below it, answer these methods; an
-    /// invalid answer becomes an error.
+    /// Becomes a service whose object at `path`, and everything below it, implements these methods;
+    /// an invalid answer becomes an error.
     void serve(const char* name, const char* path, const Methods& methods);
 
  private:

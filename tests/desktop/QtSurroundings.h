@@ -6,9 +6,9 @@
 
 namespace tonquil {
 
-/// Runs Qt's events until `condition` holds; false when it does not within 20 s.
+/// Runs Qt's events until `condition` holds; returns false if it does not within 20 s.
 [[nodiscard]] bool processUntil(const std::function<bool()>& condition);
-/// Runs Qt's events for a moment in which something is not to happen.
+/// Runs Qt's events for a while in which something must not happen.
 void processFor(std::chrono::milliseconds time);
 
 }  // namespace tonquil

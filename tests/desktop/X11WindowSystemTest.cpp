@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Waits for what another program does.
+/// Waits for another program's effect.
 bool becomes(const std::function<bool()>& condition) {
     for (int count = 0; count < 400 && !condition(); ++count) {
         std::this_thread::sleep_for(50ms);
@@ -24,7 +24,7 @@ bool becomes(const std::function<bool()>& condition) {
     return condition();
 }
 
-TEST(X11WindowSystem, NoticesThatAManagerOrACompositorWasKilled) {
+TEST(X11WindowSystem, NoticesKilledWindowManagerOrCompositor) {
     const auto server = XServer::start().value();
     const RampReader desk = RampReader::connect(server->display()).value();
     xcb_connection_t* const connection = desk.connection();

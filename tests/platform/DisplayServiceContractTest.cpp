@@ -17,14 +17,14 @@
 namespace tonquil {
 namespace {
 
-/// Two displays, seen from outside of the service that is being tested.
+/// Two displays, seen from outside the service under test.
 class ServiceBench {
  public:
     virtual ~ServiceBench() = default;
 
-    /// A service as another program would open it, at once with others.
+    /// A service as another program would open it, alongside others.
     [[nodiscard]] virtual std::unique_ptr<DisplayService> openService(Log log) = 0;
-    /// What is on the hardware of the first (0) or second (1) display.
+    /// The hardware ramp of the first (0) or second (1) display.
     [[nodiscard]] virtual HardwareRamp hardwareRamp(int display) = 0;
     virtual void setForeignRamp(int display, const HardwareRamp& ramp) = 0;
     /// Publishes a colour profile whose calibration is this ramp.
@@ -55,7 +55,7 @@ class SimulatedBench : public ServiceBench {
     SimulatedDisplay _second = *_desk.find(2);
 };
 
-/// An X server of its own, looked at through the independent reader.
+/// A private X server, read through the independent reader.
 class X11Bench : public ServiceBench {
  public:
     X11Bench() {
@@ -99,7 +99,7 @@ class X11Bench : public ServiceBench {
     RampReader _reader = RampReader::connect(_server->display()).value();
 };
 
-/// What every display service owes.
+/// The contract of every display service.
 class DisplayServiceContract : public testing::TestWithParam<std::unique_ptr<ServiceBench> (*)()> {
  protected:
     [[nodiscard]] std::unique_ptr<DisplayService> open() {
@@ -119,7 +119,7 @@ class DisplayServiceContract : public testing::TestWithParam<std::unique_ptr<Ser
     std::unique_ptr<DisplayService> service = open();
 };
 
-/// A table of whole 16-bit entries, so that it comes back as it was.
+/// A table of whole 16-bit entries, so that it survives a round trip.
 GammaTable tableOf(int seed) {
     GammaTable table;
     for (std::size_t i = 0; i < table.levels.size(); ++i) {
@@ -136,7 +136,7 @@ HardwareRamp rampOf(const GammaTable& table) {
     return ramp;
 }
 
-TEST_P(DisplayServiceContract, SetsWhatIsGivenAndReadsTheSystemsTableAfterAnyRestart) {
+TEST_P(DisplayServiceContract, ReadsSystemTableEvenAfterRestart) {
     const GammaTable system = read(0);
     const HardwareRamp other = bench->hardwareRamp(1);
     GammaTable hardware;
@@ -157,7 +157,7 @@ TEST_P(DisplayServiceContract, SetsWhatIsGivenAndReadsTheSystemsTableAfterAnyRes
     EXPECT_TRUE(haveSameBits(hardware, system));
 }
 
-TEST_P(DisplayServiceContract, TakesAForeignRampForTheSystemsOnlyWhileItHoldsNoCorrection) {
+TEST_P(DisplayServiceContract, AdoptsForeignRampOnlyWithoutCorrection) {
     const GammaTable system = read(0);
     for (int round = 0; round < 2; ++round) {
         service->setTransferTable(display(0), tableOf(1));
@@ -179,7 +179,7 @@ TEST_P(DisplayServiceContract, TakesAForeignRampForTheSystemsOnlyWhileItHoldsNoC
     EXPECT_EQ(bench->hardwareRamp(0), rampOf(tableOf(4))) << "found at a start";
 }
 
-TEST_P(DisplayServiceContract, RecognisesACorrectionHoweverManyOthersSetSince) {
+TEST_P(DisplayServiceContract, RecognisesCorrectionAfterManyLaterOnes) {
     const GammaTable system = read(0);
     const auto other = open();
     for (const int count : {1, 1, 300, 1}) {
@@ -194,7 +194,7 @@ TEST_P(DisplayServiceContract, RecognisesACorrectionHoweverManyOthersSetSince) {
     }
 }
 
-TEST_P(DisplayServiceContract, TheProfilesCalibrationIsTheSystemsWhereThereIsOne) {
+TEST_P(DisplayServiceContract, PrefersProfileCalibration) {
     service->setTransferTable(display(0), tableOf(1));
     service->setTransferTable(display(1), tableOf(1));
     for (const int seed : {3, 4}) {
@@ -207,7 +207,7 @@ TEST_P(DisplayServiceContract, TheProfilesCalibrationIsTheSystemsWhereThereIsOne
     }
 }
 
-TEST_P(DisplayServiceContract, LeavesADisplayThatIsGoneAloneAndSaysSoOnce) {
+TEST_P(DisplayServiceContract, IgnoresMissingDisplayAndLogsOnce) {
     const DisplayID second = display(1);
     const HardwareRamp first = bench->hardwareRamp(0);
     bench->unplugSecond();
@@ -232,7 +232,7 @@ TEST_P(DisplayServiceContract, LeavesADisplayThatIsGoneAloneAndSaysSoOnce) {
     EXPECT_EQ(bench->hardwareRamp(1), rampOf(tableOf(4)));
 }
 
-TEST_P(DisplayServiceContract, DisplayZeroIsTheMainOne) {
+TEST_P(DisplayServiceContract, TreatsDisplayZeroAsMain) {
     EXPECT_EQ(service->mainDisplay(), display(0));
     EXPECT_EQ(service->bounds(0), service->bounds(display(0)));
     EXPECT_EQ(service->identity(0).serialNumber, 1U);
@@ -242,7 +242,7 @@ TEST_P(DisplayServiceContract, DisplayZeroIsTheMainOne) {
     EXPECT_TRUE(service->displaysWithPoint({-5, -5}, 9).empty());
 }
 
-TEST_P(DisplayServiceContract, AFormulaIsReadBackFromTheSystemsTable) {
+TEST_P(DisplayServiceContract, ReadsFormulaBackFromSystemTable) {
     const TransferFormula formula{.red = {0, 1, 1.5F}, .green = {0, 1, 1.5F}, .blue = {0, 1, 1.5F}};
     service->setTransferFormula(display(1), formula);
     const HardwareRamp gamma = bench->hardwareRamp(1);

@@ -10,8 +10,8 @@
 
 namespace tonquil {
 
-// The bus that controls are told on is started by the session bus of the desk. The service for it
-// is where Debian's packages are, which the desk hides.
+// The accessibility bus is started by the desk's session bus. Its service file is in Debian's data
+// folder, which the desk hides.
 Controls::Controls(const Desk& desk)
     : _session(desk.begin({"env", "-u", "XDG_DATA_DIRS", "dbus-daemon", "--session", "--nofork",
                            "--nopidfile", "--print-address",

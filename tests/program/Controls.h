@@ -12,8 +12,8 @@
 
 namespace tonquil {
 
-/// The controls of the programs on a desk, as assistive technologies are told of them: a test finds
-/// them wherever the fonts and the layout put them. To be made before the program is started.
+/// The accessible controls of the programs on a desk: lets a test find them whatever the fonts and
+/// the layout. Create it before starting the program.
 class Controls {
  public:
     explicit Controls(const Desk& desk);
@@ -21,7 +21,7 @@ class Controls {
     Controls(const Controls&) = delete;
     Controls& operator=(const Controls&) = delete;
 
-    /// Where the control of this role (such as "check box") and name is, if it can be seen.
+    /// The rectangle of the visible control with this role (such as "check box") and name.
     [[nodiscard]] std::optional<Desk::Place> find(const char* role, const char* name) const;
 
  private:

@@ -42,7 +42,7 @@ class FloatingTarget : public testing::Test {
     std::vector<int> kinds;
 };
 
-TEST_F(FloatingTarget, FollowsThePickerAndTheKeysAndIgnoresUnknownKinds) {
+TEST_F(FloatingTarget, FollowsPickerAndKeysAndIgnoresUnknownKinds) {
     controller.targetKindPicker()->cell(1)->click();
     EXPECT_TRUE(showsGrayscale());
     for (const int kind : {2, -1, 1 << 30}) {
@@ -77,7 +77,7 @@ class Covers : public testing::Test {
     TargetWindowList list;
 };
 
-TEST_F(Covers, AreFoundByTheNumberOrThePlaceOfTheirDisplay) {
+TEST_F(Covers, AreFoundByDisplayNumberOrPosition) {
     EXPECT_EQ(list.existingTargetWindowControllerForScreen(left), nullptr);
     TQTargetWindowController* const first = &list.targetWindowControllerForScreen(left);
     TQTargetWindowController* const second = &list.targetWindowControllerForScreen(right);
@@ -93,7 +93,7 @@ TEST_F(Covers, AreFoundByTheNumberOrThePlaceOfTheirDisplay) {
     }
 }
 
-TEST_F(Covers, AreDismissedByAClickAnywhereOrByEscape) {
+TEST_F(Covers, AreDismissedByClickOrEscape) {
     using Dismissal = std::function<void(TQTargetWindowController&)>;
     for (const Dismissal& dismiss : std::vector<Dismissal>{
              [](auto& each) { click(*each.colorPatternArea()->squareRed()); },
@@ -108,7 +108,7 @@ TEST_F(Covers, AreDismissedByAClickAnywhereOrByEscape) {
             EXPECT_EQ(list.existingTargetWindowControllerForScreen(left), nullptr);
         });
         controller.showWindow();
-        // An earlier press ends here, which is no click.
+        // The release of an earlier press is no click.
         release(controller.window(), {3, 3});
         ASSERT_TRUE(controller.isShown());
         controller.setKind(1);
@@ -122,7 +122,7 @@ TEST_F(Covers, AreDismissedByAClickAnywhereOrByEscape) {
     }
 }
 
-TEST_F(Covers, FollowTheirDisplaysAndGoWithThem) {
+TEST_F(Covers, FollowTheirDisplaysUntilRemoved) {
     TQTargetWindowController& first = list.targetWindowControllerForScreen(left);
     TQTargetWindowController& second = list.targetWindowControllerForScreen(right);
     second.showWindow();
@@ -130,14 +130,14 @@ TEST_F(Covers, FollowTheirDisplaysAndGoWithThem) {
     EXPECT_EQ(second.colorPatternArea()->geometry(), QRect(QPoint(), right.frame.size()));
     EXPECT_FALSE(second.targetKindPicker()->isVisible()) << "the pattern alone";
     EXPECT_FALSE(first.isShown());
-    // The displays change places.
+    // The displays swap positions.
     const TargetScreen newLeft{.displayID = right.displayID, .frame = QRect(0, 0, 640, 480)};
     const TargetScreen newRight{.displayID = left.displayID, .frame = QRect(640, 0, 800, 600)};
     list.screensChanged({newLeft, newRight});
     EXPECT_EQ(first.frame(), newRight.frame);
     EXPECT_EQ(second.frame(), newLeft.frame);
     EXPECT_EQ(list.existingTargetWindowControllerForScreen(newRight), &first);
-    // One comes back under another number, the other goes.
+    // One comes back under another number, the other is removed.
     int closings = 0;
     first.setClosed([&] { ++closings; });
     const TargetScreen renumbered{.displayID = 12, .frame = newLeft.frame};
@@ -147,7 +147,7 @@ TEST_F(Covers, FollowTheirDisplaysAndGoWithThem) {
     EXPECT_EQ(closings, 1);
 }
 
-TEST_F(Covers, MayBeDismissedByWhoHearsThatAnotherOneClosed) {
+TEST_F(Covers, MayBeDismissedFromCloseCallback) {
     TQTargetWindowController& first = list.targetWindowControllerForScreen(left);
     TQTargetWindowController& second = list.targetWindowControllerForScreen(right);
     first.setClosed([&] { second.dismissTargetWindowControllerForScreen(); });

@@ -23,7 +23,7 @@ class CurvePlotTest : public testing::Test {
     void setCurves(const Samples& red, const Samples& green, const Samples& blue) {
         plot.setCurves({red, green, blue});
     }
-    // Lines that rise a little cover some pixels entirely.
+    // Slightly rising lines cover some pixels entirely.
     bool shows(const QColor& colour) {
         const QImage picture = drawn(plot);
         const auto isShown = [&](int pixel) {
@@ -35,7 +35,7 @@ class CurvePlotTest : public testing::Test {
     CurvePlot plot;
 };
 
-TEST_F(CurvePlotTest, DrawsEachChannelInItsColourAndEqualCurvesInWhiteOrBlack) {
+TEST_F(CurvePlotTest, DrawsChannelColoursAndEqualCurvesInWhiteOrBlack) {
     for (const bool isDark : {true, false}) {
         SCOPED_TRACE(isDark);
         setAppearance(plot, {.isDark = isDark});
@@ -52,7 +52,7 @@ TEST_F(CurvePlotTest, DrawsEachChannelInItsColourAndEqualCurvesInWhiteOrBlack) {
     }
 }
 
-TEST_F(CurvePlotTest, ReadsOutWhatLiesUnderThePointer) {
+TEST_F(CurvePlotTest, ReadsOutValueUnderPointer) {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     EXPECT_EQ(plot.readoutAt(0.5), QString());
     setCurves({0, 1}, {0, 0.5F, 0.6F}, {nan, 7, -7});
@@ -60,7 +60,7 @@ TEST_F(CurvePlotTest, ReadsOutWhatLiesUnderThePointer) {
     EXPECT_EQ(plot.readoutAt(1), QStringLiteral("1.00 → 1.00 0.60 0.00"));
     setCurves({0, 1}, {0.5F}, {0, 1});
     EXPECT_EQ(plot.readoutAt(0.25), QString());
-    // It shows it there, for as long as the pointer is over it.
+    // The read-out shows there, for as long as the pointer is over the plot.
     setCurves({0, 1}, {0, 1}, {0, 1});
     const QImage resting = drawn(plot);
     move(plot, {100, 100}, Qt::NoButton);

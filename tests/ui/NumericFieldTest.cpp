@@ -36,7 +36,7 @@ class NumericFieldTest : public testing::Test {
 
     std::string shown() { return field->text().toStdString(); }
 
-    /// Outlives the window, whose end commits what is being typed.
+    /// Outlives the window, whose destruction commits the text being typed.
     std::vector<float> sent;
     TQNumericTextView keys;
     QWidget window;
@@ -45,7 +45,7 @@ class NumericFieldTest : public testing::Test {
     QLineEdit* other = new QLineEdit;
 };
 
-TEST_F(NumericFieldTest, CommitsNumbersWithinTheRangeAndTakesTheRestBack) {
+TEST_F(NumericFieldTest, CommitsNumbersInRangeAndRevertsOtherText) {
     struct Row {
         const char* typed;
         int end;
@@ -87,7 +87,7 @@ TEST_F(NumericFieldTest, CommitsNumbersWithinTheRangeAndTakesTheRestBack) {
     }
 }
 
-TEST_F(NumericFieldTest, NeverRoundsAValueThatNobodyChanged) {
+TEST_F(NumericFieldTest, NeverRoundsUneditedValue) {
     const float exact = 0.123456F;
     slider->setFloatValue(exact);
     static_cast<void>(drawn(*slider));
@@ -101,7 +101,7 @@ TEST_F(NumericFieldTest, NeverRoundsAValueThatNobodyChanged) {
     EXPECT_THAT(sent, ElementsAre());
 }
 
-TEST_F(NumericFieldTest, KeepsWhatIsBeingTypedWhileTheSliderIsDrawnOrAMenuIsUp) {
+TEST_F(NumericFieldTest, KeepsTypedTextDuringRepaintsAndMenus) {
     typeOver(*field, QStringLiteral("0.7"));
     slider->setFloatValue(0.2F);
     static_cast<void>(drawn(*slider));
@@ -112,7 +112,7 @@ TEST_F(NumericFieldTest, KeepsWhatIsBeingTypedWhileTheSliderIsDrawnOrAMenuIsUp) 
     EXPECT_THAT(sent, ElementsAre(0.7F));
 }
 
-TEST_F(NumericFieldTest, IsSelectedByTheClickThatBringsTheFocus) {
+TEST_F(NumericFieldTest, SelectsAllOnFocusingClick) {
     const auto selectedAfterClick = [this] {
         press(*field, {20, 10});
         release(*field, {20, 10});
@@ -123,13 +123,13 @@ TEST_F(NumericFieldTest, IsSelectedByTheClickThatBringsTheFocus) {
     field->setFocus(Qt::MouseFocusReason);
     EXPECT_EQ(selectedAfterClick(), "0.500");
     EXPECT_EQ(selectedAfterClick(), "");
-    // A window manager gives the window the keyboard before the click.
+    // A window manager gives the window the focus before the click.
     QFocusEvent activation(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
     QApplication::sendEvent(field, &activation);
     EXPECT_EQ(selectedAfterClick(), "0.500");
 }
 
-TEST_F(NumericFieldTest, StepsByTheArrowKeysAndShowsTheLimitWhenTheSliderIsDrawn) {
+TEST_F(NumericFieldTest, StepsByArrowKeysAndShowsLimitOnSliderRepaint) {
     typeOver(*field, QStringLiteral("0.995"));
     pressKey(*field, Qt::Key_Up);
     EXPECT_EQ(slider->floatValue(), 1);
@@ -142,7 +142,7 @@ TEST_F(NumericFieldTest, StepsByTheArrowKeysAndShowsTheLimitWhenTheSliderIsDrawn
     EXPECT_THAT(sent, ElementsAre(1, 0.49F));
 }
 
-TEST_F(NumericFieldTest, IsHeardByItsOwnSliderOnlyAndEitherMayGoFirst) {
+TEST_F(NumericFieldTest, NotifiesOnlyItsOwnSliderInAnyDestructionOrder) {
     TQSlider stranger;
     stranger.setAction([](TQSlider&) { FAIL() << "A stranger's field was heard."; });
     stranger._updateToAuxiliaryValue(*field);
@@ -156,7 +156,7 @@ TEST_F(NumericFieldTest, IsHeardByItsOwnSliderOnlyAndEitherMayGoFirst) {
     EXPECT_EQ(slider->auxiliary(), nullptr);
 }
 
-TEST_F(NumericFieldTest, LeavesUndoAndEscapeToTheWindowUnlessSomethingWasTyped) {
+TEST_F(NumericFieldTest, LeavesUndoAndEscapeToWindowUnlessEdited) {
     for (const bool isTyped : {false, true}) {
         if (isTyped) {
             typeOver(*field, QStringLiteral("0.7"));
@@ -171,7 +171,7 @@ TEST_F(NumericFieldTest, LeavesUndoAndEscapeToTheWindowUnlessSomethingWasTyped) 
     }
 }
 
-TEST(MatrixTest, MovesWithTheArrowKeysInReadingDirectionAndTellsOnlyOfChangesByThePerson) {
+TEST(MatrixTest, FollowsArrowKeysInReadingDirectionAndReportsUserChangesOnly) {
     TQVibrantMatrix tabs({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
     std::vector<int> picked;
     tabs.setAction([&](int column) { picked.push_back(column); });

@@ -38,7 +38,7 @@ class AboutBox : public testing::Test {
     ScratchFolder _folder;
 };
 
-TEST_F(AboutBox, FillsTheTemplateTheSameWayEachTime) {
+TEST_F(AboutBox, FillsTemplateRepeatably) {
     BundleInformation information = ourselves();
     information.copyright = "Copyright of App and Credits";
     information.name = "Version and Credits";
@@ -60,7 +60,7 @@ TEST_F(AboutBox, FillsTheTemplateTheSameWayEachTime) {
     EXPECT_EQ(bare.textView()->toPlainText().toStdString(), "tonquil\nVersion 6.2\n\n");
 }
 
-TEST_F(AboutBox, ReadsTheCreditsInTheirEncodingAndReplacesOneFontName) {
+TEST_F(AboutBox, DecodesCreditsAndReplacesFontName) {
     EXPECT_EQ(creditsDocument(credits("<meta charset='iso-8859-1'><p>Lucida Grande, \xE9, "
                                       "Lucida Grande</p>"))
                   .toPlainText(),
@@ -69,7 +69,7 @@ TEST_F(AboutBox, ReadsTheCreditsInTheirEncodingAndReplacesOneFontName) {
               QString::fromUtf8("\xC3\xA9"));
 }
 
-TEST_F(AboutBox, OpensInTheMiddleAtTheBeginningAndClosesByEscape) {
+TEST_F(AboutBox, OpensCentredAtTopAndClosesByEscape) {
     std::string lines;
     for (int line = 0; line < 200; ++line) {
         lines += "<p>A line</p>";

@@ -23,7 +23,7 @@ Alert conflictAlert() {
             .buttons = {"Continue", "Quit"}};
 }
 
-/// The alert's answer when the person does something to its window.
+/// The alert's answer after the user has acted on its window.
 std::size_t answerTo(const std::function<void(AlertWindow&)>& act) {
     ModalAlerts alerts([] { return Appearance(); });
     QTimer::singleShot(
@@ -31,7 +31,7 @@ std::size_t answerTo(const std::function<void(AlertWindow&)>& act) {
     return alerts.runModal(conflictAlert());
 }
 
-TEST(Alert, AnswersWithTheButtonAndWithTheFirstWhenItIsDismissed) {
+TEST(Alert, AnswersWithPressedButtonOrFirstWhenDismissed) {
     EXPECT_EQ(answerTo([](AlertWindow& window) { window.buttons()[1]->click(); }), 1U);
     EXPECT_EQ(answerTo([](AlertWindow& window) { pressKey(window, Qt::Key_Return); }), 0U);
     const auto tabAndReturn = [](AlertWindow& window) {
@@ -43,7 +43,7 @@ TEST(Alert, AnswersWithTheButtonAndWithTheFirstWhenItIsDismissed) {
     EXPECT_EQ(answerTo([](AlertWindow& window) { window.close(); }), 0U);
 }
 
-TEST(Alert, SaysInWordsWhatTheKeysStandForAndHasRoomForThem) {
+TEST(Alert, ShowsTextsForKeysInFull) {
     Alert alert = conflictAlert();
     const std::string rival =
         "A program with a name that goes on and on, in a language of long words, without an end";

@@ -44,7 +44,7 @@ class Preferences : public testing::Test {
  protected:
     void SetUp() override { store.registerDefaults(registeredDefaults()); }
 
-    /// Makes the window anew, and shows it.
+    /// Creates and shows a new window.
     PreferencesWindow& open() {
         controller = std::make_unique<TQPrefController>(PreferencesSurroundings{
             store, loginItem, alerts, layout, windowSystem, program, "/home/kim",
@@ -67,12 +67,12 @@ class Preferences : public testing::Test {
     std::unique_ptr<TQPrefController> controller;
 };
 
-TEST_F(Preferences, WriteTheTagOfAChoiceAsABoolean) {
+TEST_F(Preferences, StoreTagOfChoiceAsBoolean) {
     for (const auto& [name, key] : {std::pair("affectAllScreens", "AffectAllScreens"),
                                     {"toggleApply", "ToggleApply"},
                                     {"showStatusItem", "ShowStatusItem"}}) {
         SCOPED_TRACE(key);
-        // Only the status item is read as a number, for which there may be no cell.
+        // Only the status item is read as a number, which may match no cell.
         store.stored[key] = 2;
         const auto matrix = [&, name = name](PreferencesWindow& window) {
             return window.findChild<RadioMatrix*>(QString::fromLatin1(name));
@@ -90,7 +90,7 @@ TEST_F(Preferences, WriteTheTagOfAChoiceAsABoolean) {
     }
 }
 
-TEST_F(Preferences, FollowFromElsewhereOnlyWhatIsBound) {
+TEST_F(Preferences, FollowExternalChangesOnlyWhereBound) {
     PreferencesWindow& window = open();
     EXPECT_TRUE(effectiveAppearance(window).isDark);
     for (const std::string key : {"DarkTheme", "ShowAtLaunch", "ShowTargetHints"}) {
@@ -114,7 +114,7 @@ TEST_F(Preferences, FollowFromElsewhereOnlyWhatIsBound) {
     EXPECT_EQ(stored("AllowRemote"), false);
 }
 
-TEST_F(Preferences, RecordAHotKeyThatIsSwitchedOnButNotThere) {
+TEST_F(Preferences, StartRecordingWhenMissingHotKeyIsEnabled) {
     int recordings = 0;
     PreferencesWindow& window = open();
     controller->setRecordingHooks([&] { ++recordings; }, [&] { recordings += 10; });
@@ -131,7 +131,8 @@ TEST_F(Preferences, RecordAHotKeyThatIsSwitchedOnButNotThere) {
     EXPECT_EQ(window.focusWidget(), &window);
     EXPECT_EQ(recordings, 11);
 
-    // Off: no control keeps the focus. On again: there is a hot key, so it stays where it is.
+    // Off: no control keeps the focus. On again: there is a hot key, so the focus stays where it
+    // is.
     window.showAtLaunch->setFocus();
     window.panelHotKey->click();
     EXPECT_EQ(window.focusWidget(), &window);
@@ -147,7 +148,7 @@ TEST_F(Preferences, RecordAHotKeyThatIsSwitchedOnButNotThere) {
     EXPECT_EQ(window.focusWidget(), &window);
 }
 
-TEST_F(Preferences, ReadAStoredHotKeyByItsLowBitsAndLeaveZerosOfOneTakenAway) {
+TEST_F(Preferences, ReadLowBitsOfHotKeyAndStoreZerosForRemovedOne) {
     store.stored.update({{"UseHotKeyCode", 0x1000C}, {"UseHotKeyModifiers", 0x100000}});
     DDHotKeyTextField& field = *open().hotKeyField;
     EXPECT_EQ(field.hotKey()->keyCode(), 12);
@@ -157,7 +158,7 @@ TEST_F(Preferences, ReadAStoredHotKeyByItsLowBitsAndLeaveZerosOfOneTakenAway) {
     EXPECT_EQ(stored("UseHotKeyModifiers"), 0);
 }
 
-TEST_F(Preferences, ShowWhatBecameOfTheLoginItemAndAdviseOnThePlace) {
+TEST_F(Preferences, ShowActualLoginItemAndAdviseOnProgramLocation) {
     const auto click = [this] {
         QCheckBox& box = *controller->window().openAtLoginCheckbox;
         box.click();
@@ -185,7 +186,7 @@ TEST_F(Preferences, ShowWhatBecameOfTheLoginItemAndAdviseOnThePlace) {
     EXPECT_EQ(alerts.shown.size(), 1U);
 }
 
-TEST_F(Preferences, HaveRoomForWhatIsWrongAndOnlyWhileItIs) {
+TEST_F(Preferences, GrowForProblemsAndShrinkAfterwards) {
     PreferencesWindow& window = open();
     const int height = window.height();
     const std::string sentence =

@@ -22,14 +22,14 @@ void putProgram(const std::filesystem::path& file, const std::string& name) {
     std::filesystem::permissions(file, std::filesystem::perms{0755});
 }
 
-/// A person's folder of desktop files, the system's, and one for programs.
+/// A user's folder of desktop files, the system's, and one for programs.
 class DesktopEntriesTest : public testing::Test {
  protected:
     void put(const std::string& file, const std::string& lines) {
         std::filesystem::create_directory((_folder / file).parent_path());
         putContents(_folder / file, "[Desktop Entry]\nType=Application\n" + lines);
     }
-    /// The name of the first that is installed of a.desktop and b.desktop; "-" for none.
+    /// The name of the first installed one of a.desktop and b.desktop; "-" if neither is.
     [[nodiscard]] std::string found(const std::string& locale = "") const {
         const std::array<std::string_view, 2> candidates = {"a.desktop", "b.desktop"};
         const auto program = DesktopEntries({.applications = {_folder / "own", _folder / "system"},
@@ -42,7 +42,7 @@ class DesktopEntriesTest : public testing::Test {
     ScratchFolder _folder;
 };
 
-TEST_F(DesktopEntriesTest, TakesTheFirstCandidateThatIsInstalledAndWouldStart) {
+TEST_F(DesktopEntriesTest, PicksFirstInstalledCandidateThatWouldStart) {
     EXPECT_EQ(found(), "-");
     put("own/b.desktop", "Name=B\n");
     EXPECT_EQ(found(), "B");
@@ -66,7 +66,7 @@ TEST_F(DesktopEntriesTest, TakesTheFirstCandidateThatIsInstalledAndWouldStart) {
     }
 }
 
-TEST_F(DesktopEntriesTest, NamesAProgramInThePersonsLanguage) {
+TEST_F(DesktopEntriesTest, LocalisesProgramName) {
     put("own/a.desktop", "Name=plain\nName[de]=de\nName[sr_RS@latin]=latin\n");
     for (const auto& [locale, name] : Rows{{"C.UTF-8", "plain"},
                                            {"fr_FR.UTF-8", "plain"},
@@ -77,7 +77,7 @@ TEST_F(DesktopEntriesTest, NamesAProgramInThePersonsLanguage) {
     }
 }
 
-TEST(DesktopEntry, QuotesAnArgumentOfACommandLine) {
+TEST(DesktopEntry, QuotesCommandLineArgument) {
     for (const auto& [argument, quoted] : Rows{{"/a b/100%/x", R"(Exec="/a b/100%%/x")"},
                                                {R"(/"`$\)", R"(Exec="/\\"\\`\\$\\\\")"},
                                                {"/line\nbreak", R"(Exec="/line\nbreak")"}}) {
@@ -87,7 +87,7 @@ TEST(DesktopEntry, QuotesAnArgumentOfACommandLine) {
     }
 }
 
-TEST(AutostartLoginItem, WritesAndRemovesTheDesktopFileAndHeedsTheDesktop) {
+TEST(AutostartLoginItem, WritesAndRemovesDesktopFileAndSeesItDisabled) {
     const ScratchFolder folder;
     const std::filesystem::path launcher = folder / "a launcher";
     const std::filesystem::path file = folder / "config/autostart/tonquil.desktop";
@@ -116,7 +116,7 @@ TEST(AutostartLoginItem, WritesAndRemovesTheDesktopFileAndHeedsTheDesktop) {
     EXPECT_FALSE(item.isEnabled());
 }
 
-TEST(Launcher, StartsTheProgramBesideItAndElseTheOneInPath) {
+TEST(Launcher, StartsSiblingProgramElseOneInPath) {
     const ScratchFolder folder;
     const auto launcher = folder / "tonquil-launcher";
     std::filesystem::copy_file(TONQUIL_LAUNCHER, launcher);
