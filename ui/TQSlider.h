@@ -107,7 +107,8 @@ class TQSlider : public QWidget {
     Action _interactionChanged;
     bool _isInteracting = false;
     bool _followsPointer = false;
-    /// Where the pointer grabbed the fill, in points to the right of its end, and the last position.
+    /// Where the pointer grabbed the fill, in points to the right of its end, and the last
+    /// position.
     double _grip = 0;
     double _gripX = 0;
     bool _showsFocusRing = false;
