@@ -10,15 +10,15 @@
 
 namespace tonquil {
 
-/// The least traffic that re-applying ramps takes: it asks for each lit CRTC's ramp, sets it, and
-/// waits once for all.
+/// The minimum traffic for re-applying ramps: requests each lit CRTC's ramp, sets it, and waits
+/// once for all of them.
 class BareRampLoop {
  public:
-    /// Connects to an X server and keeps the present ramps; ends the program where that fails.
+    /// Connects to an X server and saves the current ramps; exits the program on failure.
     explicit BareRampLoop(const std::string& display);
 
     [[nodiscard]] std::size_t displayCount() const { return _ramps.size(); }
-    /// Sets every ramp once. False when the server does not answer.
+    /// Sets every ramp once. Returns false if the server does not answer.
     [[nodiscard]] bool reapply();
 
  private:
@@ -28,7 +28,7 @@ class BareRampLoop {
     struct Ramp {
         xcb_randr_crtc_t crtc;
         std::uint16_t size;
-        /// Red, green and blue, one behind the other.
+        /// Red, green and blue, one after the other.
         std::vector<std::uint16_t> entries;
     };
 

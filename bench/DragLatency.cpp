@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Drags a slider with real pointer events and watches the ramp of a display from outside.
+// Drags a slider with real pointer events and watches a display's ramp from outside.
 //
 //   drag_latency X Y WIDTH [EVENTS_PER_SECOND SECONDS]
 //
 // Presses at (X, Y) and moves within WIDTH pixels. Prints how long the server's ramp takes to
-// change after single moves, and after the last move of a long drag, when everything queued up is
-// due.
+// change after single moves, and after the last move of a long drag, when all queued work is due.
 #include <xcb/randr.h>
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
@@ -55,7 +54,7 @@ class Hand {
         std::free(reply);
         return entry;
     }
-    /// Microseconds until the entry is another one; 0 when it stays for a second.
+    /// Microseconds until the entry changes; 0 if it does not within a second.
     [[nodiscard]] double untilChanged(int from, Clock::time_point start) const {
         constexpr double second = 1e6;
         while (entry() == from) {
@@ -103,7 +102,7 @@ void measureDrag(Hand& hand, int x, int y, int width, int rate, int seconds) {
     const auto last = Clock::now();
     hand.moveTo(x + width * 2, y);
     const double first = hand.untilChanged(before, last);
-    // Whatever still was in the queue would change the ramp again and again.
+    // Anything still queued would change the ramp again.
     double settled = first;
     for (int present = hand.entry(); microsecondsSince(last) < 500'000;) {
         if (const int now = hand.entry(); now != present) {

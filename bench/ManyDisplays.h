@@ -10,7 +10,7 @@
 
 namespace tonquil {
 
-/// A curve as people make them; each number has another exponent.
+/// A typical curve; each number gives a different exponent.
 [[nodiscard]] inline std::shared_ptr<TQExtendedGammaCurve> exampleCurve(int number) {
     const auto offset = static_cast<float>(number) * 0.001F;
     return TQExtendedGammaCurve::gammaCurveWithMasterBlack(

@@ -8,7 +8,7 @@ namespace tonquil {
 
 namespace {
 
-/// Curves put on three displays at once, all of them unchanged since the last time.
+/// Applies curves to three displays at once, all unchanged since the last time.
 void reapply(benchmark::State& state) {
     ManyDisplays displays(3);
     for ([[maybe_unused]] auto _ : state) {
@@ -24,7 +24,7 @@ void reapply(benchmark::State& state) {
 }
 BENCHMARK(reapply)->Name("simulated/3displays/reapply");
 
-/// What a restart costs: 25 displays are told apart and their calibrations read.
+/// The cost of a restart: identifies 25 displays and reads their calibrations.
 void listScreens(benchmark::State& state) {
     ManyDisplays displays(ScreenRegistry::mostScreens);
     for ([[maybe_unused]] auto _ : state) {

@@ -41,7 +41,7 @@ void writeAllScreens(benchmark::State& state) {
 }
 BENCHMARK(writeAllScreens)->Name("dictionary/25displays/write");
 
-/// The whole way from a dictionary to curves assigned to their displays, none of them applied.
+/// From a dictionary to curves assigned to their displays, none of them applied.
 void adoptAllScreens(benchmark::State& state) {
     ManyDisplays displays(displayCount);
     const PropertyValue dictionary = displays.registry.gammaCurveDictionary();

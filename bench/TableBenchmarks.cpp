@@ -59,7 +59,7 @@ void registerPair(const std::string& name, const CurveValues& curve) {
     return true;
 }();
 
-/// What re-applying costs when nothing has changed since.
+/// The cost of re-applying an unchanged curve.
 void keptTable(benchmark::State& state) {
     const BaseGamma base = straightBase();
     const CurveValues curve = curveWithExponents(KVBlendingModeBaseTable, 1.1F, 1.2F, 0.9F);

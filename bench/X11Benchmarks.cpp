@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t displayCount = 3;
 
-/// One server for all benchmarks; it ends with the program.
+/// One server for all benchmarks; stopped at program exit.
 XServer* server(benchmark::State& state) {
     static const auto started = startThreeDisplays();
     if (!started) {
@@ -23,7 +23,7 @@ XServer* server(benchmark::State& state) {
     return started->get();
 }
 
-/// Puts the screens' curves on their displays; false when one did not take its own.
+/// Applies the screens' curves to their displays; false if a display refused its curve.
 bool applyAll(DisplayService& service, const ScreenRegistry::Screens& screens) {
     DisplayBatch batch(service);
     for (const auto& screen : screens) {
@@ -32,7 +32,7 @@ bool applyAll(DisplayService& service, const ScreenRegistry::Screens& screens) {
     return batch.finish();
 }
 
-/// Applies curves again and again, after `change` was made to each screen's.
+/// Applies the curves repeatedly, after `change` was applied to each screen's.
 template <typename Change>
 void applyRepeatedly(benchmark::State& state, Change change) {
     const XServer* const x = server(state);
@@ -65,7 +65,7 @@ void reapply(benchmark::State& state) {
 }
 BENCHMARK(reapply)->Name("x11/3displays/reapply/ours")->UseRealTime();
 
-/// What the unchanged ramps cost without any of our code; see `BareRampLoop`.
+/// The cost of unchanged ramps without any of our code; see `BareRampLoop`.
 void reapplyBare(benchmark::State& state) {
     const XServer* const x = server(state);
     if (x == nullptr) {
@@ -82,7 +82,7 @@ void reapplyBare(benchmark::State& state) {
 }
 BENCHMARK(reapplyBare)->Name("x11/3displays/reapply/bare")->UseRealTime();
 
-/// What dragging a slider costs: each table is computed, converted and noted anew.
+/// The cost of dragging a slider: each table is recomputed, converted and recorded.
 void edit(benchmark::State& state) {
     int step = 0;
     applyRepeatedly(state, [&](const ScreenRegistry::Screens& screens) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The least that correcting every display takes: connect, look which CRTCs are lit and how long
-// their ramps are, compute one ramp, set it, wait once, leave. It saves nothing and could give
-// nothing back.
+// The minimum for correcting every display: connect, query the active CRTCs and their ramp sizes,
+// compute one ramp, set it, wait once, exit. It saves nothing, so it could not restore anything.
 #include <math.h>
 #include <stdint.h>
 #include <stdio.h>

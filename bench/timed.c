@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// A stopwatch for whole programs: timed ROUNDS -- COMMAND... [-- COMMAND...]...
+// Times whole programs: timed ROUNDS -- COMMAND... [-- COMMAND...]...
 //
-// Runs all commands in turn, ROUNDS times after a tenth as many rounds of warming up, so that what
-// slows the machine down for a while slows all of them alike. Prints one line a command, in their
-// order: median of the processor time (user and system, milliseconds), of the wall time
-// (milliseconds) and of the peak memory (KiB), and how many runs failed, separated by tabs.
+// Runs all commands in turn, ROUNDS times after a tenth as many warm-up rounds, so that a temporary
+// slowdown of the machine affects all of them alike. Prints one line per command, in order: the
+// medians of the CPU time (user and system, milliseconds), the wall time (milliseconds) and the
+// peak memory (KiB), and the number of failed runs, separated by tabs.
 #include <errno.h>
 #include <fcntl.h>
 #include <stdio.h>
@@ -72,7 +72,7 @@ static double median(double* values, int count) {
     return (values[(count - 1) / 2] + values[count / 2]) / 2;
 }
 
-// Splits the arguments at each "--" in place; the first of them is one.
+// Splits the arguments at each "--" in place; the first argument is a "--".
 static int split(int argc, char** argv, struct Command* commands, int rounds) {
     int count = 0;
     for (int i = 0; i < argc; ++i) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Any bytes where a display's colour profile is expected.
+// Feeds any bytes as a display's colour profile.
 
 #include "Require.h"
 #include "platform/icc/CalibrationRamp.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Any text where a compact array is expected: on a command line, from the network.
+// Feeds any text as a compact array, as from the command line or the network.
 
 #include <string_view>
 

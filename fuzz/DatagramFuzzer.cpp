@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Any datagram from the network: to a server whose self-test runs, to one whose self-test is over,
-// and to a companion.
+// Feeds any datagram to a server in its self-test, to one after its self-test, and to a companion.
 
 #include <algorithm>
 #include <cctype>
@@ -29,7 +28,7 @@ void checkServer(std::string_view datagram, bool isTesting) {
     for (const auto& answer : bench.wire.sent) {
         require(answer.recipient == source && readAnnounce(answer.bytes).has_value());
     }
-    // What is ignored has a line, and so has each order, up to the limit of such lines.
+    // Each ignored datagram and each command logs one line, up to the limit on such lines.
     require(bench.wire.sent.size() <= 1 &&
             bench.log.size() <= std::max<std::size_t>(1, bench.displays.statesSet.size()));
     for (const std::string& line : bench.log) {
@@ -41,7 +40,7 @@ void checkServer(std::string_view datagram, bool isTesting) {
     for (const auto& [id, state] : bench.displays.statesSet) {
         require(isUtf8(id) && state.is_object());
     }
-    // What was set may be anything, but an announce of it is one again, or the tag alone.
+    // Any value may be set, but announcing it must give an announcement again, or the tag alone.
     bench.forget();
     bench.server->broadcastAnnounce();
     const std::string& announce = bench.wire.sent.front().bytes;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Any bytes where a monitor's EDID is expected.
+// Feeds any bytes as a monitor's EDID.
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Any contents of the two root-window properties, which any client may write.
+// Feeds any contents of the two root-window properties, which every client can write.
 
 #include <cstring>
 #include <vector>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Any bytes: reading must not fail in any other way than with a problem, and what was read must
-// survive being written and read again.
+// Feeds any bytes: reading may only fail with a problem, and what was read must survive a round
+// trip.
 
 #include <algorithm>
 #include <cstdint>
@@ -17,7 +17,7 @@ namespace {
 using tonquil::PropertyValue;
 using tonquil::require;
 
-/// Whether XML cannot carry the text, told from its UTF-8 bytes alone.
+/// Whether XML cannot represent the text, judged from its UTF-8 bytes alone.
 bool isRefusedByXml(const std::string& text) {
     return text.find("\xEF\xBF\xBE") != std::string::npos ||
            text.find("\xEF\xBF\xBF") != std::string::npos ||
@@ -48,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     require(tonquil::beginsLikePropertyList({data, size}));
-    // XML may need more bytes than the binary encoding did; everything else stays within.
+    // XML may need more bytes than the binary encoding did; all other limits must hold.
     tonquil::PropertyListBudget budget;
     budget.mostBytes = std::numeric_limits<int>::max();
     const auto text = tonquil::writePropertyList(*value, budget);

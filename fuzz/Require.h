@@ -5,7 +5,7 @@
 
 namespace tonquil {
 
-/// Stops the fuzzer at an input for which this does not hold.
+/// Aborts the fuzzer if the condition does not hold.
 inline void require(bool condition) {
     if (!condition) {
         std::abort();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Any file: whatever curves are in it, they compute a table and are stored and read back as the
-// same bits.
+// Feeds any file: any curves in it must compute a table and survive storing and reading bit for
+// bit.
 
 #include "settings/Settings.h"
 

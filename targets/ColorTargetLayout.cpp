@@ -8,7 +8,7 @@ namespace tonquil {
 
 namespace {
 
-/// The target is 32 units wide and 22 high; a square's side is five of them.
+/// The target is 32 units wide and 22 high; a square's side is 5 units.
 double unitFor(const PatternFrame& area) {
     return std::min(std::floor(area.width * 0.03125), std::floor(area.height / 22));
 }
@@ -22,7 +22,7 @@ double sideFor(double unit) {
 
 ColorTargetLayout ColorTargetLayout::forSize(double width, double height) {
     const PatternFrame bounds{0, 0, width, height};
-    // A margin of 4 % that is switched off.
+    // A 4 % margin, currently switched off.
     const PatternFrame area =
         bounds.insetBy(std::round(0.04 * width) * 0, std::round(0.04 * height) * 0);
     const double unit = unitFor(area);

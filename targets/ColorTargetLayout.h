@@ -5,7 +5,7 @@
 
 namespace tonquil {
 
-/// Where the pieces of the colour target are, in points. All values are whole numbers.
+/// Positions of the colour target's pieces, in points. All values are whole numbers.
 struct ColorTargetLayout {
     PatternFrame squareGray;
     PatternFrame squareRed;
@@ -17,8 +17,8 @@ struct ColorTargetLayout {
     PatternFrame rampGraySmooth;
     PatternFrame rampColorSmooth;
 
-    /// For an area of a size in points. The pieces keep their proportions, as large as fits; in an
-    /// area too small for them their sizes are negative.
+    /// The layout for an area of a given size in points. The pieces keep their proportions and are
+    /// as large as fits; in an area too small for them their sizes are negative.
     [[nodiscard]] static ColorTargetLayout forSize(double width, double height);
 };
 

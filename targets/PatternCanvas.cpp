@@ -21,8 +21,8 @@ QColor grayOf(double level) {
     return {grey, grey, grey};
 }
 
-// The toolkit may place a view between device pixels. The view takes those that its edges are
-// nearest to, and the painter counts device pixels from there.
+// Qt may place a view between device pixels. The view takes the pixels nearest to its edges, and
+// the painter counts device pixels from there.
 PatternCanvas::PatternCanvas(QWidget& view)
     : _painter(&view), _bounds{0, 0, double(view.width()), double(view.height())} {
     const QTransform toDevice = _painter.deviceTransform();
@@ -52,7 +52,7 @@ void PatternCanvas::fill(const PatternFrame& frame, const QColor& colour) {
     fillPixels(snapped(frame), colour);
 }
 
-// What goes beyond the view is cut off.
+// Anything beyond the view is clipped.
 void PatternCanvas::fillAll(const QColor& colour) {
     _painter.fillRect(-1, -1, _pixelWidth + 2, _pixelHeight + 2, colour);
 }

@@ -11,7 +11,7 @@ namespace tonquil {
 class TQColorSquare;
 
 /// The colour target: five squares, two smooth ramps above them and two stepped ones below. It
-/// draws no background of its own, and owns its pieces.
+/// draws no background and owns its pieces.
 class TQColorPatternArea : public QWidget {
  public:
     explicit TQColorPatternArea(QWidget* parent = nullptr);
@@ -26,7 +26,7 @@ class TQColorPatternArea : public QWidget {
     [[nodiscard]] TQColorRamp* rampGraySmooth() const { return _rampGraySmooth; }
     [[nodiscard]] TQColorRamp* rampColorSmooth() const { return _rampColorSmooth; }
 
-    /// Places the pieces for the present size; done by itself when that changes. Nothing moves once
+    /// Places the pieces for the current size; called automatically on a resize. Nothing moves once
     /// `rampGraySmooth` has been deleted.
     void layoutSubviews();
 

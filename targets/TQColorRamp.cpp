@@ -16,7 +16,7 @@ struct Band {
     QColor full;
 };
 
-/// In the order of drawing, for they overlap in a ramp of one point. The outer two are rounded up.
+/// In drawing order, because they overlap in a ramp one point high. The outer two are rounded up.
 std::array<Band, 3> bandsOf(const PatternFrame& content) {
     const auto& [x, y, width, height] = content;
     const double third = std::ceil(height / 3);

@@ -9,14 +9,14 @@ namespace tonquil {
 /// A ramp from black to white, or to full red, green and blue, in steps or smooth.
 class TQColorRamp : public QWidget {
  public:
-    /// 0: 16 grey steps. 1: 16 steps, each of a red, a green and a blue band from above. 2: smooth
-    /// grey. 3: three smooth bands. Of any other variant only the frame is drawn.
+    /// 0: 16 grey steps. 1: 16 steps, each of a red, a green and a blue band from the top. 2:
+    /// smooth grey. 3: three smooth bands. Any other variant draws only the frame.
     explicit TQColorRamp(std::uint32_t variant = 0, QWidget* parent = nullptr);
 
     [[nodiscard]] std::uint32_t variant() const { return _variant; }
     void setVariant(std::uint32_t variant);
 
-    /// Whether the ramp is turned by half a turn: white is at the left, and blue above.
+    /// Whether the ramp is rotated by 180 degrees: white on the left, blue at the top.
     [[nodiscard]] bool isReversed() const { return _reversed; }
     void setReversed(bool reversed);
 

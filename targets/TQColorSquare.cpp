@@ -33,8 +33,8 @@ SquareColours coloursOf(std::uint32_t variant) {
     }
 }
 
-/// Rows of device pixels from the outer edge of each quarter, which keeps its outermost row. A row
-/// that begins within the quarter and is rounded to beyond it is left out.
+/// Rows of device pixels from the outer edge of each quarter, which keeps its outermost row. Omits
+/// a row that starts within the quarter but rounds to outside of it.
 void drawLines(PatternCanvas& canvas, const PatternFrame& lower, const PatternFrame& upper) {
     const double end = lower.height * canvas.ratio();
     const PatternFrame a = canvas.snapped(lower);

@@ -7,10 +7,10 @@
 
 namespace tonquil {
 
-// Half of full output in the middle, and neighbours a twentieth apart: near enough that a tint or a
-// kink at the middle of the curve shows between two of them, far enough to be told apart on the
-// dark background. The two steps in the middle of the ramps, 7/15 and 8/15, lie between the second
-// box and the fourth.
+// Half of full output in the middle, and neighbours a twentieth apart: close enough to reveal a
+// tint or a kink at the middle of the curve between two of them, far enough to be distinguishable
+// on the dark background. The two steps in the middle of the ramps, 7/15 and 8/15, lie between the
+// second box and the fourth.
 const std::array<double, 5>& TQGrayscalePatternArea::middleBoxLevels() {
     static constexpr std::array<double, 5> levels = {0.40, 0.45, 0.50, 0.55, 0.60};
     return levels;

@@ -8,8 +8,8 @@ namespace tonquil {
 
 class TQColorRamp;
 
-/// The grayscale target: five boxes around the middle grey, a ramp below them, and the same ramp
-/// turned above them. It is opaque, nearly black, and owns its ramps.
+/// The grayscale target: five boxes around middle grey, a ramp below them, and the same ramp
+/// rotated above them. It is opaque, nearly black, and owns its ramps.
 class TQGrayscalePatternArea : public QWidget {
  public:
     explicit TQGrayscalePatternArea(QWidget* parent = nullptr);
@@ -20,8 +20,8 @@ class TQGrayscalePatternArea : public QWidget {
     /// The levels of `middleBox1` to `middleBox5`, from 0 to 1.
     [[nodiscard]] static const std::array<double, 5>& middleBoxLevels();
 
-    /// Places the ramps for the present size; done by itself when that changes. The boxes are drawn
-    /// by the area, for their edges may lie between points.
+    /// Places the ramps for the current size; called automatically on a resize. The area draws the
+    /// boxes itself, because their edges may lie between points.
     void layoutSubviews();
 
  protected:

@@ -87,7 +87,7 @@ void TQTargetWindowController::moveTo(const TargetScreen& screen) {
     _window->cover(screen.frame);
 }
 
-// Closing calls the owner back, who must find the list without this controller.
+// Closing calls the owner back, and by then the controller must be off the list.
 void TQTargetWindowController::dismissTargetWindowControllerForScreen() {
     if (_list != nullptr) {
         _list->release(*this);

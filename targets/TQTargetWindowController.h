@@ -18,19 +18,19 @@ class TQColorPatternArea;
 class TQGrayscalePatternArea;
 class TQVibrantMatrix;
 
-/// Shows the targets in a window of its own: an ordinary one that floats, or one that covers a
-/// display and that a click, or Escape, dismisses.
+/// Shows the targets in a window of its own: an ordinary floating one, or a cover that fills a
+/// display and is dismissed by a click or Escape.
 class TQTargetWindowController {
  public:
-    /// A floating window, not shown, at kind 0.
+    /// Creates a hidden floating window with kind 0.
     TQTargetWindowController();
     ~TQTargetWindowController();
     Q_DISABLE_COPY_MOVE(TQTargetWindowController)
 
     /// 0: the colour target. 1: the grayscale target.
     [[nodiscard]] std::int32_t kind() const { return _kind; }
-    /// Shows the target of a kind and tells `setKindChanged`'s, also when that kind is shown
-    /// already. A kind that does not exist is ignored.
+    /// Shows the target of a kind and calls the callback of `setKindChanged`, even if that kind is
+    /// already shown. Ignores an unknown kind.
     void setKind(std::int32_t kind);
     /// Shows the kind of the picker's selected column.
     void changeKind(const TQVibrantMatrix& sender);
@@ -40,31 +40,31 @@ class TQTargetWindowController {
     [[nodiscard]] TQGrayscalePatternArea* grayscalePatternArea() const;
     [[nodiscard]] const QWidget* currentPatternArea() const;
 
-    /// Turns the window into a cover of the whole display. To be called before it is shown.
+    /// Turns the window into a cover of the whole display. Call before it is shown.
     void prepareForFillingScreen(const TargetScreen& screen);
-    /// Takes the controller out of its list, if it is in one, and closes the window. The
-    /// controller lives on until the current event is done.
+    /// Removes the controller from its list, if any, and closes the window. The controller stays
+    /// alive until the current event is done.
     void dismissTargetWindowControllerForScreen();
-    /// The display that is covered; a missing one for a floating window.
+    /// The covered display; a missing one for a floating window.
     [[nodiscard]] const TargetScreen& screen() const { return _screen; }
-    /// Follows the display to another place, size or number.
+    /// Follows the display to a new position, size or number.
     void moveTo(const TargetScreen& screen);
 
-    /// Shows the window in front of the others, and gives it the keyboard.
+    /// Shows and raises the window, and gives it the keyboard focus.
     void showWindow();
     [[nodiscard]] bool isShown() const;
-    /// Without the window manager's decoration, in points.
+    /// Without the window manager's frame, in points.
     [[nodiscard]] QRect frame() const;
     void setFrame(const QRect& frame);
-    /// The sentence below the patterns; shown at first. A cover has none.
+    /// The sentence below the patterns; shown by default. A cover has none.
     void setHintsShown(bool areShown);
-    /// Owned by the controller, for its icon and its appearance.
+    /// Owned by the controller; exposed for its icon and appearance.
     [[nodiscard]] QWidget& window() const;
 
-    /// Called with the kind whenever one is set: the owner may remember it.
+    /// Called with the kind whenever one is set, so that the owner can remember it.
     void setKindChanged(std::function<void(std::int32_t kind)> kindChanged);
-    /// Called when the window has been closed, by the person or by the program, while `frame` is
-    /// still what it was; not when the controller is destroyed.
+    /// Called when the window has been closed, by the user or the program, with `frame` still
+    /// valid; not when the controller is destroyed.
     void setClosed(std::function<void()> closed);
 
  private:
@@ -74,7 +74,7 @@ class TQTargetWindowController {
     std::unique_ptr<TargetWindow> _window;
     std::int32_t _kind = 0;
     TargetScreen _screen;
-    TargetWindowList* _list = nullptr;  ///< Set by the list while the controller is in it.
+    TargetWindowList* _list = nullptr;  ///< Set by the list that contains the controller.
     std::function<void(std::int32_t)> _kindChanged;
     std::function<void()> _closed;
 };

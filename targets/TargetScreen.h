@@ -9,10 +9,10 @@ namespace tonquil {
 /// A display that a target may cover.
 struct TargetScreen {
     std::uint32_t displayID = 0;
-    /// All of it, in the toolkit's points. No rectangle stands for a display that is missing.
+    /// The whole display, in Qt's points. An empty rectangle means that the display is missing.
     QRect frame;
 
-    /// Whether both mean one display: they have the same number, or the same place.
+    /// Whether both are the same display: same number or same position.
     [[nodiscard]] bool isSameAs(const TargetScreen& other) const {
         return displayID == other.displayID || frame == other.frame;
     }

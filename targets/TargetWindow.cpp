@@ -27,12 +27,12 @@ namespace {
 constexpr int margin = 12;
 constexpr int spacing = 8;
 constexpr int pickerWidth = 240;
-// The patterns' own proportions, and room for the footer.
+// The patterns' own proportions, plus room for the footer.
 constexpr QSize usualSize(864, 680);
 constexpr QSize leastSize(400, 340);
 
-// Nothing near the patterns is brighter than a quarter of full output, lest it dazzle an eye that
-// compares them. The hint is the darkest grey that reads well, at 4.8 : 1.
+// Nothing near the patterns is brighter than a quarter of full output, to avoid glare while
+// comparing them. The hint is the darkest grey with readable contrast, 4.8 : 1.
 constexpr double coverLevel = 0.2;
 constexpr double hintLevel = 0.5;
 
@@ -49,7 +49,7 @@ TargetWindow::TargetWindow(Actions actions)
       _actions(std::move(actions)) {
     setWindowTitle(QCoreApplication::translate("Targets", "Targets"));
     setAttribute(Qt::WA_QuitOnClose, false);
-    // Dark whatever the theme: the surroundings of a pattern change how bright it looks.
+    // Dark in every theme: a pattern's surroundings change how bright it looks.
     setAppearance(*this, {.isDark = true, .allowsVibrancy = false});
     setMinimumSize(leastSize);
     resize(usualSize);
@@ -68,7 +68,7 @@ QWidget* TargetWindow::makeFooter() {
     _hint->setTextFormat(Qt::PlainText);
     _hint->setWordWrap(true);
     _hint->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    // The patterns keep their place when a hint of another length is shown.
+    // Keeps the patterns in place when the hint's length changes.
     _hint->setMinimumHeight(2 * _hint->fontMetrics().lineSpacing());
     QPalette palette = _hint->palette();
     palette.setColor(QPalette::WindowText, grayOf(hintLevel));
@@ -94,7 +94,7 @@ void TargetWindow::setHintsShown(bool areShown) {
 }
 
 // A window manager would keep an ordinary window off the panels and the edges, or behind another
-// that fills the screen; so it is passed by.
+// full-screen window, so it is bypassed.
 void TargetWindow::becomeCover() {
     _isCover = true;
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
@@ -142,7 +142,7 @@ void TargetWindow::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// Presses on the patterns arrive here, for these do nothing with them.
+// The patterns ignore mouse presses, so they arrive here.
 void TargetWindow::mousePressEvent(QMouseEvent* event) {
     _isPressed = true;
     const bool isOnPattern =

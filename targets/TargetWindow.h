@@ -13,16 +13,16 @@ class TQColorPatternArea;
 class TQGrayscalePatternArea;
 class TQVibrantMatrix;
 
-/// The window of a target: the patterns, and below them the picker and a hint. As a cover it is
-/// frameless, above the others, and all pattern.
+/// The window of a target: the patterns, with the picker and a hint below. As a cover it is
+/// frameless, on top, and filled by the pattern.
 class TargetWindow : public QWidget {
  public:
-    /// What the person does, and what becomes of it; all must be callable.
+    /// Callbacks for user actions; all must be callable.
     struct Actions {
         std::function<void(int kind)> chooseKind;  ///< By a key.
-        std::function<void(int step)> stepKind;  ///< By a key: 1 to the next, -1 to the one before.
-        std::function<void()> dismiss;           ///< The cover is to go.
-        std::function<void()> closed;            ///< The window has been closed, by whomever.
+        std::function<void(int step)> stepKind;  ///< By a key: 1 for the next, -1 for the previous.
+        std::function<void()> dismiss;           ///< Dismisses the cover.
+        std::function<void()> closed;  ///< The window has been closed, for whatever reason.
     };
 
     explicit TargetWindow(Actions actions);
@@ -33,15 +33,15 @@ class TargetWindow : public QWidget {
 
     /// Null before the first `showPatternArea`.
     [[nodiscard]] const QWidget* currentPatternArea() const { return _current; }
-    /// Puts one of the two areas into the window, in the other's place.
+    /// Shows one of the two areas in the window, replacing the other.
     void showPatternArea(QWidget& area, const QString& hint);
 
     void setHintsShown(bool areShown);
-    /// Turns the window into a cover. It must not be shown yet.
+    /// Turns the window into a cover. Call before it is shown.
     void becomeCover();
     /// Covers a rectangle of the desktop, in points.
     void cover(const QRect& frame);
-    /// Shows the window above the others. A cover takes the keyboard.
+    /// Shows and raises the window. A cover takes the keyboard focus.
     void showInFront();
 
  protected:

@@ -10,8 +10,8 @@ namespace tonquil {
 
 namespace {
 
-/// Where the display of `covered` now is; null if it is gone. The number counts before the place,
-/// for displays may change places.
+/// The current entry for the display of `covered`; null if it is gone. The number takes precedence
+/// over the position, because displays may swap positions.
 const TargetScreen* findPresent(const std::vector<TargetScreen>& screens,
                                 const TargetScreen& covered) {
     auto found = std::ranges::find(screens, covered.displayID, &TargetScreen::displayID);
@@ -51,7 +51,7 @@ TQTargetWindowController& TargetWindowList::targetWindowControllerForScreen(
     return *controller;
 }
 
-// Dismissing changes the list, and calls owners back who may change it as well.
+// Dismissing changes the list and calls owners back, who may change it as well.
 void TargetWindowList::screensChanged(const std::vector<TargetScreen>& screens) {
     std::vector<TQTargetWindowController*> gone;
     for (const auto& controller : _controllers) {

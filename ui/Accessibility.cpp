@@ -120,7 +120,7 @@ QAccessibleInterface* interfaceFor(const QString& /*className*/, QObject* object
 }  // namespace
 
 void installAccessibleInterfaces() {
-    // Installing it again would do no harm, only slow down every look-up.
+    // Installing it twice would be harmless but slow down every look-up.
     static const bool isInstalled = [] {
         QAccessible::installFactory(&interfaceFor);
         return true;

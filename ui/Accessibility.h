@@ -3,8 +3,8 @@
 
 namespace tonquil {
 
-/// Lets assistive technology find sliders, tabs and the plot for what they are. Our controls call
-/// it as they are made; only the first call does anything.
+/// Exposes sliders, tabs and the plot to assistive technology with the right roles. Our controls
+/// call this in their constructors; only the first call does anything.
 void installAccessibleInterfaces();
 
 }  // namespace tonquil

@@ -44,7 +44,7 @@ double inputOf(CurvePlot::CurvePoint point) {
     return 1;
 }
 
-// The level at `input`, between two samples in a straight line.
+// The level at `input`, linearly interpolated between samples.
 double levelAt(const std::vector<float>& levels, double input) {
     const double position = input * static_cast<double>(levels.size() - 1);
     const auto before = std::min(static_cast<std::size_t>(position), levels.size() - 2);
@@ -148,7 +148,7 @@ QFont CurvePlot::labelFont() const {
     return font;
 }
 
-// On whole points, so that the graph's outer lines are as sharp as the others.
+// Whole points, so that the graph's outer lines are as sharp as the others.
 QRectF CurvePlot::graphRect() const {
     const QFontMetrics metrics(labelFont());
     const double left = plotPadding + metrics.horizontalAdvance(QStringLiteral("0.5")) + labelGap;
@@ -311,7 +311,7 @@ void CurvePlot::drawReadout(QPainter& painter) const {
     const double width = metrics.horizontalAdvance(words.join(u' ')) + space;
     QColor plate = theme.field;
     plate.setAlphaF(static_cast<float>(plateOpacity));
-    // Curves rise from the lower left: the upper left is free.
+    // Curves rise from the lower left, so the upper left is free.
     double x = graph.left() + labelGap;
     const double y = graph.top() + labelGap;
     painter.fillRect(QRectF(x, y, width + 2 * labelGap, height), plate);

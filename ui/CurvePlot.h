@@ -15,11 +15,12 @@
 
 namespace tonquil {
 
-/// Shows three transfer curves, input to the right and output up, over the display's own
-/// calibration, which is dotted. Equal curves meet in white (dark theme) or black (light).
+/// Plots three transfer curves, input to the right and output up, over the display's own
+/// calibration, which is dotted. Where curves coincide they are white (dark theme) or black
+/// (light).
 ///
-/// The pointer reads a value out. What is drawn is kept: a repaint without a change of the curves,
-/// the size or the appearance copies two pictures.
+/// Hovering reads out a value. The drawing is cached: a repaint without a change of curves, size or
+/// appearance only copies two images.
 class CurvePlot : public QWidget {
  public:
     /// Output levels of red, green and blue at evenly spaced inputs from 0 to 1.
@@ -27,7 +28,7 @@ class CurvePlot : public QWidget {
     enum class CurvePoint { Black, Middle, White };
     struct MarkedPoint {
         CurvePoint point = CurvePoint::Black;
-        /// Master marks the point on all three curves, `None` on none.
+        /// `Master` marks the point on all three curves, `None` on none.
         Channel channel = Channel::Master;
 
         friend bool operator==(const MarkedPoint&, const MarkedPoint&) = default;
@@ -35,21 +36,21 @@ class CurvePlot : public QWidget {
 
     explicit CurvePlot(QWidget* parent = nullptr);
 
-    /// Copies the levels. They are held within 0 to 1, not-a-number counts as 0; a channel of fewer
-    /// than two levels is not drawn.
+    /// Copies the levels. Clamps them to 0…1 and treats not-a-number as 0; a channel of fewer than
+    /// two levels is not drawn.
     void setCurves(const Levels& levels);
-    /// As `setCurves`, for the dotted curves.
+    /// Same as `setCurves`, for the dotted curves.
     void setBase(const Levels& levels);
     /// Marks the black end (input 0), the middle (0.5) or the white end (1), or nothing.
     void setMarkedPoint(std::optional<MarkedPoint> point);
-    /// Stands in the plot's place while it is not empty, wrapped.
+    /// Shown instead of the plot, word-wrapped, unless empty.
     void setMessage(const QString& message);
     [[nodiscard]] const QString& message() const { return _message; }
 
-    /// What the pointer reads out at an input (0 to 1): "0.50 → 0.47 0.48 0.50". Empty unless there
-    /// are three curves.
+    /// The read-out at an input (0 to 1): "0.50 → 0.47 0.48 0.50". Empty unless there are three
+    /// curves.
     [[nodiscard]] QString readoutAt(double input) const;
-    /// The curves or the message in words, for those who cannot see them.
+    /// Describes the curves or the message in words, for screen readers.
     [[nodiscard]] QString spokenDescription() const;
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -62,7 +63,7 @@ class CurvePlot : public QWidget {
 
  private:
     using Curves = std::array<std::vector<float>, 3>;
-    /// What the kept pictures depend on besides the curves.
+    /// What the cached images depend on besides the curves.
     struct PictureKey {
         QSize size;
         double scale = 0;
@@ -77,7 +78,7 @@ class CurvePlot : public QWidget {
     [[nodiscard]] QPointF pointAt(std::size_t channel, double input) const;
     [[nodiscard]] CurveLines linesOf(const Curves& curves) const;
     [[nodiscard]] QImage emptyPicture() const;
-    /// Returns whether the levels differ from what was there.
+    /// Returns whether the levels changed.
     bool take(Curves& curves, const Levels& levels);
     void updatePictures();
     void drawBackground();

@@ -28,12 +28,13 @@ QColor inverted(const QColor& colour) {
     return {255 - colour.red(), 255 - colour.green(), 255 - colour.blue()};
 }
 
-// The light that inks leave is what they do not take away.
+// Subtractive mixing: inks remove light, so what remains is the inverse.
 void invertColours(QImage& picture) {
     auto* const pixels = static_cast<QRgb*>(static_cast<void*>(picture.bits()));
     for (QRgb& pixel : std::span(pixels, static_cast<std::size_t>(picture.sizeInBytes()) / 4)) {
         const auto opacity = static_cast<QRgb>(qAlpha(pixel));
-        // Colours are stored multiplied by the opacity, so none is above it and nothing borrows.
+        // Pixels are premultiplied: no channel exceeds the opacity, so the subtraction never
+        // borrows.
         pixel = (opacity << 24U) | (opacity * 0x010101U - (pixel & 0xFFFFFFU));
     }
 }
@@ -71,7 +72,7 @@ void drawMeetingCurves(QImage& picture, const CurveLines& lines, const QPen& kin
     constexpr std::array channels = {Channel::Red, Channel::Green, Channel::Blue};
     const double scale = picture.devicePixelRatio();
     picture.fill(Qt::transparent);
-    // Whole pictures are added: that is far cheaper than to mix every little span of an outline.
+    // Adding whole images is far cheaper than blending every small span of an outline.
     QImage stroke = picture;
     for (std::size_t channel = 0; channel < lines.size(); ++channel) {
         const QColor& colour = themeFor(appearance).channel(channels.at(channel));

@@ -38,9 +38,9 @@ TQNumericTextField::TQNumericTextField(QWidget* parent) : QLineEdit(parent) {
     setFrame(false);
     setTextMargins(fieldPadding, 0, fieldPadding, 0);
     setMaxLength(longestEntry);
-    // Numbers are set to the right in both reading directions.
+    // Numbers are right-aligned in both reading directions.
     setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
-    // The background is drawn here.
+    // This class draws the background itself.
     QPalette palette;
     palette.setColor(QPalette::Base, Qt::transparent);
     setPalette(palette);
@@ -82,11 +82,11 @@ bool TQNumericTextField::isEditing() const {
 
 void TQNumericTextField::showValue() {
     _shownText = textFor(_value, hasFocus() ? 3 : 2);
-    // A text that was typed has its own steps to undo, which setting it takes away.
+    // Setting the text clears the undo history of what was typed.
     if (text() == _shownText && !isModified()) {
         return;
     }
-    // A number that changes while all of it is selected stays ready to be typed over.
+    // A fully selected number stays selected when it changes, ready to be typed over.
     const bool isAllSelected = hasSelectedText() && selectedText() == text();
     setText(_shownText);
     if (isAllSelected) {
@@ -131,7 +131,7 @@ void TQNumericTextField::decrementValueOf() {
 
 QSize TQNumericTextField::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
-    // The inner margin of a line edit is 2 points, and the cursor needs one.
+    // A line edit's inner margin is 2 points, and the cursor needs one.
     const int width =
         metrics.horizontalAdvance(QStringLiteral("-0.000")) + 2 * (fieldPadding + 2) + 1;
     return {(width + 3) / 4 * 4, std::max(leastFieldHeight, metrics.height() + fieldPadding)};
@@ -144,7 +144,8 @@ QSize TQNumericTextField::minimumSizeHint() const {
 bool TQNumericTextField::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         auto* key = static_cast<QKeyEvent*>(event);
-        // Undo belongs to the window while nothing was typed here, Escape only while something was.
+        // Undo goes to the window while nothing was typed here, and Escape only comes here while
+        // something was.
         if ((key->matches(QKeySequence::Undo) && !isUndoAvailable()) ||
             (key->matches(QKeySequence::Redo) && !isRedoAvailable())) {
             key->ignore();
@@ -196,20 +197,20 @@ void TQNumericTextField::keyPressEvent(QKeyEvent* event) {
 }
 
 void TQNumericTextField::focusInEvent(QFocusEvent* event) {
-    // Before the base selects the text.
+    // Before the base class selects the text.
     if (!isEditing()) {
         showValue();
     }
     QLineEdit::focusInEvent(event);
-    // The click's own events come after the focus that it brings; a window manager may give the
-    // window the keyboard first.
+    // The click's own events follow the focus change that it causes; a window manager may focus the
+    // window first.
     _isFirstClick =
         event->reason() == Qt::MouseFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
 }
 
 void TQNumericTextField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    // A menu takes the focus for a moment and gives it back.
+    // A menu takes the focus only briefly and gives it back.
     if (event->reason() != Qt::PopupFocusReason) {
         commit();
     }

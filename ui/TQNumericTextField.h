@@ -9,39 +9,39 @@ namespace tonquil {
 
 class TQSlider;
 
-/// A field that shows and takes a single-precision number: two decimals at rest, three while it has
-/// the focus. The number itself is never rounded by being shown.
+/// A field that shows and accepts a single-precision number: two decimals at rest, three while
+/// focused. Showing the number never rounds it.
 ///
-/// The decimal separator is shown as a point; a comma is taken too. What was typed is committed by
-/// Return or when the focus leaves, and taken back by Escape. The
-/// click that brings the focus selects all, ready to be typed over. Text that is no number is taken
-/// back when it is committed. Set the number with `setFloatValue`, not with `setText`.
+/// The decimal separator is shown as a point; a comma is accepted too. Return or losing the focus
+/// commits what was typed, Escape reverts it. The click that focuses the field selects all, ready
+/// to be typed over. Committing text that is no number reverts it. Set the number with
+/// `setFloatValue`, not with `setText`.
 class TQNumericTextField : public QLineEdit {
  public:
     explicit TQNumericTextField(QWidget* parent = nullptr);
     ~TQNumericTextField() override = default;
     Q_DISABLE_COPY_MOVE(TQNumericTextField)
 
-    /// The number; while one is being typed, that one, if it is a number already.
+    /// The number; during editing the typed one, if it is valid so far.
     [[nodiscard]] float floatValue() const;
-    /// Shows `value` in place of whatever is being typed. What is not finite is ignored. Tells
+    /// Shows `value`, replacing any text being typed. Ignores values that are not finite. Notifies
     /// nobody.
     void setFloatValue(float value);
-    /// Shows the slider's value, unless somebody is typing here.
+    /// Shows the slider's value, unless the user is typing here.
     void takeFloatValueFrom(const TQSlider& slider);
 
-    /// Whether text was typed that is neither committed nor taken back.
+    /// Whether text was typed that is neither committed nor reverted yet.
     [[nodiscard]] bool isEditing() const;
-    /// Hands what was typed to the target, or takes it back if it is no number. Without anything
-    /// typed nothing happens.
+    /// Sends what was typed to the target, or reverts it if it is no number. Does nothing if
+    /// nothing was typed.
     void commit();
-    /// Shows the number in place of what was typed.
+    /// Shows the number again, discarding what was typed.
     void revert();
 
-    /// The slider that is told of committed numbers and steps, or null. Not owned.
+    /// The slider that receives committed numbers and steps, or null. Not owned.
     [[nodiscard]] TQSlider* target() const;
     void setTarget(TQSlider* target);
-    /// Hands a step on to the target, in this field's name.
+    /// Forwards a step to the target, with this field as the sender.
     void incrementValueOf();
     void decrementValueOf();
 
@@ -62,10 +62,10 @@ class TQNumericTextField : public QLineEdit {
     void showValue();
 
     float _value = 0;
-    /// The text that stands for `_value`, by which a change is told from none.
+    /// The text shown for `_value`, to tell whether the user changed it.
     QString _shownText;
     QPointer<TQSlider> _target;
-    /// The next click to end is the one that brought the focus.
+    /// The next click to end is the one that focused the field.
     bool _isFirstClick = false;
 };
 

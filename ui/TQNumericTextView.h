@@ -7,15 +7,15 @@ namespace tonquil {
 
 class TQNumericTextField;
 
-/// The keys that all numeric fields of a window share: up and down arrow step the field they are
-/// pressed in.
+/// Keys shared by all numeric fields of a window: the up and down arrows step the field with the
+/// focus.
 ///
 /// With Control, Alt or Meta held they stay ordinary editing keys; Shift makes no difference.
 class TQNumericTextView : public QObject {
  public:
     using QObject::QObject;
 
-    /// Looks after a field. Either of the two may go first.
+    /// Starts handling a field's keys. Either object may be destroyed first.
     void attach(TQNumericTextField& field);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -21,18 +21,18 @@ namespace {
 constexpr int rowHeight = 24;
 constexpr int preferredSliderWidth = 160;
 constexpr int leastWidth = 48;
-/// How far from the fill's end, in points, a press still takes hold of the end.
+/// How far from the fill's end, in points, a press still grabs the end.
 constexpr double endReach = 3;
 
 constexpr double stepPerLine = 0.01;
 constexpr double stepPerPixel = 0.005;
-// A wheel counts eighths of a degree, and a line is 15 degrees.
+// A wheel counts eighths of a degree; a line is 15 degrees.
 constexpr float angleOfLine = 120;
 
-// How far a turn of the wheel moves the value; nothing for a turn that does not count.
+// How far a wheel event moves the value; nothing for an event that does not count.
 std::optional<float> stepOf(const QWheelEvent& event) {
-    // On X11 the pixels of a plain wheel are whatever its driver says. Only what scrolls in phases
-    // means them.
+    // On X11 the pixel delta of a plain wheel is driver-defined. It is only meaningful on devices
+    // that scroll in phases.
     const bool isPrecise = event.hasPixelDelta() && event.phase() != Qt::NoScrollPhase;
     if (isPrecise && event.phase() == Qt::ScrollMomentum) {
         return std::nullopt;
@@ -40,7 +40,7 @@ std::optional<float> stepOf(const QWheelEvent& event) {
     const float delta = isPrecise ? static_cast<float>(event.pixelDelta().y())
                                   : static_cast<float>(event.angleDelta().y()) / angleOfLine;
     const auto step = static_cast<float>(delta * (isPrecise ? stepPerPixel : stepPerLine));
-    // The value follows the fingers, whichever way the desktop scrolls.
+    // The value follows the fingers, whatever the desktop's scroll direction.
     return event.inverted() ? -step : step;
 }
 
@@ -63,7 +63,7 @@ void TQSlider::setFloatValue(float value) {
     }
     const float before = _value;
     _value = std::clamp(value, _minimum, _maximum);
-    // Also without a change: the auxiliary may show a value beyond the range.
+    // Even if unchanged: the auxiliary may show a value beyond the range.
     update();
     if (_value != before && QAccessible::isActive()) {
         QAccessibleValueChangeEvent change(this, static_cast<double>(_value));
@@ -202,7 +202,7 @@ void TQSlider::mousePressEvent(QMouseEvent* event) {
     const double x = event->position().x();
     const double end = TQSliderCell::positionOf(fractionOf(_value),
                                                 TQSliderCell::trackInside(rect()), isRightToLeft());
-    // Who takes hold of the fill's end has not moved it yet.
+    // Grabbing the fill's end does not move it yet.
     const bool isOnEnd = std::abs(x - end) <= endReach;
     _grip = isOnEnd ? x - end : 0;
     _gripX = x;
@@ -235,7 +235,7 @@ void TQSlider::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void TQSlider::wheelEvent(QWheelEvent* event) {
     if (event->angleDelta().y() == 0 && event->pixelDelta().y() == 0) {
-        // Sideways, or the mere beginning or end of a movement.
+        // A sideways scroll, or just the start or end of a gesture.
         event->ignore();
         return;
     }

@@ -11,12 +11,12 @@
 
 namespace tonquil {
 
-/// A slider for a single-precision value, which behaves as one control with the numeric field
-/// beside it, its auxiliary.
+/// A slider for a single-precision value that works as one control with the numeric field beside
+/// it, its auxiliary.
 ///
-/// The value always lies within the range. Setting it from code sends no action; what the person
-/// does, here or in the auxiliary, does. Each drawing shows the value in the auxiliary, unless
-/// somebody is typing there.
+/// The value always lies within the range. Setting it from code does not call the action; user
+/// input, here or in the auxiliary, does. Each repaint shows the value in the auxiliary, unless the
+/// user is typing there.
 class TQSlider : public QWidget {
  public:
     using Action = std::function<void(TQSlider& sender)>;
@@ -26,53 +26,53 @@ class TQSlider : public QWidget {
     /// How far Page Up and Page Down move it.
     static constexpr double pageIncrement = 0.1;
 
-    /// The range is 0 to 1, the value and the neutral value 0.
+    /// The range is 0 to 1; the value and the neutral value are 0.
     explicit TQSlider(QWidget* parent = nullptr);
     ~TQSlider() override = default;
     Q_DISABLE_COPY_MOVE(TQSlider)
 
     [[nodiscard]] float floatValue() const { return _value; }
-    /// Takes `value`, held within the range; not-a-number is ignored. Always repaints.
+    /// Sets `value`, clamped to the range; ignores not-a-number. Always repaints.
     void setFloatValue(float value);
     [[nodiscard]] float minValue() const { return _minimum; }
     [[nodiscard]] float maxValue() const { return _maximum; }
-    /// Both ends are finite and `minimum` is not above `maximum`, or nothing changes. The value is
-    /// moved into the range.
+    /// Does nothing unless both ends are finite and `minimum` is not above `maximum`. Clamps the
+    /// value to the new range.
     void setRange(float minimum, float maximum);
 
-    /// The value that leaves the picture as it is, marked by a notch.
+    /// The value that leaves the picture unchanged, marked by a notch.
     [[nodiscard]] float neutralValue() const { return _neutralValue; }
     void setNeutralValue(float value);
-    /// Sets the neutral value and sends the action, as a double-click does.
+    /// Sets the neutral value and calls the action, as a double-click does.
     void takeNeutralValue();
 
-    /// The paired field, or null. Not owned; it may go before the slider does.
+    /// The paired field, or null. Not owned; it may be destroyed before the slider.
     [[nodiscard]] TQNumericTextField* auxiliary() const { return _auxiliary; }
-    /// Pairs the slider with a field, whose target it becomes. Null undoes the pairing.
+    /// Pairs the slider with a field and becomes the field's target. Null ends the pairing.
     void setAuxiliary(TQNumericTextField* auxiliary);
 
-    /// Called with the value set, for every change that the person makes, and also where the range
-    /// held the value as it was; not for a press on the fill's end, which moves nothing.
+    /// Called with the value after every change by the user, even if clamping left the value as it
+    /// was; not for a press on the fill's end, which moves nothing.
     void setAction(Action action) { _action = std::move(action); }
     void sendAction();
 
-    /// Called when the mouse button goes down on the slider, before the value changes, and when it
-    /// is let go, the slider is hidden or it is disabled; `isInteracting` tells which.
+    /// Called when the mouse button is pressed on the slider, before the value changes, and when it
+    /// is released, or the slider is hidden or disabled; `isInteracting` tells which.
     void setInteractionChanged(Action changed) { _interactionChanged = std::move(changed); }
     [[nodiscard]] bool isInteracting() const { return _isInteracting; }
 
     [[nodiscard]] Channel channel() const { return _channel; }
-    /// Draws the fill in the channel's colour of the present theme; `None` in `cell().color()`.
+    /// Draws the fill in the channel's colour of the current theme; `None` uses `cell().color()`.
     void setChannel(Channel channel);
     [[nodiscard]] TQSliderCell& cell() { return _cell; }
     [[nodiscard]] const TQSliderCell& cell() const { return _cell; }
 
-    /// Steps the field by 0.01, without a limit, takes its value, within the limits, and sends the
-    /// action; the next drawing shows the limited value in the field.
+    /// Steps the field by 0.01 without clamping, takes its value, clamped, and calls the action;
+    /// the next repaint shows the clamped value in the field.
     void incrementValueOf(TQNumericTextField& sender);
     void decrementValueOf(TQNumericTextField& sender);
-    /// Takes the value that was entered in the auxiliary, gives it back within the range, and sends
-    /// the action. Any other sender is ignored.
+    /// Takes the value entered in the auxiliary, writes it back clamped to the range, and calls the
+    /// action. Ignores any other sender.
     void _updateToAuxiliaryValue(TQNumericTextField& sender);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -107,8 +107,8 @@ class TQSlider : public QWidget {
     Action _interactionChanged;
     bool _isInteracting = false;
     bool _followsPointer = false;
-    /// Where the pointer holds the fill's end, in points to the right of it, and where the pointer
-    /// was last.
+    /// Where the pointer grabbed the fill, in points to the right of its end, and the last
+    /// position.
     double _grip = 0;
     double _gripX = 0;
     bool _showsFocusRing = false;

@@ -13,7 +13,7 @@ namespace tonquil {
 
 namespace {
 
-// All in points.
+// In points.
 constexpr double margin = 7;
 constexpr double trackRadius = 3;
 constexpr double markWidth = 2;
@@ -23,8 +23,8 @@ constexpr double notchHeight = 3;
 
 constexpr float restingOpacity = 0.7F;
 
-// A mark that has its middle at `x`, never leaves the track and begins on a device pixel, so that
-// the edge and the notch of the same value lie one above the other, both sharp.
+// A mark centred on `x` that never leaves the track and starts on a device pixel, so that the edge
+// and the notch for the same value line up and are both sharp.
 QRectF markAt(double x, const QRectF& track, double top, double height, const QPainter& painter) {
     const double left = std::clamp(x - markWidth / 2, track.left(),
                                    std::max(track.left(), track.right() - markWidth));

@@ -10,29 +10,29 @@ namespace tonquil {
 
 struct Theme;
 
-/// A slider's look: a flat bar whose filled part ends where the value is. There is no knob.
+/// Draws a slider: a flat bar filled up to the value. There is no knob.
 class TQSliderCell {
  public:
-    /// What a drawing of the bar depends on besides the colours.
+    /// What the drawing depends on besides the colours.
     struct State {
-        double fraction = 0;         ///< Where the value lies between minimum (0) and maximum (1).
-        double neutralFraction = 0;  ///< The same of the neutral value.
-        bool isHighlighted = false;  ///< Under the pointer, or with the focus.
-        bool isMirrored = false;     ///< The minimum is at the right.
+        double fraction = 0;         ///< Position of the value between minimum (0) and maximum (1).
+        double neutralFraction = 0;  ///< The same for the neutral value.
+        bool isHighlighted = false;  ///< Hovered or focused.
+        bool isMirrored = false;     ///< The minimum is on the right.
     };
 
-    /// The height of the bar, in points.
+    /// Height of the bar, in points.
     static constexpr double trackHeight = 6;
 
-    /// The fill's colour; red until it is set.
+    /// The fill colour; red until set.
     [[nodiscard]] QColor color() const { return _controlColor; }
     void setColor(const QColor& colour) { _controlColor = colour; }
 
-    /// The bar within a slider's frame: the whole width but a margin for the focus ring.
+    /// The bar within a slider's frame: the full width minus a margin for the focus ring.
     [[nodiscard]] static QRectF trackInside(const QRectF& frame);
-    /// Where in `track` a fraction (0 to 1) lies, in points from the left of the frame.
+    /// The position of a fraction (0 to 1) in `track`, in points from the left of the frame.
     [[nodiscard]] static double positionOf(double fraction, const QRectF& track, bool isMirrored);
-    /// The fraction at a horizontal position; held within 0 to 1 beyond the ends.
+    /// The fraction at a horizontal position, clamped to 0…1 beyond the ends.
     [[nodiscard]] static double fractionAt(double x, const QRectF& track, bool isMirrored);
 
     /// Draws the track, its fill, the fill's light edge and the notch below the neutral value.

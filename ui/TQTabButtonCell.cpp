@@ -54,10 +54,10 @@ void TQTabButtonCell::drawBezelWithFrame(QPainter& painter, const QRect& frame) 
     option.initFrom(this);
     option.rect = frame;
     if (appearance.isDark && isChecked()) {
-        // Most styles darken what is checked, which a dark button hardly shows.
+        // Most styles darken a checked button, which hardly shows on a dark one.
         option.palette.setColor(QPalette::Button, themeFor(appearance).selection.lighter(120));
     }
-    // The focus is drawn as on all of the controls here.
+    // The focus ring is drawn as for all controls of this folder.
     option.state.setFlag(QStyle::State_HasFocus, false);
     option.state.setFlag(QStyle::State_Sunken, isDown());
     option.state.setFlag(QStyle::State_On, isChecked());

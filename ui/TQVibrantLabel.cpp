@@ -39,13 +39,13 @@ void TQVibrantLabel::paintEvent(QPaintEvent* event) {
         QLabel::paintEvent(event);
         return;
     }
-    // Changing the palette while painting would ask for the next painting. A copy is changed.
+    // Changing the palette while painting would schedule another repaint, so a copy is changed.
     QPalette lighter = palette();
     lighter.setColor(foregroundRole(), blendedWithWhite(lighter.color(foregroundRole()), fraction));
     QPainter painter(this);
     drawFrame(&painter);
     const int inset = margin();
-    // A label goes by the direction of its text, not by that of the layout.
+    // A label follows the direction of its text, not of the layout.
     const auto direction = text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
     auto flags = static_cast<int>(QStyle::visualAlignment(direction, alignment()).toInt());
     flags |= direction == Qt::RightToLeft ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;

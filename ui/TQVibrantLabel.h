@@ -8,8 +8,8 @@ namespace tonquil {
 
 /// A label of plain text that stays legible on a dark, translucent background.
 ///
-/// On the dark theme, where the background may shine through or transparency is reduced, the text
-/// is drawn lighter than its colour says; the colour itself (the palette's) is not touched.
+/// On the dark theme, whether the background is translucent or transparency is reduced, the text is
+/// drawn lighter than its palette colour; the palette is not changed.
 class TQVibrantLabel : public QLabel {
  public:
     explicit TQVibrantLabel(const QString& text = {}, QWidget* parent = nullptr);
@@ -17,7 +17,7 @@ class TQVibrantLabel : public QLabel {
     /// How far towards white the text is drawn, 0 to 1.
     [[nodiscard]] double lightening() const;
 
-    /// Called when the label is double-clicked; it sits beside a slider and resets it.
+    /// Called on a double-click: the label sits beside a slider and resets it.
     void setDoubleClickAction(std::function<void()> action);
 
  protected:

@@ -45,7 +45,7 @@ void TQVibrantMatrix::setSelectedColumn(int column) {
 
 void TQVibrantMatrix::pick(int column) {
     const bool isChange = column != _selectedColumn;
-    // Also without one: a click has unchecked the button.
+    // Even without a change: the click has unchecked the button.
     setSelectedColumn(column);
     if (isChange && _action) {
         _action(column);

@@ -9,9 +9,10 @@ namespace tonquil {
 
 class TQTabButtonCell;
 
-/// A row of tab buttons, one of which is selected. The first column is at the reading side.
+/// A row of tab buttons, one of them selected. The first column is at the start in reading
+/// direction.
 ///
-/// The row is one stop of the Tab key; the arrow keys, Home and End move within it.
+/// The row is one Tab stop; the arrow keys, Home and End move within it.
 class TQVibrantMatrix : public QWidget {
  public:
     using Action = std::function<void(int column)>;
@@ -20,16 +21,16 @@ class TQVibrantMatrix : public QWidget {
     explicit TQVibrantMatrix(const QStringList& titles, QWidget* parent = nullptr);
 
     [[nodiscard]] int columnCount() const { return static_cast<int>(_cells.size()); }
-    /// From 0; -1 without any column.
+    /// From 0; -1 without columns.
     [[nodiscard]] int selectedColumn() const { return _selectedColumn; }
-    /// Selects without telling anybody. A column that is not there is ignored.
+    /// Selects a column without calling the action. Ignores a column that does not exist.
     void setSelectedColumn(int column);
-    /// Called when the person selects a column that was not selected.
+    /// Called when the user selects a column that was not selected.
     void setAction(Action action) { _action = std::move(action); }
 
-    /// The button of a column; null for a column that is not there. Owned by the row.
+    /// The button of a column; null if there is no such column. Owned by the row.
     [[nodiscard]] TQTabButtonCell* cell(int column) const;
-    /// The background may shine through between the buttons.
+    /// The window's translucent background may show between the buttons.
     [[nodiscard]] static bool allowsVibrancy() { return true; }
 
  protected:

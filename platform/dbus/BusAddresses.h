@@ -6,12 +6,12 @@
 
 namespace tonquil {
 
-/// Where the system bus is.
+/// The address of the system bus.
 [[nodiscard]] std::string systemBusAddress();
-/// Where the session bus is; empty when there is none.
+/// The address of the session bus; empty if there is none.
 [[nodiscard]] std::string sessionBusAddress();
-/// The UNIX sockets of an address: the other kinds start programs or look up hosts, and connecting
-/// to them can block.
+/// Only the UNIX sockets of an address: the other kinds start programs or look up hosts, so
+/// connecting to them can block.
 [[nodiscard]] std::string unixAddresses(std::string_view address);
 
 }  // namespace tonquil

@@ -66,7 +66,7 @@ void BusArguments::eachEntry(const std::function<void(const std::string& key)>& 
     }
     while (sd_bus_message_enter_container(_message, SD_BUS_TYPE_DICT_ENTRY, nullptr) > 0) {
         read(text());
-        // It may have left the value unread.
+        // The callback may have left the value unread.
         if (sd_bus_message_at_end(_message, 0) == 0) {
             sd_bus_message_skip(_message, nullptr);
         }

@@ -30,7 +30,7 @@ int appendArgument(sd_bus_message* message, const BusConnection::Argument& argum
     return std::min(result, sd_bus_message_close_container(message));
 }
 
-// Without it the library closes the connection when the bus refuses a match.
+// Without a callback, sd-bus closes the connection when the bus refuses a match.
 int takeInstallation(sd_bus_message* /*message*/, void* /*call*/, sd_bus_error* /*error*/) {
     return 0;
 }
@@ -44,14 +44,14 @@ void BusConnection::open(const std::string& address, Handler handler) {
     _handler = std::move(handler);
     const int result = connect(address);
     if (result < 0) {
-        // Not from within this call.
+        // Deferred, so that it does not fire within this call.
         _limit = _runLoop.callOnce(
             milliseconds(0), [this, result] { close(std::generic_category().message(-result)); });
         return;
     }
     _readable = _runLoop.watchReadable(sd_bus_get_fd(_bus.get()), [this] { process(); });
     _limit = _runLoop.callOnce(connectingTime, [this] { close("it does not answer"); });
-    // What is to be sent first is sent by the first turn.
+    // The first turn sends whatever is to be sent first.
     _due = _runLoop.callOnce(milliseconds(0), [this] { process(); });
 }
 
@@ -109,7 +109,7 @@ int BusConnection::takeSignal(sd_bus_message* message, void* call, sd_bus_error*
 int BusConnection::takeAnswer(sd_bus_message* message, void* question, sd_bus_error* /*error*/) {
     auto& asked = *static_cast<Question*>(question);
     BusConnection& connection = asked.connection;
-    // A bus that goes answers everything with an error.
+    // A closing bus answers everything with an error.
     if (sd_bus_is_open(connection._bus.get()) > 0) {
         if (sd_bus_message_is_method_error(message, nullptr) != 0) {
             asked.failed();
@@ -140,7 +140,7 @@ void BusConnection::process() {
     }
 }
 
-// Messages that the library holds already do not show on the descriptor, but count as due.
+// Messages already buffered by sd-bus do not make the descriptor readable, but count as due.
 void BusConnection::waitForMore() {
     constexpr milliseconds writingPause(10);
     std::uint64_t time = 0;

@@ -15,11 +15,11 @@
 
 namespace tonquil {
 
-/// A connection to a D-Bus that never blocks: connecting, authenticating and asking all go on from
-/// the run loop, so a bus that hangs at any point costs nothing but itself.
+/// A D-Bus connection that never blocks: connecting, authenticating and calling all run on the run
+/// loop, so a bus that hangs at any point affects nothing but itself.
 ///
-/// Messages are handled for at most `longestTurn` at a time and stay in the socket until then, so
-/// a flood of them neither holds the run loop up nor fills the memory. No call may destroy the
+/// Messages are handled for at most `longestTurn` at a time and stay in the socket until then, so a
+/// flood of them neither blocks the run loop nor fills the memory. No callback may destroy the
 /// connection.
 class BusConnection {
  public:
@@ -29,13 +29,13 @@ class BusConnection {
     using Call = std::function<void(BusArguments& arguments)>;
     using Argument = std::variant<std::string, std::uint32_t, std::vector<std::string>>;
 
-    /// A signal by its interface and name, from whichever sender.
+    /// A signal by interface and name, from any sender.
     struct Signal {
         std::string interface;
         std::string name;
-        /// Any object's when empty.
+        /// Empty means any object's.
         std::string path = {};
-        /// More conditions in the bus's own language, such as "arg2=''".
+        /// More conditions in match-rule syntax, such as "arg2=''".
         std::string rest = {};
     };
     struct Method {
@@ -45,11 +45,11 @@ class BusConnection {
         std::string name;
     };
     struct Handler {
-        /// Once, when the bus can be used.
+        /// Called once, when the bus can be used.
         std::function<void()> opened;
-        /// Once, with the reason, when it cannot be connected to within `connectingTime`.
+        /// Called once, with the reason, if connecting fails or exceeds `connectingTime`.
         std::function<void(const std::string& reason)> unreachable = [](const std::string&) {};
-        /// Once, when it goes after it was opened.
+        /// Called once, when the connection is lost after it was opened.
         std::function<void()> gone = [] {};
     };
 
@@ -58,13 +58,14 @@ class BusConnection {
     BusConnection(const BusConnection&) = delete;
     BusConnection& operator=(const BusConnection&) = delete;
 
-    /// Starts to connect; an empty address is no bus, and does nothing. To be called once.
+    /// Starts connecting; does nothing for an empty address, which stands for no bus. Call once.
     void open(const std::string& address, Handler handler);
 
-    /// Calls with the arguments of each such signal from now on. Only once it is open.
+    /// Calls back with the arguments of each such signal from now on. Only after the connection is
+    /// open.
     void watch(const Signal& signal, Call call);
-    /// Calls a method; then `answered` with what it returns, or `failed` after an error or 25 s.
-    /// Neither is called once the bus has gone.
+    /// Calls a method, then `answered` with what it returns, or `failed` on an error or after 25 s.
+    /// Neither is called once the connection is lost.
     void ask(
         const Method& method, const std::vector<Argument>& arguments, Call answered,
         std::function<void()> failed = [] {});
@@ -88,7 +89,7 @@ class BusConnection {
     bool _isOpen = false;
     std::list<Call> _watches;
     std::list<Question> _questions;
-    /// Goes before the calls that it knows.
+    /// Declared to be destroyed before the calls that it refers to.
     BusPointer _bus;
     std::unique_ptr<RunLoop::Handle> _readable;
     std::unique_ptr<RunLoop::Handle> _due;

@@ -61,7 +61,7 @@ void BusSessionEvents::watchSystemBus() {
             tellSoon(_colours, SessionEvent::ColourSpaceChanged);
         });
     }
-    // A service that is not running may still be one that the bus can start.
+    // A service that is not running may still be activatable.
     _system.ask(busMethod("ListNames"), {}, [this](BusArguments& running) {
         _system.ask(busMethod("ListActivatableNames"), {},
                     [this, names = running.texts()](BusArguments& startable) mutable {
@@ -81,7 +81,8 @@ void BusSessionEvents::watchSessionBus() {
             }
         });
     }
-    // The third argument is the new owner: the bus itself holds back what only moves or appears.
+    // The third argument is the new owner: with this match, the bus itself filters out names that
+    // only appear or change owner.
     _session.watch({"org.freedesktop.DBus", "NameOwnerChanged", {}, "arg2=''"},
                    [this](BusArguments& arguments) {
                        if (!arguments.text().starts_with(':')) {
@@ -108,7 +109,7 @@ void BusSessionEvents::findSession() {
             "noticed.");
     };
     const auto byDesktop = [this, none] {
-        // This object stands for the session, but its signals come from the session's own.
+        // This object stands for the session, but its signals come from the session's real object.
         _system.ask(
             {loginService, "/org/freedesktop/login1/session/auto", busProperties, "Get"},
             {std::string(loginSession), std::string("Id")},

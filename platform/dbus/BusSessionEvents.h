@@ -15,7 +15,7 @@
 
 namespace tonquil {
 
-/// Session events that are told on D-Bus.
+/// Session events reported on D-Bus.
 ///
 /// | event | from |
 /// |---|---|
@@ -25,13 +25,13 @@ namespace tonquil {
 /// | ApplicationTerminated | a name that left the session bus, within 200 ms |
 /// | ColourSpaceChanged | the colour management service, within 200 ms |
 ///
-/// Nothing here waits for a bus or a service, so one that hangs is only left out.
+/// Nothing here waits for a bus or a service, so one that hangs is simply left out.
 class BusSessionEvents final : public SessionEvents {
  public:
-    /// How long several events of one kind are told as one.
+    /// Events of one kind within this time are reported as one.
     static constexpr std::chrono::milliseconds coalescingTime{200};
 
-    /// Of the two buses; one that is empty is left out without a word.
+    /// The addresses of the two buses; an empty one is silently skipped.
     struct Addresses {
         std::string system;
         std::string session;
@@ -50,7 +50,7 @@ class BusSessionEvents final : public SessionEvents {
     void watchSessionBus();
     void findServices(const std::vector<std::string>& names);
     void findSession();
-    /// Watches the session that the login service's method names; otherwise calls `failed`.
+    /// Watches the session returned by the login service's method; otherwise calls `failed`.
     void askForSession(const std::string& method, const BusConnection::Argument& key,
                        const std::function<void()>& failed);
     void sleepChanged(BusArguments& arguments);

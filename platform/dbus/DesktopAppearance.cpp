@@ -28,7 +28,7 @@ void DesktopAppearance::start(const std::string& address, Handler handler) {
               }});
 }
 
-// One question for all, which portals of every age answer.
+// One query for all settings, which every portal version answers.
 void DesktopAppearance::ask() {
     _bus.ask({"org.freedesktop.portal.Desktop", portalPath, portalSettings, "ReadAll"},
              {std::vector<std::string>{appearanceGroup, interfaceGroup}},

@@ -8,15 +8,15 @@
 
 namespace tonquil {
 
-/// Follows what the person asked of the whole desktop's appearance, through the desktop portal.
+/// Tracks the user's desktop-wide appearance settings through the desktop portal.
 ///
-/// Where there is no portal, or no session bus, nothing is ever called and nothing is logged.
+/// Without a portal or a session bus, nothing is ever called or logged.
 class DesktopAppearance {
  public:
     struct Settings {
-        /// Outlines and text are to stand out more.
+        /// Outlines and text should stand out more.
         bool increaseContrast = false;
-        /// Nothing is to move for show.
+        /// No decorative animations.
         bool reduceMotion = false;
 
         bool operator==(const Settings&) const = default;
@@ -25,9 +25,9 @@ class DesktopAppearance {
 
     explicit DesktopAppearance(RunLoop& runLoop) : _bus(runLoop) {}
 
-    /// Asks on the session bus without waiting, and calls on the main thread whenever the settings
-    /// differ from the last ones, which at first are the defaults of `Settings`. An empty address
-    /// is no bus. To be called once.
+    /// Queries the session bus without waiting, and calls the handler on the main thread whenever
+    /// the settings differ from the last ones, initially the defaults of `Settings`. An empty
+    /// address stands for no bus. Call once.
     void start(const std::string& address, Handler handler);
 
  private:

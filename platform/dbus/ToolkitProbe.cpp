@@ -58,7 +58,7 @@ void ToolkitProbe::askForTray() {
         {std::string(trayService), std::string("IsStatusNotifierHostRegistered")});
 }
 
-// Only a service that runs is asked, and only one that is switched on is connected to.
+// Queries only a running service, and connects only to one that is switched on.
 void ToolkitProbe::askForAccessibility() {
     const auto isNotUsed = [this] { answered(_assistance); };
     _session.ask(
@@ -127,14 +127,15 @@ void ToolkitProbe::answered(Subject& subject) {
 void ToolkitProbe::fail(Subject& subject, const std::string& reason) {
     subject = {.obstacle = reason, .answersDue = 0};
     if (_bus.answersDue <= 0 && _tray.answersDue <= 0 && _assistance.answersDue <= 0) {
-        // Not while a bus is at work.
+        // Deferred, because a bus may be in the middle of a callback.
         _limit = _runLoop.callOnce(std::chrono::milliseconds(0), [this] { finish(); });
     }
 }
 
 void ToolkitProbe::finish() {
     if (!_bus.obstacle.empty()) {
-        // Without the bus the toolkit asks for neither of the two, unless it knows the other's bus.
+        // Without the session bus Qt uses neither of the two, unless it knows the accessibility bus
+        // from elsewhere.
         _tray.obstacle.clear();
         if (!_knowsAccessibility) {
             _assistance.obstacle.clear();

@@ -9,22 +9,23 @@
 
 namespace tonquil {
 
-/// Asks the session bus what the window toolkit will ask it at its start.
+/// Asks the session bus in advance what Qt will ask it at startup.
 ///
-/// The toolkit waits for every answer, for 25 s or for ever, so whatever does not answer here must
-/// be kept from it.
+/// Qt waits for every answer, for 25 s or forever, so whatever does not answer here must be kept
+/// from it.
 class ToolkitProbe {
  public:
     static constexpr std::chrono::milliseconds longestTime{1000};
 
     struct Addresses {
         std::string session;
-        /// Of the bus of assistive technology, where the environment says it; otherwise empty.
+        /// The accessibility bus from the environment; otherwise empty.
         std::string accessibility = {};
-        /// The same from the X server. The toolkit then takes up both this and the session's.
+        /// The accessibility bus announced on the X server. If there is one, Qt connects to both
+        /// this and the session's.
         std::string announced = {};
     };
-    /// Why something cannot be used; empty when it can.
+    /// Why something cannot be used; empty if it can.
     struct Obstacles {
         std::string session;
         std::string tray;
@@ -34,11 +35,11 @@ class ToolkitProbe {
     explicit ToolkitProbe(RunLoop& runLoop)
         : _runLoop(runLoop), _session(runLoop), _accessibility(runLoop), _announced(runLoop) {}
 
-    /// Calls once, from the run loop and within `longestTime`. To be called once.
+    /// Calls `done` once, from the run loop and within `longestTime`. Call once.
     void start(const Addresses& addresses, std::function<void(const Obstacles&)> done);
 
  private:
-    /// Something that the toolkit will ask for.
+    /// Something that Qt will query.
     struct Subject {
         std::string obstacle = "it does not answer";
         int answersDue = 1;
@@ -48,7 +49,7 @@ class ToolkitProbe {
     void askForAccessibility();
     void takeStatus(BusArguments& arguments);
     void openAccessibility(BusConnection& bus, const std::string& address);
-    /// Any answer will do, an error too.
+    /// Any answer counts, even an error.
     void ask(BusConnection& bus, Subject& subject, const BusConnection::Method& method,
              const std::vector<BusConnection::Argument>& arguments);
     void answered(Subject& subject);

@@ -11,7 +11,8 @@ namespace {
 constexpr std::size_t blockSize = 128;
 constexpr std::array<std::uint8_t, 8> header{0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00};
 
-// Four 18-byte descriptors; those that begin with three zeros hold text or limits by their tag.
+// Four 18-byte descriptors; those that start with three zeros hold text or limits, according to
+// their tag.
 constexpr std::size_t firstDescriptor = 54;
 constexpr std::size_t descriptorSize = 18;
 constexpr std::size_t descriptorCount = 4;

@@ -9,8 +9,8 @@
 
 namespace tonquil {
 
-/// The ramp of `size` entries that an ICC profile's `vcgt` tag asks for: the calibration that the
-/// display was profiled with. Nothing when the bytes are no profile or hold no such tag.
+/// The ramp of `size` entries from an ICC profile's `vcgt` tag: the calibration that the display
+/// was profiled with. Nothing if the bytes are no profile or contain no such tag.
 [[nodiscard]] std::optional<HardwareRamp> calibrationRamp(std::span<const std::uint8_t> profile,
                                                           std::uint32_t size);
 

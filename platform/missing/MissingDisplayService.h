@@ -6,7 +6,7 @@
 
 namespace tonquil {
 
-/// Stands where the desktop lets nobody correct its displays: there are none.
+/// Used where the desktop allows nobody to correct its displays: lists none.
 class MissingDisplayService final : public DisplayService {
  public:
     [[nodiscard]] std::vector<DisplayID> onlineDisplays(std::size_t /*most*/) override {
@@ -36,7 +36,7 @@ class MissingDisplayService final : public DisplayService {
 
  protected:
     void beginBatch() override {}
-    /// Nothing can reach a display.
+    /// There are no displays to reach.
     bool endBatch() override { return false; }
 
  private:

@@ -6,7 +6,7 @@
 
 namespace tonquil {
 
-/// Stands where keys that go to other programs cannot be heard; refuses every combination.
+/// Used where global hot keys are impossible; refuses every combination.
 class MissingHotKeyService final : public HotKeyService {
  public:
     void setHandlers(Handler /*pressed*/, Handler /*released*/) override {}

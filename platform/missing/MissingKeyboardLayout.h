@@ -5,7 +5,7 @@
 
 namespace tonquil {
 
-/// Stands where there is no keyboard to ask: keys have no characters.
+/// Used where there is no keyboard to query: keys have no characters.
 class MissingKeyboardLayout final : public KeyboardLayout {
  public:
     [[nodiscard]] std::string character(std::uint16_t /*keyCode*/) const override { return {}; }

@@ -5,7 +5,7 @@
 
 namespace tonquil {
 
-/// Stands where nothing can be asked of the window system beyond what the toolkit offers.
+/// Used where the window system offers nothing beyond what Qt does.
 class MissingWindowSystem final : public WindowSystem {
  public:
     void keepOnAllWorkspaces(WindowID /*window*/) override {}

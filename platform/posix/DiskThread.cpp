@@ -35,7 +35,7 @@ DiskThread::~DiskThread() {
     }
 }
 
-// A thread inherits the signals that are blocked; handling them is the event loop's thread's part.
+// A thread inherits the signal mask; signals are handled on the event loop's thread.
 void DiskThread::startThread() {
     sigset_t all;
     sigset_t before;
@@ -44,7 +44,7 @@ void DiskThread::startThread() {
     try {
         _thread = std::thread([this] { run(); });
     } catch (const std::system_error&) {
-        // The system has no thread to spare: `add` does the work.
+        // The system could not create a thread: `add` does the work.
         _thread = {};
     }
     ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
@@ -84,7 +84,7 @@ void DiskThread::run() {
     }
 }
 
-// One at a time, since each may add work or wait for all of it.
+// One at a time, because each may add work or wait for all of it.
 bool DiskThread::callDone() {
     bool hasCalled = false;
     while (true) {

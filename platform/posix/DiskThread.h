@@ -13,14 +13,14 @@
 
 namespace tonquil {
 
-/// A thread that does nothing but the work it is given. The only one beside the event loop's.
+/// A worker thread for disk jobs, the only thread besides the event loop's.
 ///
-/// Where there can be no thread, the work is done by `add`.
+/// If no thread can be created, `add` runs the jobs itself.
 class DiskThread final : public DiskQueue {
  public:
     /// `runLoop` must outlive it.
     explicit DiskThread(RunLoop& runLoop);
-    /// Finishes all work, and waits for the thread's end.
+    /// Finishes all jobs and joins the thread.
     ~DiskThread() override;
     DiskThread(const DiskThread&) = delete;
     DiskThread& operator=(const DiskThread&) = delete;
@@ -35,16 +35,16 @@ class DiskThread final : public DiskQueue {
     };
 
     void startThread();
-    /// What the thread does.
+    /// The thread's main function.
     void run();
-    /// Calls what is due on the event loop; false where nothing was.
+    /// Runs due callbacks on the event loop; returns false if there were none.
     bool callDone();
 
     FileHandle _event;
     std::unique_ptr<RunLoop::Handle> _watch;
     std::mutex _mutex;
     std::condition_variable _changed;
-    // All of these under the mutex.
+    // All guarded by the mutex.
     std::deque<Job> _jobs;
     std::deque<Work> _done;
     bool _isBusy = false;

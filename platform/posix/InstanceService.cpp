@@ -45,7 +45,8 @@ void InstanceService::accept() {
         FileHandle(accept4(_place.socket.get(), nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC));
     if (!client.socket.isOpen()) {
         if (errno != EAGAIN && errno != EINTR && errno != ECONNABORTED) {
-            // Without descriptors left, the socket would stay readable and the loop would spin.
+            // When no file descriptors are left, the socket would stay readable and the loop would
+            // spin.
             _watch.reset();
             _pause = _runLoop.callOnce(std::chrono::seconds(1), [this] {
                 _pause.reset();
@@ -103,7 +104,7 @@ void InstanceService::answer(ClientPosition client) {
     line.resize(std::min(line.size(), InstanceSocket::mostBytes));
     std::replace(line.begin(), line.end(), '\n', ' ');
     line.push_back('\n');
-    // The socket's buffer has room for it, unless the peer is up to something.
+    // The socket buffer has room for it, unless the peer misbehaves.
     [[maybe_unused]] const auto sent = send(socket.get(), line.data(), line.size(), MSG_NOSIGNAL);
 }
 

@@ -8,20 +8,20 @@
 
 namespace tonquil {
 
-/// Answers what comes in on the socket of the first instance, and holds its place.
+/// Answers requests on the socket of the first instance, and holds its place.
 ///
-/// Nothing that a client does, or leaves undone, makes the run loop wait.
+/// No client can block the run loop, whatever it does or fails to do.
 class InstanceService final : public InstanceListener {
  public:
-    /// How a request begins on the socket; then its text, and a zero byte by which a whole one is
-    /// told from one whose sender was killed on the way.
+    /// The prefix of a request on the socket; then follow its text and a zero byte, which
+    /// distinguishes a complete request from one whose sender was killed midway.
     static constexpr std::string_view requestStart = "TQL1";
 
-    /// What a first instance has taken.
+    /// What the first instance holds.
     struct Place {
         std::filesystem::path path;
         FileHandle lock;
-        /// Bound to `path` and listening, without blocking.
+        /// Bound to `path` and listening, non-blocking.
         FileHandle socket;
     };
 
@@ -52,7 +52,7 @@ class InstanceService final : public InstanceListener {
     InstanceSocket::Handler _handler;
     Log _log;
     std::list<Client> _clients;
-    /// None while no further client is taken.
+    /// Null while no more clients are accepted.
     std::unique_ptr<RunLoop::Handle> _watch;
     std::unique_ptr<RunLoop::Handle> _pause;
 };

@@ -33,7 +33,7 @@ std::string systemsWords() {
 Result<sockaddr_un> addressOf(const std::filesystem::path& path) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    // Its end is marked by a zero.
+    // The path must be zero-terminated.
     if (path.native().size() >= sizeof address.sun_path) {
         return problem("The path " + path.native() + " is too long for a socket.");
     }
@@ -43,7 +43,7 @@ Result<sockaddr_un> addressOf(const std::filesystem::path& path) {
 
 std::optional<Problem> obstacleIn(const std::filesystem::path& folder) {
     struct stat status = {};
-    // A link could lead anywhere, so it is not followed.
+    // A symbolic link could lead anywhere, so it is not followed.
     if (lstat(folder.c_str(), &status) != 0) {
         return Problem{"The folder " + folder.native() + " cannot be used.", systemsWords()};
     }
@@ -55,7 +55,7 @@ std::optional<Problem> obstacleIn(const std::filesystem::path& folder) {
 
 Result<FileHandle> bound(const std::filesystem::path& path, const sockaddr_un& address) {
     FileHandle listening(socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    // What lies there was left by a program that was killed: its lock is ours now.
+    // A killed instance left it behind: we hold its lock now.
     unlink(path.c_str());
     constexpr int mostWaiting = 64;
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what the system asks for.
@@ -66,7 +66,7 @@ Result<FileHandle> bound(const std::filesystem::path& path, const sockaddr_un& a
     return listening;
 }
 
-/// One second start's talk with the first, until a moment.
+/// A second instance's exchange with the first, up to a deadline.
 class Conversation {
  public:
     explicit Conversation(milliseconds limit) : _end(Clock::now() + limit) {}
@@ -79,7 +79,8 @@ class Conversation {
             if (::connect(_socket.get(), generic, sizeof address) == 0) {
                 return true;
             }
-            // The first may be between its lock and its socket, or have others waiting.
+            // The first instance may be between taking the lock and creating the socket, or have
+            // others waiting.
             if (errno != ENOENT && errno != ECONNREFUSED && errno != EAGAIN && errno != EINTR) {
                 return false;
             }
@@ -99,7 +100,7 @@ class Conversation {
         return bytes.empty();
     }
 
-    /// Without its newline; nothing when none comes.
+    /// Without the newline; nothing if no line arrives.
     [[nodiscard]] std::optional<std::string> receiveLine() {
         std::string line;
         std::array<char, 4096> bytes{};

@@ -15,45 +15,45 @@
 
 namespace tonquil {
 
-/// Hears what later starts of the program ask of this first one. With it the place of the first
-/// becomes free.
+/// Receives the requests of later instances. Destroying it frees the first instance's place.
 class InstanceListener {
  public:
     virtual ~InstanceListener() = default;
 };
 
-/// Lets one instance of the program run for a person, and later starts hand over to it.
+/// Lets a user run a single instance of the program; later instances hand their requests over to
+/// it.
 ///
-/// The place is a UNIX socket in a folder that only this user may enter. What decides who is first
-/// is a lock on the file beside it ("<path>.lock"), which the system frees however a program ends:
-/// of starts at the same moment one wins, and the socket of a killed program is taken over.
+/// The place is a UNIX socket in a folder that only this user may enter. A lock on the file beside
+/// it ("<path>.lock") decides who is first; the system releases it however a program ends. Of
+/// simultaneous starts one wins, and the socket of a killed program is taken over.
 class InstanceSocket {
  public:
-    /// Called on the main thread with one request; gives the answer, one line without its newline.
-    /// It may destroy the listener.
+    /// Called on the main thread with one request; returns the answer, one line without its
+    /// newline. It may destroy the listener.
     using Handler = std::function<std::string(std::string request)>;
 
-    /// The largest request and the largest answer, in bytes.
+    /// The maximum size of a request and of an answer, in bytes.
     static constexpr std::size_t mostBytes = std::size_t{64} * 1024;
-    /// How long a start waits for the answer of the instance that runs.
+    /// How long a later instance waits for the first one's answer.
     static constexpr std::chrono::milliseconds answerTime = std::chrono::seconds(5);
-    /// How long a start may take to send its request before it is dropped.
+    /// How long a client may take to send its request before it is dropped.
     static constexpr std::chrono::milliseconds requestTime = std::chrono::seconds(2);
     /// How many requests are read at once; further ones wait their turn.
     static constexpr std::size_t mostClients = 8;
 
-    /// Takes the place at `path`; null where another instance holds it.
+    /// Takes the place at `path`; null if another instance holds it.
     ///
-    /// The folder of `path` is made if it is missing (not its parents). Fails when the folder is
-    /// not this user's alone, when `path` is too long for a socket (about 100 bytes), or when the
-    /// system refuses. Peers that are refused are told to the log.
+    /// Creates the folder of `path` if it is missing (not its parents). Fails if the folder is not
+    /// exclusively this user's, if `path` is too long for a socket (about 100 bytes), or on a
+    /// system error. Refused peers are logged.
     [[nodiscard]] static Result<std::unique_ptr<InstanceListener>> claim(
         const std::filesystem::path& path, RunLoop& runLoop, Handler handler, Log log = {});
 
-    /// Sends one request to the instance that runs and waits for its answer, without a run loop.
+    /// Sends one request to the running instance and waits for its answer, without a run loop.
     ///
-    /// Blocks for at most `limit`. Fails with a sentence for the person when no instance answers
-    /// by then, or when `request` is larger than `mostBytes` or holds a zero byte.
+    /// Blocks for at most `limit`. Fails with a message for the user if no instance answers by
+    /// then, or if `request` is larger than `mostBytes` or contains a zero byte.
     [[nodiscard]] static Result<std::string> handOver(const std::filesystem::path& path,
                                                       std::string_view request,
                                                       std::chrono::milliseconds limit = answerTime);

@@ -18,13 +18,13 @@ namespace {
 
 using Interfaces = std::unique_ptr<ifaddrs, decltype(&freeifaddrs)>;
 
-/// Null where the system cannot tell.
+/// Null if the system cannot tell.
 Interfaces interfaces() {
     ifaddrs* list = nullptr;
     return {getifaddrs(&list) == 0 ? list : nullptr, freeifaddrs};
 }
 
-/// The address as the system's structure for the family; nothing for another family.
+/// The address as its family's structure; nothing for another family.
 template <typename Address>
 std::optional<Address> addressFrom(const sockaddr* generic, int family) {
     if (generic == nullptr || generic->sa_family != family) {
@@ -75,7 +75,7 @@ bool isOwnAddress(std::uint32_t host) {
 }
 
 std::vector<std::uint32_t> broadcastAddresses() {
-    // The two addresses of a network of two are both computers'.
+    // In a network of two addresses both are hosts; there is no broadcast address.
     constexpr std::uint32_t smallestHostPart = 3;
     std::vector<std::uint32_t> addresses;
     const Interfaces list = interfaces();

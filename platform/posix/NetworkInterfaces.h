@@ -16,11 +16,11 @@ namespace tonquil {
 /// 127.0.0.0/8 is.
 [[nodiscard]] bool isOwnAddress(std::uint32_t host);
 
-/// The broadcast addresses of the networks that this computer's interfaces are on.
+/// The broadcast addresses of the networks that this computer is connected to.
 [[nodiscard]] std::vector<std::uint32_t> broadcastAddresses();
 
-/// The hardware address of the first interface by number that is up and of the Ethernet kind,
-/// which wireless ones are too; nothing where there is none.
+/// The hardware address of the lowest-numbered interface that is up and of the Ethernet kind, which
+/// includes wireless ones; nothing if there is none.
 [[nodiscard]] std::optional<LocalHost::HardwareAddress> mainHardwareAddress();
 
 }  // namespace tonquil

@@ -12,7 +12,7 @@ namespace tonquil {
 struct PollRunLoop::Entry {
     Call call;
     Clock::time_point due{};
-    /// Zero for a timer that fires once.
+    /// Zero for a single-shot timer.
     std::chrono::milliseconds interval{};
     int descriptor = -1;
     bool isActive = true;
@@ -76,7 +76,7 @@ void PollRunLoop::run() {
     }
 }
 
-// What is posted meanwhile has to wait for the next turn, so that it cannot keep the others off.
+// Calls posted meanwhile wait for the next turn, so that they cannot starve the others.
 void PollRunLoop::runPosted() {
     for (auto count = _posted.size(); count > 0 && !_isStopped; --count) {
         const Call call = std::move(_posted.front());
@@ -115,7 +115,7 @@ void PollRunLoop::waitForDescriptors() {
     for (const auto& watch : watches) {
         polled.push_back({watch->descriptor, POLLIN, 0});
     }
-    // An interruption by a signal is as good as the end of the time.
+    // Being interrupted by a signal counts as a timeout.
     if (poll(polled.data(), polled.size(), waitingTime()) <= 0) {
         return;
     }
@@ -126,7 +126,7 @@ void PollRunLoop::waitForDescriptors() {
     }
 }
 
-/// In milliseconds, as poll counts; -1 for ever.
+/// In milliseconds, as for poll(2); -1 for no timeout.
 int PollRunLoop::waitingTime() const {
     if (!_posted.empty()) {
         return 0;

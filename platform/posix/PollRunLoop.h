@@ -10,7 +10,7 @@
 
 namespace tonquil {
 
-/// A run loop for programs without a toolkit, on poll(2). Handles may outlive it.
+/// A run loop on poll(2), for programs without Qt. Handles may outlive it.
 class PollRunLoop final : public RunLoop {
  public:
     PollRunLoop() = default;
@@ -18,13 +18,13 @@ class PollRunLoop final : public RunLoop {
     [[nodiscard]] Clock::time_point now() const override { return Clock::now(); }
     [[nodiscard]] std::unique_ptr<Handle> callOnce(std::chrono::milliseconds delay,
                                                    Call call) override;
-    /// An interval below one millisecond counts as one; what is missed is not made up for.
+    /// An interval below one millisecond counts as one; missed calls are not made up for.
     [[nodiscard]] std::unique_ptr<Handle> callRepeatedly(std::chrono::milliseconds interval,
                                                          Call call) override;
     [[nodiscard]] std::unique_ptr<Handle> watchReadable(int descriptor, Call call) override;
     void post(Call call) override;
 
-    /// Runs until `stop` is called from within, or nothing is left that could call.
+    /// Runs until `stop` is called from a callback, or nothing is left to call.
     void run();
     void stop() { _isStopped = true; }
 

@@ -19,7 +19,7 @@ namespace tonquil {
 
 namespace {
 
-/// A value as a shell would read it, without what only programs write: `"Anna's \"desk\""`.
+/// Removes shell quoting from a value, as far as programs write it: `"Anna's \"desk\""`.
 std::string unquoted(std::string_view value) {
     char quote = 0;
     std::string text;
@@ -38,7 +38,7 @@ std::string unquoted(std::string_view value) {
     return text;
 }
 
-/// The value of the last line that gives it one.
+/// The value from the last line that sets the key.
 std::string valueOf(std::string_view key, std::string_view lines) {
     std::string value;
     while (!lines.empty()) {
@@ -63,7 +63,7 @@ std::string PosixLocalHost::localizedName() const {
         }
     }
     std::array<char, 256> name{};
-    // A name that does not fit may come without its end.
+    // A name that does not fit may lack its terminating zero.
     return gethostname(name.data(), name.size() - 1) == 0 ? name.data() : "";
 }
 
@@ -75,8 +75,8 @@ bool PosixLocalHost::hasAddress(std::uint32_t host) const {
     return isOwnAddress(host);
 }
 
-// Listing the interfaces takes longer than all else that is done for a datagram, and a stranger
-// sends thousands a second.
+// Listing the interfaces takes longer than everything else done for a datagram, and a stranger may
+// send thousands a second.
 bool PosixLocalHost::isBroadcastAddress(std::uint32_t host) const {
     constexpr std::chrono::seconds lifetime{1};
     const auto now = std::chrono::steady_clock::now();

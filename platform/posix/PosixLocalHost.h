@@ -13,18 +13,18 @@
 
 namespace tonquil {
 
-/// This computer, as a POSIX system with systemd's files, if they are there, describes it.
+/// This computer, as described by POSIX and, if present, systemd's files.
 class PosixLocalHost final : public LocalHost {
  public:
-    /// `machineInfo` is the file in which the user's name for the computer may be.
+    /// `machineInfo` is the file that may contain the user's name for the computer.
     explicit PosixLocalHost(std::filesystem::path machineInfo = "/etc/machine-info")
         : _machineInfo(std::move(machineInfo)) {}
 
-    /// The PRETTY_HOSTNAME of the file; where that is missing or empty, the host name.
+    /// PRETTY_HOSTNAME from the file; the host name if that is missing or empty.
     [[nodiscard]] std::string localizedName() const override;
     [[nodiscard]] std::optional<HardwareAddress> hardwareAddress() const override;
     [[nodiscard]] bool hasAddress(std::uint32_t host) const override;
-    /// By what the interfaces were at most a second ago.
+    /// Based on the interfaces as of at most a second ago.
     [[nodiscard]] bool isBroadcastAddress(std::uint32_t host) const override;
 
  private:
@@ -33,8 +33,8 @@ class PosixLocalHost final : public LocalHost {
     mutable std::optional<std::chrono::steady_clock::time_point> _broadcastsRead;
 };
 
-/// The IPv4 address of a host by name or dotted numbers, first number in the highest byte. Waits
-/// for the name service. A problem where there is none.
+/// The IPv4 address of a host by name or dotted numbers, first number in the highest byte. Blocks
+/// on the name service. Fails if there is none.
 [[nodiscard]] Result<std::uint32_t> lookUpHost(const std::string& name);
 
 }  // namespace tonquil

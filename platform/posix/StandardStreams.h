@@ -3,9 +3,9 @@
 
 namespace tonquil {
 
-/// Fills the descriptors 0 to 2 where the program was started without them, so that nothing that
-/// is opened later, such as a display's connection, is taken for standard error. To be called
-/// before anything else. What is written to such a stream still fails.
+/// Opens the file descriptors 0 to 2 if the program was started without them, so that nothing
+/// opened later, such as a display connection, ends up as standard error. Call before anything
+/// else. Writing to such a stream still fails.
 void fillStandardStreams();
 
 }  // namespace tonquil

@@ -14,14 +14,14 @@ namespace tonquil {
 
 namespace {
 
-// A signal handler reaches nothing but what is static.
+// A signal handler can only reach static data.
 std::atomic<int> noticeDescriptor{-1};
 static_assert(std::atomic<int>::is_always_lock_free);
 
 extern "C" void noticeSignal(int signal) {
     const int savedError = errno;
     const auto number = static_cast<unsigned char>(signal);
-    // A full pipe already holds a notice.
+    // A full pipe already contains a notification.
     [[maybe_unused]] const auto written = write(noticeDescriptor.load(), &number, 1);
     errno = savedError;
 }

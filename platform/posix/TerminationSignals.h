@@ -14,18 +14,17 @@ namespace tonquil {
 
 /// Turns the first SIGTERM, SIGINT or SIGHUP into a call on the main thread.
 ///
-/// Later ones make no further call, but a second SIGTERM or a second SIGINT ends the program at
-/// once, so that one that is stuck can still be ended. A second SIGHUP is passed over, because the
-/// closing of one terminal sends several. SIGINT and SIGHUP stay ignored where whoever started the
-/// program had them ignored (nohup). SIGPIPE is ignored: a write to a peer that has gone fails
-/// with EPIPE.
+/// Later ones cause no further call, but a second SIGTERM or a second SIGINT ends the program at
+/// once, so that a stuck program can still be ended. A second SIGHUP is ignored, because closing
+/// one terminal sends several. SIGINT and SIGHUP stay ignored if the parent process had them
+/// ignored (nohup). SIGPIPE is ignored: writing to a peer that has gone fails with EPIPE.
 ///
-/// At most one may exist at a time. It puts back what was there before when it is destroyed.
+/// At most one may exist at a time. Its destructor restores the previous handlers.
 class TerminationSignals {
  public:
     using Handler = std::function<void(int signal)>;
 
-    /// Fails when the system has no descriptors left, or when there is one already.
+    /// Fails if the system has no file descriptors left, or if there is one already.
     [[nodiscard]] static Result<std::unique_ptr<TerminationSignals>> watch(RunLoop& runLoop,
                                                                            Handler handler);
     ~TerminationSignals();

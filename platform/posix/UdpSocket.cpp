@@ -17,7 +17,7 @@ namespace tonquil {
 
 namespace {
 
-// No UDP datagram over IPv4 is larger.
+// The maximum size of a UDP datagram over IPv4.
 constexpr std::size_t mostBytes = 65535;
 
 sockaddr_in systemAddress(const SocketAddress& address) {
@@ -32,12 +32,12 @@ SocketAddress ourAddress(const sockaddr_in& address) {
     return {ntohl(address.sin_addr.s_addr), ntohs(address.sin_port)};
 }
 
-/// Sends through the given interface, or the one that the routes say for 0, from the given address
-/// of ours, or the one that belongs to the interface for 0.
+/// Sends through the given interface (0: as routed), from the given local address (0: the
+/// interface's own).
 int sendThrough(int interface, std::uint32_t ownHost, int socket, std::string_view bytes,
                 const SocketAddress& recipient) {
     sockaddr_in address = systemAddress(recipient);
-    // The system takes bytes that it does not change by a pointer that would let it.
+    // The system API takes bytes that it does not change through a non-const pointer.
     iovec part{const_cast<char*>(bytes.data()), bytes.size()};  // NOLINT(*-const-cast)
     alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(in_pktinfo))> control{};
     msghdr message{};
@@ -57,7 +57,7 @@ int sendThrough(int interface, std::uint32_t ownHost, int socket, std::string_vi
         information.ipi_spec_dst.s_addr = htonl(ownHost);
         std::memcpy(CMSG_DATA(header), &information, sizeof information);
     }
-    // What is refused may be what an earlier datagram came to; this one has then not been tried.
+    // The error may stem from an earlier datagram; in that case this one has not been sent.
     for (int attempt = 0;; ++attempt) {
         if (sendmsg(socket, &message, MSG_DONTWAIT | MSG_NOSIGNAL) >= 0) {
             return 0;
@@ -68,8 +68,8 @@ int sendThrough(int interface, std::uint32_t ownHost, int socket, std::string_vi
     }
 }
 
-/// The address of ours that a datagram was sent to; for a broadcast, the one of the interface that
-/// it came through. 0 where the system does not say.
+/// The local address that a datagram was sent to; for a broadcast, the address of the interface
+/// that received it. 0 if the system does not report it.
 std::uint32_t arrivalHost(msghdr& message) {
     for (cmsghdr* header = CMSG_FIRSTHDR(&message); header != nullptr;
          header = CMSG_NXTHDR(&message, header)) {
@@ -84,7 +84,7 @@ std::uint32_t arrivalHost(msghdr& message) {
 
 }  // namespace
 
-/// One watch of a socket; it outlives its own end for as long as it is being called.
+/// One watch of a socket; kept alive past its end while it is being called.
 class UdpSocket::Reception {
  public:
     Reception(std::shared_ptr<FileHandle> socket, Receiver receiver)
@@ -92,8 +92,8 @@ class UdpSocket::Reception {
 
     void end() { _isEnded = true; }
 
-    /// One turn. The run loop may drop its own copy of the pointer meanwhile, when the receiver
-    /// ends the watch.
+    /// One turn. The run loop may drop its own copy of the pointer meanwhile, if the receiver ends
+    /// the watch.
     static void receive(const std::shared_ptr<Reception> reception) {  // NOLINT(*-value-param)
         const auto end = std::chrono::steady_clock::now() + longestTurn;
         for (int count = 0; count < mostDatagrams; ++count) {
@@ -105,7 +105,7 @@ class UdpSocket::Reception {
     }
 
  private:
-    /// False when nothing is left.
+    /// False when nothing is left to receive.
     bool receiveOne() {
         sockaddr_in source{};
         iovec part{_buffer.data(), _buffer.size()};
@@ -119,8 +119,8 @@ class UdpSocket::Reception {
         message.msg_controllen = control.size();
         const auto size = recvmsg(_socket->get(), &message, MSG_DONTWAIT);
         if (size < 0) {
-            // Any other error tells of an earlier datagram or of an interface that went; the next
-            // datagram may be a good one.
+            // Any other error concerns an earlier datagram or a lost interface; the next datagram
+            // may be fine.
             return errno != EAGAIN;
         }
         const bool isWhole = (message.msg_flags & MSG_TRUNC) == 0;
@@ -142,12 +142,12 @@ Result<std::unique_ptr<UdpSocket>> UdpSocket::open() {
     if (!socket.isOpen()) {
         return problem("No network socket can be opened.", std::generic_category().message(errno));
     }
-    // As much as the system lets anybody have: what comes at once need not all be lost. Where it
-    // lets nobody have more, the usual will do.
+    // The largest buffer that the system allows, so that fewer datagrams of a burst get lost. If it
+    // allows no more than the default, that will do.
     constexpr int wantedBuffer = 1 << 20;
     static_cast<void>(
         setsockopt(socket.get(), SOL_SOCKET, SO_RCVBUF, &wantedBuffer, sizeof wantedBuffer));
-    // Without it, answers leave from the address that the routes say.
+    // Without it, answers are sent from the address that the routes select.
     constexpr int wanted = 1;
     static_cast<void>(setsockopt(socket.get(), IPPROTO_IP, IP_PKTINFO, &wanted, sizeof wanted));
     return std::unique_ptr<UdpSocket>(new UdpSocket(std::move(socket)));
@@ -157,7 +157,7 @@ UdpSocket::UdpSocket(FileHandle socket)
     : _socket(std::make_shared<FileHandle>(std::move(socket))) {}
 
 UdpSocket::~UdpSocket() {
-    // Now, and not when a reception that is under way has returned: the port becomes free.
+    // Now, not when a running reception has returned: the port becomes free.
     static_cast<void>(_socket->close());
 }
 

@@ -11,17 +11,17 @@
 
 namespace tonquil {
 
-/// A UDP socket of the system.
+/// A UDP socket of the operating system.
 ///
-/// Its port is its own: a second socket cannot be bound to it. In one turn of the run loop it
-/// passes on at most `mostDatagrams`, and begins none after `longestTurn`; the rest has to wait
-/// for the next turn, and what the system's buffer cannot hold meanwhile is lost.
+/// It binds its port exclusively. In one turn of the run loop it delivers at most `mostDatagrams`,
+/// and starts none after `longestTurn`; the rest waits for the next turn, and what the system's
+/// buffer cannot hold meanwhile is lost.
 class UdpSocket final : public DatagramSocket {
  public:
     static constexpr int mostDatagrams = 64;
     static constexpr std::chrono::milliseconds longestTurn{2};
 
-    /// Fails when the system has no socket left.
+    /// Fails if the system has no sockets left.
     [[nodiscard]] static Result<std::unique_ptr<UdpSocket>> open();
     ~UdpSocket() override;
     UdpSocket(const UdpSocket&) = delete;
@@ -31,11 +31,11 @@ class UdpSocket final : public DatagramSocket {
     [[nodiscard]] int bind(const SocketAddress& address) override;
     [[nodiscard]] std::unique_ptr<RunLoop::Handle> receiveOn(RunLoop& runLoop,
                                                              Receiver receiver) override;
-    /// To 255.255.255.255 it goes out through each interface that can broadcast: the routes would
-    /// take it to one network at most, and to none where there is no gateway.
+    /// To 255.255.255.255 it is sent through every interface that can broadcast: routing would send
+    /// it to one network at most, and to none without a gateway.
     [[nodiscard]] int send(std::string_view bytes, const SocketAddress& recipient) override;
 
-    /// Where it is bound; port 0 before.
+    /// The bound address; port 0 before binding.
     [[nodiscard]] SocketAddress localAddress() const;
 
  private:
@@ -45,7 +45,7 @@ class UdpSocket final : public DatagramSocket {
     [[nodiscard]] int sendThroughEachInterface(std::string_view bytes,
                                                const SocketAddress& recipient) const;
 
-    /// Shared with a reception that is under way.
+    /// Shared with a running reception.
     std::shared_ptr<FileHandle> _socket;
 };
 

@@ -27,7 +27,7 @@ void stop(QSocketNotifier& notifier) {
     notifier.setEnabled(false);
 }
 
-// The loop's context owns the source; this ends it, unless the loop went first.
+// The loop's context owns the source; this handle ends it, unless the loop was destroyed first.
 template <typename Source>
 class SourceHandle final : public RunLoop::Handle {
  public:
@@ -35,7 +35,8 @@ class SourceHandle final : public RunLoop::Handle {
     ~SourceHandle() override {
         if (_source) {
             stop(*_source);
-            // Qt keeps what it is calling until that returns, but not an object whose event it is.
+            // Qt keeps the callable it is calling alive until that returns, but not the object
+            // whose event it is handling.
             _source->disconnect();
             _source->deleteLater();
         }
@@ -47,8 +48,8 @@ class SourceHandle final : public RunLoop::Handle {
     QPointer<Source> _source;
 };
 
-// Without an application there is nothing yet that a source could be registered with; the first
-// events of the application then do it.
+// Without an application a source cannot be registered yet; the application's first events do it
+// then.
 template <typename Start>
 void startSource(QObject& source, Start start) {
     if (QAbstractEventDispatcher::instance() != nullptr) {
@@ -70,7 +71,7 @@ std::unique_ptr<RunLoop::Handle> startTimer(QObject& context, milliseconds time,
     return std::make_unique<SourceHandle<QTimer>>(timer);
 }
 
-// Qt owns it, runs them in their order, and drops those of an object that has gone.
+// Qt owns posted events, handles them in order, and drops those of a destroyed object.
 class PostedCall final : public QEvent {
  public:
     explicit PostedCall(RunLoop::Call call) : QEvent(QEvent::User), _call(std::move(call)) {}

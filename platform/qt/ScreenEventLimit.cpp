@@ -11,10 +11,10 @@ namespace tonquil {
 
 namespace {
 
-/// In the first byte of an event.
+/// A flag in the first byte of an event.
 constexpr unsigned sentByClient = 0x80;
 
-/// Later events of the same kind about the same thing make earlier ones needless.
+/// A later event of the same kind about the same thing supersedes the earlier ones.
 std::pair<int, std::uint32_t> kindOf(const xcb_generic_event_t& event, bool isNotify) {
     if (!isNotify) {
         return {-1, 0};
@@ -64,7 +64,7 @@ bool ScreenEventLimit::nativeEventFilter(const QByteArray& /*eventType*/, void* 
                                          qintptr* /*result*/) {
     const auto& event = *static_cast<const xcb_generic_event_t*>(message);
     const int type = event.response_type - _randrFirstEvent;
-    // What this object hands on carries the mark of a client and passes.
+    // Events that this object forwards are flagged as sent by a client, and pass.
     if (type != XCB_RANDR_SCREEN_CHANGE_NOTIFY && type != XCB_RANDR_NOTIFY) {
         return false;
     }

@@ -14,15 +14,15 @@ struct xcb_connection_t;
 
 namespace tonquil {
 
-/// Spares the toolkit most of an X server's screen changes.
+/// Shields Qt from most of an X server's screen changes.
 ///
-/// For each one it asks the server for all screens anew, several round trips long, and it handles
-/// all that have come before anything else runs: a storm of them blocks the program for as long as
-/// it lasts. Here they are collected for a while, a longer one in a storm, and the last of each
-/// kind is then handed on. Needs a QGuiApplication; on other platforms than xcb it does nothing.
+/// For each one Qt queries all screens again, which takes several round trips, and it handles all
+/// pending ones before anything else runs: a storm of them would block the program for as long as
+/// it lasts. This filter collects them for a while, longer in a storm, and then forwards the last
+/// of each kind. Needs a QGuiApplication; does nothing on platforms other than xcb.
 class ScreenEventLimit final : public QAbstractNativeEventFilter {
  public:
-    /// Short enough that the toolkit knows its screens when the display service tells of a change.
+    /// Short enough that Qt knows its screens by the time the display service reports a change.
     static constexpr std::chrono::milliseconds shortestWait{50};
     static constexpr std::chrono::milliseconds longestWait{400};
 
@@ -38,11 +38,11 @@ class ScreenEventLimit final : public QAbstractNativeEventFilter {
     RunLoop& _runLoop;
     xcb_connection_t* _connection = nullptr;
     std::uint8_t _randrFirstEvent = 0;
-    /// Never shown. What is sent to it comes to the toolkit's connection.
+    /// Never shown. Events sent to it arrive on Qt's connection.
     std::uint32_t _window = 0;
     std::chrono::milliseconds _wait = shortestWait;
     RunLoop::Clock::time_point _handedOn;
-    /// As they are on the wire; by kind, and by the CRTC or output that they are about.
+    /// Raw events; by kind, and by the CRTC or output that they are about.
     std::map<std::pair<int, std::uint32_t>, std::array<char, 32>> _held;
     std::unique_ptr<RunLoop::Handle> _timer;
 };

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double full = 65535.0;
 
-/// Within 0…1; a not-a-number fails the comparison and becomes 0.
+/// Clamps to 0…1; a not-a-number fails the comparison and becomes 0.
 double clampedLevel(double level) {
     return level > 0.0 ? std::min(level, 1.0) : 0.0;
 }
@@ -24,11 +24,11 @@ double levelOf(std::uint16_t entry) {
     return static_cast<double>(entry) / full;
 }
 
-/// The value of a polyline through equally spaced points at `index` of `count` equal steps from its
+/// Evaluates a polyline through equally spaced points at `index` of `count` equal steps from its
 /// first point to its last.
 template <typename Value>
 double resampled(std::size_t points, std::size_t index, std::size_t count, Value value) {
-    // Whole numbers until the fraction, so that the ends and every common point are exact.
+    // Integer arithmetic up to the fraction, so that the ends and all common points are exact.
     const std::size_t numerator = index * (points - 1);
     const std::size_t lower = numerator / (count - 1);
     const double fraction =
@@ -76,8 +76,8 @@ void HardwareRamp::setTable(const GammaTable& table) {
         const auto levels = table.channel(c);
         const auto ramp = channel(c);
         for (std::size_t i = 0; i < _size; ++i) {
-            // Clamped before it is interpolated: an infinity would turn the entries between it and
-            // its neighbours into infinities, or into not-a-numbers.
+            // Clamped before interpolating: otherwise an infinity would turn the entries between it
+            // and its neighbours into infinities or not-a-numbers.
             const auto level = [&](std::size_t slot) { return clampedLevel(levels[slot]); };
             ramp[i] = entryForLevel(
                 isSlotBySlot ? level(i) : resampled(GammaTable::capacity, i, _size, level));

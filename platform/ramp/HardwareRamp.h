@@ -9,11 +9,11 @@
 
 namespace tonquil {
 
-/// The ramp of a piece of display hardware: three channels of as many 16-bit entries as it has,
-/// 0 (dark) to 65535 (full).
+/// A hardware gamma ramp: three channels of 16-bit entries, 0 (dark) to 65535 (full), as many as
+/// the hardware has.
 class HardwareRamp {
  public:
-    /// Anything longer is taken for a driver's mistake and refused before memory is taken.
+    /// Anything larger is treated as a driver bug and refused before memory is allocated.
     static constexpr std::uint32_t largestSize = 16384;
 
     HardwareRamp() = default;
@@ -32,21 +32,21 @@ class HardwareRamp {
     [[nodiscard]] std::span<const std::uint16_t> entries() const { return _entries; }
     [[nodiscard]] std::span<std::uint16_t> entries() { return _entries; }
 
-    /// A 64-bit digest by which a ramp is recognised again; not proof against forgery.
+    /// A 64-bit digest for recognising a ramp; not proof against forgery.
     [[nodiscard]] std::uint64_t fingerprint() const;
 
     /// Replaces the entries by a table, resampled linearly from end to end; 256 entries take it
-    /// level by level. Levels are clamped to 0…1 before that, where a not-a-number becomes 0, and
-    /// rounded after it. Keeps the size and allocates nothing.
+    /// level by level. Levels are first clamped to 0…1 (a not-a-number becomes 0) and rounded after
+    /// resampling. Keeps the size and does not allocate.
     ///
-    /// On a ramp shorter than 256 a table whose slots past the ramp's length are all 0 is one that
-    /// was computed for that length and is taken slot by slot.
+    /// On a ramp shorter than 256, a table whose slots beyond the ramp's length are all 0 was
+    /// computed for that length and is copied slot by slot.
     void setTable(const GammaTable& table);
-    /// Writes the ramp into a table's first slots and returns how many: all 256, resampled, or
-    /// each entry of a ramp that has fewer.
+    /// Writes the ramp into a table's first slots and returns how many: all 256, resampled, or one
+    /// per entry of a ramp with fewer.
     std::uint32_t getTable(GammaTable& table) const;
 
-    /// From 0 to 65535 in equal steps.
+    /// A linear ramp from 0 to 65535.
     [[nodiscard]] static HardwareRamp straight(std::uint32_t size);
 
     bool operator==(const HardwareRamp&) const = default;

@@ -19,7 +19,7 @@ void RampHistory::addCorrection(const Correction& correction) {
     if (_corrections.size() <= mostCorrections) {
         return;
     }
-    // The oldest that its holder has replaced since.
+    // The oldest one that its holder has replaced since.
     auto oldest = _corrections.begin();
     while (oldest != _corrections.end() &&
            std::none_of(oldest + 1, _corrections.end(),
@@ -38,8 +38,8 @@ HardwareRamp RampHistory::uncorrected(const HardwareRamp& present) const {
 }
 
 HardwareRamp RampHistory::underCorrection(std::uint32_t size) const {
-    // A correction is only ever set after the system ramp was noted. If the note is lost, a
-    // straight line is the one guess that does not correct twice.
+    // A correction is only ever set after the system ramp was recorded. If the record is lost, a
+    // linear ramp is the only guess that does not correct twice.
     return _systemRamp && _systemRamp->size() == size ? *_systemRamp : HardwareRamp::straight(size);
 }
 

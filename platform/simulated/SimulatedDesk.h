@@ -18,41 +18,40 @@ struct SimulatedDisplay {
     std::string connector;
     std::string productName;
     Rectangle bounds;
-    /// What is on the hardware; a ramp of 0 or 1 entries stands for a display without gamma.
+    /// The hardware's ramp; 0 or 1 entries stand for a display without gamma.
     HardwareRamp ramp;
-    /// The calibration of the display's colour profile, where one is published.
+    /// The calibration in the display's colour profile, if one is published.
     std::optional<HardwareRamp> profileRamp;
 };
 
-/// A desk of monitors that exists in memory: what a display server and its hardware are to a
-/// program. It outlives the services that look at it, so that one test can run several programs,
-/// one after the other or at once.
+/// An in-memory desk of monitors, in place of a display server and its hardware. It outlives the
+/// services that use it, so that one test can run several programs, one after the other or at once.
 class SimulatedDesk {
  public:
     /// The first display is the main one.
     [[nodiscard]] const std::vector<SimulatedDisplay>& displays() const { return _displays; }
-    /// Null when there is none with this ID; 0 means the main display.
+    /// Null if there is none with this ID; 0 means the main display.
     [[nodiscard]] SimulatedDisplay* find(DisplayID display);
 
-    /// Attaches a display, or replaces the one with the same ID, and tells the observers.
+    /// Attaches a display, or replaces the one with the same ID, and notifies the observers.
     void plug(SimulatedDisplay display);
-    /// The ramp stays behind on the hardware as it is; a display plugged in later brings its own.
+    /// The ramp stays on the hardware; a display plugged in later brings its own.
     void unplug(DisplayID display);
-    /// Sets a ramp as some other program would.
+    /// Sets a ramp as another program would.
     void setForeignRamp(DisplayID display, HardwareRamp ramp);
 
-    /// What corrections were set on a display; it lives as long as the desk.
+    /// The history of corrections set on a display; lives as long as the desk.
     [[nodiscard]] RampHistory& history(DisplayID display) { return _histories[display]; }
-    /// A number of its own for each service that sets corrections.
+    /// A unique number for each service that sets corrections.
     [[nodiscard]] std::uint32_t newHolder() { return ++_holders; }
 
-    /// Where the pointer was moved to last.
+    /// The last position that the pointer was moved to.
     Point pointer;
 
-    /// Who is told of changes.
+    /// Called on changes.
     ReconfigurationCallbacks observers;
 
-    /// How many times a ramp was set by a service: what a test asks to see that nothing was sent.
+    /// How often a service has set a ramp: lets tests verify that nothing was sent.
     std::size_t rampWrites = 0;
 
  private:

@@ -11,8 +11,8 @@
 
 namespace tonquil {
 
-/// The display service of a simulated desk: the same rules as on real hardware, in memory. Tests
-/// run on it, and so do demonstrations on machines without a desktop.
+/// The display service of a simulated desk: the same rules as on real hardware, in memory. Used by
+/// tests, and for demonstrations on machines without a desktop.
 class SimulatedDisplayService : public DisplayService {
  public:
     /// The desk must outlive the service.
@@ -38,17 +38,17 @@ class SimulatedDisplayService : public DisplayService {
     bool endBatch() override { return _allReached; }
 
  private:
-    /// The display if it is attached and has a ramp; otherwise says so once and returns null.
+    /// The display if it is attached and has a ramp; otherwise logs that once and returns null.
     [[nodiscard]] SimulatedDisplay* correctable(DisplayID display);
-    /// Whether a correction of this service's is held on the display. One that was plugged in
-    /// meanwhile has no history of it.
+    /// Whether this service holds a correction on the display. A display plugged in meanwhile has
+    /// no record of it.
     [[nodiscard]] bool holds(DisplayID display);
     [[nodiscard]] HardwareRamp systemCalibration(const SimulatedDisplay& display);
 
     SimulatedDesk& _desk;
     std::uint32_t _holder;
     Log _log;
-    /// By display, the correction that was set last and not taken back.
+    /// By display, the last correction that was set and not taken back.
     std::map<DisplayID, std::uint64_t> _held;
     std::set<DisplayID> _reported;
     bool _allReached = true;

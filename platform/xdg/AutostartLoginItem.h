@@ -7,19 +7,19 @@
 
 namespace tonquil {
 
-/// The login item as a desktop file "tonquil.desktop" among those that desktops start at login.
+/// The login item, as a desktop file "tonquil.desktop" in the desktop's autostart folder.
 ///
-/// A file that is marked as hidden or switched off, or that cannot be read, counts as not there.
+/// A file that is hidden, disabled or unreadable counts as missing.
 class AutostartLoginItem final : public LoginItem {
  public:
     /// `folder` is $XDG_CONFIG_HOME/autostart, which need not exist, and `launcher` the absolute
-    /// path of the program that is to be started.
+    /// path of the program to start.
     AutostartLoginItem(const std::filesystem::path& folder, std::filesystem::path launcher)
         : _file(folder / "tonquil.desktop"), _launcher(std::move(launcher)) {}
 
     [[nodiscard]] bool isEnabled() const override;
-    /// Writes the file as a whole, or removes it. Fails where the launcher cannot be started or
-    /// the file not be written or removed.
+    /// Writes the file atomically, or removes it. Fails if the launcher cannot be executed, or the
+    /// file cannot be written or removed.
     [[nodiscard]] Result<void> setEnabled(bool isEnabled) override;
 
  private:

@@ -11,7 +11,7 @@
 
 namespace tonquil {
 
-/// One write, with what came of it.
+/// One write and its result.
 struct CurveRecoveryFile::Job {
     PropertyListFile file;
     PropertyValue curves;
@@ -27,7 +27,7 @@ CurveRecoveryFile::CurveRecoveryFile(std::filesystem::path file, RunLoop& runLoo
       _keeping(std::move(reports)) {}
 
 CurveRecoveryFile::~CurveRecoveryFile() {
-    // What it adds calls back.
+    // The job's callback uses this object.
     _disk.finish();
 }
 
@@ -85,7 +85,7 @@ void CurveRecoveryFile::forget() {
     _retry.reset();
     _keeping.end();
     const std::filesystem::path& path = _file.path();
-    // A kill may have left the half of a newer one as well.
+    // A killed process may also have left half of a newer file.
     std::string temporary = ".";
     temporary.append(path.filename().native()).append(".tonquil-new");
     for (const auto& file : {path.parent_path() / temporary, path}) {

@@ -13,17 +13,17 @@
 
 namespace tonquil {
 
-/// Keeps the curves in a property list, mode 0600.
+/// Stores the curves in a property list, mode 0600.
 ///
-/// One that is damaged is moved aside, counts as nothing left and has a line in the log. The
-/// folder is made when something is kept. Keeping outlives a crash of the program, which needs no
-/// flushing of the disk; where it fails, it is reported and tried again every two seconds.
+/// A damaged file is moved aside, counts as empty and is logged. The folder is created when
+/// something is stored. The data survives a crash of the program, which does not need an fsync; a
+/// failure is reported and retried every two seconds.
 class CurveRecoveryFile final : public CurveRecovery {
  public:
     /// `runLoop` and `disk` must outlive it.
     CurveRecoveryFile(std::filesystem::path file, RunLoop& runLoop, DiskQueue& disk,
                       SaveReports reports);
-    /// Waits for what is being kept.
+    /// Waits for pending writes.
     ~CurveRecoveryFile() override;
     CurveRecoveryFile(const CurveRecoveryFile&) = delete;
     CurveRecoveryFile& operator=(const CurveRecoveryFile&) = delete;
@@ -44,7 +44,7 @@ class CurveRecoveryFile final : public CurveRecovery {
     DiskQueue& _disk;
     Log _log;
     RepeatedProblem _keeping;
-    /// What is to be kept and has not gone to the disk yet.
+    /// Curves to store that have not been handed to the disk yet.
     std::optional<PropertyValue> _wanted;
     bool _isKeeping = false;
     std::unique_ptr<RunLoop::Handle> _retry;

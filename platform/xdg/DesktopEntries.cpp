@@ -22,7 +22,7 @@ std::string environment(const char* name) {
     return value == nullptr ? std::string() : value;
 }
 
-/// The absolute ones of the paths in a list with colons.
+/// The absolute paths in a colon-separated list.
 std::vector<fs::path> pathsFrom(const std::string& list) {
     std::vector<fs::path> paths;
     for (std::size_t start = 0; start <= list.size();) {

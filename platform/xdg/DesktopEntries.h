@@ -11,19 +11,18 @@ namespace tonquil {
 
 /// The programs that have a desktop file.
 ///
-/// A file in an earlier folder hides those of the same name in the later ones. A program whose
-/// file is marked as hidden, or that would not start because its `TryExec` is missing, counts as
-/// not installed; one that is only left out of menus is installed. Files in subfolders are not
-/// looked for.
+/// A file in an earlier folder hides those of the same name in later ones. A program whose file is
+/// marked as hidden, or that would not start because its `TryExec` is missing, counts as not
+/// installed; one that is only left out of menus is installed. Subfolders are not searched.
 class DesktopEntries final : public InstalledPrograms {
  public:
-    /// Where to look, and whom for.
+    /// Where to look, and for which language.
     struct Places {
-        /// The folders "applications", the most important first.
+        /// The "applications" folders, most important first.
         std::vector<std::filesystem::path> applications;
-        /// Where programs are started from by their names alone.
+        /// The folders in which programs are looked up by name.
         std::vector<std::filesystem::path> programs;
-        /// The person's language, as in LC_MESSAGES; may be empty.
+        /// The user's language, as in LC_MESSAGES; may be empty.
         std::string locale;
     };
 

@@ -20,7 +20,7 @@ struct FreeText {
     void operator()(gchar* text) const { g_free(text); }
 };
 
-/// Takes over what GLib has allocated; empty for null.
+/// Takes ownership of a GLib string; empty for null.
 std::string taken(gchar* text) {
     const std::unique_ptr<gchar, FreeText> owner(text);
     return owner ? owner.get() : std::string();
@@ -37,7 +37,7 @@ Result<DesktopEntry> DesktopEntry::read(const std::filesystem::path& file) {
 Result<DesktopEntry> DesktopEntry::parse(std::string_view text) {
     DesktopEntry entry;
     GError* error = nullptr;
-    // Else it keeps the process's own languages only.
+    // Without the flag, GLib keeps only the process's own languages.
     if (g_key_file_load_from_data(entry._keys.get(), text.data(), text.size(),
                                   G_KEY_FILE_KEEP_TRANSLATIONS, &error) == FALSE) {
         const std::unique_ptr<GError, FreeError> owner(error);
@@ -73,7 +73,7 @@ std::string DesktopEntry::text() const {
     return taken(g_key_file_to_data(_keys.get(), nullptr, nullptr));
 }
 
-// The rules are the desktop's own: a shell's quoting has others.
+// Desktop files have their own quoting rules, different from a shell's.
 std::string DesktopEntry::quotedArgument(std::string_view argument) {
     std::string text = "\"";
     for (const char c : argument) {

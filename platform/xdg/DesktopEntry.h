@@ -19,13 +19,13 @@ class DesktopEntry {
     [[nodiscard]] static Result<DesktopEntry> read(const std::filesystem::path& file);
     [[nodiscard]] static Result<DesktopEntry> parse(std::string_view text);
 
-    /// Empty where the key is missing.
+    /// Empty if the key is missing.
     [[nodiscard]] std::string value(const std::string& key) const;
-    /// The value in the language of `locale` (such as "de_AT.UTF-8@euro"), as near as there is
-    /// one, else without a language.
+    /// The value for the language of `locale` (such as "de_AT.UTF-8@euro"), or the closest match,
+    /// else the untranslated one.
     [[nodiscard]] std::string localizedValue(const std::string& key,
                                              const std::string& locale) const;
-    /// What is neither "true" nor "false" reads as `otherwise`.
+    /// Returns `otherwise` for anything but "true" and "false".
     [[nodiscard]] bool boolValue(const std::string& key, bool otherwise) const;
 
     void setValue(const std::string& key, const std::string& value);
@@ -35,7 +35,7 @@ class DesktopEntry {
     /// An empty entry.
     DesktopEntry() : _keys(g_key_file_new()) {}
 
-    /// `argument` as one argument of the command line in the key Exec.
+    /// Quotes `argument` as one argument of the command line in the key Exec.
     [[nodiscard]] static std::string quotedArgument(std::string_view argument);
 
  private:

@@ -19,14 +19,14 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// Not IN_CREATE: a file that was just made for writing is empty, which would look like damage.
+// Not IN_CREATE: a file just created for writing is empty and would look damaged.
 constexpr std::uint32_t watched = IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE |
                                   IN_ATTRIB | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
 constexpr std::uint32_t folderGone = IN_IGNORED | IN_MOVE_SELF;
 
-// What is switched and at once switched back is one change.
+// A change that is reverted at once counts as one change.
 constexpr milliseconds settling(20);
-// Each change is read as a whole, which a burst of hundreds must not ask for as often.
+// Each change means reading the whole file, so a burst of hundreds must be throttled.
 constexpr milliseconds leastInterval(500);
 constexpr milliseconds lookingInterval(5000);
 
@@ -50,7 +50,7 @@ FileWatch::FileWatch(RunLoop& runLoop, const std::filesystem::path& file,
 }
 
 Result<void> FileWatch::renew() {
-    // Gives the watch that there is when it is the same folder.
+    // Returns the existing watch if it is the same folder.
     const int watch = ::inotify_add_watch(_inotify.get(), _folder.c_str(), watched);
     const int error = errno;
     const int former = std::exchange(_watch, watch);
@@ -132,7 +132,7 @@ void FileWatch::receive() {
         isConcerned |= concernsFile(events.data(), static_cast<std::size_t>(size), hasGone);
     }
     if (hasGone) {
-        // Where there is no other folder yet, `look` finds it.
+        // If there is no other folder yet, `look` finds it later.
         static_cast<void>(renew());
         watchFoldersAbove();
     }

@@ -15,22 +15,22 @@
 
 namespace tonquil {
 
-/// Tells when a file was written, replaced, renamed or removed, also by its own program.
+/// Reports when a file was written, replaced, renamed or removed, including by its own program.
 ///
-/// It is the folder that is watched, so the file need not exist; through a symbolic link nothing
-/// is seen but the link. When the folder goes, or one above it, the watch goes over to what has
-/// taken its place. While there is nothing that can be watched, it looks every five seconds.
+/// It watches the folder, so the file need not exist; for a symbolic link only changes of the link
+/// itself are seen. If the folder or one above it is removed or renamed, the watch moves to its
+/// replacement. While there is nothing to watch, it polls every five seconds.
 class FileWatch {
  public:
-    /// Calls `changed` once for what happened within a moment, and at most twice a second.
-    /// `runLoop` must outlive it.
+    /// Calls `changed` once for changes within a moment, and at most twice a second. `runLoop` must
+    /// outlive it.
     FileWatch(RunLoop& runLoop, const std::filesystem::path& file, std::function<void()> changed);
 
-    /// Watches the folder that has the path now, if it is another one than before.
+    /// Watches the folder now at the path, if it is a different one than before.
     [[nodiscard]] Result<void> renew();
 
  private:
-    /// What tells one state of the file from another.
+    /// Identifies a version of the file.
     struct Stamp {
         bool exists = false;
         dev_t device = 0;
@@ -43,7 +43,7 @@ class FileWatch {
     };
 
     void receive();
-    /// Whether one of the events is about the file. `hasGone` tells that a folder has.
+    /// Whether one of the events is about the file. `hasGone` is set if a folder has gone.
     [[nodiscard]] bool concernsFile(const char* events, std::size_t size, bool& hasGone) const;
     void watchFoldersAbove();
     void tellSoon();
@@ -56,13 +56,13 @@ class FileWatch {
     std::function<void()> _changed;
     FileHandle _inotify;
     int _watch = -1;
-    /// Of the folders above, which only tell that they go.
+    /// Watches of the folders above, which only report that they go.
     std::vector<int> _above;
     std::unique_ptr<RunLoop::Handle> _readable;
-    /// While something is to be told.
+    /// Set while a change is to be reported.
     std::unique_ptr<RunLoop::Handle> _telling;
     RunLoop::Clock::time_point _nextTelling{};
-    /// While nothing can be watched.
+    /// Set while nothing can be watched.
     std::unique_ptr<RunLoop::Handle> _looking;
     Stamp _seen;
 };

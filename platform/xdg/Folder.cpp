@@ -25,7 +25,7 @@ auto notMade(const std::filesystem::path& folder, int error) {
 
 Result<void> makeFolder(const std::filesystem::path& folder) {
     std::error_code error;
-    // An empty path is the folder that the program runs in.
+    // An empty path is the current folder.
     if (folder.empty() || std::filesystem::is_directory(folder, error)) {
         return {};
     }
@@ -34,7 +34,7 @@ Result<void> makeFolder(const std::filesystem::path& folder) {
     }
     if (::mkdir(folder.c_str(), ownerOnly) != 0) {
         const int reason = errno;
-        // Another program may have been quicker.
+        // Another program may have created it first.
         if (!std::filesystem::is_directory(folder, error)) {
             return notMade(folder, reason);
         }

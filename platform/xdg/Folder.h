@@ -7,15 +7,15 @@
 
 namespace tonquil {
 
-/// Makes a folder and what is missing above it, each for its owner alone (mode 0700).
+/// Creates a folder and its missing parents, each for its owner alone (mode 0700).
 ///
-/// One that is there already stays as it is, and may be a symbolic link to a folder.
+/// An existing one stays as it is, and may be a symbolic link to a folder.
 [[nodiscard]] Result<void> makeFolder(const std::filesystem::path& folder);
 
-/// Makes a folder in a place where others may have put one first, as they can in /tmp.
+/// Creates a folder in a place where others may have created one first, as in /tmp.
 ///
-/// One that is there already is refused unless it belongs to this user, is no symbolic link and
-/// has mode 0700. What is above it must exist.
+/// Refuses an existing one unless it belongs to this user, is no symbolic link and has mode 0700.
+/// Its parent must exist.
 [[nodiscard]] Result<void> makeOwnFolder(const std::filesystem::path& folder);
 
 }  // namespace tonquil

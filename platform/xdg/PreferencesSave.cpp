@@ -25,7 +25,7 @@ std::optional<FileHandle> lockOf(const std::filesystem::path& file) {
     if (::flock(lock.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         return std::nullopt;
     }
-    // Where there can be no lock, the file is still replaced as a whole.
+    // If locking is impossible, the file is still replaced atomically.
     return lock;
 }
 
@@ -73,7 +73,7 @@ Result<void> PreferencesSave::merge() {
             return tl::unexpected(aside.error());
         }
         notes.push_back(contents.reason() + " It was kept as " + aside->native() + ".");
-        // What was read before the damage is in no file any more.
+        // The values read before the damage are in no file any more.
         hasMovedAside = true;
         merged = values;
     }

@@ -12,33 +12,33 @@
 
 namespace tonquil {
 
-/// One save of settings that several processes may have changed: everything about it that may wait
-/// for a disk or for another process.
+/// One save of settings that several processes may have changed: every step that may wait for a
+/// disk or another process.
 ///
-/// It has its own copy of all it needs, so that it may run on any thread.
+/// It has its own copy of everything it needs, so that it can run on any thread.
 struct PreferencesSave {
     enum class Outcome : std::uint8_t {
         Saved,
-        Locked,  ///< Another process saves at the moment; nothing was done.
+        Locked,  ///< Another process is saving; nothing was done.
         Failed,
     };
 
     PropertyListFile file;
-    /// What counts as stored, and the keys in it that were set or, where there is none, taken away.
+    /// The stored values, and the keys among them that were set or, if absent, removed.
     PropertyValue values;
     std::set<std::string> changed;
-    /// How long to wait for another process before saving in spite of it. Without it nothing is
-    /// waited for, and nothing done then.
+    /// How long to wait for another process before saving anyway. If not set, it does not wait, and
+    /// does nothing when the file is locked.
     std::optional<std::chrono::milliseconds> longestWait = {};
 
     Outcome outcome = Outcome::Failed;
     Problem problem = {};
     /// A damaged file was moved aside, and all values count as changed.
     bool hasMovedAside = false;
-    /// Lines for the log.
+    /// Messages for the log.
     std::vector<std::string> notes = {};
 
-    /// Lays the changed keys over what the file holds by now. Makes the folder.
+    /// Applies the changed keys on top of the file's current content. Creates the folder.
     void run();
 
  private:

@@ -23,7 +23,7 @@ PropertyListFile::Contents damaged(Problem problem) {
     return {.state = PropertyListFile::State::Damaged, .problem = std::move(problem)};
 }
 
-/// What a file is that could not be read at all.
+/// The result for a file that could not be read at all.
 PropertyListFile::Contents unread(const std::filesystem::path& path, Problem problem) {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR)) {
@@ -45,8 +45,8 @@ std::string timeText() {
     return {text.data(), length};
 }
 
-/// Renames without ever replacing anything, on any file system with hard links; an error number,
-/// or 0.
+/// Renames without ever replacing anything, on any file system with hard links; returns an error
+/// number, or 0.
 int renameToFreeName(const std::filesystem::path& from, const std::filesystem::path& to) {
     return ::link(from.c_str(), to.c_str()) == 0 && ::unlink(from.c_str()) == 0 ? 0 : errno;
 }

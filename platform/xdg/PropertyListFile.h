@@ -11,46 +11,46 @@
 
 namespace tonquil {
 
-/// A file of the program's own that holds a dictionary as a property list.
+/// A file of the program's own that contains a dictionary as a property list.
 class PropertyListFile {
  public:
     enum class State : std::uint8_t {
         Missing,
         Read,
         Damaged,     ///< Not a property list, not a dictionary, or beyond the budget.
-        Unreadable,  ///< Not permitted, not a regular file, a failing disk.
+        Unreadable,  ///< No permission, not a regular file, or a failing disk.
     };
     struct Contents {
         State state = State::Missing;
-        /// Empty unless it was read.
+        /// Empty unless the file was read.
         PropertyValue dictionary = PropertyValue::object();
-        /// What is damaged or unreadable.
+        /// Describes a damaged or unreadable file.
         Problem problem = {};
 
-        /// The same as a line for the log.
+        /// The same as a log message.
         [[nodiscard]] std::string reason() const;
     };
 
     explicit PropertyListFile(std::filesystem::path path) : _path(std::move(path)) {}
 
-    /// Far above any real one: 4 MiB, of text as well.
+    /// Far above any real file: 4 MiB, and the same for text.
     [[nodiscard]] static PropertyListBudget budget();
     [[nodiscard]] const std::filesystem::path& path() const { return _path; }
 
     [[nodiscard]] Contents read() const;
-    /// Replaces it as a whole, mode 0600; on the disk on return, unless it is not flushed. Its
-    /// folder must exist.
+    /// Replaces the file atomically, mode 0600; flushed to disk on return, unless flushing is off.
+    /// Its folder must exist.
     [[nodiscard]] Result<void> write(const PropertyValue& dictionary, bool isFlushed = true) const;
-    /// Renames it to <name>.damaged-<time, UTC>, or to that with a number behind it where the name
-    /// is taken, and gives the new path.
+    /// Renames it to <name>.damaged-<time, UTC>, with a number appended if that name is taken, and
+    /// returns the new path.
     [[nodiscard]] Result<std::filesystem::path> moveAside() const;
 
  private:
     std::filesystem::path _path;
 };
 
-/// Equality to the byte: the library's own has no not-a-number equal to another, and an integer
-/// equal to a real.
+/// Byte-wise equality: the library's operator treats no not-a-number as equal to another, and an
+/// integer as equal to a real.
 [[nodiscard]] bool isSame(const PropertyValue& a, const PropertyValue& b);
 
 }  // namespace tonquil

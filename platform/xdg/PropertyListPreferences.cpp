@@ -14,10 +14,10 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// While another process saves.
+// While another process is saving.
 constexpr milliseconds firstRetry(20);
 constexpr milliseconds longestRetry(1000);
-// While the disk is full, or cannot be written to.
+// While the disk is full or cannot be written to.
 constexpr milliseconds retryAfterFailure(2000);
 
 }  // namespace
@@ -43,7 +43,7 @@ PropertyListPreferences::PropertyListPreferences(std::filesystem::path file, Run
       _watching({.log = reports.log}),
       _reading({.log = reports.log}),
       _saving(std::move(reports)) {
-    // Before the file is read, so that nothing happens unseen in between.
+    // Before the file is read, so that no change is missed in between.
     watchFolder();
     PropertyListFile::Contents contents = _file.read();
     if (contents.state == PropertyListFile::State::Damaged) {
@@ -57,7 +57,7 @@ PropertyListPreferences::~PropertyListPreferences() {
     try {
         PropertyListPreferences::synchronize();
     } catch (const std::exception&) {
-        // Out of memory: what the file holds stays whole.
+        // Out of memory: the file stays intact.
         return;
     }
 }
@@ -118,7 +118,8 @@ void PropertyListPreferences::endEvent() {
         save();
     }
     std::erase_if(_subscribers, [](const auto& subscriber) { return subscriber.expired(); });
-    // A handler may set values, which is another event, subscribe, unsubscribe, or end the store.
+    // A handler may set values, which counts as another event, subscribe, unsubscribe, or destroy
+    // the store.
     const std::uint64_t latest = _changes;
     const std::weak_ptr alive(_alive);
     const auto subscribers = _subscribers;
@@ -169,14 +170,14 @@ void PropertyListPreferences::adopt(PropertyValue dictionary) {
     }
 }
 
-// While a save is under way, the file may be between two names: it is read after that.
+// During a save, the file may be between two renames, so it is read afterwards.
 void PropertyListPreferences::readAgain() {
     if (!_isSaving) {
         take(_file.read());
     }
 }
 
-// What is set during a save goes with the next one.
+// Values set during a save go into the next one.
 void PropertyListPreferences::save() {
     _retry.reset();
     if (std::exchange(_isSaving, true)) {
@@ -212,7 +213,7 @@ void PropertyListPreferences::endSave(const PreferencesSave& save) {
     _underway.clear();
     _isSaving = false;
     watchFolder();
-    // Others may have saved since, and told of it while nobody listened.
+    // Others may have saved since, and the notification may have come while nobody listened.
     take(_file.read());
     if (save.outcome == PreferencesSave::Outcome::Locked) {
         retryIn(std::clamp(2 * _retryDelay, firstRetry, longestRetry));
@@ -238,7 +239,7 @@ void PropertyListPreferences::retryIn(milliseconds delay) {
 bool PropertyListPreferences::synchronize() {
     _disk.finish();
     if (_unsaved.empty()) {
-        // A network's file systems tell nothing of what others write.
+        // Network file systems do not report what other hosts write.
         take(_file.read());
     } else {
         PreferencesSave save = newSave();

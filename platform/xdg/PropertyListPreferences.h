@@ -19,30 +19,30 @@ namespace tonquil {
 
 /// Settings in a property list, mode 0600, that several processes may use at once.
 ///
-/// Saving lays the keys that were set here over what the file holds by then; a side file
-/// <name>.lock keeps others from saving meanwhile. It is done away from the event loop, which no
-/// slow disk holds up. What cannot be saved stays readable, is reported once, and is tried again
-/// every two seconds, with the next value and by `synchronize`. A damaged file is
-/// moved aside at the start, and later when something has to be saved; until then the values that
-/// were read from it before count. One that may not be read is left as it is. Of a file that is
-/// removed, no values remain.
+/// Saving applies the keys that were set here on top of the file's current content; a side file
+/// <name>.lock keeps others from saving meanwhile. It happens off the event loop, so that a slow
+/// disk does not block it. Values that cannot be saved stay readable; the failure is reported once,
+/// and saving is retried every two seconds, with the next value and by `synchronize`. A damaged
+/// file is moved aside at startup, and later when something has to be saved; until then the values
+/// read from it before still count. An unreadable file is left as it is. If the file is removed,
+/// its values are gone.
 ///
-/// A null takes the key away, so that its default shows. A value that a property list cannot hold
-/// is not set: the log has a line, and `synchronize` answers false until the key gets another one.
+/// Null removes a key, so that its default shows. A value that a property list cannot hold is not
+/// set: it is logged, and `synchronize` returns false until the key gets another one.
 class PropertyListPreferences final : public PreferencesStore {
  public:
-    /// Reads the file, and makes its folder, so that others' changes in it can be seen. `runLoop`
-    /// and `disk` must outlive the store. Only `synchronize` waits for a lock, `longestWait` of
-    /// real time at most, and then saves without it.
+    /// Reads the file, and creates its folder, so that changes by others can be seen. `runLoop` and
+    /// `disk` must outlive the store. Only `synchronize` waits for a lock, `longestWait` of real
+    /// time at most, and then saves without it.
     PropertyListPreferences(std::filesystem::path file, RunLoop& runLoop, DiskQueue& disk,
                             SaveReports reports,
                             std::chrono::milliseconds longestWait = std::chrono::seconds(2));
-    /// Saves what still waits to be saved.
+    /// Saves everything still unsaved.
     ~PropertyListPreferences() override;
     PropertyListPreferences(const PropertyListPreferences&) = delete;
     PropertyListPreferences& operator=(const PropertyListPreferences&) = delete;
 
-    /// Adds to those registered before.
+    /// Adds to the defaults registered before.
     void registerDefaults(PropertyValue defaults) override;
     void setValue(std::string_view key, PropertyValue value) override;
     bool synchronize() override;
@@ -52,7 +52,8 @@ class PropertyListPreferences final : public PreferencesStore {
  private:
     struct Subscriber {
         std::function<void()> changed;
-        /// The number of the last change that it was told, or that was made before it.
+        /// The number of the last change that it was notified of, or that was made before it
+        /// subscribed.
         std::uint64_t told = 0;
     };
     class OwnSubscription;
@@ -64,11 +65,11 @@ class PropertyListPreferences final : public PreferencesStore {
     void endEvent();
     void watchFolder();
     void take(PropertyListFile::Contents contents);
-    /// Lays what is not saved yet over what the file holds.
+    /// Applies unsaved changes on top of the file's content.
     void adopt(PropertyValue dictionary);
     void readAgain();
     void save();
-    /// Takes the changes along that are not saved yet.
+    /// Includes all changes that are not saved yet.
     [[nodiscard]] PreferencesSave newSave();
     void endSave(const PreferencesSave& save);
     void retryIn(std::chrono::milliseconds delay);
@@ -81,14 +82,14 @@ class PropertyListPreferences final : public PreferencesStore {
     FileWatch _watch;
 
     PropertyValue _defaults = PropertyValue::object();
-    /// What counts as stored: the file, and over it what was set here.
+    /// The effective stored values: the file, with what was set here on top.
     PropertyValue _values = PropertyValue::object();
-    /// The keys that were set, or taken away, since the last save.
+    /// The keys that were set or removed since the last save.
     std::set<std::string> _unsaved;
     /// Those of them that are being saved now.
     std::set<std::string> _underway;
     bool _isSaving = false;
-    /// The keys that were last given a value that cannot be saved.
+    /// The keys whose last value cannot be saved.
     std::set<std::string> _refused;
 
     std::uint64_t _changes = 0;
@@ -100,7 +101,7 @@ class PropertyListPreferences final : public PreferencesStore {
     RepeatedProblem _watching;
     RepeatedProblem _reading;
     RepeatedProblem _saving;
-    /// Posted work holds it weakly, and does nothing once the store is gone.
+    /// Posted work holds a weak reference, and does nothing once the store is gone.
     std::shared_ptr<const bool> _alive = std::make_shared<const bool>(true);
 };
 

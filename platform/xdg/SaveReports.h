@@ -9,14 +9,14 @@
 
 namespace tonquil {
 
-/// Whom a file of the program's own tells how its saves go.
+/// Where a file of the program reports how its saves go.
 struct SaveReports {
     Log log;
-    /// Called with the problem when saving begins to fail, and with nothing when it works again.
+    /// Called with the problem when saving starts to fail, and with nothing when it works again.
     std::function<void(const std::optional<Problem>&)> showProblem = {};
 };
 
-/// Something that fails again and again: has one line in the log until it works.
+/// Something that may fail repeatedly: logged once until it works again.
 class RepeatedProblem {
  public:
     explicit RepeatedProblem(SaveReports reports) : _reports(std::move(reports)) {}

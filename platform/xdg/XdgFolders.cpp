@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The absolute path that a variable holds, else an empty one.
+/// The absolute path in a variable, else an empty one.
 fs::path pathFromEnvironment(const char* name) {
     const char* value = std::getenv(name);
     fs::path path(value == nullptr ? "" : value);

@@ -7,24 +7,24 @@
 
 namespace tonquil {
 
-/// Where the program keeps its files, by the XDG base directory rules.
+/// The locations of the program's files, by the XDG base directory rules.
 ///
-/// A variable that is empty or holds a relative path counts as not set, as the rules ask.
+/// A variable that is empty or holds a relative path counts as not set, as the rules require.
 class XdgFolders {
  public:
-    /// Fails for a person who has no home, neither in HOME nor among the system's users.
+    /// Fails for a user without a home folder, both in HOME and in the user database.
     [[nodiscard]] static Result<XdgFolders> fromEnvironment();
 
     /// Settings: $XDG_CONFIG_HOME/tonquil, else ~/.config/tonquil. May not exist yet.
     [[nodiscard]] const std::filesystem::path& config() const { return _config; }
-    /// What a run leaves to the next: $XDG_STATE_HOME/tonquil, else ~/.local/state/tonquil. May
-    /// not exist yet.
+    /// State kept between runs: $XDG_STATE_HOME/tonquil, else ~/.local/state/tonquil. May not exist
+    /// yet.
     [[nodiscard]] const std::filesystem::path& state() const { return _state; }
 
     /// Sockets and locks of running programs: $XDG_RUNTIME_DIR/tonquil, else tonquil-<user number>
-    /// in the folder for temporary files, as also where the variable names a missing folder.
+    /// in the folder for temporary files, also if the variable names a missing folder.
     ///
-    /// Makes it, and refuses one that others could have a hand in.
+    /// Creates it, and refuses one that others could have tampered with.
     [[nodiscard]] Result<std::filesystem::path> makeRuntime() const;
 
  private:

@@ -12,10 +12,10 @@ namespace tonquil {
 
 namespace {
 
-// Where key codes count from.
+// The offset of X key codes.
 constexpr xkb_keycode_t firstKeyCode = 8;
 
-// What the pad's keys do without Num Lock.
+// A keypad key's function without Num Lock.
 bool isPadCommand(xkb_keysym_t symbol) {
     return symbol >= XKB_KEY_KP_Home && symbol <= XKB_KEY_KP_Delete;
 }
@@ -37,7 +37,7 @@ std::string text(xkb_keysym_t symbol) {
     return bytes.data();
 }
 
-// Gives the symbol with these locked, and none held.
+// The symbol with these modifiers locked, and none held.
 xkb_keysym_t symbolWith(xkb_keymap& keymap, xkb_layout_index_t layout, xkb_mod_mask_t locked,
                         xkb_keycode_t key) {
     const XkbState state(xkb_state_new(&keymap));

@@ -12,7 +12,7 @@ Result<std::unique_ptr<NamedKeyboardLayout>> NamedKeyboardLayout::open(const std
     if (!context) {
         return problem(sentence, "xkbcommon gives no context.");
     }
-    // A name that is unknown is an answer here, not something for standard error.
+    // An unknown name is reported by the result, not on standard error.
     xkb_context_set_log_level(context.get(), XKB_LOG_LEVEL_CRITICAL);
     xkb_rule_names names{};
     names.rules = "evdev";

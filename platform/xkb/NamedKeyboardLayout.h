@@ -12,11 +12,10 @@
 
 namespace tonquil {
 
-/// A layout that stays as it is, by the name that keyboard settings have for it.
+/// A fixed layout, by its name in keyboard settings.
 class NamedKeyboardLayout final : public KeyboardLayout {
  public:
-    /// For example "us", or "us,de" of which the first counts. A Problem when there is none of that
-    /// name.
+    /// For example "us", or "us,de" of which the first counts. Fails if there is none of that name.
     [[nodiscard]] static Result<std::unique_ptr<NamedKeyboardLayout>> open(const std::string& name);
 
     [[nodiscard]] std::string character(std::uint16_t keyCode) const override;

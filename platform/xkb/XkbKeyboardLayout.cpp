@@ -29,7 +29,7 @@ Result<std::unique_ptr<XkbKeyboardLayout>> XkbKeyboardLayout::open(const char* d
     if (!context) {
         return problem(failure, "xkbcommon gives no context.");
     }
-    // A server that has gone is an answer here, not something for standard error.
+    // A lost connection is reported by the result, not on standard error.
     xkb_context_set_log_level(context.get(), XKB_LOG_LEVEL_CRITICAL);
     return std::unique_ptr<XkbKeyboardLayout>(
         new XkbKeyboardLayout(std::move(connection), std::move(context), keyboard));
@@ -57,7 +57,7 @@ std::string XkbKeyboardLayout::character(std::uint16_t keyCode) const {
     return keymapCharacter(*keymap, layout, keyCode);
 }
 
-// The server tells every connection of a new keymap, wanted or not.
+// The server notifies every connection of a new keymap, wanted or not.
 void XkbKeyboardLayout::forgetEvents() const {
     while (auto* const event = xcb_poll_for_event(_connection.get())) {
         std::free(event);

@@ -15,12 +15,12 @@ namespace tonquil {
 
 /// The layout of an X server's keyboard, by xkbcommon, on a connection of its own.
 ///
-/// Every question asks the server, so that it is always the layout of the moment, and the one of
-/// several that is switched to. Once the server has gone, no key has a character.
+/// Every call queries the server, so that it always reflects the current configuration and the
+/// selected layout. Once the connection is lost, no key has a character.
 class XkbKeyboardLayout final : public KeyboardLayout {
  public:
-    /// `display` as in the environment's DISPLAY; null takes it from there. A Problem when there is
-    /// no server, or its keyboard cannot be asked.
+    /// `display` as in DISPLAY; null takes it from the environment. Fails if there is no server, or
+    /// its keyboard cannot be queried.
     [[nodiscard]] static Result<std::unique_ptr<XkbKeyboardLayout>> open(const char* display);
 
     [[nodiscard]] std::string character(std::uint16_t keyCode) const override;
@@ -36,7 +36,7 @@ class XkbKeyboardLayout final : public KeyboardLayout {
 
     Connection _connection;
     XkbContext _context;
-    /// The server's number for it.
+    /// The server's number for the keyboard.
     std::int32_t _keyboard;
 };
 

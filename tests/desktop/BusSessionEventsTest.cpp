@@ -30,7 +30,7 @@ class BusEvents : public testing::Test {
  protected:
     ~BusEvents() override { qunsetenv("XDG_SESSION_ID"); }
 
-    /// Runs the bus's and the test's own events, without letting time pass.
+    /// Runs the bus's and the test's own events, without advancing the clock.
     [[nodiscard]] bool until(const std::function<bool()>& condition) {
         return processUntil([&] {
             loop.advance(0ms);
@@ -38,7 +38,7 @@ class BusEvents : public testing::Test {
             return condition();
         });
     }
-    /// Starts, and waits until everything is watched whose watching waits for no answer.
+    /// Starts, and waits until every watch that needs no reply is set up.
     void start() {
         bus.start(tell);
         ASSERT_TRUE(until([this] { return !log.empty(); }));
@@ -54,7 +54,7 @@ class BusEvents : public testing::Test {
     void await(SessionEvent event) {
         EXPECT_TRUE(until([&] { return std::erase(told, event) != 0; }));
     }
-    /// Waits until everything sent on the session bus has come, which a last event shows.
+    /// Waits until everything sent on the session bus has arrived, using a final marker event.
     void markSession() {
         screenSaver("org.freedesktop.ScreenSaver", false);
         await(SessionEvent::ScreenSaverStopped);
@@ -92,7 +92,7 @@ class BusEvents : public testing::Test {
                          [this](std::string_view line) { log.emplace_back(line); }};
 };
 
-TEST_F(BusEvents, TellsOfWakingThreeTimesUnlessTheMachineSleepsAgain) {
+TEST_F(BusEvents, ReportsWakingThreeTimesUnlessSuspendedAgain) {
     start();
     sleep(true);
     sleep(false);
@@ -111,7 +111,7 @@ TEST_F(BusEvents, TellsOfWakingThreeTimesUnlessTheMachineSleepsAgain) {
     EXPECT_EQ(told.size(), count);
 }
 
-TEST_F(BusEvents, HearsEveryDesktopsScreenSaverAndEveryColourSignal) {
+TEST_F(BusEvents, ReceivesScreenSaverAndColourSignalsOfAllDesktops) {
     start();
     for (const auto* interface :
          {"org.freedesktop.ScreenSaver", "org.gnome.ScreenSaver", "org.cinnamon.ScreenSaver",
@@ -129,7 +129,7 @@ TEST_F(BusEvents, HearsEveryDesktopsScreenSaverAndEveryColourSignal) {
     }
 }
 
-TEST_F(BusEvents, TellsOfASwitchToThisSessionHoweverItIsFound) {
+TEST_F(BusEvents, ReportsSessionSwitchHoweverSessionIsFound) {
     constexpr const char* path = "/org/freedesktop/login1/session/_37";
     const auto ifAskedFor = [](const QVariant& which) -> PrivateBus::Answer {
         return [which](const QVariantList& arguments) {
@@ -169,7 +169,7 @@ TEST_F(BusEvents, TellsOfASwitchToThisSessionHoweverItIsFound) {
     }
 }
 
-TEST_F(BusEvents, TellsOnceOfNamesThatLeaveTogetherAndLogsWhatIsMissing) {
+TEST_F(BusEvents, ReportsNamesLostTogetherOnceAndLogsMissingServices) {
     start();
     EXPECT_THAT(log, ElementsAre(HasSubstr("colour management"), HasSubstr("login service")));
     log.clear();
@@ -191,7 +191,7 @@ TEST_F(BusEvents, TellsOnceOfNamesThatLeaveTogetherAndLogsWhatIsMissing) {
                                                    HasSubstr("session bus has gone")));
 }
 
-TEST_F(BusEvents, HearsTheOtherBusWhileOneHangs) {
+TEST_F(BusEvents, KeepsReceivingWhileOtherBusHangs) {
     system.send(SIGSTOP);
     bus.start(tell);
     EXPECT_TRUE(until([&] {
@@ -206,7 +206,7 @@ TEST_F(BusEvents, HearsTheOtherBusWhileOneHangs) {
 using Settings = DesktopAppearance::Settings;
 using Groups = QMap<QString, QVariantMap>;
 
-TEST(DesktopAppearances, FollowsThePortalAndTellsOfEachChangeOnce) {
+TEST(DesktopAppearances, ReportsEachPortalChangeOnce) {
     PrivateBus session("DBUS_SESSION_BUS_ADDRESS");
     qDBusRegisterMetaType<Groups>();
     const Groups groups{

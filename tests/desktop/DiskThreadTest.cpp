@@ -11,7 +11,7 @@
 namespace tonquil {
 namespace {
 
-TEST(DiskThread, WorksInOrderBesideTheEventLoopAndTellsItThere) {
+TEST(DiskThread, RunsJobsInOrderAndCallsBackOnEventLoop) {
     ManualRunLoop loop;
     std::string told;
     const auto here = std::this_thread::get_id();

@@ -28,7 +28,7 @@ class InstanceSockets : public testing::Test {
         return InstanceSocket::claim(path, loop, hear,
                                      [this](std::string_view line) { log.emplace_back(line); });
     }
-    /// Hands over while this instance goes on.
+    /// Hands over a request while this instance keeps running.
     std::string handOver(const std::string& request) {
         auto answer =
             std::async(std::launch::async, [&] { return InstanceSocket::handOver(path, request); });
@@ -37,7 +37,7 @@ class InstanceSockets : public testing::Test {
         }
         return answer.get().value();
     }
-    /// A program that is none of ours sends these bytes.
+    /// Sends these bytes as a foreign program would.
     [[nodiscard]] FileDescriptor sendRaw(const std::string& bytes) const {
         FileDescriptor client(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
         sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
@@ -53,7 +53,7 @@ class InstanceSockets : public testing::Test {
         while (loop.pollReadable(0ms) != 0) {
         }
     }
-    /// Whether the other end is closed, without an answer.
+    /// Whether the peer has closed the connection without an answer.
     static bool isClosed(const FileDescriptor& client) {
         char letter = 0;
         const auto count = recv(client.get(), &letter, 1, MSG_DONTWAIT);
@@ -70,7 +70,7 @@ class InstanceSockets : public testing::Test {
     };
 };
 
-TEST_F(InstanceSockets, TakesOverTheSocketOfAKilledInstanceOnly) {
+TEST_F(InstanceSockets, TakesOverSocketOnlyFromKilledInstance) {
     const pid_t child = fork();
     if (child == 0) {
         alarm(30);
@@ -94,7 +94,7 @@ TEST_F(InstanceSockets, TakesOverTheSocketOfAKilledInstanceOnly) {
               std::string("heard ").append(InstanceSocket::mostBytes - 6, 'x'));
 }
 
-TEST_F(InstanceSockets, RefusesWhatIsNoRequest) {
+TEST_F(InstanceSockets, RefusesInvalidRequests) {
     const auto listener = claim().value();
     for (const std::string& bytes : {std::string("GET / HTTP/1.0\r\n\r\n"),
                                      std::string("TQL1").append(InstanceSocket::mostBytes + 1, 'x'),
@@ -113,7 +113,7 @@ TEST_F(InstanceSockets, RefusesWhatIsNoRequest) {
     EXPECT_EQ(handOver(""), "heard ") << "it goes on after all of that";
 }
 
-TEST_F(InstanceSockets, DropsSilentClientsAndServesOthersMeanwhile) {
+TEST_F(InstanceSockets, DropsSilentClientsWhileServingOthers) {
     const auto listener = claim().value();
     std::vector<FileDescriptor> silent;
     while (silent.size() + 1 < InstanceSocket::mostClients) {
@@ -122,7 +122,7 @@ TEST_F(InstanceSockets, DropsSilentClientsAndServesOthersMeanwhile) {
     pollAll();
     EXPECT_EQ(handOver("one more"), "heard one more");
     silent.push_back(sendRaw(""));
-    // With eight at once, the ninth waits its turn.
+    // Eight are served at once; the ninth waits its turn.
     const auto waiting = sendRaw(wholeRequest);
     pollAll();
     EXPECT_EQ(requests.size(), 1U);
@@ -132,7 +132,7 @@ TEST_F(InstanceSockets, DropsSilentClientsAndServesOthersMeanwhile) {
     EXPECT_EQ(requests.back(), "show");
 }
 
-TEST_F(InstanceSockets, SurvivesAHandlerThatDestroysTheListener) {
+TEST_F(InstanceSockets, SurvivesHandlerDestroyingListener) {
     std::unique_ptr<InstanceListener> listener;
     hear = [&](const std::string&) {
         listener.reset();
@@ -144,12 +144,12 @@ TEST_F(InstanceSockets, SurvivesAHandlerThatDestroysTheListener) {
     EXPECT_NE(claim().value(), nullptr) << "the place is free";
 }
 
-TEST_F(InstanceSockets, RefusesAnotherUsersProgramAndAFolderOpenToOthers) {
+TEST_F(InstanceSockets, RefusesOtherUsersAndAccessibleFolder) {
     if (geteuid() != 0) {
         GTEST_SKIP() << "only root can be two users";
     }
     const auto listener = claim().value();
-    // As if the folder had been opened behind the program's back.
+    // As if the folder's permissions had been opened up behind the program's back.
     for (const auto& entry : {folder.path(), path.parent_path(), path}) {
         ASSERT_EQ(chmod(entry.c_str(), 0777), 0);
     }

@@ -19,8 +19,8 @@ constexpr std::uint16_t keyZ = 6;
 constexpr std::uint16_t keyEqual = 24;
 constexpr std::uint16_t padSeven = 89;
 
-TEST(NamedKeyboardLayout, KnowsWhatIsPrintedOnTheKeys) {
-    // The Enter of the pad, and no key; the German acute accent waits for a letter.
+TEST(NamedKeyboardLayout, ReturnsKeyLabels) {
+    // The keypad's Enter, and a nonexistent key; the German acute accent is a dead key.
     for (const auto& [name, keyCode, character] : {std::tuple("us", padSeven, "7"),
                                                    {"us", 76, ""},
                                                    {"us", 999, ""},
@@ -35,7 +35,7 @@ TEST(NamedKeyboardLayout, KnowsWhatIsPrintedOnTheKeys) {
     EXPECT_FALSE(NamedKeyboardLayout::open("no such layout"));
 }
 
-TEST(XkbKeyboardLayout, FollowsTheServersLayoutUntilItGoes) {
+TEST(XkbKeyboardLayout, FollowsServerLayoutUntilDisconnected) {
     const auto server = XServer::start({.framebufferOnly = true}).value();
     const XKeyboard keyboard(server->display());
     const auto layout = XkbKeyboardLayout::open(server->display().c_str()).value();

@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(QtRunLoop, CallsInOrderUntilTheHandleOrTheLoopGoes) {
+TEST(QtRunLoop, CallsInOrderUntilHandleOrLoopIsDestroyed) {
     std::optional<QtRunLoop> made(std::in_place);
     QtRunLoop& loop = *made;
     std::string order;
@@ -28,7 +28,7 @@ TEST(QtRunLoop, CallsInOrderUntilTheHandleOrTheLoopGoes) {
         loop.post([&] { order += 'c'; });
         order += 'a';
     });
-    // Each read takes one away.
+    // Each read decrements it.
     const FileDescriptor counter(eventfd(2, EFD_SEMAPHORE | EFD_CLOEXEC));
     const auto start = loop.now();
     std::array<int, 3> calls{};
@@ -54,12 +54,12 @@ TEST(QtRunLoop, CallsInOrderUntilTheHandleOrTheLoopGoes) {
     EXPECT_EQ(calls, final);
 }
 
-TEST(QtRunLoop, LetsAHandleGoFromInsideItsOwnCall) {
+TEST(QtRunLoop, AllowsDestroyingHandleInItsCallback) {
     QtRunLoop loop;
     const FileDescriptor readable(eventfd(1, EFD_CLOEXEC));
     std::array<std::unique_ptr<RunLoop::Handle>, 3> handles;
     std::string calls;
-    // The text shows, to the sanitizers too, that the call outlives its handle.
+    // The captured text lets the sanitizers check that the callback outlives its handle.
     const auto letGo = [&](std::size_t index) {
         return [&, index, text = std::string(100, 'x')] {
             handles.at(index).reset();

@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Raises the signals one after the other in this process, and prints which were told.
+// Raises the signals one after the other in this process, and prints which were reported.
 void raiseAll(const std::vector<int>& signals) {
     ManualRunLoop loop;
     const auto watch = TerminationSignals::watch(
@@ -28,7 +28,7 @@ void raiseAll(const std::vector<int>& signals) {
     std::_Exit(watch ? 0 : 1);
 }
 
-TEST(TerminationSignalsDeathTest, TellsOfTheFirstAndEndsAStuckProgramByASecondOfItsKind) {
+TEST(TerminationSignalsDeathTest, ReportsFirstAndKillsOnSecondOfSameKind) {
     const testing::ExitedWithCode goesOn(0);
     EXPECT_EXIT(raiseAll({SIGINT, SIGINT}), testing::KilledBySignal(SIGINT), "^told 2\\.$");
     EXPECT_EXIT(raiseAll({SIGTERM, SIGHUP, SIGHUP, SIGINT}), goesOn, "^told 15\\.$");
@@ -37,7 +37,7 @@ TEST(TerminationSignalsDeathTest, TellsOfTheFirstAndEndsAStuckProgramByASecondOf
     EXPECT_EXIT(raiseAll({SIGPIPE, SIGPIPE}), goesOn, "^$");
 }
 
-TEST(TerminationSignals, PutsBackWhatWasThereBeforeAndLeavesIgnoredSignalsIgnored) {
+TEST(TerminationSignals, RestoresHandlersAndLeavesIgnoredSignalsIgnored) {
     ManualRunLoop loop;
     std::signal(SIGHUP, SIG_IGN);
     auto watch = TerminationSignals::watch(loop, [](int signal) { ADD_FAILURE() << signal; });

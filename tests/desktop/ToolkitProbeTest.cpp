@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A bus that says the same to everyone, whatever it is asked, and then nothing more.
+/// A bus that sends the same to every client, whatever the request, and then nothing more.
 class HangingBus {
  public:
     explicit HangingBus(std::string words) : _words(std::move(words)) {
@@ -33,7 +33,7 @@ class HangingBus {
     [[nodiscard]] std::string address() const {
         return "unix:path=" + (_folder.path() / "bus").native();
     }
-    /// Speaks to whoever has connected meanwhile.
+    /// Sends to all clients that have connected meanwhile.
     void speak() {
         const int client = accept(_socket.get(), nullptr, nullptr);
         if (client >= 0) {
@@ -50,7 +50,7 @@ class HangingBus {
     std::vector<FileDescriptor> _clients;
 };
 
-/// Probes until a bus that speaks has had its say and all that answers has answered.
+/// Probes until a speaking bus has sent everything and every working bus has answered.
 ToolkitProbe::Obstacles probe(const ToolkitProbe::Addresses& addresses,
                               const std::function<void()>& speak) {
     ManualRunLoop loop;
@@ -66,7 +66,7 @@ ToolkitProbe::Obstacles probe(const ToolkitProbe::Addresses& addresses,
     return found.value_or(ToolkitProbe::Obstacles{});
 }
 
-TEST(ToolkitProbe, KeepsFromTheToolkitABusThatHangsAnywhere) {
+TEST(ToolkitProbe, KeepsHangingBusFromQt) {
     const std::string ok = "OK 0123456789abcdef0123456789abcdef\r\n";
     for (const std::string& words :
          {std::string(), std::string("NONSENSE\r\n"), std::string("REJECTED\r\n"), ok,
@@ -88,10 +88,10 @@ TEST(ToolkitProbe, KeepsFromTheToolkitABusThatHangsAnywhere) {
     }
 }
 
-TEST(ToolkitProbe, KeepsFromTheToolkitAServiceThatIsSilent) {
+TEST(ToolkitProbe, KeepsSilentServiceFromQt) {
     for (const bool isTray : {false, true}) {
         PrivateBus session("DBUS_SESSION_BUS_ADDRESS");
-        // It would answer from the events of Qt, which do not run here.
+        // A service that stays silent: it would answer from Qt's events, which do not run here.
         session.serve(isTray ? "org.kde.StatusNotifierWatcher" : "org.a11y.Bus", "/", {});
         const auto found = probe({.session = sessionBusAddress()}, [] {});
         EXPECT_EQ(found.session, "");

@@ -20,7 +20,7 @@ class X11Desktops : public testing::Test {
         events->start([this](SessionEvent event) { told.push_back(event); });
         loop.advance(0ms);
     }
-    /// The lowest bytes of the windows' numbers, which are four bytes long.
+    /// Takes the lowest bytes of the window IDs, which are four bytes long.
     void setWindows(const std::vector<std::uint8_t>& windows) {
         std::vector<std::uint8_t> bytes;
         for (const std::uint8_t window : windows) {
@@ -29,7 +29,7 @@ class X11Desktops : public testing::Test {
         mustSucceed(server->setRootProperty("_NET_CLIENT_LIST", bytes));
         poll();
     }
-    /// Takes in what the server has sent.
+    /// Handles the server's events.
     void poll() {
         while (loop.pollReadable(50ms) != 0) {
         }
@@ -46,7 +46,7 @@ class X11Desktops : public testing::Test {
             .value();
 };
 
-TEST_F(X11Desktops, TellsOnceOfWindowsThatGoWithinAMomentAndOnceOfALostServer) {
+TEST_F(X11Desktops, ReportsClosedWindowsAndLostServerOnce) {
     setWindows({1, 2, 3, 4, 5});
     loop.advance(1s);
     EXPECT_THAT(told, ElementsAre()) << "these are new";
@@ -68,7 +68,7 @@ TEST_F(X11Desktops, TellsOnceOfWindowsThatGoWithinAMomentAndOnceOfALostServer) {
     EXPECT_EQ(told.size(), 1U);
 }
 
-TEST_F(X11Desktops, TellsOfAProfileGivenToAnyDisplayAndOfTheScreenSaversEnd) {
+TEST_F(X11Desktops, ReportsNewProfilesAndScreenSaverEnd) {
     for (const auto& [property, count] : {std::pair("_ICC_PROFILE", 1U),
                                           {"_ICC_PROFILE_23", 1U},
                                           {"_ICC_PROFILE_IN_X_VERSION", 0U},

@@ -35,10 +35,10 @@ class X11HotKeys : public testing::Test {
     HotKeyHandle add(std::uint16_t keyCode, HotKeyServiceMask modifiers, std::uint32_t id) {
         return service->registerHotKey(keyCode, modifiers, id).value();
     }
-    /// Takes in what the server has sent.
+    /// Handles the server's events.
     void poll() {
         loop.advance(0ms);
-        // A key that is repeated keeps the server talking.
+        // A repeating key keeps the server sending events.
         for (int i = 0; i < 10 && loop.pollReadable(50ms) != 0; ++i) {
         }
     }
@@ -60,7 +60,7 @@ class X11HotKeys : public testing::Test {
     }
 
     ManualRunLoop loop;
-    // Its key codes are those of evdev, as on a desk, where those of the dummy driver are not.
+    // Its key codes are evdev's, as on real hardware; the dummy driver's are not.
     std::unique_ptr<XServer> server = XServer::start({.framebufferOnly = true}).value();
     XKeyboard keyboard{server->display()};
     std::vector<std::string> told;
@@ -72,7 +72,7 @@ class X11HotKeys : public testing::Test {
         }).value();
 };
 
-TEST_F(X11HotKeys, TellsOfPressesAndReleasesWithExactlyTheModifiers) {
+TEST_F(X11HotKeys, ReportsPressesAndReleasesWithExactModifiers) {
     add(virtualA, control | option, 7);
     keyboard.movePointer(300, 200);
     keyboard.press(KEY_LEFTCTRL);
@@ -109,7 +109,7 @@ TEST_F(X11HotKeys, TellsOfPressesAndReleasesWithExactlyTheModifiers) {
     EXPECT_EQ(told.size(), 3U);
 }
 
-TEST_F(X11HotKeys, HearsThroughTheLocksAndOtherLayouts) {
+TEST_F(X11HotKeys, IgnoresLocksAndLayout) {
     runProgram({"setxkbmap", "-layout", "us,ru", "-option", "grp:rctrl_toggle"});
     add(virtualQ, command, 1);
     for (const int key : {KEY_RESERVED, KEY_NUMLOCK, KEY_SCROLLLOCK, KEY_CAPSLOCK, KEY_RIGHTCTRL}) {
@@ -127,7 +127,7 @@ TEST_F(X11HotKeys, HearsThroughTheLocksAndOtherLayouts) {
     EXPECT_NE(last.modifierFlags & ModifierFlag::capsLock, 0U);
 }
 
-TEST_F(X11HotKeys, ReleasesBothOfTwoThatOverlap) {
+TEST_F(X11HotKeys, ReleasesBothOverlappingKeys) {
     add(virtualA, 0, 1);
     const auto second = add(virtualQ, 0, 2);
     runProgram({"xset", "r", "off"});
@@ -149,8 +149,8 @@ TEST_F(X11HotKeys, ReleasesBothOfTwoThatOverlap) {
     EXPECT_EQ(told.size(), 5U) << "it was unregistered while it was held";
 }
 
-TEST_F(X11HotKeys, RefusesWhatIsTakenAndKeepsNothingOfIt) {
-    // The other program holds it only with the caps lock on.
+TEST_F(X11HotKeys, RefusesTakenCombinationCompletely) {
+    // The other program grabs it only with Caps Lock on.
     ASSERT_TRUE(keyboard.grab(KEY_A, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_LOCK));
     const auto refused = service->registerHotKey(virtualA, control, 1);
     ASSERT_FALSE(refused);
@@ -171,7 +171,7 @@ TEST_F(X11HotKeys, RefusesWhatIsTakenAndKeepsNothingOfIt) {
     }
 }
 
-TEST_F(X11HotKeys, FollowsAModifierThatMovesAndRefusesWhatCannotBeHeard) {
+TEST_F(X11HotKeys, FollowsRemappedModifierAndRefusesImpossibleKeys) {
     EXPECT_FALSE(service->registerHotKey(63, control, 1)) << "the fn key";
     EXPECT_FALSE(service->registerHotKey(999, control, 1));
     EXPECT_FALSE(service->registerHotKey(virtualF5, control | option, 1)) << "switches terminals";
@@ -187,11 +187,11 @@ TEST_F(X11HotKeys, FollowsAModifierThatMovesAndRefusesWhatCannotBeHeard) {
     EXPECT_TRUE(keyboard.grab(KEY_A, XCB_MOD_MASK_4)) << "what it no longer is, is given up";
 }
 
-TEST_F(X11HotKeys, TakesAHeldKeyForOnePressUnlessItWasDownBeforeItsRegistration) {
+TEST_F(X11HotKeys, ReportsHeldKeyOnceUnlessDownBeforeRegistration) {
     runProgram({"xset", "r", "rate", "50", "100"});
     press(KEY_F5);
     add(virtualF5, 0, 1);
-    // Real time, since it is the server that repeats.
+    // Real time, because the server does the repeating.
     const auto holdOn = [this] {
         std::size_t readings = 0;
         for (int i = 0; i < 20; ++i) {

@@ -22,7 +22,7 @@ namespace {
 
 using testing::SizeIs;
 
-TEST(Language, IsTheFirstOfThePersonsThatThereIsAndEnglishCounts) {
+TEST(Language, IsUsersFirstAvailableOneIncludingEnglish) {
     const QStringList available = {QStringLiteral("de"), QStringLiteral("ja")};
     const std::vector<std::tuple<QStringList, QString>> rows = {
         {{QStringLiteral("ja_JP"), QStringLiteral("de")}, QStringLiteral("ja")},
@@ -36,7 +36,7 @@ TEST(Language, IsTheFirstOfThePersonsThatThereIsAndEnglishCounts) {
     }
 }
 
-TEST(Windows, SpeakGermanAndWriteNumbersAsBefore) {
+TEST(Windows, ShowGermanTextsWithUnchangedNumberFormat) {
     const Language german(QStringLiteral("de"));
     MissingWindowSystem windowSystem;
     ControlPanel panel(windowSystem);
@@ -45,7 +45,7 @@ TEST(Windows, SpeakGermanAndWriteNumbersAsBefore) {
     EXPECT_EQ(panel.findChild<QCheckBox*>()->text(), QStringLiteral("Korrektur anwenden"));
     EXPECT_EQ(panel.findChildren<QLineEdit*>().first()->text(), QStringLiteral("1.00"));
 
-    // What code without a toolkit says, with and without arguments.
+    // Texts from code without Qt, with and without arguments.
     panel.showSubject({.title = "All displays",
                        .isAllDisplays = true,
                        .obstacle = "The X server has no screen."});
@@ -63,8 +63,7 @@ TEST(Windows, SpeakGermanAndWriteNumbersAsBefore) {
     EXPECT_TRUE(panel.findChild<QMessageBox*>()->informativeText().startsWith(
         QStringLiteral("Es ist kein Bildschirm mit der Referenz-ID 4-%@ angeschlossen.")));
 
-    // In one window however many there are, with parts of the sentence translated as well, and as
-    // plain text.
+    // All in one window, with parts of the sentence translated as well, and as plain text.
     dialogs.alert("Saving failed", "%@ could not be saved: %@.",
                   {"<b>%@</b>", "no space is left on the disk"});
     ASSERT_THAT(panel.findChildren<QMessageBox*>(), SizeIs(1));

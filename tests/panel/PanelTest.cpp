@@ -70,7 +70,7 @@ class Panel : public testing::Test {
         panel.focusMasterOfSelectedTab();
     }
 
-    /// The control of a class, and with the name that a screen reader says if there are several.
+    /// The control of a class, identified by its accessible name if there are several.
     template <typename Control>
     [[nodiscard]] Control& control(const QString& name = {}) const {
         for (QWidget* each : panel.findChildren<QWidget*>()) {
@@ -90,7 +90,7 @@ class Panel : public testing::Test {
     ControlPanel panel{windowSystem};
 };
 
-TEST_F(Panel, ShowsEveryValueInItsOwnControl) {
+TEST_F(Panel, ShowsEachValueInItsOwnControl) {
     PanelValues values;
     for (std::size_t index = 0; index < panelSliderCount; ++index) {
         values.sliders.at(index) = 0.25F + 0.0625F * static_cast<float>(index);
@@ -101,7 +101,7 @@ TEST_F(Panel, ShowsEveryValueInItsOwnControl) {
     EXPECT_EQ(slider(QStringLiteral("Master, White point")).floatValue(), values.sliders[2]);
     EXPECT_EQ(field(QStringLiteral("Blue, Middle point")).floatValue(), values.sliders[8]);
     EXPECT_THAT(actions.calls, IsEmpty()) << "Showing is no edit.";
-    // Neither a value beyond the range nor a mode that is not in the menu is lost.
+    // Neither a value beyond the range nor a mode missing from the menu is lost.
     values[PanelSlider::MiddleRed] = 2.5F;
     values.blendingMode = 7;
     panel.setValues(values);
@@ -110,7 +110,7 @@ TEST_F(Panel, ShowsEveryValueInItsOwnControl) {
     EXPECT_LT(slider(QStringLiteral("Red, Middle point")).maxValue(), 2);
 }
 
-TEST_F(Panel, TellsWhichControlWasMovedAndWhetherItIsLinked) {
+TEST_F(Panel, ReportsMovedControlAndLinking) {
     pressKey(slider(QStringLiteral("Green, Middle point")), Qt::Key_Up);
     pressKey(field(QStringLiteral("Blue, Middle point")), Qt::Key_Down);
     pressKey(field(QStringLiteral("Master, Middle point")), Qt::Key_Up, Qt::ControlModifier);
@@ -119,7 +119,7 @@ TEST_F(Panel, TellsWhichControlWasMovedAndWhetherItIsLinked) {
     EXPECT_NEAR(panel.values()[PanelSlider::MiddleBlue], 0.99, 1e-6);
 }
 
-TEST_F(Panel, DisablesWhatEditsAndGivesTheFocusBack) {
+TEST_F(Panel, DisablesEditingAndRestoresFocus) {
     TQNumericTextField& master = field(QStringLiteral("Master, Middle point"));
     ASSERT_EQ(panel.focusWidget(), &master);
     panel._setControlsEnabled(false);
@@ -130,7 +130,7 @@ TEST_F(Panel, DisablesWhatEditsAndGivesTheFocusBack) {
     panel._setControlsEnabled(true);
     EXPECT_TRUE(master.isEnabled());
     EXPECT_EQ(panel.focusWidget(), &master);
-    // Another tab takes the focus to the same channel.
+    // Selecting another tab moves the focus to the same channel there.
     field(QStringLiteral("Green, Middle point")).setFocus();
     control<TQVibrantMatrix>().cell(0)->click();
     EXPECT_THAT(actions.calls, ElementsAre("tab 0"));
@@ -138,7 +138,7 @@ TEST_F(Panel, DisablesWhatEditsAndGivesTheFocusBack) {
     EXPECT_FALSE(field(QStringLiteral("Green, Middle point")).isVisible());
 }
 
-TEST_F(Panel, KeepsTheFocusInSightInItsCompactForm) {
+TEST_F(Panel, KeepsFocusVisibleInCompactForm) {
     const Rectangle advanced = panel.frame();
     field(QStringLiteral("Red, Middle point")).setFocus();
     panel.setAccessibilityOptions({.reduceMotion = true});
@@ -149,7 +149,7 @@ TEST_F(Panel, KeepsTheFocusInSightInItsCompactForm) {
         pressKey(*panel.focusWidget(), Qt::Key_Tab);
         EXPECT_LT(panel.focusWidget()->mapTo(&panel, QPoint()).y(), panel.height());
     }
-    // What the channel strip stands for stays so when preferences change.
+    // The channel strip keeps its channel when preferences change.
     field(QStringLiteral("Red, Middle point")).setFocus();
     panel._setAdvancedPanel(false);
     EXPECT_EQ(panel.focusWidget(), &field(QStringLiteral("Red, Middle point")));

@@ -20,14 +20,14 @@
 namespace tonquil {
 namespace {
 
-/// Two displays, seen from outside of the service that is being tested.
+/// Two displays, seen from outside the service under test.
 class ServiceBench {
  public:
     virtual ~ServiceBench() = default;
 
-    /// A service as another program would open it, at once with others.
+    /// A service as another program would open it, alongside others.
     [[nodiscard]] virtual std::unique_ptr<DisplayService> openService(Log log) = 0;
-    /// What is on the hardware of the first (0) or second (1) display.
+    /// The hardware ramp of the first (0) or second (1) display.
     [[nodiscard]] virtual HardwareRamp hardwareRamp(int display) = 0;
     virtual void unplugSecond() = 0;
     virtual void plugSecond() = 0;
@@ -59,7 +59,7 @@ class SimulatedBench : public ServiceBench {
     SimulatedDisplay _second = *_desk.find(2);
 };
 
-/// An X server of its own, looked at through the independent reader.
+/// A private X server, read through the independent reader.
 class X11Bench : public ServiceBench {
  public:
     X11Bench() {
@@ -173,7 +173,7 @@ HardwareRamp rampOf(const GammaTable& table) {
     return ramp;
 }
 
-TEST_P(DisplayServiceContract, SetsWhatIsGivenAndReadsTheSystemsTableAfterAnyRestart) {
+TEST_P(DisplayServiceContract, ReadsSystemTableEvenAfterRestart) {
     const GammaTable system = read(0);
     const HardwareRamp other = bench->hardwareRamp(1);
     GammaTable hardware;
@@ -246,7 +246,7 @@ TEST_P(SharedTablesContract, TheProfilesCalibrationIsTheSystemsWhereThereIsOne) 
     }
 }
 
-TEST_P(DisplayServiceContract, LeavesADisplayThatIsGoneAloneAndSaysSoOnce) {
+TEST_P(DisplayServiceContract, IgnoresMissingDisplayAndLogsOnce) {
     const DisplayID second = display(1);
     const HardwareRamp first = bench->hardwareRamp(0);
     bench->unplugSecond();
@@ -271,7 +271,7 @@ TEST_P(DisplayServiceContract, LeavesADisplayThatIsGoneAloneAndSaysSoOnce) {
     EXPECT_EQ(bench->hardwareRamp(1), rampOf(tableOf(4)));
 }
 
-TEST_P(DisplayServiceContract, DisplayZeroIsTheMainOne) {
+TEST_P(DisplayServiceContract, TreatsDisplayZeroAsMain) {
     EXPECT_EQ(service->mainDisplay(), display(0));
     EXPECT_EQ(service->bounds(0), service->bounds(display(0)));
     EXPECT_EQ(service->identity(0).serialNumber, 1U);

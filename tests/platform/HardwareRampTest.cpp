@@ -12,7 +12,7 @@
 namespace tonquil {
 namespace {
 
-TEST(HardwareRamp, Of256EntriesTakesAndGivesEveryEntryExactly) {
+TEST(HardwareRamp, RoundTrips256EntriesExactly) {
     for (std::uint32_t first = 0; first < 65'536; first += 256) {
         HardwareRamp ramp(256);
         for (std::uint32_t i = 0; i < 256; ++i) {
@@ -26,7 +26,7 @@ TEST(HardwareRamp, Of256EntriesTakesAndGivesEveryEntryExactly) {
     }
 }
 
-TEST(HardwareRamp, ResamplesFromEndToEnd) {
+TEST(HardwareRamp, ResamplesEndToEnd) {
     GammaTable table;
     for (std::size_t i = 0; i < 256; ++i) {
         table.channel(0)[i] = static_cast<float>(i) / 255.0F;
@@ -42,7 +42,7 @@ TEST(HardwareRamp, ResamplesFromEndToEnd) {
         GammaTable back;
         const std::uint32_t samples = std::min(size, 256U);
         ASSERT_EQ(ramp.getTable(back), samples);
-        // A straight line stays one: the level is i / (size - 1), within one rounding of the
+        // A linear ramp stays linear: the level is i / (size - 1), within one rounding of the
         // table's singles and one of the entry.
         for (std::uint32_t i = 0; i < size; ++i) {
             ASSERT_NEAR(ramp.channel(0)[i], 65535.0 * i / (size - 1.0), 0.51) << i;
@@ -53,7 +53,7 @@ TEST(HardwareRamp, ResamplesFromEndToEnd) {
     }
 }
 
-TEST(HardwareRamp, ClampsLevelsBeforeItInterpolates) {
+TEST(HardwareRamp, ClampsLevelsBeforeInterpolating) {
     constexpr float infinity = std::numeric_limits<float>::infinity();
     GammaTable wild;
     GammaTable clamped;
@@ -71,7 +71,7 @@ TEST(HardwareRamp, ClampsLevelsBeforeItInterpolates) {
     }
 }
 
-TEST(HardwareRamp, ShorterThanATableTellsWhatWasComputedForItFromWhatWasNot) {
+TEST(HardwareRamp, CopiesTableComputedForShortRamp) {
     GammaTable computed;
     for (std::size_t i = 0; i < 64; ++i) {
         computed.channel(0)[i] = static_cast<float>(i + 1) / 64.0F;
@@ -86,7 +86,7 @@ TEST(HardwareRamp, ShorterThanATableTellsWhatWasComputedForItFromWhatWasNot) {
     EXPECT_EQ(ramp.channel(1)[63], 65535);
 }
 
-TEST(HardwareRamp, FingerprintChangesWithEveryEntryAndWithTheSize) {
+TEST(HardwareRamp, FingerprintDependsOnEveryEntryAndSize) {
     HardwareRamp changed = HardwareRamp::straight(1'023);
     std::set<std::uint64_t> seen{HardwareRamp(4).fingerprint(), HardwareRamp(8).fingerprint()};
     for (std::uint16_t& entry : changed.entries()) {
@@ -96,7 +96,7 @@ TEST(HardwareRamp, FingerprintChangesWithEveryEntryAndWithTheSize) {
     EXPECT_EQ(seen.size(), 2 + 3 * 1'023U);
 }
 
-TEST(RampHistory, ForgetsTheOldestCorrectionsButNobodysLast) {
+TEST(RampHistory, ForgetsOldestCorrectionsExceptHoldersLast) {
     RampHistory history;
     history.addCorrection({.fingerprint = 1, .holder = 1});
     for (std::uint64_t i = 2; i <= RampHistory::mostCorrections + 1; ++i) {

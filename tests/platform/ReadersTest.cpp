@@ -8,8 +8,8 @@
 namespace tonquil {
 namespace {
 
-TEST(Edid, TakesTheSerialTextWhereTheNumberIsAFiller) {
-    // FNV-1a of the text, computed apart: offset 0x811C9DC5, prime 0x01000193.
+TEST(Edid, UsesSerialTextWhenNumberIsFiller) {
+    // FNV-1a of the text, computed independently: offset 0x811C9DC5, prime 0x01000193.
     constexpr std::uint32_t hashOfABC123 = 0x45854FE5U;
     const std::vector<std::tuple<std::uint32_t, std::optional<std::string>, std::uint32_t>> rows{
         {0, "ABC123", hashOfABC123},           {0x01010101U, "ABC123", hashOfABC123},
@@ -21,7 +21,7 @@ TEST(Edid, TakesTheSerialTextWhereTheNumberIsAFiller) {
     }
 }
 
-TEST(Edid, NeedsAWholeBlockWithItsHeader) {
+TEST(Edid, RequiresCompleteBlockWithHeader) {
     auto bytes = buildEdid({.product = 0xA0B1, .serial = 5});
     EXPECT_FALSE(parseEdid(std::span(bytes).first(127)));
     bytes[127] ^= 0xFFU;
@@ -31,7 +31,7 @@ TEST(Edid, NeedsAWholeBlockWithItsHeader) {
     EXPECT_FALSE(parseEdid(bytes));
 }
 
-TEST(X11RampJournal, KeepsWhatIsOursAmongWhatOthersWrote) {
+TEST(X11RampJournal, SkipsForeignData) {
     const HardwareRamp line = HardwareRamp::straight(3);
     std::vector<std::uint32_t> corrections{7};
     std::vector<std::uint32_t> systemRamps;

@@ -12,7 +12,7 @@
 namespace tonquil {
 namespace {
 
-TEST(X11DisplayService, KnowsDisplaysByTheirEdidOrTheirSize) {
+TEST(X11DisplayService, IdentifiesDisplaysByEdidOrSize) {
     const auto server = XServer::start().value();
     mustSucceed(server->setEdid(
         "DUMMY0", buildEdid({.manufacturer = "DEL", .product = 41, .serial = 77, .name = "Left"})));
@@ -41,7 +41,7 @@ TEST(X11DisplayService, KnowsDisplaysByTheirEdidOrTheirSize) {
     EXPECT_EQ(service->description(0).connector, "DUMMY1");
 }
 
-TEST(X11DisplayService, KeepsItsJournalShortAndMendsIt) {
+TEST(X11DisplayService, CompactsAndRepairsJournal) {
     const auto server = XServer::start().value();
     const RampReader reader = RampReader::connect(server->display()).value();
     const Ramp system = reader.read("DUMMY0").value();
@@ -57,7 +57,7 @@ TEST(X11DisplayService, KeepsItsJournalShortAndMendsIt) {
     const auto connection = X11Connection::open(server->display().c_str()).value();
     const auto bytes = connection->rootProperty(connection->correctionsAtom(), 1U << 20U);
     EXPECT_LT(bytes.size(), 32'768U);
-    // Another client replaces it; what is appended to a property of another kind is lost.
+    // Another client replaces it; appending to a property of another type fails.
     for (int round = 0; round < 3; ++round) {
         mustSucceed(server->setRootProperty("_TONQUIL_CORRECTIONS", {1, 2, 3}));
         service->setTransferTable(0, table);

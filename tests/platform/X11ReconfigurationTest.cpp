@@ -21,7 +21,7 @@ using std::chrono::milliseconds;
 
 class X11Reconfigurations : public testing::Test {
  protected:
-    /// Takes in what the server has sent: it has answered, so its events are on the way or here.
+    /// Handles the server's events: it has replied, so they are on the way or here.
     void hear() {
         while (loop.pollReadable(50ms)) {
         }
@@ -46,7 +46,7 @@ class X11Reconfigurations : public testing::Test {
     std::unique_ptr<DisplayService::Subscription> subscription;
 };
 
-TEST_F(X11Reconfigurations, OnePlugIsOneBeginAndOneEnd) {
+TEST_F(X11Reconfigurations, ReportsOnePlugOnce) {
     watch();
     mustSucceed(server->plug("DUMMY1", "1280x1024"));
     hear();
@@ -65,7 +65,7 @@ TEST_F(X11Reconfigurations, OnePlugIsOneBeginAndOneEnd) {
     EXPECT_EQ(std::ranges::count(calls, std::pair(main, endConfiguration)), 1);
 }
 
-TEST_F(X11Reconfigurations, ADisplayThatWasOffForAMomentIsToldAlsoInAStorm) {
+TEST_F(X11Reconfigurations, ReportsDisplayBrieflyOffEvenInStorm) {
     mustSucceed(server->plug("DUMMY1", "1280x1024"));
     const DisplayID second = service->onlineDisplays(25).at(1);
     watch();
@@ -79,7 +79,7 @@ TEST_F(X11Reconfigurations, ADisplayThatWasOffForAMomentIsToldAlsoInAStorm) {
     EXPECT_EQ(calls.front(), std::pair(second, beginConfiguration));
 }
 
-TEST_F(X11Reconfigurations, AnotherMonitorOnTheSameConnectorIsAnotherDisplay) {
+TEST_F(X11Reconfigurations, DistinguishesMonitorsOnSameConnector) {
     ScreenRegistry registry(*service);
     watch();
     const auto plugMonitor = [&](std::uint32_t serial) {
@@ -100,7 +100,7 @@ TEST_F(X11Reconfigurations, AnotherMonitorOnTheSameConnectorIsAnotherDisplay) {
     EXPECT_EQ(plugMonitor(5), first) << "and it is known when it comes back";
 }
 
-TEST_F(X11Reconfigurations, ACrtcThatADisplayLeftGetsItsSystemRampBack) {
+TEST_F(X11Reconfigurations, RestoresSystemRampOfAbandonedCrtc) {
     ASSERT_EQ(service->onlineDisplays(25).size(), 1U);
     mustSucceed(server->plug("DUMMY1", "1280x1024"));
     const Ramp system = reader.read("DUMMY1").value();

@@ -9,8 +9,9 @@ namespace {
 
 constexpr const char* address = "10.98.0.1";
 
-TEST(Companion, FindsSetsAndReadsTheDisplaysAndHearsThatATargetIsClosed) {
-    // What this thread starts from now on is on a network of its own, which leads nowhere.
+TEST(Companion, FindsSetsAndReadsDisplaysAndSeesTargetClose) {
+    // Processes started by this thread from now on have a network namespace of their own, which
+    // leads nowhere.
     if (::unshare(CLONE_NEWNET) != 0 ||
         !run({.command = {"sh", "-ec",
                           "ip link set lo up; ip link add tq0 type veth peer name tq1;"
@@ -43,7 +44,7 @@ TEST(Companion, FindsSetsAndReadsTheDisplaysAndHearsThatATargetIsClosed) {
     remote({"set", address, id, "--content", "colorTargets"});
     const Desk::Place whole{0, 0, 1400, 1050};
     ASSERT_TRUE(eventually([&] { return desk.hasWindow(whole); }));
-    // A curve is not pushed; the end of the target tells of it.
+    // A change of curve is not pushed; the closing of the target is.
     remote({"set", address, id, "--curve", "[1,0.25,1.3]"});
     desk.click(600, 900);
     EXPECT_TRUE(eventually([&] { return !desk.hasWindow(whole); }));

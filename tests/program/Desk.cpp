@@ -39,17 +39,17 @@ Desk::Desk(bool hasWindowManager) {
     std::filesystem::create_directories(folder() / "runtime");
     std::filesystem::permissions(folder() / "runtime", std::filesystem::perms::owner_all);
     std::filesystem::create_directories(folder() / "config/tonquil");
-    // One family for all that asks for any: the panel is as high here as everywhere.
+    // One font family for every request, so that the panel has the same height everywhere.
     std::ofstream(folder() / "fonts.conf")
         << "<fontconfig><dir>/usr/share/fonts/truetype/dejavu</dir>"
            "<cachedir>/var/cache/fontconfig</cachedir><match><edit name=\"family\" mode=\"assign\" "
            "binding=\"strong\"><string>DejaVu Sans</string></edit></match></fontconfig>";
     if (hasWindowManager) {
         ProcessRequest openbox = requestFor({"openbox"});
-        // Its themes are there.
+        // Its themes are in the data folders that the desk hides.
         openbox.environment.erase("XDG_DATA_DIRS");
         _manager = BackgroundProcess::start(openbox).value();
-        // It is there when it has put its name up.
+        // Openbox is ready once it has announced its name.
         EXPECT_TRUE(eventually([this] {
             return run({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"})
                        .standardOutput.find("window id") != std::string::npos;
@@ -65,13 +65,13 @@ ProcessRequest Desk::requestFor(const std::vector<std::string>& command) const {
                             {"XDG_CONFIG_HOME", home + "/config"},
                             {"XDG_STATE_HOME", home + "/state"},
                             {"XDG_RUNTIME_DIR", home + "/runtime"},
-                            // No program of this machine that changes ramps is found either.
+                            // Hides any programs of this machine that change ramps, too.
                             {"XDG_DATA_HOME", home + "/data"},
                             {"XDG_DATA_DIRS", home + "/none"},
                             {"LC_ALL", "C.UTF-8"},
                             {"FONTCONFIG_FILE", home + "/fonts.conf"},
-                            // Neither bus is there, whatever this machine has, until a test
-                            // starts one for the session; then all controls are told on it.
+                            // Neither bus exists, whatever this machine has, until a test starts
+                            // one for the session; then all controls are reported on it.
                             {"DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + home + "/none"},
                             {"DBUS_SESSION_BUS_ADDRESS", "unix:path=" + home + "/session-bus"},
                             {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"}},
@@ -162,7 +162,7 @@ void Desk::drag(int row, double end) const {
     const int from = place.x + place.width * 2 / 5;
     const int to = place.x + static_cast<int>(place.width * end);
     const std::string y = std::to_string(place.y + row);
-    // A hand takes a moment between coming to the panel and pressing.
+    // A user takes a moment between reaching the panel and pressing.
     std::vector<std::string> moves{"mousemove", std::to_string(from), y,  "sleep",
                                    "0.1",       "mousedown",          "1"};
     for (int x = from; x != to; x += to > from ? 1 : -1) {

@@ -17,30 +17,30 @@
 namespace tonquil {
 
 /// A desk for the real program: an X server with two displays side by side (DUMMY0 at 1400x1050,
-/// DUMMY1 at 1280x1024), a window manager, a hand at the pointer, and one person's folders.
+/// DUMMY1 at 1280x1024), a window manager, pointer input, and one user's folders.
 class Desk {
  public:
     explicit Desk(bool hasWindowManager = true);
 
-    /// Starts the program and waits for its panel. The preferences are laid over those of an
-    /// earlier run; unless they say otherwise, the panel is on the left display.
+    /// Starts the program and waits for its panel. The preferences are added to those of an earlier
+    /// run; by default the panel is on the left display.
     void start(const PropertyValue& preferences = PropertyValue::object());
     /// The same without waiting, with the preferences as they are.
     void startWithoutPanel();
-    /// Runs the program beside the one that runs, which takes it well.
+    /// Runs a second instance of the program, which must succeed.
     void request(const std::string& argument) const;
     [[nodiscard]] BackgroundProcess& program() { return *_program; }
-    /// Waits for the program's end and gives its exit status; -1 when it does not end.
+    /// Waits for the program to end and returns its exit status; -1 if it does not end.
     [[nodiscard]] int waitForEnd();
 
-    /// Runs a program of the desk to its end.
+    /// Runs a program on the desk to its end.
     [[nodiscard]] ProcessResult run(const std::vector<std::string>& command) const;
-    /// Runs a program of the desk until what is given is destroyed.
+    /// Runs a program on the desk until the returned object is destroyed.
     [[nodiscard]] std::unique_ptr<BackgroundProcess> begin(
         const std::vector<std::string>& command) const;
     void xdotool(std::vector<std::string> arguments) const;
 
-    /// A window's place, in pixels; nothing of a window that is not there.
+    /// A window's rectangle, in pixels; empty for a missing window.
     struct Place {
         int x = 0;
         int y = 0;
@@ -55,18 +55,18 @@ class Desk {
     [[nodiscard]] std::vector<Place> windows(const char* by = "--class",
                                              const char* pattern = "^tonquil$") const;
     [[nodiscard]] bool hasWindow(const Place& place) const;
-    /// Where the pointer is; of no size.
+    /// The pointer's position; of size 0.
     [[nodiscard]] Place pointer() const;
     void movePointer(int x, int y) const;
     void click(int x, int y, const char* button = "1") const;
     /// Drags along a row of the panel (its centre's distance from the upper edge) to the right,
-    /// from 40 % of its width to `end` (0 to 1), and lets go.
+    /// from 40 % of its width to `end` (0 to 1), and releases.
     void drag(int row, double end) const;
-    /// The rows of the panel that a drag can go along, for the font that the tests use.
+    /// The rows of the panel that can be dragged along, for the tests' font.
     static constexpr int masterRow = 76;
     static constexpr int redRow = 156;
-    /// Corrects a display, under the panel, by a drag of the master; gives the ramp that it has
-    /// once all of the drag has arrived.
+    /// Corrects a display below the panel by dragging the master; returns its ramp once the whole
+    /// drag has arrived.
     Ramp correct(const std::string& connector = "DUMMY0", double end = 0.6) const;
 
     [[nodiscard]] Ramp ramp(const std::string& connector = "DUMMY0") const;
@@ -74,7 +74,7 @@ class Desk {
 
     [[nodiscard]] std::filesystem::path folder() const { return _folder.path(); }
     [[nodiscard]] std::filesystem::path recoveryFile() const;
-    /// What is stored; an empty dictionary when there is nothing.
+    /// The stored preferences; an empty dictionary if there are none.
     [[nodiscard]] PropertyValue preferences() const;
     /// Changes the stored preferences, as another program would.
     void writePreferences(const PropertyValue& changes) const;
@@ -89,7 +89,7 @@ class Desk {
     std::unique_ptr<BackgroundProcess> _program;
 };
 
-/// Asks until the answer is yes, for at most 20 seconds; gives the last answer.
+/// Polls until the answer is yes, for at most 20 seconds; returns the last answer.
 [[nodiscard]] bool eventually(const std::function<bool()>& question);
 /// Whether the answer stays yes for a while.
 [[nodiscard]] bool stays(const std::function<bool()>& question,

@@ -10,7 +10,7 @@ using std::chrono::milliseconds;
 
 constexpr int controlAndShift = 0x40000 | 0x20000;
 
-/// Control+Shift+F5 switches the correction, and with F6 it shows the panel.
+/// Control+Shift+F5 toggles the correction; with F6 it shows the panel.
 const PropertyValue hotKeys = {
     {"UseHotKey", true},   {"UseHotKeyCode", 96},   {"UseHotKeyModifiers", controlAndShift},
     {"PanelHotKey", true}, {"PanelHotKeyCode", 97}, {"PanelHotKeyModifiers", controlAndShift}};
@@ -34,7 +34,8 @@ class HotKeys : public testing::Test {
         press(key);
         release(key);
     }
-    /// Shows the panel by a tap at a place; gives where the pointer then is on the panel.
+    /// Shows the panel by tapping its hot key with the pointer at a position; returns the pointer's
+    /// position on the panel afterwards.
     [[nodiscard]] Desk::Place pointerOnPanelAfterTapAt(int x, int y) const {
         desk.movePointer(x, y);
         tap("F6");
@@ -60,8 +61,8 @@ class HotKeys : public testing::Test {
     Ramp neutral;
 };
 
-TEST_F(HotKeys, ToggleTheCorrectionAndBringTheKnobToThePointerToThePixel) {
-    // A drag leaves the knob where it ends, so the panel itself says where that is.
+TEST_F(HotKeys, ToggleCorrectionAndAlignKnobWithPointer) {
+    // A drag leaves the knob where it ends, so the panel itself shows where that is.
     const Ramp corrected = desk.correct("DUMMY0", 0.6);
     const int knobX = desk.panel().width * 6 / 10;
     tap("F5");
@@ -76,7 +77,7 @@ TEST_F(HotKeys, ToggleTheCorrectionAndBringTheKnobToThePointerToThePixel) {
     EXPECT_NEAR(knob.y, Desk::masterRow, 12);
     EXPECT_TRUE(stays([&] { return desk.hasPanel(); })) << "A tap leaves it.";
     hidePanel();
-    // Near an edge the panel stays on its display, and the pointer comes to the knob.
+    // Near an edge the panel stays on its display, and the pointer moves to the knob.
     for (const auto& [x, y] : {std::pair(3, 3), {1397, 1047}}) {
         SCOPED_TRACE(x);
         EXPECT_EQ(pointerOnPanelAfterTapAt(x, y), knob);
@@ -85,8 +86,8 @@ TEST_F(HotKeys, ToggleTheCorrectionAndBringTheKnobToThePointerToThePixel) {
                     panel.y + panel.height <= 1050);
         hidePanel();
     }
-    // The other display's curve is neutral, which is the middle of the slider. That is so also in
-    // a run that has never shown the panel.
+    // The other display's curve is neutral, which is the middle of the slider. That is so even in a
+    // run that has never shown the panel.
     const Desk::Place middle = pointerOnPanelAfterTapAt(2000, 500);
     EXPECT_EQ(desk.pointer(), (Desk::Place{2000, 500}));
     EXPECT_LT(middle.x, knob.x - 10);
@@ -96,13 +97,14 @@ TEST_F(HotKeys, ToggleTheCorrectionAndBringTheKnobToThePointerToThePixel) {
     desk.writePreferences({{"ShowAtLaunch", false}});
     EXPECT_TRUE(desk.run({TONQUILCTL, "restore"}).succeeded());
     desk.startWithoutPanel();
-    // It has the place by then; a request before that would be the first instance itself.
+    // By then it holds the instance's place; an earlier request would become the first instance
+    // itself.
     ASSERT_TRUE(eventually([&] { return desk.ramp() == corrected; }));
     ASSERT_TRUE(eventually([&] { return desk.run({TONQUIL, "--on"}).succeeded(); }));
     EXPECT_EQ(pointerOnPanelAfterTapAt(1900, 500), middle);
 }
 
-TEST_F(HotKeys, ShowThePanelWhileHeldAndPutEverythingBack) {
+TEST_F(HotKeys, ShowPanelWhileHeldAndRestoreEverything) {
     hidePanel();
     for (const bool isMoved : {false, true}) {
         SCOPED_TRACE(isMoved);

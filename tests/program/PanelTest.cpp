@@ -6,7 +6,7 @@
 namespace tonquil {
 namespace {
 
-TEST(Panel, CorrectsTheDisplayUnderItOrAllAndKeepsItsUpperEdge) {
+TEST(Panel, CorrectsDisplayUnderItOrAllAndKeepsUpperEdge) {
     Desk desk;
     desk.start();
     const Ramp right = desk.ramp("DUMMY1");
@@ -14,7 +14,7 @@ TEST(Panel, CorrectsTheDisplayUnderItOrAllAndKeepsItsUpperEdge) {
     EXPECT_EQ(desk.ramp("DUMMY1"), right);
     const auto desktop = desk.run({"xprop", "-name", "Tonquil", "_NET_WM_DESKTOP"});
     EXPECT_NE(desktop.standardOutput.find("4294967295"), std::string::npos) << "on all workspaces";
-    // It is moved by its upper edge, also by the display's name in the middle.
+    // It can be dragged by its upper edge, even by the display's name in the middle.
     desk.xdotool({"mousemove", "360", "214", "sleep", "0.1", "mousedown", "1", "mousemove", "390",
                   "214", "sleep", "0.2", "mousemove", "1860", "214", "mouseup", "1"});
     ASSERT_TRUE(eventually([&] { return desk.panel().x > 1600; }));
@@ -33,7 +33,7 @@ TEST(Panel, CorrectsTheDisplayUnderItOrAllAndKeepsItsUpperEdge) {
     EXPECT_TRUE(eventually([&] { return desk.panel() == advanced; }));
 }
 
-TEST(Panel, StepsByWheelAndKeysUndoesAndLinksTheColoursByShift) {
+TEST(Panel, StepsByWheelAndKeysUndoesAndLinksByShift) {
     Desk desk;
     desk.start();
     const Ramp neutral = desk.ramp();
@@ -68,7 +68,7 @@ TEST(Panel, StepsByWheelAndKeysUndoesAndLinksTheColoursByShift) {
     }));
 }
 
-TEST(Panel, LeavesTheKeyboardToTheWindowInFrontUntilAFieldIsClicked) {
+TEST(Panel, LeavesFocusToFrontWindowUntilFieldIsClicked) {
     Desk desk;
     desk.start();
     desk.click(900, 900);
@@ -84,7 +84,7 @@ TEST(Panel, LeavesTheKeyboardToTheWindowInFrontUntilAFieldIsClicked) {
         return hints.find(answer) != std::string::npos;
     };
     EXPECT_TRUE(accepts("input focus: False"));
-    // Some window managers decide at the press.
+    // Some window managers decide on the press.
     const Desk::Place place = desk.panel();
     desk.movePointer(place.x + place.width - 30, place.y + Desk::masterRow);
     EXPECT_TRUE(eventually([&] { return accepts("input focus: True"); }));

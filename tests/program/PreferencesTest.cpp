@@ -79,7 +79,7 @@ constexpr std::array settings{
     Setting{check, "Switch the correction on or off", "UseHotKey", true},
     Setting{check, "Show the panel under the pointer", "PanelHotKey", true}};
 
-TEST_F(Preferences, AreStoredByAClickTakeEffectAndAreKeptByTheNextStart) {
+TEST_F(Preferences, AreStoredTakeEffectAndSurviveRestart) {
     const Ramp neutral = desk.ramp();
     desk.start({{"Window Frame ControlWindow", "1000 200 320 470"}});
     const int advanced = desk.panel().height;
@@ -97,7 +97,7 @@ TEST_F(Preferences, AreStoredByAClickTakeEffectAndAreKeptByTheNextStart) {
         << "It starts without correcting.";
     EXPECT_FALSE(desk.hasPanel()) << "It starts without its panel.";
     open();
-    // Each shows what is stored: another click takes the boxes back.
+    // Each shows the stored value: another click restores the boxes.
     for (const Setting& setting : settings) {
         EXPECT_TRUE(hasSetting(setting.key, setting.value)) << setting.key;
         if (setting.role == check) {
@@ -132,7 +132,7 @@ TEST_F(Preferences, ComeBackWhereTheirWindowWasAndWriteAnEntryThatStartsTheProgr
     click(check, "Start Tonquil at login");
     const auto entry = desk.folder() / "config/autostart/tonquil.desktop";
     ASSERT_TRUE(eventually([&] { return std::filesystem::exists(entry); }));
-    // A program that lies here and not where programs are installed comes with advice.
+    // A program that runs from here, and not from where programs are installed, shows advice.
     EXPECT_TRUE(eventually([&] { return desk.windows().size() == 3; }));
     desk.xdotool({"key", "Return"});
     EXPECT_TRUE(eventually([&] { return desk.windows().size() == 2; }));

@@ -31,7 +31,7 @@ class Run : public testing::Test {
     Ramp corrected;
 };
 
-TEST_F(Run, TakesRequestsOfOtherStartsAndUndoesForeignRamps) {
+TEST_F(Run, AcceptsRequestsAndUndoesForeignRamps) {
     startCorrected();
     desk.request("--off");
     EXPECT_TRUE(becomes(neutral));
@@ -43,7 +43,7 @@ TEST_F(Run, TakesRequestsOfOtherStartsAndUndoesForeignRamps) {
     EXPECT_TRUE(becomes(corrected));
 }
 
-TEST_F(Run, GivesDisplaysThatComeBackTheirCurveAndStartsWithoutAny) {
+TEST_F(Run, RestoresCurvesOnReplugAndStartsWithoutDisplays) {
     desk.start({{"Window Frame ControlWindow", "1700 200 320 470"}});
     const auto hasUpdated = [&] {
         return desk.program().standardError().find("Updating screen list.") != std::string::npos;
@@ -65,9 +65,9 @@ TEST_F(Run, GivesDisplaysThatComeBackTheirCurveAndStartsWithoutAny) {
     EXPECT_TRUE(desk.program().isRunning()) << desk.program().standardError();
 }
 
-TEST_F(Run, KeepsTheCurvesWhateverEndsIt) {
+TEST_F(Run, KeepsCurvesHoweverItEnds) {
     startCorrected();
-    // The curve that is kept is the last one of the drag within half a second.
+    // The stored curve is the drag's final one within half a second.
     ASSERT_TRUE(eventually([&] { return std::filesystem::exists(desk.recoveryFile()); }));
     std::this_thread::sleep_for(std::chrono::seconds(1));
     for (const int signal : {SIGKILL, SIGTERM, 0}) {
@@ -82,7 +82,7 @@ TEST_F(Run, KeepsTheCurvesWhateverEndsIt) {
         EXPECT_EQ(std::filesystem::exists(desk.recoveryFile()), signal == SIGKILL);
         desk.start();
         EXPECT_EQ(desk.ramp(), corrected) << "Nothing is corrected twice.";
-        // The ramp outlives the program, so that alone tells nothing of what a start knows.
+        // The ramp outlives the program, so it alone does not show what a new start knows.
         desk.request("--off");
         EXPECT_TRUE(becomes(neutral));
         desk.request("--on");
@@ -96,7 +96,7 @@ TEST_F(Run, KeepsTheCurvesWhateverEndsIt) {
     EXPECT_FALSE(std::filesystem::exists(desk.recoveryFile()));
 }
 
-TEST_F(Run, WaitsWithRequestsButNotWithItsEndWhileItAsksOfARival) {
+TEST_F(Run, DelaysRequestsButNotShutdownDuringRivalAlert) {
     const auto programs = desk.folder() / "data/applications";
     std::filesystem::create_directories(programs);
     std::ofstream(programs / "redshift.desktop")
@@ -121,13 +121,13 @@ TEST_F(Run, WaitsWithRequestsButNotWithItsEndWhileItAsksOfARival) {
     EXPECT_TRUE(eventually([&] { return desk.windows().size() == 2; })) << "Panel, preferences.";
 }
 
-TEST(RunAlone, ShowsItsPanelWithoutStandardStreams) {
+TEST(RunAlone, ShowsPanelWithoutStandardStreams) {
     const Desk desk;
     const auto program = desk.begin({"sh", "-c", "exec " TONQUIL " <&- >&- 2>&-"});
     EXPECT_TRUE(eventually([&] { return desk.hasPanel(); }));
 }
 
-TEST(RunAlone, WorksWithoutAWindowManagerAndSaysWhenThereIsNoServer) {
+TEST(RunAlone, WorksWithoutWindowManagerAndReportsMissingServer) {
     Desk desk(false);
     desk.start();
     EXPECT_THAT(desk.program().standardError(), HasSubstr("no window manager"));

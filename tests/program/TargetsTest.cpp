@@ -10,7 +10,7 @@
 namespace tonquil {
 namespace {
 
-TEST(CommandLine, CoversADisplayWithATargetAndOpensAFileInTheRunningProgram) {
+TEST(CommandLine, CoversDisplayAndOpensFileInRunningProgram) {
     Desk desk;
     desk.start();
     const Desk::Place whole{1400, 0, 1280, 1024};
@@ -42,7 +42,7 @@ TEST(CommandLine, CoversADisplayWithATargetAndOpensAFileInTheRunningProgram) {
     EXPECT_TRUE(eventually([&] { return desk.ramp() != before; }));
 }
 
-TEST(CommandLine, BringsBackAWindowThatIsMinimisedOrOnAnotherWorkspace) {
+TEST(CommandLine, BringsBackMinimisedOrOffWorkspaceWindow) {
     Desk desk;
     desk.start();
     desk.xdotool({"set_num_desktops", "2"});
@@ -67,7 +67,7 @@ TEST(CommandLine, BringsBackAWindowThatIsMinimisedOrOnAnotherWorkspace) {
         ASSERT_TRUE(eventually([&] { return !isOnOne || !isInFront(); }));
         ask();
         EXPECT_EQ(desk.run({"xdotool", "get_desktop"}).standardOutput, "1\n");
-        // All workspaces have the number -1.
+        // -1 stands for all workspaces.
         EXPECT_EQ(desk.run({"xdotool", "getactivewindow", "get_desktop_for_window"}).standardOutput,
                   isOnOne ? "1\n" : "-1\n");
         desk.xdotool({"set_desktop", "0"});

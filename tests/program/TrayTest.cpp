@@ -19,7 +19,7 @@ class Tray : public testing::Test {
     void startTray() {
         tray = desk.begin({"trayer", "--edge", "bottom", "--align", "left", "--monitor", "0"});
     }
-    /// The first window of a height between these, once there is one, or of none.
+    /// Waits for the first window with a height in this range; an empty rectangle if there is none.
     [[nodiscard]] Desk::Place find(int least, int most) const {
         const auto all = desk.windows();
         const auto found = std::ranges::find_if(all, [&](const Desk::Place& place) {
@@ -43,7 +43,7 @@ class Tray : public testing::Test {
     std::unique_ptr<BackgroundProcess> tray;
 };
 
-TEST_F(Tray, HasAMenuThatSwitchesTheCorrectionAndAClickShowsThePanel) {
+TEST_F(Tray, TogglesCorrectionByMenuAndShowsPanelByClick) {
     const Ramp neutral = desk.ramp();
     startTray();
     desk.start({{"ShowStatusItem", 1}});
@@ -51,7 +51,7 @@ TEST_F(Tray, HasAMenuThatSwitchesTheCorrectionAndAClickShowsThePanel) {
     desk.correct();
     clickIcon("3");
     ASSERT_TRUE(eventually([&] { return find(iconHeight, menuHeight).width > 0; }));
-    // "Apply correction" is the first.
+    // "Apply correction" is the first entry.
     const Desk::Place menu = find(iconHeight, menuHeight);
     desk.click(menu.x + 40, menu.y + 12);
     EXPECT_TRUE(eventually([&] { return desk.ramp() == neutral; }));
@@ -62,7 +62,7 @@ TEST_F(Tray, HasAMenuThatSwitchesTheCorrectionAndAClickShowsThePanel) {
     EXPECT_TRUE(eventually([&] { return desk.hasPanel(); }));
 }
 
-TEST_F(Tray, MayComeLateAndTheTaskBarStandsInForIt) {
+TEST_F(Tray, MayAppearLateWithTaskBarAsFallback) {
     desk.start({{"ShowStatusItem", 1}});
     EXPECT_TRUE(stays([&] { return !hasIcon(); }));
     EXPECT_TRUE(isInTaskBar()) << "without a tray";

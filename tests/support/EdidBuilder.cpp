@@ -8,7 +8,7 @@ namespace tonquil {
 
 namespace {
 
-// A text ends with a line feed and is filled with spaces, unless it takes all the room.
+// A text ends with a line feed and is padded with spaces, unless it fills the field.
 void putText(std::vector<std::uint8_t>& edid, std::size_t start, std::uint8_t kind,
              std::string_view text) {
     edid[start + 3] = kind;
@@ -22,7 +22,7 @@ void putText(std::vector<std::uint8_t>& edid, std::size_t start, std::uint8_t ki
 
 std::vector<std::uint8_t> buildEdid(const EdidDescription& description) {
     // A digital sRGB display of 60 by 34 cm and 1920x1080 pixels at 60 Hz, made in the first week
-    // of 2021. What follows are three unused descriptors, no extension and the checksum.
+    // of 2021. Then follow three unused descriptors, no extension and the checksum.
     std::vector<std::uint8_t> edid{
         0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,
         0x00, 0x01, 0x1F, 0x01, 0x04, 0xA5, 0x3C, 0x22, 0x78, 0x06, 0xEE, 0x91, 0xA3, 0x54, 0x4C,
@@ -36,7 +36,7 @@ std::vector<std::uint8_t> buildEdid(const EdidDescription& description) {
             edid[start + index] = static_cast<std::uint8_t>(number >> (8U * index));
         }
     };
-    // Five bits a letter, A as 1, the first letter highest.
+    // Five bits per letter, A as 1, the first letter highest.
     std::uint32_t code = 0;
     for (const char letter : description.manufacturer) {
         code = (code << 5U) | (static_cast<std::uint32_t>(letter - '@') & 0x1FU);

@@ -8,13 +8,13 @@
 
 namespace tonquil {
 
-/// What a made-up display says of itself.
+/// The identity of a made-up display.
 struct EdidDescription {
     /// Three capital letters.
     std::string manufacturer = "TQL";
     std::uint16_t product = 1;
     std::uint32_t serial = 0;
-    /// At most 13 characters; what is longer is cut, as the format has no room for more.
+    /// At most 13 characters; longer text is cut, because the format has no room for more.
     std::optional<std::string> serialText = std::nullopt;
     std::optional<std::string> name = std::nullopt;
 };

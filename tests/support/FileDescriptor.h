@@ -7,7 +7,6 @@
 
 namespace tonquil {
 
-/// An open descriptor, closed with this object.
 class FileDescriptor {
  public:
     explicit FileDescriptor(int descriptor) : _descriptor(descriptor) {}

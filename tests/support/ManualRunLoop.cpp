@@ -12,7 +12,7 @@ namespace tonquil {
 struct ManualRunLoop::Entry {
     Call call;
     Clock::time_point due{};
-    /// Zero for a timer that fires once.
+    /// Zero for a single-shot timer.
     std::chrono::milliseconds interval{};
     int descriptor = -1;
     std::uint64_t order = 0;
@@ -87,7 +87,7 @@ std::size_t ManualRunLoop::pollReadable(std::chrono::milliseconds timeout) {
     std::vector<pollfd> polled;
     for (const auto& weak : watches) {
         const auto watch = weak.lock();
-        // A negative descriptor is passed over.
+        // poll() ignores a negative descriptor.
         polled.push_back({watch ? watch->descriptor : -1, POLLIN, 0});
     }
     poll(polled.data(), polled.size(), static_cast<int>(timeout.count()));

@@ -12,10 +12,10 @@
 
 namespace tonquil {
 
-/// A run loop that a test drives by hand: time stands still until `advance`.
+/// A manually driven run loop: time stands still until `advance`.
 ///
-/// The clock starts at zero. Nothing is ever called but from `advance`, `runPosted` and
-/// `pollReadable`. Handles may outlive the loop.
+/// The clock starts at zero. Callbacks only run from `advance`, `runPosted` and `pollReadable`.
+/// Handles may outlive the loop.
 class ManualRunLoop final : public RunLoop {
  public:
     [[nodiscard]] Clock::time_point now() const override { return _now; }
@@ -27,21 +27,22 @@ class ManualRunLoop final : public RunLoop {
     [[nodiscard]] std::unique_ptr<Handle> watchReadable(int descriptor, Call call) override;
     void post(Call call) override { _posted.push_back(std::move(call)); }
 
-    /// Moves the clock on and fires what falls due on the way, in order of time and of making, what
-    /// is posted running in between. During a call the clock shows the time at which it was due.
+    /// Advances the clock and fires the timers due on the way, in order of time and creation,
+    /// running posted calls in between. During a call the clock shows the time at which it was due.
     void advance(std::chrono::milliseconds duration);
 
-    /// Runs what is posted, including what that posts in turn; gives the number of calls.
+    /// Runs posted calls, including those they post in turn; returns the number of calls.
     std::size_t runPosted();
 
-    /// Waits up to `timeout` of real time for a watched descriptor, calls for the readable and runs
-    /// what is posted; the clock stays. Gives the number of watches called.
+    /// Waits up to `timeout` of real time for a watched file descriptor, calls the watches that are
+    /// readable and runs posted calls; the clock does not move. Returns the number of watches
+    /// called.
     std::size_t pollReadable(std::chrono::milliseconds timeout);
 
  private:
     struct Entry;
     struct EntryHandle;
-    // The handle owns its entry, which is shared only while it is called.
+    // The handle owns its entry, which is shared only while it is being called.
     using Entries = std::vector<std::weak_ptr<Entry>>;
 
     std::unique_ptr<Handle> add(Entries& entries, Entry entry);

@@ -6,7 +6,7 @@
 
 namespace tonquil {
 
-/// While it lives, this process has none of the privileges that root has over permissions.
+/// While it lives, this process lacks root's privilege to bypass file permissions.
 class OrdinaryUser {
  public:
     OrdinaryUser() {
@@ -15,7 +15,7 @@ class OrdinaryUser {
     }
     ~OrdinaryUser() {
         if (_isChanged && ::seteuid(0) == 0 && ::setegid(0) == 0) {
-            // A change of user forbids tracing, which the leak sanitizer needs.
+            // Changing the user disables ptrace, which the leak sanitizer needs.
             ::prctl(PR_SET_DUMPABLE, 1);
         }
     }

@@ -35,7 +35,7 @@ BackgroundProcess::BackgroundProcess()
 
 Result<std::unique_ptr<BackgroundProcess>> BackgroundProcess::start(const ProcessRequest& request) {
     std::unique_ptr<BackgroundProcess> made(new BackgroundProcess);
-    // It sees to the environment, and to the 127.
+    // `env` sets up the environment, and produces the exit status 127.
     std::vector<std::string> command{"env"};
     for (const auto& name : request.unset) {
         command.insert(command.end(), {"-u", name});
@@ -44,7 +44,7 @@ Result<std::unique_ptr<BackgroundProcess>> BackgroundProcess::start(const Proces
         command.emplace_back(name).append("=").append(value);
     }
     command.insert(command.end(), request.command.begin(), request.command.end());
-    // All is made ready before the fork, after which the child must not allocate.
+    // Everything is prepared before the fork, because the child must not allocate after it.
     std::vector<char*> arguments;
     for (auto& text : command) {
         arguments.push_back(text.data());
@@ -58,7 +58,7 @@ Result<std::unique_ptr<BackgroundProcess>> BackgroundProcess::start(const Proces
     if (made->_pid == 0) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         sigprocmask(SIG_SETMASK, &none, nullptr);
-        // The parent may have died before it was asked for its death.
+        // The parent may have died before the death signal was requested.
         if (getppid() == parent && dup2(input.get(), 0) == 0 && dup2(made->_output.get(), 1) == 1 &&
             dup2(made->_error.get(), 2) == 2) {
             execvp(arguments.front(), arguments.data());
@@ -81,7 +81,7 @@ std::string BackgroundProcess::standardError() const {
 }
 
 void BackgroundProcess::send(int signal) {
-    // Until it has been waited for, its number cannot pass to another process.
+    // Until it has been waited for, its process ID cannot be reused.
     if (!_status) {
         ::kill(_pid, signal);
     }
@@ -111,7 +111,7 @@ bool BackgroundProcess::waitForOutput(std::string_view text, std::chrono::millis
     const auto deadline = SteadyClock::now() + limit;
     for (bool goesOn = true; goesOn;) {
         goesOn = !wait(std::chrono::milliseconds(5)) && SteadyClock::now() < deadline;
-        // It may write the text as the last thing it does, so this comes after.
+        // Checked after the wait, because the program may write the text as its last action.
         if (standardOutput().find(text) != std::string::npos) {
             return true;
         }

@@ -17,13 +17,13 @@
 
 namespace tonquil {
 
-/// What to run.
+/// The program to run.
 struct ProcessRequest {
-    /// The program, looked up in PATH when it has no slash, and its arguments.
+    /// The program, looked up in PATH if it has no slash, and its arguments.
     std::vector<std::string> command;
-    /// Added to the environment of this program, or replacing what it holds.
+    /// Added to this program's environment, or overriding it.
     std::map<std::string, std::string> environment = {};
-    /// Names taken out of the environment.
+    /// Variables removed from the environment.
     std::vector<std::string> unset = {};
 };
 
@@ -37,10 +37,10 @@ struct ProcessResult {
     [[nodiscard]] bool succeeded() const { return exitStatus == 0; }
 };
 
-/// A program running beside this one; it is killed with this object or with this program.
+/// A program running in the background; killed with this object or with this program.
 class BackgroundProcess {
  public:
-    /// A program that cannot be run ends with 127.
+    /// A program that cannot be executed ends with 127.
     [[nodiscard]] static Result<std::unique_ptr<BackgroundProcess>> start(
         const ProcessRequest& request);
     ~BackgroundProcess() { kill(); }
@@ -48,17 +48,18 @@ class BackgroundProcess {
     BackgroundProcess& operator=(const BackgroundProcess&) = delete;
 
     [[nodiscard]] bool isRunning() { return !wait({}).has_value(); }
-    /// What it has written so far.
+    /// The output so far.
     [[nodiscard]] std::string standardOutput() const;
     [[nodiscard]] std::string standardError() const;
 
-    /// Sends a signal, without waiting for what it does; nothing once the program has ended.
+    /// Sends a signal without waiting for its effect; does nothing once the program has ended.
     void send(int signal);
-    /// Ends it at once (kill -9) and waits until it is gone.
+    /// Kills it at once (kill -9) and waits until it is gone.
     ProcessResult kill();
-    /// Waits for its end; nothing when it still runs after `limit`.
+    /// Waits for it to end; nothing if it still runs after `limit`.
     [[nodiscard]] std::optional<ProcessResult> wait(std::chrono::milliseconds limit);
-    /// Waits until its standard output holds `text`; false when it ends or `limit` passes first.
+    /// Waits until its standard output contains `text`; returns false if it ends or `limit` passes
+    /// first.
     [[nodiscard]] bool waitForOutput(std::string_view text, std::chrono::milliseconds limit);
 
  private:
@@ -70,7 +71,7 @@ class BackgroundProcess {
     std::optional<int> _status;
 };
 
-/// Runs a program to its end; one that runs for a minute is killed.
+/// Runs a program to its end; kills it after a minute.
 [[nodiscard]] Result<ProcessResult> run(const ProcessRequest& request);
 
 }  // namespace tonquil

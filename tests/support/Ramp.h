@@ -6,7 +6,7 @@
 
 namespace tonquil {
 
-/// The three tables of a gamma ramp, as the X server holds them: of one size, from 0 to 65535.
+/// The three channels of a gamma ramp, as the X server holds them: of equal size, from 0 to 65535.
 struct Ramp {
     std::vector<std::uint16_t> red;
     std::vector<std::uint16_t> green;

@@ -8,7 +8,7 @@ namespace tonquil {
 
 Result<RampReader> RampReader::connect(const std::string& display) {
     RampReader made(display.c_str());
-    // A server answers with the old protocol until a client has said which version it speaks.
+    // The server uses the old protocol until a client has announced its version.
     const XcbReply<xcb_randr_query_version_reply_t> version(xcb_randr_query_version_reply(
         made.connection(), xcb_randr_query_version(made.connection(), 1, 5), nullptr));
     if (!version) {
@@ -98,7 +98,7 @@ xcb_atom_t RampReader::atom(const std::string& name) const {
 
 Result<void> RampReader::check(xcb_void_cookie_t cookie, const std::string& what) const {
     const XcbReply<xcb_generic_error_t> error(xcb_request_check(connection(), cookie));
-    // A connection that breaks while the answer is awaited gives no error of its own.
+    // A connection that breaks while waiting for the reply reports no error of its own.
     if (error || xcb_connection_has_error(connection()) != 0) {
         return problem(what, error ? "X error " + std::to_string(error->error_code) : "");
     }

@@ -9,10 +9,10 @@
 
 namespace tonquil {
 
-/// A new empty folder that is deleted with this object, whatever it holds by then.
+/// A new empty folder, deleted with this object together with its content.
 class ScratchFolder {
  public:
-    /// Ends the program if the system's folder for temporary files cannot be written.
+    /// Ends the program if the temporary folder cannot be written.
     ScratchFolder() {
         auto pattern = (std::filesystem::temp_directory_path() / "tonquil-XXXXXX").string();
         if (mkdtemp(pattern.data()) == nullptr) {

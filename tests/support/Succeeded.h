@@ -7,7 +7,7 @@
 
 namespace tonquil {
 
-/// True when `result` holds a value; a failing assertion shows the problem's sentence and detail.
+/// True if `result` holds a value; a failing assertion shows the problem's sentence and detail.
 template <typename Value>
 [[nodiscard]] testing::AssertionResult succeeded(const Result<Value>& result) {
     if (result) {
@@ -17,7 +17,7 @@ template <typename Value>
            << result.error().sentence << " (" << result.error().detail << ")";
 }
 
-/// For steps that set a test up: a failing one fails the test with its sentence.
+/// For set-up steps: a failure fails the test with its sentence.
 template <typename Value>
 void mustSucceed(const Result<Value>& result) {
     EXPECT_TRUE(succeeded(result));

@@ -5,10 +5,10 @@
 
 namespace tonquil {
 
-/// A hand at the keyboard of a private X server, and another program that may grab its keys.
+/// Keyboard input on a private X server, and another program that may grab its keys.
 ///
-/// Keys are named by their evdev codes (linux/input-event-codes.h). Every call returns once the
-/// server has dealt with it.
+/// Keys are given by their evdev codes (linux/input-event-codes.h). Every call returns once the
+/// server has handled it.
 class XKeyboard {
  public:
     explicit XKeyboard(const std::string& display) : _x(RampReader::connect(display).value()) {}
@@ -22,7 +22,7 @@ class XKeyboard {
     }
     void movePointer(std::int16_t x, std::int16_t y) const { fake(XCB_MOTION_NOTIFY, 0, x, y); }
 
-    /// Grabs a key with exactly these modifiers (XCB_MOD_MASK_…); whether that succeeds.
+    /// Grabs a key with exactly these modifiers (XCB_MOD_MASK_…); returns whether that succeeded.
     [[nodiscard]] bool grab(int evdevCode, int modifiers) const;
     void ungrab(int evdevCode, int modifiers) const;
 

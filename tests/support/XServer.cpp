@@ -24,9 +24,9 @@ Section "Screen" Identifier "screen" Device "device" Monitor "monitor" DefaultDe
 EndSection
 )";
 
-// By its own path the server starts past the wrapper that lets only people at the console start it.
-// It writes its number to descriptor 3. Without -noreset it would forget everything when its last
-// client leaves.
+// Using its full path starts the server without the wrapper that only lets console users start it.
+// It writes its display number to file descriptor 3. Without -noreset it would reset its state when
+// its last client disconnects.
 constexpr const char* script = R"(
 server="/usr/lib/xorg/Xorg -novtswitch -sharevts -config $folder/xorg.conf -logfile $folder/xorg.log"
 [ -n "$framebuffer" ] && server="Xvfb -screen 0 1280x1024x24"
@@ -55,7 +55,7 @@ XServer::~XServer() {
 }
 
 Result<std::unique_ptr<XServer>> XServer::start(const Options& options) {
-    // Two servers that start at the same moment may reach for the same display number.
+    // Two servers started at the same moment may try the same display number.
     std::string complaint;
     for (int attempt = 0; attempt < 3; ++attempt) {
         std::unique_ptr<XServer> server(new XServer(options));
@@ -88,7 +88,7 @@ Result<void> XServer::unplug(const std::string& connector) {
 
 Result<void> XServer::setPhysicalSize(const std::string& connector, int widthMillimetres,
                                       int heightMillimetres) const {
-    // The driver takes up the size when it is asked what is connected.
+    // The driver picks up the size when the connected outputs are queried.
     return xrandr({"--output", connector, "--set", "WIDTH_MM", std::to_string(widthMillimetres),
                    "--output", connector, "--set", "HEIGHT_MM", std::to_string(heightMillimetres)})
         .and_then([this] { return xrandr({"--query"}); });
@@ -116,7 +116,7 @@ Result<void> XServer::setRootProperty(const std::string& name,
 Result<void> XServer::xrandr(std::vector<std::string> arguments) const {
     arguments.insert(arguments.begin(), "xrandr");
     const auto result = run({.command = arguments, .environment = {{"DISPLAY", _display}}});
-    // It reports some failures, such as an output it does not know, on standard error alone.
+    // xrandr reports some failures, such as an unknown output, on standard error alone.
     if (!result || !result->succeeded() ||
         result->standardError.find("not found") != std::string::npos) {
         return problem("xrandr " + arguments[1] + " fails.", result ? result->standardError : "");

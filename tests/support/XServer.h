@@ -12,10 +12,10 @@
 
 namespace tonquil {
 
-/// A private X server with the dummy driver, on which displays are plugged in and out.
+/// A private X server with the dummy driver, on which displays can be plugged in and unplugged.
 ///
-/// It has the outputs DUMMY0 to DUMMY15, each with a ramp of 256 entries of its own. DUMMY0 is lit
-/// at 1400x1050 and primary from the start. The server picks its own display number, and ends with
+/// It has the outputs DUMMY0 to DUMMY15, each with its own ramp of 256 entries. DUMMY0 is active at
+/// 1400x1050 and primary from the start. The server picks its own display number, and ends with
 /// this object or with the program, whichever is first.
 class XServer {
  public:
@@ -29,17 +29,17 @@ class XServer {
     [[nodiscard]] static Result<std::unique_ptr<XServer>> start(const Options& options);
     [[nodiscard]] static Result<std::unique_ptr<XServer>> start() { return start(Options{}); }
 
-    /// What DISPLAY is to be, for example ":7".
+    /// The value for DISPLAY, for example ":7".
     [[nodiscard]] const std::string& display() const { return _display; }
 
-    /// Lights an output at one of the server's modes, right of the one plugged in before it.
+    /// Activates an output in one of the server's modes, right of the one plugged in before it.
     [[nodiscard]] Result<void> plug(const std::string& connector, const std::string& mode);
     /// Turns an output off.
     ///
-    /// This driver finds an output connected once it has been looked at while lit, and never
-    /// disconnected again: whether a display is there shows in whether it is lit, not in that.
+    /// This driver reports an output as connected once it has been queried while active, and never
+    /// as disconnected again: what shows whether a display is there is its being active.
     [[nodiscard]] Result<void> unplug(const std::string& connector);
-    /// Sets what the server tells of the size of the picture, in millimetres.
+    /// Sets the physical size that the server reports, in millimetres.
     [[nodiscard]] Result<void> setPhysicalSize(const std::string& connector, int widthMillimetres,
                                                int heightMillimetres) const;
     [[nodiscard]] Result<void> setEdid(const std::string& connector,
@@ -50,7 +50,7 @@ class XServer {
     /// Runs xrandr with these arguments.
     [[nodiscard]] Result<void> xrandr(std::vector<std::string> arguments) const;
 
-    /// Ends the server at once, as a crash would; every later call fails.
+    /// Kills the server at once, like a crash; every later call fails.
     void kill() { _process->kill(); }
 
     ~XServer();
@@ -63,7 +63,7 @@ class XServer {
     ScratchFolder _folder;
     std::unique_ptr<BackgroundProcess> _process;
     std::string _display;
-    /// The lit connectors, in the order of plugging.
+    /// The active connectors, in the order of plugging.
     std::vector<std::string> _plugged{"DUMMY0"};
 };
 

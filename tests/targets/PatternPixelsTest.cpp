@@ -47,9 +47,9 @@ std::uint32_t checksum(QWidget& view) {
     return sum;
 }
 
-// The expected checksums are of images that were the same, pixel by pixel, as plain arithmetic on
-// where the middle of each pixel lies. Whoever changes a pattern on purpose looks at it first.
-TEST(PatternPixels, AreThoseOfTheRampsAndSquaresInEverySizeAndAtEveryRatio) {
+// The checksums were taken from images identical, pixel by pixel, to plain arithmetic on where each
+// pixel's middle lies. If you change a pattern on purpose, look at it first.
+TEST(PatternPixels, MatchChecksumsAtAllSizesAndRatios) {
     TQColorRamp ramp;
     std::vector<std::uint32_t> ramps;
     for (std::uint32_t variant = 0; variant < 5; ++variant) {
@@ -71,7 +71,7 @@ TEST(PatternPixels, AreThoseOfTheRampsAndSquaresInEverySizeAndAtEveryRatio) {
                 ElementsAre(1180841772, 4008145596, 1927073468, 4245140780, 573088195, 573088195));
 }
 
-TEST(ColorPatternAreaTest, PlacesItsPiecesWheneverItsSizeChanges) {
+TEST(ColorPatternAreaTest, PlacesPiecesOnResize) {
     TQColorPatternArea area;
     area.resize(400, 300);
     area.show();
@@ -84,7 +84,7 @@ TEST(ColorPatternAreaTest, PlacesItsPiecesWheneverItsSizeChanges) {
     EXPECT_EQ(ColorTargetLayout::forSize(1000, 461).squareGray, (PatternFrame{213, 181, 99, 99}));
     area.resize(0, 0);
     EXPECT_TRUE(area.squareGray()->size().isEmpty());
-    // Whole points lie between pixels here for every other square: its lines stay sharp.
+    // Here every other square's whole points lie between pixels: its lines must stay sharp.
     area.resize(1001, 701);
     const double ratio = 1.25;
     const QImage image = rendered(area, ratio);
@@ -98,7 +98,7 @@ TEST(ColorPatternAreaTest, PlacesItsPiecesWheneverItsSizeChanges) {
     }
 }
 
-TEST(GrayscalePatternAreaTest, HasGraysAroundTheMiddleOneOnNearlyBlack) {
+TEST(GrayscalePatternAreaTest, ShowsMiddleGraysOnNearBlack) {
     TQGrayscalePatternArea area;
     area.resize(1000, 700);
     // The boxes reach from 312.25 to 384.75 points below the upper edge.
@@ -117,7 +117,7 @@ TEST(GrayscalePatternAreaTest, HasGraysAroundTheMiddleOneOnNearlyBlack) {
         EXPECT_EQ(at(x + 145.7, top), gray(15));
         x += 174;
     }
-    // White is at the left in the upper ramp, at the right in the lower one.
+    // White is on the left in the upper ramp, on the right in the lower one.
     EXPECT_EQ(at(90, 150), gray(255));
     EXPECT_EQ(at(90, 750), gray(0));
 }

@@ -40,7 +40,7 @@ class FloatingTarget : public testing::Test {
     std::vector<int> kinds;
 };
 
-TEST_F(FloatingTarget, FollowsThePickerAndTheKeysAndIgnoresUnknownKinds) {
+TEST_F(FloatingTarget, FollowsPickerAndKeysAndIgnoresUnknownKinds) {
     controller.targetKindPicker()->cell(1)->click();
     EXPECT_TRUE(showsGrayscale());
     for (const int kind : {2, -1, 1 << 30}) {
@@ -90,7 +90,7 @@ TEST_F(Covers, AreDismissedByAClickAnywhereOrByEscape) {
             EXPECT_EQ(list.existingTargetWindowControllerForScreen(left), nullptr);
         });
         controller.showWindow();
-        // An earlier press ends here, which is no click.
+        // The release of an earlier press is no click.
         release(controller.window(), {3, 3});
         ASSERT_TRUE(controller.isShown());
         controller.setKind(1);
@@ -104,7 +104,7 @@ TEST_F(Covers, AreDismissedByAClickAnywhereOrByEscape) {
     }
 }
 
-TEST_F(Covers, FollowTheirDisplaysAndGoWithThem) {
+TEST_F(Covers, FollowTheirDisplaysUntilRemoved) {
     TQTargetWindowController& first = list.targetWindowControllerForScreen(left);
     TQTargetWindowController& second = list.targetWindowControllerForScreen(right);
     second.showWindow();
@@ -121,7 +121,7 @@ TEST_F(Covers, FollowTheirDisplaysAndGoWithThem) {
     EXPECT_EQ(first.frame(), newRight.frame);
     EXPECT_EQ(second.frame(), newLeft.frame);
     EXPECT_EQ(list.existingTargetWindowControllerForScreen(newRight), &first);
-    // One comes back under another number, the other goes.
+    // One comes back under another number, the other is removed.
     int closings = 0;
     first.setClosed([&] { ++closings; });
     const TargetScreen renumbered{.displayID = 12, .frame = newLeft.frame};
@@ -131,7 +131,7 @@ TEST_F(Covers, FollowTheirDisplaysAndGoWithThem) {
     EXPECT_EQ(closings, 1);
 }
 
-TEST_F(Covers, MayBeDismissedByWhoHearsThatAnotherOneClosed) {
+TEST_F(Covers, MayBeDismissedFromCloseCallback) {
     TQTargetWindowController& first = list.targetWindowControllerForScreen(left);
     TQTargetWindowController& second = list.targetWindowControllerForScreen(right);
     first.setClosed([&] { second.dismissTargetWindowControllerForScreen(); });

@@ -20,7 +20,7 @@ class CurvePlotTest : public testing::Test {
     void setCurves(const Samples& red, const Samples& green, const Samples& blue) {
         plot.setCurves({red, green, blue});
     }
-    // Lines that rise a little cover some pixels entirely.
+    // Slightly rising lines cover some pixels entirely.
     bool shows(const QColor& colour) {
         const QImage picture = drawn(plot);
         const auto isShown = [&](int pixel) {
@@ -32,7 +32,7 @@ class CurvePlotTest : public testing::Test {
     CurvePlot plot;
 };
 
-TEST_F(CurvePlotTest, DrawsEachChannelInItsColourAndEqualCurvesInWhiteOrBlack) {
+TEST_F(CurvePlotTest, DrawsChannelColoursAndEqualCurvesInWhiteOrBlack) {
     for (const bool isDark : {true, false}) {
         SCOPED_TRACE(isDark);
         setAppearance(plot, {.isDark = isDark});

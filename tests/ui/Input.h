@@ -41,7 +41,7 @@ inline void pressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers =
     QApplication::sendEvent(&widget, &event);
 }
 
-/// Types over all that is in a field.
+/// Replaces a field's text by typing.
 inline void typeOver(QWidget& field, const QString& text) {
     pressKey(field, Qt::Key_A, Qt::ControlModifier);
     pressKey(field, Qt::Key_Delete);
@@ -50,12 +50,12 @@ inline void typeOver(QWidget& field, const QString& text) {
     }
 }
 
-/// Draws the widget, and what lies behind it, anew.
+/// Renders the widget together with its background.
 inline QImage drawn(QWidget& widget) {
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-/// Whether no component of the colours differs by more than `tolerance` of 255.
+/// Whether every component of the colours is within `tolerance` of 255.
 inline bool isNear(const QColor& colour, const QColor& expected, int tolerance = 2) {
     return std::abs(colour.red() - expected.red()) <= tolerance &&
            std::abs(colour.green() - expected.green()) <= tolerance &&

@@ -34,7 +34,7 @@ class NumericFieldTest : public testing::Test {
 
     std::string shown() { return field->text().toStdString(); }
 
-    /// Outlives the window, whose end commits what is being typed.
+    /// Outlives the window, whose destruction commits the text being typed.
     std::vector<float> sent;
     TQNumericTextView keys;
     QWidget window;
@@ -43,7 +43,7 @@ class NumericFieldTest : public testing::Test {
     QLineEdit* other = new QLineEdit;
 };
 
-TEST_F(NumericFieldTest, CommitsNumbersWithinTheRangeAndTakesTheRestBack) {
+TEST_F(NumericFieldTest, CommitsNumbersInRangeAndRevertsOtherText) {
     struct Row {
         const char* typed;
         int end;
@@ -85,7 +85,7 @@ TEST_F(NumericFieldTest, CommitsNumbersWithinTheRangeAndTakesTheRestBack) {
     }
 }
 
-TEST_F(NumericFieldTest, NeverRoundsAValueThatNobodyChanged) {
+TEST_F(NumericFieldTest, NeverRoundsUneditedValue) {
     const float exact = 0.123456F;
     slider->setFloatValue(exact);
     static_cast<void>(drawn(*slider));
@@ -99,7 +99,7 @@ TEST_F(NumericFieldTest, NeverRoundsAValueThatNobodyChanged) {
     EXPECT_THAT(sent, ElementsAre());
 }
 
-TEST_F(NumericFieldTest, KeepsWhatIsBeingTypedWhileTheSliderIsDrawnOrAMenuIsUp) {
+TEST_F(NumericFieldTest, KeepsTypedTextDuringRepaintsAndMenus) {
     typeOver(*field, QStringLiteral("0.7"));
     slider->setFloatValue(0.2F);
     static_cast<void>(drawn(*slider));
@@ -123,7 +123,7 @@ TEST_F(NumericFieldTest, StepsByTheArrowKeysAndShowsTheLimitWhenTheSliderIsDrawn
     EXPECT_THAT(sent, ElementsAre(1, 0.49F));
 }
 
-TEST_F(NumericFieldTest, IsHeardByItsOwnSliderOnlyAndEitherMayGoFirst) {
+TEST_F(NumericFieldTest, NotifiesOnlyItsOwnSliderInAnyDestructionOrder) {
     TQSlider stranger;
     stranger.setAction([](TQSlider&) { FAIL() << "A stranger's field was heard."; });
     stranger._updateToAuxiliaryValue(*field);
@@ -137,7 +137,7 @@ TEST_F(NumericFieldTest, IsHeardByItsOwnSliderOnlyAndEitherMayGoFirst) {
     EXPECT_EQ(slider->auxiliary(), nullptr);
 }
 
-TEST_F(NumericFieldTest, LeavesUndoAndEscapeToTheWindowUnlessSomethingWasTyped) {
+TEST_F(NumericFieldTest, LeavesUndoAndEscapeToWindowUnlessEdited) {
     for (const bool isTyped : {false, true}) {
         if (isTyped) {
             typeOver(*field, QStringLiteral("0.7"));
@@ -152,7 +152,7 @@ TEST_F(NumericFieldTest, LeavesUndoAndEscapeToTheWindowUnlessSomethingWasTyped) 
     }
 }
 
-TEST(MatrixTest, MovesWithTheArrowKeysInReadingDirectionAndTellsOnlyOfChangesByThePerson) {
+TEST(MatrixTest, FollowsArrowKeysInReadingDirectionAndReportsUserChangesOnly) {
     TQVibrantMatrix tabs({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
     std::vector<int> picked;
     tabs.setAction([&](int column) { picked.push_back(column); });

@@ -31,7 +31,7 @@ class SliderTest : public testing::Test {
     std::vector<float> sent;
 };
 
-TEST_F(SliderTest, KeepsItsValueWithinItsRangeAndIgnoresWhatIsNoNumber) {
+TEST_F(SliderTest, ClampsValueAndIgnoresNotANumber) {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     slider.setFloatValue(7);
     EXPECT_EQ(slider.floatValue(), 1);
@@ -49,7 +49,7 @@ TEST_F(SliderTest, KeepsItsValueWithinItsRangeAndIgnoresWhatIsNoNumber) {
     EXPECT_THAT(sent, ElementsAre());
 }
 
-TEST_F(SliderTest, FollowsTheWheelByLinesOrByPixels) {
+TEST_F(SliderTest, FollowsWheelByLinesOrPixels) {
     const auto noPhase = Qt::NoScrollPhase;
     const auto update = Qt::ScrollUpdate;
     struct Row {
@@ -104,7 +104,7 @@ TEST_F(SliderTest, StepsByKeysInReadingDirection) {
     }
 }
 
-TEST_F(SliderTest, FollowsThePointerOverTheWholeRow) {
+TEST_F(SliderTest, FollowsPointerOverWholeRow) {
     press(slider, {32, 1});
     move(slider, {57.5, 23}, Qt::LeftButton);
     move(slider, {500, -40}, Qt::LeftButton);
@@ -112,7 +112,7 @@ TEST_F(SliderTest, FollowsThePointerOverTheWholeRow) {
     move(slider, {32, middle}, Qt::NoButton);
     press(slider, {32, middle}, Qt::RightButton);
     EXPECT_THAT(sent, ElementsAre(0.25F, 0.505F, 1));
-    // The end of the fill is taken hold of without being moved.
+    // Grabbing the end of the fill does not move it.
     press(slider, {105, middle});
     move(slider, {105, middle + 1}, Qt::LeftButton);
     EXPECT_EQ(sent.size(), 3U);
@@ -130,7 +130,7 @@ TEST_F(SliderTest, FollowsThePointerOverTheWholeRow) {
     EXPECT_FALSE(slider.isInteracting());
 }
 
-TEST_F(SliderTest, TellsWhenItIsHeldWithTheValueFromBefore) {
+TEST_F(SliderTest, ReportsGrabBeforeValueChanges) {
     std::vector<std::pair<bool, float>> told;
     slider.setInteractionChanged([&told](TQSlider& sender) {
         told.emplace_back(sender.isInteracting(), sender.floatValue());

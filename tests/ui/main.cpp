@@ -5,7 +5,7 @@
 #include <QStyleFactory>
 
 int main(int argc, char** argv) {
-    // No display is needed, and what the desktop is set to makes no difference.
+    // No display is needed, and the desktop's settings have no effect.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", "1");
     qunsetenv("QT_SCREEN_SCALE_FACTORS");

@@ -23,7 +23,7 @@ Alert conflictAlert() {
             .buttons = {"Continue", "Quit"}};
 }
 
-/// The alert's answer when the person does something to its window.
+/// The alert's answer after the user has acted on its window.
 std::size_t answerTo(const std::function<void(AlertWindow&)>& act) {
     ModalAlerts alerts([] { return Appearance(); });
     QTimer::singleShot(
@@ -31,7 +31,7 @@ std::size_t answerTo(const std::function<void(AlertWindow&)>& act) {
     return alerts.runModal(conflictAlert());
 }
 
-TEST(Alert, AnswersWithTheButtonAndWithTheFirstWhenItIsDismissed) {
+TEST(Alert, AnswersWithPressedButtonOrFirstWhenDismissed) {
     EXPECT_EQ(answerTo([](AlertWindow& window) { window.buttons()[1]->click(); }), 1U);
     EXPECT_EQ(answerTo([](AlertWindow& window) { pressKey(window, Qt::Key_Return); }), 0U);
     const auto tabAndReturn = [](AlertWindow& window) {

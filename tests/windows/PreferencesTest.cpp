@@ -43,7 +43,7 @@ class Preferences : public testing::Test {
  protected:
     void SetUp() override { store.registerDefaults(registeredDefaults()); }
 
-    /// Makes the window anew, and shows it.
+    /// Creates and shows a new window.
     PreferencesWindow& open() {
         controller = std::make_unique<TQPrefController>(PreferencesSurroundings{
             store, loginItem, alerts, layout, windowSystem, program, "/home/kim",
@@ -83,7 +83,7 @@ TEST_F(Preferences, ShowTheTagOfAChoiceThatIsStoredAsABooleanOrANumber) {
     }
 }
 
-TEST_F(Preferences, FollowFromElsewhereOnlyWhatIsBound) {
+TEST_F(Preferences, FollowExternalChangesOnlyWhereBound) {
     PreferencesWindow& window = open();
     EXPECT_TRUE(effectiveAppearance(window).isDark);
     for (const std::string key : {"DarkTheme", "ShowAtLaunch", "ShowTargetHints"}) {
@@ -107,7 +107,7 @@ TEST_F(Preferences, FollowFromElsewhereOnlyWhatIsBound) {
     EXPECT_EQ(stored("AllowRemote"), false);
 }
 
-TEST_F(Preferences, RecordAHotKeyThatIsSwitchedOnButNotThere) {
+TEST_F(Preferences, StartRecordingWhenMissingHotKeyIsEnabled) {
     int recordings = 0;
     PreferencesWindow& window = open();
     controller->setRecordingHooks([&] { ++recordings; }, [&] { recordings += 10; });
@@ -124,7 +124,8 @@ TEST_F(Preferences, RecordAHotKeyThatIsSwitchedOnButNotThere) {
     EXPECT_EQ(window.focusWidget(), &window);
     EXPECT_EQ(recordings, 11);
 
-    // Off: no control keeps the focus. On again: there is a hot key, so it stays where it is.
+    // Off: no control keeps the focus. On again: there is a hot key, so the focus stays where it
+    // is.
     window.showAtLaunch->setFocus();
     window.panelHotKey->click();
     EXPECT_EQ(window.focusWidget(), &window);
@@ -140,7 +141,7 @@ TEST_F(Preferences, RecordAHotKeyThatIsSwitchedOnButNotThere) {
     EXPECT_EQ(window.focusWidget(), &window);
 }
 
-TEST_F(Preferences, ReadAStoredHotKeyByItsLowBitsAndLeaveZerosOfOneTakenAway) {
+TEST_F(Preferences, ReadLowBitsOfHotKeyAndStoreZerosForRemovedOne) {
     store.stored.update({{"UseHotKeyCode", 0x1000C}, {"UseHotKeyModifiers", 0x100000}});
     DDHotKeyTextField& field = *open().hotKeyField;
     EXPECT_EQ(field.hotKey()->keyCode(), 12);
@@ -150,7 +151,7 @@ TEST_F(Preferences, ReadAStoredHotKeyByItsLowBitsAndLeaveZerosOfOneTakenAway) {
     EXPECT_EQ(stored("UseHotKeyModifiers"), 0);
 }
 
-TEST_F(Preferences, ShowWhatBecameOfTheLoginItemAndAdviseOnThePlace) {
+TEST_F(Preferences, ShowActualLoginItemAndAdviseOnProgramLocation) {
     const auto click = [this] {
         QCheckBox& box = *controller->window().openAtLoginCheckbox;
         box.click();

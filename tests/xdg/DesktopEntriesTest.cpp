@@ -21,7 +21,7 @@ void putProgram(const std::filesystem::path& file, const std::string& name) {
     std::filesystem::permissions(file, std::filesystem::perms{0755});
 }
 
-/// A person's folder of desktop files, the system's, and one for programs.
+/// A user's folder of desktop files, the system's, and one for programs.
 class DesktopEntriesTest : public testing::Test {
  protected:
     void put(const std::string& file, const std::string& lines) {
@@ -41,7 +41,7 @@ class DesktopEntriesTest : public testing::Test {
     ScratchFolder _folder;
 };
 
-TEST_F(DesktopEntriesTest, TakesTheFirstCandidateThatIsInstalledAndWouldStart) {
+TEST_F(DesktopEntriesTest, PicksFirstInstalledCandidateThatWouldStart) {
     EXPECT_EQ(found(), "-");
     put("own/b.desktop", "Name=B\n");
     EXPECT_EQ(found(), "B");
@@ -75,7 +75,7 @@ TEST(DesktopEntry, QuotesAnArgumentOfACommandLine) {
     }
 }
 
-TEST(AutostartLoginItem, WritesAndRemovesTheDesktopFileAndHeedsTheDesktop) {
+TEST(AutostartLoginItem, WritesAndRemovesDesktopFileAndSeesItDisabled) {
     const ScratchFolder folder;
     const std::filesystem::path launcher = folder / "a launcher";
     const std::filesystem::path file = folder / "config/autostart/tonquil.desktop";

@@ -17,7 +17,7 @@
 
 namespace tonquil {
 
-/// A disk that a test holds up; otherwise it is never waited for.
+/// A disk that a test can block; otherwise it never takes any time.
 class ManualDisk final : public DiskQueue {
  public:
     void add(Work work, Work done) override {
@@ -41,7 +41,7 @@ class ManualDisk final : public DiskQueue {
     std::deque<std::pair<Work, Work>> _jobs;
 };
 
-/// A store on a real file, with a run loop and a log of its own.
+/// A store on a real file, with its own run loop and log.
 struct PreferencesProcess {
     explicit PreferencesProcess(const std::filesystem::path& file,
                                 std::chrono::milliseconds longestWait = {})
@@ -57,8 +57,8 @@ struct PreferencesProcess {
         store->setValue(key, std::move(value));
         loop.runPosted();
     }
-    /// Handles what the system has to tell of the folder: it tells at once, so nothing is waited
-    /// for but by the store itself. Gives how often the store told of a change.
+    /// Handles the folder's pending file-system events: the kernel reports them at once, so only
+    /// the store itself waits. Returns how often the store notified of a change.
     int handleEvents() {
         const int before = told;
         do {
@@ -72,7 +72,7 @@ struct PreferencesProcess {
 
     ManualRunLoop loop;
     ManualDisk disk;
-    /// Whether the panel tells that saving fails.
+    /// Whether the panel shows that saving fails.
     bool sign = false;
     std::vector<std::string> log;
     int told = 0;
@@ -80,7 +80,7 @@ struct PreferencesProcess {
     std::unique_ptr<PreferencesStore::Subscription> subscription;
 };
 
-/// What the file holds; null where it cannot be read.
+/// The file's content; null if it cannot be read.
 [[nodiscard]] inline PropertyValue storedIn(const std::filesystem::path& file) {
     const std::string text = contentsOf(file);
     return readPropertyList(std::vector<std::uint8_t>(text.begin(), text.end())).value_or(nullptr);

@@ -27,10 +27,10 @@ std::vector<std::string> movedAside(const ScratchFolder& folder) {
     return contents;
 }
 
-TEST(DamagedPreferences, AreMovedAsideUntouchedAtTheStart) {
+TEST(DamagedPreferences, AreMovedAsideIntactAtStartup) {
     const ScratchFolder folder;
     const auto file = folder / "file";
-    // All within a second or two, so that names meet.
+    // All within a second or two, so that names collide.
     const std::vector<std::string> rows = {"", "no list",
                                            writePropertyList({{"a", 1}}).value().substr(0, 200),
                                            writePropertyList(PropertyValue::array({1})).value(),
@@ -51,13 +51,13 @@ TEST(DamagedPreferences, AreMovedAsideUntouchedAtTheStart) {
     EXPECT_THAT(movedAside(folder), UnorderedElementsAreArray(rows));
 }
 
-TEST(DamagedPreferences, ChangeNothingWhileRunningUntilSomethingMustBeSaved) {
+TEST(DamagedPreferences, AreIgnoredAtRunTimeUntilNextSave) {
     const ScratchFolder folder;
     const auto file = folder / "file";
     store(file, {{"a", 1}, {"b", 1}});
     PreferencesProcess process(file);
     const std::string whole = contentsOf(file);
-    // An editor that saves in place, seen half-way twice.
+    // An editor that saves in place, caught midway twice.
     for (const std::size_t length : {std::size_t{0}, whole.size() / 2}) {
         putContents(file, whole.substr(0, length));
         EXPECT_EQ(process.handleEvents(), 0);
@@ -78,12 +78,12 @@ TEST(DamagedPreferences, ChangeNothingWhileRunningUntilSomethingMustBeSaved) {
     EXPECT_EQ(process.log.size(), 3U);
 }
 
-TEST(UnreadablePreferences, StayWhereTheyAre) {
+TEST(UnreadablePreferences, StayInPlace) {
     const OrdinaryUser user;
     const ScratchFolder folder;
     const auto file = folder / "file";
     store(file, {{"a", 1}});
-    // It may be written to, so replacing it would work.
+    // The file is writable, so replacing it would succeed.
     ::chmod(file.c_str(), 0200);
     PreferencesProcess process(file);
     EXPECT_EQ(process["a"], 0);
@@ -97,7 +97,7 @@ TEST(UnreadablePreferences, StayWhereTheyAre) {
     EXPECT_TRUE(process.store->synchronize());
     EXPECT_EQ(storedIn(file), PropertyValue({{"a", 1}, {"b", 3}}));
 
-    // What cannot be written is kept in memory until it can, with a line for each trouble.
+    // What cannot be written is kept in memory until it can, with one log line per failure.
     for (const int number : {3, 4}) {
         ::chmod(folder.path().c_str(), 0500);
         process.set("a", number);
@@ -129,7 +129,7 @@ struct RecoveryRun {
     CurveRecoveryFile file;
 };
 
-TEST(CurveRecoveryFile, GivesTheNextRunWhatWasKeptLastAndNotForgotten) {
+TEST(CurveRecoveryFile, RestoresLastStoredCurvesUnlessForgotten) {
     const ScratchFolder folder;
     const auto path = folder / "state/recovery.plist";
     RecoveryRun run(path);
@@ -138,14 +138,14 @@ TEST(CurveRecoveryFile, GivesTheNextRunWhatWasKeptLastAndNotForgotten) {
     run.file.keep({{"older", 1}});
     run.file.keep(curves);
     EXPECT_EQ(RecoveryRun(path).file.leftCurves(), curves);
-    // What a killed program leaves goes as well.
+    // The remains of a killed program are removed as well.
     putContents(folder / "state/.recovery.plist.tonquil-new", "half");
     run.file.forget();
     EXPECT_EQ(entriesIn(folder / "state"), 0);
     EXPECT_THAT(run.log, IsEmpty());
 }
 
-TEST(CurveRecoveryFile, MovesADamagedFileAsideAndKeepsTryingWhereItCannotWrite) {
+TEST(CurveRecoveryFile, MovesDamagedFileAsideAndRetriesFailedWrites) {
     const OrdinaryUser user;
     const ScratchFolder folder;
     RecoveryRun run(folder / "recovery.plist");

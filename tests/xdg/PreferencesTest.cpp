@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-TEST(PreferencesChanges, OfOneEventAreReadableAtOnceAndSavedAndToldTogether) {
+TEST(PreferencesChanges, AreReadableAtOnceAndSavedAndReportedPerEvent) {
     const ScratchFolder folder;
     const auto file = folder / "made/config/preferences.plist";
     const mode_t umask = ::umask(0);
@@ -43,7 +43,8 @@ TEST(PreferencesChanges, OfOneEventAreReadableAtOnceAndSavedAndToldTogether) {
     process.set("a", 1);
     EXPECT_EQ(process.told, 2);
     EXPECT_EQ(std::filesystem::hard_link_count(file), 2U) << "Saved though nothing changed.";
-    // A default is stored when it is set, and shows when what is stored is taken away.
+    // A value equal to the default is stored when set, and the default shows when the value is
+    // removed.
     process.set("b", 20);
     process.set("a", nullptr);
     EXPECT_EQ(process["a"], 10);
@@ -53,7 +54,7 @@ TEST(PreferencesChanges, OfOneEventAreReadableAtOnceAndSavedAndToldTogether) {
     EXPECT_THAT(process.log, IsEmpty());
 }
 
-TEST(PreferencesChanges, AreToldToThoseWhoSubscribedBeforeThemAndMayEndTheStore) {
+TEST(PreferencesChanges, ReachEarlierSubscribersWhichMayDestroyStore) {
     const ScratchFolder folder;
     PreferencesProcess process(folder / "file");
     std::string calls;
@@ -79,7 +80,7 @@ TEST(PreferencesChanges, AreToldToThoseWhoSubscribedBeforeThemAndMayEndTheStore)
     subscribe(2, [] { FAIL() << "It ended before it was its turn."; });
     subscribe(3, [&] { calls += "z"; });
     process.store->setValue("answer", 0);
-    // The handler that sets a value makes a second round, which ends.
+    // The handler that sets a value causes a second round, which is the last.
     EXPECT_EQ(process.loop.runPosted(), 2U);
     EXPECT_EQ(calls, "lezlz");
     process.store->setValue("more", 1);
@@ -95,7 +96,7 @@ TEST(PreferencesChanges, AreToldToThoseWhoSubscribedBeforeThemAndMayEndTheStore)
     EXPECT_EQ(other.told, 0);
 }
 
-TEST(PreferencesChanges, OfOtherProgramsAreSeenWhicheverWayTheyAreMade) {
+TEST(PreferencesChanges, AreSeenHoweverOtherProgramsMakeThem) {
     const ScratchFolder folder;
     const auto file = folder / "config/preferences.plist";
     PreferencesProcess process(file);
@@ -122,27 +123,27 @@ TEST(PreferencesChanges, OfOtherProgramsAreSeenWhicheverWayTheyAreMade) {
         written << writePropertyList({{"a", 7}}).value();
     }
     expectTold(1, 7);
-    // Another folder takes the place of the watched one.
+    // Another folder replaces the watched one.
     std::filesystem::rename(folder / "config", folder / "away");
     std::filesystem::create_directory(folder / "config");
     store(file, {{"a", 3}});
     expectTold(1, 3);
     store(folder / "away/preferences.plist", {{"a", 4}});
     expectTold(0, 3);
-    // With the folder, the values go. Where there is none, it is looked for.
+    // With the folder, the values go. While there is none, the store polls for it.
     std::filesystem::remove_all(folder / "config");
     expectTold(1, 10);
     std::filesystem::create_directory(folder / "config");
     store(file, {{"a", 6}});
     process.loop.advance(milliseconds(5500));
     expectTold(0, 6);
-    // The folder above goes, and takes the watched one along.
+    // The parent folder is renamed, and takes the watched one along.
     std::filesystem::rename(folder.path(), folder.path().native() + "-away");
     std::filesystem::create_directories(folder / "config");
     store(file, {{"a", 8}});
     expectTold(1, 8);
     std::filesystem::remove_all(folder.path().native() + "-away");
-    // A burst is read now and then, and at its end.
+    // A burst is read occasionally, and at its end.
     const int before = process.told;
     for (int number = 0; number <= 500; ++number) {
         store(file, {{"a", number}});
@@ -152,7 +153,7 @@ TEST(PreferencesChanges, OfOtherProgramsAreSeenWhicheverWayTheyAreMade) {
     EXPECT_LE(process.told - before, 3);
     EXPECT_LE(process.handleEvents(), 1);
     EXPECT_EQ(process["a"], 500);
-    // It is made again and watched when something is saved.
+    // Saving recreates and watches the folder.
     std::filesystem::remove_all(folder / "config");
     expectTold(1, 10);
     process.set("b", 1);
@@ -164,18 +165,18 @@ TEST(PreferencesChanges, OfOtherProgramsAreSeenWhicheverWayTheyAreMade) {
     EXPECT_THAT(process.log, IsEmpty());
 }
 
-TEST(PreferencesSaving, KeepsWhatOthersHaveDoneMeanwhile) {
+TEST(PreferencesSaving, KeepsConcurrentChangesByOthers) {
     const ScratchFolder folder;
     const auto file = folder / "file";
     store(file, {{"a", 1}, {"b", 1}, {"removed", 1}});
     PreferencesProcess first(file);
     PreferencesProcess second(file);
-    // None of them looks at the events before all have set something.
+    // None of them handles its events before all have set something.
     first.set("a", 2);
     second.set("b", 2);
     second.set("removed", nullptr);
     first.set("d", 2);
-    // Of one key, the last word counts.
+    // For the same key, the last writer wins.
     second.set("a", 5);
     const PropertyValue expected = {{"a", 5}, {"b", 2}, {"d", 2}};
     EXPECT_EQ(storedIn(file), expected);
@@ -188,7 +189,7 @@ TEST(PreferencesSaving, KeepsWhatOthersHaveDoneMeanwhile) {
     }
 }
 
-TEST(PreferencesSaving, TakesChangesWhileASlowDiskIsAtWork) {
+TEST(PreferencesSaving, AcceptsChangesDuringSlowSave) {
     const ScratchFolder folder;
     const auto file = folder / "file";
     PreferencesProcess process(file);
@@ -202,7 +203,7 @@ TEST(PreferencesSaving, TakesChangesWhileASlowDiskIsAtWork) {
     process.disk.finish();
     EXPECT_EQ(storedIn(file), PropertyValue({{"a", 2}, {"b", 2}, {"c", 3}}));
     EXPECT_EQ(process["c"], 3);
-    // What others save after ours, before we hear that ours is done, is the last word.
+    // What others save after us, before we learn that our save is done, wins.
     process.set("a", 4);
     process.disk.finish();
     store(file, {{"a", 5}});
@@ -210,7 +211,7 @@ TEST(PreferencesSaving, TakesChangesWhileASlowDiskIsAtWork) {
     EXPECT_EQ(process["a"], 5);
 }
 
-TEST(PreferencesSaving, LosesNothingWhenProcessesSaveAtOnce) {
+TEST(PreferencesSaving, LosesNothingInSimultaneousSaves) {
     const ScratchFolder folder;
     const auto file = folder / "file";
     constexpr int saves = 50;
@@ -234,7 +235,7 @@ TEST(PreferencesSaving, LosesNothingWhenProcessesSaveAtOnce) {
     EXPECT_EQ(storedIn(file).size(), 2U * saves);
 }
 
-TEST(PreferencesSaving, WaitsForAnothersLockButNotForEver) {
+TEST(PreferencesSaving, WaitsForLockUntilTimeout) {
     const ScratchFolder folder;
     const auto file = folder / "file";
     PreferencesProcess process(file);
@@ -263,7 +264,7 @@ TEST(PreferencesSaving, WaitsForAnothersLockButNotForEver) {
     EXPECT_THAT(process.log, ElementsAre(HasSubstr("locked by another program")));
 }
 
-TEST(PreferencesSaving, LeavesASettingThatNoFileCanHoldAsItWas) {
+TEST(PreferencesSaving, LeavesSettingUnchangedByUnstorableValue) {
     const ScratchFolder folder;
     PreferencesProcess process(folder / "file");
     process.set("a", 1);

@@ -18,7 +18,7 @@ namespace {
 
 using Variables = std::vector<std::pair<std::string, std::string>>;
 
-/// The folders that the program would have with these variables and no others that matter.
+/// The program's folders with these variables and no others that matter.
 Result<XdgFolders> foldersWith(const Variables& variables) {
     for (const char* name :
          {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR", "TMPDIR"}) {
@@ -32,7 +32,7 @@ Result<XdgFolders> foldersWith(const Variables& variables) {
     return folders;
 }
 
-TEST(XdgFolders, FollowTheEnvironmentWhereItNamesAbsolutePaths) {
+TEST(XdgFolders, FollowAbsolutePathsInEnvironment) {
     const std::string home = ::getpwuid(::geteuid())->pw_dir;
     const std::vector<std::tuple<Variables, std::string, std::string>> rows = {
         {{{"XDG_CONFIG_HOME", "/c"}, {"XDG_STATE_HOME", "/s/"}}, "/c", "/s"},
@@ -49,7 +49,7 @@ TEST(XdgFolders, FollowTheEnvironmentWhereItNamesAbsolutePaths) {
     }
 }
 
-TEST(XdgFolders, HaveARuntimeFolderThatOnlyTheUserCanUse) {
+TEST(XdgFolders, HavePrivateRuntimeFolder) {
     const ScratchFolder folder;
     const std::string place = folder.path();
     const auto session = foldersWith({{"XDG_RUNTIME_DIR", place}, {"TMPDIR", "/nowhere"}});
@@ -60,7 +60,7 @@ TEST(XdgFolders, HaveARuntimeFolderThatOnlyTheUserCanUse) {
         EXPECT_EQ(folders->makeRuntime().value_or(""), own);
         EXPECT_EQ(std::filesystem::status(own).permissions(), std::filesystem::perms{0700});
     }
-    // Others have put something there first.
+    // Others have created something there first.
     ::chmod(own.c_str(), 0755);
     EXPECT_FALSE(folders->makeRuntime());
     std::filesystem::remove(own);

@@ -17,7 +17,7 @@ constexpr const char* propertyName = "tonquilAppearance";
 void setAppearance(QWidget& widget, const Appearance& appearance) {
     widget.setProperty(propertyName, QVariant::fromValue(appearance));
     widget.setPalette(paletteFor(appearance));
-    // Some options change how a control is drawn and leave the palette as it is.
+    // Some options change how a control is drawn without changing the palette.
     widget.update();
     for (QWidget* child : widget.findChildren<QWidget*>()) {
         child->update();

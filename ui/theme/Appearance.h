@@ -8,7 +8,7 @@ class QWidget;
 
 namespace tonquil {
 
-/// What the person asked of their whole desktop.
+/// The user's desktop-wide accessibility settings.
 struct AccessibilityOptions {
     bool reduceTransparency = false;
     bool increaseContrast = false;
@@ -17,24 +17,24 @@ struct AccessibilityOptions {
     friend bool operator==(const AccessibilityOptions&, const AccessibilityOptions&) = default;
 };
 
-/// How a window and everything in it looks.
+/// How a window and its content look.
 struct Appearance {
     bool isDark = true;
-    /// Whether what lies behind the window may shine through.
+    /// Whether the window may be translucent.
     bool allowsVibrancy = true;
     AccessibilityOptions options{};
 
     friend bool operator==(const Appearance&, const Appearance&) = default;
 };
 
-/// Gives `widget` and all below it an appearance, and the palette that goes with it, and repaints
-/// them. Menus and dialogs are windows of their own: give them an appearance too.
+/// Gives `widget` and its descendants an appearance and the matching palette, and repaints them.
+/// Menus and dialogs are windows of their own and need a call of their own.
 void setAppearance(QWidget& widget, const Appearance& appearance);
 
-/// The appearance of the nearest of `widget` and its parents that was given one; dark if none was.
+/// The appearance set on `widget` or its nearest ancestor that has one; dark if none has.
 [[nodiscard]] Appearance effectiveAppearance(const QWidget& widget);
 
-/// The colours of `appearance` for ordinary controls. What is disabled has 40 % of its opacity.
+/// The palette of `appearance` for ordinary controls. Disabled ones have 40 % of the opacity.
 [[nodiscard]] QPalette paletteFor(const Appearance& appearance);
 
 }  // namespace tonquil

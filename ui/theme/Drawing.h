@@ -11,26 +11,26 @@ namespace tonquil {
 
 struct Theme;
 
-/// The radius of fields, tabs and the plot, in points.
+/// Corner radius of fields, tabs and the plot, in points.
 inline constexpr double fieldRadius = 5;
 
-/// Fills a line one device pixel thick that begins at the device pixel holding (`x`, `y`), in
-/// points, and runs right (horizontal) or down (vertical) for `length` points.
+/// Fills a line one device pixel thick, starting at the device pixel that contains (`x`, `y`), in
+/// points, and running right (horizontal) or down (vertical) for `length` points.
 void drawHairline(QPainter& painter, double x, double y, double length, Qt::Orientation direction,
                   const QColor& colour);
 
-/// Strokes a rounded rectangle's inside edge with a line of `width` points; 0 is a hairline.
+/// Strokes the inside edge of a rounded rectangle with a line of `width` points; 0 is a hairline.
 void drawRoundedFrame(QPainter& painter, const QRectF& frame, double radius, double width,
                       const QColor& colour);
 
-/// Fills a rounded rectangle.
 void fillRounded(QPainter& painter, const QRectF& frame, double radius, const QColor& colour);
 
-/// Draws the background of a field, with a ring while it has the focus.
+/// Draws a field's background, with a ring while it has the focus.
 void drawField(QPainter& painter, const QRectF& frame, const Theme& theme, bool hasFocus);
 
-/// Whether a control that a click focuses too shows the focus that came for `reason`: the
-/// keyboard's is shown, a click's is not, and a window that comes back shows what it showed before.
+/// Whether a control that can also be focused by a click should draw a focus ring after getting the
+/// focus for `reason`: yes for the keyboard, no for a click, unchanged when its window is
+/// reactivated.
 [[nodiscard]] bool isFocusShown(Qt::FocusReason reason, bool wasShown);
 
 }  // namespace tonquil

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::string_view table = "KVAboutBox";
 
-/// The first occurrence of a word in a document, selected.
+/// Selects the first occurrence of a word in a document.
 QTextCursor placeOf(QTextDocument& document, const QString& word) {
     const auto start = static_cast<int>(document.toPlainText().indexOf(word));
     QTextCursor place(&document);
@@ -25,7 +25,7 @@ QTextCursor placeOf(QTextDocument& document, const QString& word) {
     return place;
 }
 
-/// Gives a place the desktop's font in the size that its first letter has.
+/// Applies the desktop's font at a cursor, in the size of its first letter.
 void setSystemFont(QTextCursor& place, bool isBold) {
     QTextCursor first(place.document());
     first.setPosition(place.selectionStart() + 1);
@@ -77,7 +77,7 @@ std::unique_ptr<QTextDocument> filledTemplate(const QTextDocument& pattern,
     QTextCursor acknowledged = placeOf(*document, QStringLiteral("Credits"));
     setSystemFont(version, false);
     setSystemFont(name, true);
-    // From the end, so that what is filled in cannot be taken for a place.
+    // Last to first, so that inserted text cannot be mistaken for a placeholder.
     acknowledged.removeSelectedText();
     acknowledged.insertFragment(credits);
     copyright.insertText(QString::fromStdString(information.copyright.value_or("")));

@@ -15,12 +15,12 @@ namespace tonquil {
 /// "Version 6.2 (6204)", without the parentheses where the build is the version.
 [[nodiscard]] QString versionLine(const BundleInformation& information);
 
-/// The HTML document `file`, which may be a resource, in the encoding that it says or shows. Empty
-/// where there is none.
+/// The HTML document `file`, which may be a resource, decoded with its declared or detected
+/// encoding. Empty if it does not exist.
 [[nodiscard]] QTextDocumentFragment creditsDocument(const QString& file);
 
 /// A copy of `pattern` in which the first "App", "Version", "Copyright" and "Credits", which must
-/// be there in this order, have given way to what they stand for.
+/// occur in this order, are replaced by the actual text.
 [[nodiscard]] std::unique_ptr<QTextDocument> filledTemplate(const QTextDocument& pattern,
                                                             const BundleInformation& information,
                                                             const QTextDocumentFragment& credits);

@@ -23,7 +23,7 @@ constexpr QSize windowSize(520, 340);
 constexpr int margin = 24;
 constexpr int iconSize = 128;
 
-/// The four words are places for `filledTemplate`, and must stay in this order.
+/// The four words are placeholders for `filledTemplate` and must stay in this order.
 QString templateText(const Theme& theme) {
     const double size = QFontDatabase::systemFont(QFontDatabase::GeneralFont).pointSizeF();
     return QStringLiteral(

@@ -8,8 +8,8 @@ namespace tonquil {
 class KVAboutBoxIconView;
 class KVAboutBoxScrollView;
 
-/// The about window as it is laid out, before the controller has filled it: the icon on the left,
-/// and the template of the text on the right of it. Escape closes it. It is light in every theme.
+/// The about window before the controller fills it: the icon on the left, the text template to its
+/// right. Escape closes it. It is light in every theme.
 class AboutWindow : public QWidget {
  public:
     AboutWindow();

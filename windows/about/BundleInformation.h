@@ -7,9 +7,9 @@
 
 namespace tonquil {
 
-/// What the program is told of itself when it is put together.
+/// What the build tells the program about itself.
 struct BundleInformation {
-    /// The program's file, after which it is named where it has no name.
+    /// The executable; its file name is the fallback for a missing program name.
     std::filesystem::path path;
     std::optional<std::string> name{};
     std::string shortVersion;

@@ -14,7 +14,7 @@ namespace tonquil {
 
 namespace {
 
-/// The one colour; light grey until the program sets its own.
+/// The shared colour; light grey until the program sets its own.
 QColor& sharedColor() {
     static QColor color = QColor::fromRgbF(0.9F, 0.9F, 0.9F);
     return color;
@@ -46,7 +46,7 @@ void KVAboutBoxBackground::paintEvent(QPaintEvent* event) {
     painter.fillRect(rect(), gradient);
 }
 
-// A view that has moved to another window is shown there before it can be seen.
+// A view that has moved to another window gets a show event there before it becomes visible.
 void KVAboutBoxBackground::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     viewWillMoveToWindow(window());

@@ -7,13 +7,13 @@
 
 namespace tonquil {
 
-/// The background of the about window: from white to a colour while the window is the active one,
-/// else flat and lighter. Dragging it moves the window.
+/// The about window's background: a gradient from white to a colour while the window is active,
+/// otherwise flat and lighter. Dragging it moves the window.
 class KVAboutBoxBackground : public QWidget {
  public:
     explicit KVAboutBoxBackground(QWidget* parent = nullptr);
 
-    /// The colour of all such backgrounds. Those that are shown are not redrawn.
+    /// The colour of all these backgrounds. Changing it does not repaint visible ones.
     [[nodiscard]] static QColor backgroundColor();
     static void setBackgroundColor(const QColor& color);
 
@@ -22,9 +22,9 @@ class KVAboutBoxBackground : public QWidget {
  protected:
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    /// Sees when the window becomes the active one, and when it no longer is.
+    /// Detects when the window is activated and deactivated.
     bool eventFilter(QObject* watched, QEvent* event) override;
-    /// Also those on children that do nothing with them.
+    /// Also receives presses that child widgets ignore.
     void mousePressEvent(QMouseEvent* event) override;
 
  private:

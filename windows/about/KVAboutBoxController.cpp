@@ -12,7 +12,8 @@
 #include "windows/about/KVAboutBoxScrollView.h"
 #include "windows/front/BringToFront.h"
 
-// Outside of any namespace, as the toolkit asks. A static library's resources are not there before.
+// Outside any namespace, as Qt requires. A static library's resources are not registered before
+// this.
 static void initializeResources() {
     Q_INIT_RESOURCE(about);
 }
@@ -87,7 +88,7 @@ void KVAboutBoxController::windowDidLoad() {
     _textView->scrollToBeginning();
 }
 
-// The text stays where the template has it, while what scrolls reaches the window's edges.
+// The text stays where the template puts it, while the scroll area extends to the window's edges.
 void KVAboutBoxController::widenTextView() {
     const QRect text = _textView->geometry();
     const QSize content = _window->size();

@@ -16,11 +16,11 @@ class AboutWindow;
 class KVAboutBoxIconView;
 class KVAboutBoxScrollView;
 
-/// Fills the about window from what the program is told of itself, and shows it.
+/// Fills the about window with the program's bundle information and shows it.
 class KVAboutBoxController {
  public:
-    /// `creditsFile` is an HTML file or resource; the program's own by default. The window is made
-    /// when it is first needed. The window system must outlive the controller.
+    /// `creditsFile` is an HTML file or resource; the program's own by default. The window is
+    /// created on first use. The window system must outlive the controller.
     KVAboutBoxController(BundleInformation information, WindowSystem& windowSystem,
                          QString creditsFile = ownCredits());
     ~KVAboutBoxController();
@@ -29,14 +29,13 @@ class KVAboutBoxController {
     [[nodiscard]] static QString windowNibName();
     [[nodiscard]] static QString ownCredits();
 
-    /// Shows the window in front; where it was not shown, from the beginning of its text and in
-    /// the middle of the screen.
+    /// Shows the window in front; if it was hidden, scrolled to the top and centred on the screen.
     void showWindow();
     /// Fills the template again.
     void updateText();
 
     [[nodiscard]] AboutWindow& window();
-    /// Null before the window is made, unless they were set. Not owned.
+    /// Null before the window is created, unless set before. Not owned.
     [[nodiscard]] KVAboutBoxIconView* iconView() const;
     void setIconView(KVAboutBoxIconView* iconView);
     [[nodiscard]] KVAboutBoxScrollView* textView() const;
@@ -52,7 +51,7 @@ class KVAboutBoxController {
     std::unique_ptr<AboutWindow> _window;
     QPointer<KVAboutBoxIconView> _iconView;
     QPointer<KVAboutBoxScrollView> _textView;
-    /// As it was before it was filled for the first time.
+    /// The template before it was first filled.
     std::unique_ptr<QTextDocument> _templateText;
 };
 

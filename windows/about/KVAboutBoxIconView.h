@@ -8,7 +8,7 @@
 
 namespace tonquil {
 
-/// Shows a picture as large as itself. Presses go through to what is behind it, and so move the
+/// Shows a picture at its own size. Mouse presses pass through to the background and so move the
 /// window.
 class KVAboutBoxIconView : public QWidget {
  public:

@@ -10,7 +10,7 @@ namespace tonquil {
 
 namespace {
 
-/// A bar without arrows, on the background that the text has.
+/// A scroll bar without arrows, on the text's background.
 constexpr const char* quietBar =
     "QScrollBar { background: transparent; width: 12px; margin: 0; }"
     "QScrollBar::handle { background: rgba(0, 0, 0, 72); border-radius: 3px; margin: 3px;"
@@ -35,7 +35,7 @@ KVAboutBoxScrollView::KVAboutBoxScrollView(QWidget* parent) : QTextBrowser(paren
 void KVAboutBoxScrollView::setText(std::unique_ptr<QTextDocument> text) {
     QTextDocument* const shown = text.release();
     shown->setParent(this);
-    // The view deletes the text before it, which is its own.
+    // The base class deletes the previous document, which it owns.
     setDocument(shown);
     applyInset();
     scrollToBeginning();

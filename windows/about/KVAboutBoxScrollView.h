@@ -7,21 +7,21 @@
 
 namespace tonquil {
 
-/// The scrolling text of the about window, on a background that is not its own. Links open where
-/// the desktop opens them.
+/// The about window's scrolling text, with a transparent background. Links open in the desktop's
+/// default program.
 class KVAboutBoxScrollView : public QTextBrowser {
  public:
     explicit KVAboutBoxScrollView(QWidget* parent = nullptr);
 
-    /// Shows a text, from its beginning, inside the inset.
+    /// Shows a text from its start, inside the inset.
     void setText(std::unique_ptr<QTextDocument> text);
-    /// What is kept clear left and right, and above and below the text, in points.
+    /// Space kept clear on the left and right, and above and below the text, in points.
     [[nodiscard]] QSize textContainerInset() const { return _textContainerInset; }
     void setTextContainerInset(const QSize& inset);
     void scrollToBeginning();
 
  protected:
-    /// Where the scroll bars change their style, the text stays where it is.
+    /// Keeps the text in place when the scroll bars change their style.
     void changeEvent(QEvent* event) override;
 
  private:

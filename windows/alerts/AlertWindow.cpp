@@ -24,7 +24,7 @@ constexpr int iconSize = 48;
 constexpr int textWidth = 340;
 constexpr int leastButtonWidth = 88;
 
-/// A triangle for what is critical, else a circle, with a stroke and a dot in it.
+/// A triangle for critical alerts, otherwise a circle, with a stroke and a dot inside.
 QPixmap drawnIcon(Alert::Style style, const Theme& theme, double scale) {
     QPixmap pixmap(QSize(iconSize, iconSize) * scale);
     pixmap.setDevicePixelRatio(scale);
@@ -112,7 +112,7 @@ AlertWindow::AlertWindow(const Alert& alert, const Appearance& appearance, QWidg
     column->setSpacing(margin);
     column->addLayout(upper);
     column->addLayout(row);
-    // The texts are as high as their width makes them.
+    // The height of the texts depends on their width.
     column->setSizeConstraint(QLayout::SetFixedSize);
 }
 
@@ -127,7 +127,7 @@ void AlertWindow::addButtons(const Alert& alert, QBoxLayout& row) {
             accept();
         });
         _buttons.push_back(button);
-        // From the outside in, behind the stretch; Tab goes the same way.
+        // Outermost first, behind the stretch; the Tab order is the same.
         row.insertWidget(1, button);
     }
     for (std::size_t index = 1; index < _buttons.size(); ++index) {

@@ -13,16 +13,16 @@ class QPushButton;
 
 namespace tonquil {
 
-/// The window of an alert: an icon, the message, what follows from it, and the buttons with the
-/// default one outermost. Return chooses the button that has the focus, the default one at first.
-/// Closing the window chooses the default one too.
+/// The window of an alert: an icon, the message, the explanation, and the buttons with the default
+/// one outermost. Return presses the focused button, initially the default one. Closing the window
+/// counts as pressing the default button too.
 class AlertWindow : public QDialog {
  public:
     AlertWindow(const Alert& alert, const Appearance& appearance, QWidget* parent = nullptr);
 
-    /// From 0, in the order of the alert.
+    /// From 0, in the alert's order.
     [[nodiscard]] std::size_t chosenButton() const { return _chosenButton; }
-    /// In the order of the alert. Owned by the window.
+    /// In the alert's order. Owned by the window.
     [[nodiscard]] const std::vector<QPushButton*>& buttons() const { return _buttons; }
 
  private:

@@ -5,7 +5,7 @@
 
 namespace tonquil {
 
-/// A button that looks as the fields do; a default one stands out by its grey.
+/// A button styled like the fields; a default button stands out by its grey.
 class FlatButton : public QPushButton {
  public:
     using QPushButton::QPushButton;

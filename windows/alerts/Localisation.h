@@ -8,11 +8,11 @@
 
 namespace tonquil {
 
-/// The text behind a key of a string table, in the person's language. Most keys are the English
-/// text themselves; the few that are not have theirs here.
+/// The text for a key of a string table, in the user's language. Most keys are the English text
+/// itself; the few others have their English text here.
 [[nodiscard]] QString localised(std::string_view table, std::string_view key);
 
-/// The same, with the arguments put in their places (see `formattedText`).
+/// Same, with the arguments filled in (see `formattedText`).
 [[nodiscard]] QString localised(std::string_view table, std::string_view key,
                                 const std::vector<std::string>& arguments);
 

@@ -11,21 +11,21 @@ namespace tonquil {
 
 class AlertWindow;
 
-/// Alerts in windows of our own, in front of the active window or else in the middle of the screen.
+/// Alerts in our own windows, in front of the active window or else centred on the screen.
 class ModalAlerts final : public Alerts {
  public:
     using LookUp = std::function<Appearance()>;
 
-    /// `appearance` is asked for at each alert.
+    /// Calls `appearance` for each alert.
     explicit ModalAlerts(LookUp appearance) : _appearance(std::move(appearance)) {}
 
     [[nodiscard]] std::size_t runModal(const Alert& alert) override;
-    /// Takes the alert away that is being shown, if any, as if its last button had been chosen.
+    /// Closes the alert being shown, if any, as if its last button had been pressed.
     void dismiss();
 
  private:
     LookUp _appearance;
-    /// While one is shown; the newest.
+    /// The most recent alert being shown, or null.
     AlertWindow* _shown = nullptr;
 };
 

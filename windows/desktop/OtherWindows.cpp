@@ -19,7 +19,7 @@ namespace tonquil {
 
 namespace {
 
-// Addresses are texts like others: a language may have pages of its own.
+// Addresses are translatable texts: a language may have pages of its own.
 QUrl addressOf(std::string_view key) {
     static const std::map<std::string_view, const char*> ownAddresses{
         {"TQWebSite", TONQUIL_WEB_SITE}, {"TQBoardWebSite", TONQUIL_BOARD_WEB_SITE}};

@@ -13,16 +13,16 @@
 
 namespace tonquil {
 
-/// The preferences and the about window, each made when it is first asked for.
+/// The preferences and about windows, each created on first use.
 class OtherWindows final : public ProgramWindows {
  public:
     struct Surroundings {
         PreferencesSurroundings preferences;
         DisplayService& service;
         BundleInformation bundle;
-        /// Called with each window that is made, before it is shown.
+        /// Called with each new window before it is shown.
         std::function<void(QWidget&)> windowMade;
-        /// Hot keys are to be given up, or taken back.
+        /// Called to suspend the hot keys or resume them.
         std::function<void(bool areSuspended)> suspendHotKeys;
     };
     explicit OtherWindows(Surroundings surroundings);
@@ -42,7 +42,7 @@ class OtherWindows final : public ProgramWindows {
     void showRemoteProblem(const std::string& sentence) override;
     void saveFrames() override;
 
-    /// Whether there is a page behind a key: a copy of the program may have none.
+    /// Whether a key has a web page: a build of the program may have none.
     [[nodiscard]] static bool hasAddress(std::string_view key);
 
  private:

@@ -5,8 +5,8 @@
 
 namespace tonquil {
 
-/// The status item's picture: a transfer curve, filled below while the correction is on. A light
-/// curve with a dark rim, which reads on light bars and on dark ones.
+/// The status icon: a transfer curve, filled below while the correction is on. A light curve with a
+/// dark rim, legible on light and dark bars.
 [[nodiscard]] QIcon statusIcon(bool isActive);
 
 }  // namespace tonquil

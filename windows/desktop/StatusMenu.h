@@ -8,14 +8,14 @@ namespace tonquil {
 
 class PanelActions;
 
-/// The status item's menu: the program without its panel.
+/// The status icon's menu, for using the program without its panel.
 class StatusMenu : public QMenu {
  public:
     StatusMenu();
 
     void setActions(PanelActions& actions, std::function<void()> showPanel);
     void showCorrection(bool isOn) { _statusActiveItem->setChecked(isOn); }
-    /// A copy of the program may have no sites of its own.
+    /// A build of the program may have no web sites.
     void showWebSites(bool hasSite, bool hasBoardSite) {
         _webSite->setVisible(hasSite);
         _boardWebSite->setVisible(hasBoardSite);

@@ -37,7 +37,7 @@ void TrayPresence::showStatusItem(bool isShown) {
     look();
 }
 
-// The toolkit puts the item into a tray that comes later, and tells nobody.
+// Qt adds the icon to a tray that appears later, but notifies nobody.
 void TrayPresence::look() {
     const bool lacksTray = _item.isVisible() && !QSystemTrayIcon::isSystemTrayAvailable();
     if (lacksTray && !_lacksTray) {
@@ -83,7 +83,7 @@ void TrayPresence::updateTaskBar(QWidget& window) {
     _windowSystem.skipTaskbar(window.winId(), !_wantsTaskBar && !_lacksTray);
 }
 
-// The event comes before the window is there to be seen, and so before it has an entry.
+// The event arrives before the window is mapped, and so before it has a task-bar entry.
 bool TrayPresence::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show) {
         updateTaskBar(*static_cast<QWidget*>(watched));

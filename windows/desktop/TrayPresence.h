@@ -15,18 +15,18 @@
 
 namespace tonquil {
 
-/// The status item in the desktop's tray, and the program's windows in its task bar.
+/// The status icon in the desktop's tray, and the task-bar entries of the program's windows.
 class TrayPresence final : public QObject, public DesktopPresence {
  public:
     /// The window system must outlive this.
     TrayPresence(WindowSystem& windowSystem, Log log);
 
-    /// What the item and its menu do.
+    /// Connects the status icon and its menu.
     void setActions(PanelActions& actions, std::function<void()> showPanel);
     void showWebSites(bool hasSite, bool hasBoardSite) {
         _menu.showWebSites(hasSite, hasBoardSite);
     }
-    /// Sees to the task-bar entry of a window, also each time that it is shown again.
+    /// Manages a window's task-bar entry, every time the window is shown.
     void watch(QWidget& window);
 
     void showStatusItem(bool isShown) override;
@@ -45,12 +45,12 @@ class TrayPresence final : public QObject, public DesktopPresence {
     WindowSystem& _windowSystem;
     Log _log;
     StatusMenu _menu;
-    // Made once: the toolkit keeps drawn copies of every icon that it meets.
+    // Created once: Qt caches rendered copies of every icon it sees.
     QIcon _restingIcon = statusIcon(false);
     QIcon _activeIcon = statusIcon(true);
     QSystemTrayIcon _item;
     std::vector<QWidget*> _windows;
-    /// Looks for a tray while there is none.
+    /// Polls for a tray while there is none.
     QTimer _lookTimer;
     bool _wantsTaskBar = false;
     bool _lacksTray = false;

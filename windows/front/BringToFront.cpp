@@ -7,8 +7,8 @@ namespace tonquil {
 
 void bringToFront(QWidget& window, WindowSystem& windowSystem, Workspaces workspaces) {
     if (workspaces == Workspaces::All) {
-        // A window manager forgets this when the window is hidden. Asking for the number makes the
-        // window, which must exist to be told anything.
+        // A window manager forgets this when the window is hidden. winId() creates the native
+        // window, which must exist before it can get messages.
         windowSystem.keepOnAllWorkspaces(window.winId());
     } else if (window.isVisible()) {
         windowSystem.bringToActiveWorkspace(window.winId());
@@ -16,7 +16,7 @@ void bringToFront(QWidget& window, WindowSystem& windowSystem, Workspaces worksp
     if (window.isVisible()) {
         windowSystem.activate(window.winId());
     }
-    // To the toolkit a minimised window is still visible, and showing it does nothing.
+    // Qt considers a minimised window visible, so showing it does nothing.
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();

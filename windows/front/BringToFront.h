@@ -7,11 +7,11 @@ class QWidget;
 
 namespace tonquil {
 
-/// The workspaces that a window is shown on.
+/// The workspaces a window is shown on.
 enum class Workspaces : bool { Active, All };
 
-/// Shows a window to the person who asks for it now, even if it is minimised, covered by others or
-/// on another workspace, and gives it the keyboard.
+/// Shows a window on user request, even if it is minimised, covered or on another workspace, and
+/// gives it the keyboard focus.
 void bringToFront(QWidget& window, WindowSystem& windowSystem,
                   Workspaces workspaces = Workspaces::Active);
 

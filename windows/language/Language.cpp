@@ -6,7 +6,8 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
-// Outside of any namespace, as the toolkit asks. A static library's resources are not there before.
+// Outside any namespace, as Qt requires. A static library's resources are not registered before
+// this.
 static void initializeResources() {
     Q_INIT_RESOURCE(translations);
 }
@@ -30,8 +31,8 @@ QStringList translatedLanguages() {
     return languages;
 }
 
-// The toolkit's own choice would pass English by, for which there is no file, and give somebody
-// who reads English best the next language.
+// Qt's own selection would skip English, which has no file, and give a user who prefers English the
+// next language.
 QString chosenLanguage(const QStringList& wanted, const QStringList& available) {
     for (const QString& each : wanted) {
         QString language = each.section(u'-', 0, 0).section(u'_', 0, 0);
@@ -50,7 +51,7 @@ Language::Language(const QString& language) {
         return;
     }
     initializeResources();
-    // What is installed last is asked first.
+    // The translator installed last is searched first.
     if (_toolkits.load(QStringLiteral("qtbase_") + language,
                        QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&_toolkits);

@@ -7,20 +7,19 @@
 
 namespace tonquil {
 
-/// The languages that texts are translated to besides English, which they are written in: "de".
+/// The languages that texts are translated to, apart from English, their original language: "de".
 [[nodiscard]] QStringList translatedLanguages();
 
-/// The one of `available` that a person reads best; empty for English, and where there is none.
-/// `wanted` has the person's languages, the best first, as in `QLocale::uiLanguages`: "de-AT". A
-/// language counts wherever it is spoken and however it is written.
+/// The user's most preferred of the `available` languages; empty for English, or if none matches.
+/// `wanted` has the user's languages, most preferred first, as in `QLocale::uiLanguages`: "de-AT".
+/// Country and script are ignored.
 [[nodiscard]] QString chosenLanguage(const QStringList& wanted, const QStringList& available);
 
-/// Translates the program's texts, and the toolkit's where the desktop has them translated.
+/// Translates the program's texts, and Qt's own where the desktop has translations for them.
 class Language {
  public:
-    /// Installs the translations of a language from `translatedLanguages`; texts stay English for
-    /// an empty one. Numbers keep to their own rules. Windows that are there already do not change.
-    /// There must be an application object.
+    /// Installs the translations for one of `translatedLanguages`; texts stay English if it is
+    /// empty. Number formats do not change, nor do existing windows. Needs an application object.
     explicit Language(const QString& language);
 
  private:

@@ -73,7 +73,7 @@ ChannelStrip::ChannelStrip(const PanelSliders& sliders, QWidget* parent)
     layout->addWidget(_maximumValueAccessory);
 
     _slider->setMinimumWidth(64);
-    // The strip follows the focus and never has it.
+    // The strip follows the focus and never takes it.
     _slider->setFocusPolicy(Qt::NoFocus);
     _slider->setAccessibleName(QCoreApplication::translate("Panel", "Focused value"));
     setAccessibleName(QCoreApplication::translate("Panel", "Channel strip"));
@@ -135,7 +135,7 @@ void ChannelStrip::updateTouchBarForResponder(QWidget* responder) {
         mirror(*slider, channel);
         _slider->show();
     } else {
-        // The focus may only be on its way to another slider.
+        // The focus may just be moving to another slider.
         QTimer::singleShot(0, this, [this] { removeSliderUnlessNeeded(); });
     }
 }
@@ -181,7 +181,7 @@ void ChannelStrip::valuePickerSelectionChanged(int segment) {
             _focus(*slider->auxiliary());
         }
     }
-    // A segment that was picked already must not go out.
+    // Clicking the selected segment must not deselect it.
     updateTouchBarForResponder(_responder);
 }
 

@@ -13,26 +13,26 @@ class QToolButton;
 
 namespace tonquil {
 
-/// One slider that always stands for the channel of the focused control, with a picker of the
-/// channel and one of the tab: all values are within reach in the compact panel and on a touch
-/// screen.
+/// A slider that always controls the channel of the focused control, with pickers for channel and
+/// tab: all values are within reach in the compact panel and on a touch screen.
 class ChannelStrip : public QWidget {
  public:
     /// The sliders must outlive the strip.
     explicit ChannelStrip(const PanelSliders& sliders, QWidget* parent = nullptr);
 
-    /// Called with the slider of the panel that is to take a value of the strip's, after it has.
+    /// Called with the panel's slider that corresponds to the strip's, after the strip's value
+    /// changed.
     void setAction(std::function<void(TQSlider&)> action) { _moved = std::move(action); }
-    /// Called with that slider when the strip's own is taken hold of and let go.
+    /// Called with that slider when the strip's slider is grabbed and released.
     void setInteractionChanged(std::function<void(TQSlider&, bool)> changed) {
         _interactionChanged = std::move(changed);
     }
-    /// Called with the control that is to have the focus.
+    /// Called with the control that should get the focus.
     void setFocusAction(std::function<void(QWidget&)> action) { _focus = std::move(action); }
-    /// Called with the tab that the person picks.
+    /// Called with the tab that the user picks.
     void setTabAction(std::function<void(int)> action) { _pickTab = std::move(action); }
 
-    /// To be called whenever another control of the panel has the focus.
+    /// Call whenever another control of the panel gets the focus.
     void updateTouchBarForResponder(QWidget* responder);
     /// Takes the value of the slider that the strip stands for.
     void updateTouchBarSlider();

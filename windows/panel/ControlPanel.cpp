@@ -30,9 +30,9 @@ namespace {
 
 constexpr double windowRadius = 10;
 constexpr int glideMilliseconds = 100;
-/// The plot is drawn at most once in this time, however fast a slider moves.
+/// The minimum time between two redraws of the plot, however fast a slider moves.
 constexpr int plotMilliseconds = 16;
-/// Steps that follow each other faster than this are undone together.
+/// Steps closer together than this are undone together.
 constexpr int editEndMilliseconds = 800;
 
 }  // namespace
@@ -46,8 +46,8 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_AlwaysShowToolTips);
     setAcceptDrops(true);
-    // Whether a window has an alpha channel is settled when it is made; whether anybody blends by
-    // it may change at any time.
+    // Whether a window has an alpha channel is fixed at its creation; whether a compositor uses it
+    // may change at any time.
     setAttribute(Qt::WA_TranslucentBackground);
     _plotTimer.setSingleShot(true);
     _plotTimer.setInterval(plotMilliseconds);
@@ -62,8 +62,8 @@ ControlPanel::ControlPanel(WindowSystem& windowSystem)
     fitForm(false);
 }
 
-// The window loses the keyboard as it goes, and that would commit what is being typed while half of
-// the panel is already destroyed.
+// The window loses the keyboard focus during destruction, which would commit the text being typed
+// while half of the panel is already destroyed.
 ControlPanel::~ControlPanel() {
     _contents->sliders.revertTyping();
 }
@@ -146,7 +146,7 @@ void ControlPanel::setSlider(PanelSlider slider, float value) {
     _contents->sliders.slider(slider).setFloatValue(value);
 }
 
-// The mode is kept beside the menu, which may not know it.
+// The mode is stored separately, because the menu may not contain it.
 void ControlPanel::selectBlendingMode(std::int32_t blendingMode) {
     _blendingMode = blendingMode;
     QComboBox& popUp = *_contents->blendingModePopUp;
@@ -158,8 +158,8 @@ void ControlPanel::updateTouchBarSlider() {
 }
 
 void ControlPanel::_setControlsEnabled(bool enabled) {
-    // A control that is disabled would hand the focus to whichever is next, and the next key would
-    // act there.
+    // Disabling a focused control would pass the focus on to the next one, and the next key press
+    // would act there.
     if (!enabled && !_focusToReturn && focusWidget() != nullptr) {
         _focusToReturn = focusWidget();
         setFocus();
@@ -225,7 +225,7 @@ void ControlPanel::heldSlider(PanelSlider slider, bool isHeld) {
     _isSliderHeld = isHeld;
     if (!isHeld) {
         _contents->plot->setMarkedPoint(std::nullopt);
-        // A second click may make a double-click of it, which is undone as one.
+        // A second click may turn it into a double-click, which is undone as one edit.
         _editEndTimer.start(QGuiApplication::styleHints()->mouseDoubleClickInterval());
         return;
     }
@@ -238,7 +238,7 @@ void ControlPanel::heldSlider(PanelSlider slider, bool isHeld) {
                                 CurvePlot::CurvePoint::White};
     _contents->plot->setMarkedPoint(
         CurvePlot::MarkedPoint{points.at(static_cast<std::size_t>(place.tab)), place.channel});
-    // A slider that is held through the channel strip has the focus already.
+    // A slider dragged through the channel strip already has the focus.
     if (_contents->sliders.slider(slider).isInteracting()) {
         firstResponderChanged(&_contents->sliders.slider(slider));
     }
@@ -247,7 +247,7 @@ void ControlPanel::heldSlider(PanelSlider slider, bool isHeld) {
 void ControlPanel::pickTab(int tab) {
     const Channel channel = _contents->sliders.channelForResponder(_firstResponder);
     _actions->setSelectedTab(tab);
-    // The control that had the focus is hidden now, so the one in its place gets it. If the tab
+    // The focused control is hidden now, so its counterpart on this tab gets the focus. If the tab
     // selector has the focus, it keeps it.
     if (channel != Channel::None) {
         makeFirstResponder(*_contents->sliders.row(tab, channel).field);
@@ -276,8 +276,8 @@ void ControlPanel::makeFirstResponder(QWidget& control) {
     firstResponderChanged(&control);
 }
 
-// The toolkit reports focus changes only while the window has the keyboard, and the panel mostly
-// does not have it.
+// Qt reports focus changes only while the window has the keyboard focus, which the panel mostly
+// does not.
 void ControlPanel::firstResponderChanged(QWidget* control) {
     _firstResponder = control;
     if (_observesFirstResponder) {
@@ -293,7 +293,8 @@ void ControlPanel::_setDarkTheme(bool dark) {
     _menu.showForm(_isAdvanced, dark, !_contents->channelStrip->isHidden());
 }
 
-// Lists, tool tips and context menus are windows that only the program's palette reaches.
+// Drop-down lists, tool tips and context menus are windows that only the application palette
+// reaches.
 void ControlPanel::setAppearances() {
     QApplication::setPalette(paletteFor(_appearance));
     QToolTip::setPalette(paletteFor(_appearance));
@@ -307,7 +308,7 @@ void ControlPanel::setAppearances() {
     }
 }
 
-// The tabs stand in two places.
+// There are two tab selectors.
 std::vector<QWidget*> ControlPanel::vibrantViews() const {
     return {_contents->gammaTabs,          _contents->blendingModePopUp, _contents->gammaTabColours,
             _contents->applyCorrectionBox, _contents->gammaTabSelector,  _contents,
@@ -318,7 +319,7 @@ void ControlPanel::_setAdvancedPanel(bool advanced) {
     const bool becomesCompact = _isAdvanced && !advanced;
     _isAdvanced = advanced;
     fitForm(true);
-    // In the compact form the channel strip itself puts the focus on fields that are cut off.
+    // In the compact form the channel strip itself focuses fields that are cut off.
     if (becomesCompact && focusWidget() != nullptr && isCutOff(*focusWidget())) {
         focusMasterOfSelectedTab();
     }

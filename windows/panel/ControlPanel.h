@@ -19,8 +19,8 @@
 
 namespace tonquil {
 
-/// The control panel: a floating window of sliders that is used without taking the keyboard from
-/// the program in front of which it floats. Only a click on a number field takes the keyboard.
+/// The control panel: a floating window of sliders that can be used without taking the keyboard
+/// focus from the program in front. Only a click on a number field takes it.
 class ControlPanel final : public QWidget, public PanelControls, public PanelWindow {
  public:
     /// The window system must outlive the panel.
@@ -28,16 +28,16 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     ~ControlPanel() override;
     Q_DISABLE_COPY_MOVE(ControlPanel)
 
-    /// Hears what the person does. To be set before the panel is shown; must outlive its use.
+    /// Receives the user's actions. Set before the panel is shown; must outlive the panel's use.
     void setActions(PanelActions& actions);
     void showWebSites(bool hasSite, bool hasBoardSite) {
         _menu.showWebSites(hasSite, hasBoardSite);
     }
-    /// Says quietly that changes cannot be saved, and why; nothing takes the sign away.
+    /// Indicates unobtrusively that changes cannot be saved, and why; nothing removes the sign.
     void showStorageProblem(const std::optional<Problem>& problem);
-    /// What the person asked of the whole desktop.
+    /// The user's desktop-wide accessibility settings.
     void setAccessibilityOptions(const AccessibilityOptions& options);
-    /// To be called when the blending of translucent windows may have been switched on or off.
+    /// Call when compositing may have been switched on or off.
     void updateCompositing();
 
     [[nodiscard]] PanelValues values() const override;
@@ -102,7 +102,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     AccessibilityOptions _wantedOptions;
     Appearance _appearance;
     PanelMenu _menu;
-    /// As high as the advanced form; the compact form cuts it off.
+    /// As high as the advanced form; the compact form clips it.
     PanelContents* _contents;
     bool _isAdvanced = true;
     int _selectedTab = 1;
@@ -110,12 +110,13 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     bool _observesFirstResponder = false;
     QPointer<QWidget> _firstResponder;
     bool _isFieldUnderMouse = false;
-    /// What had the focus when the controls were disabled; the panel itself has it meanwhile.
+    /// The control that had the focus before the controls were disabled; the panel itself has it
+    /// meanwhile.
     QPointer<QWidget> _focusToReturn;
     QTimer _plotTimer;
-    /// Ends an edit that no button holds: a run of steps, or a typed number.
+    /// Ends an edit without a held button: a run of steps, or a typed number.
     QTimer _editEndTimer;
-    /// A slider is held by the pointer, and was at the last edit.
+    /// Whether the pointer holds a slider, and whether it did at the last edit.
     bool _isSliderHeld = false;
     bool _wasLastEditHeld = false;
     QVariantAnimation _glide;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The panel as a window: where it stands, and when it takes the keyboard.
+// The panel as a window: its position, and when it takes the keyboard focus.
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QFile>
@@ -24,7 +24,7 @@ Rectangle ControlPanel::frame() const {
 
 void ControlPanel::setFrameOrigin(const Point& origin) {
     QPoint place = pointsFrom(origin);
-    // The toolkit takes the very corner for "no place wanted".
+    // Qt treats exactly (0, 0) as "no position requested".
     if (place.isNull()) {
         place.setX(1);
     }
@@ -67,14 +67,14 @@ void ControlPanel::takeKeyboard() {
     activateWindow();
 }
 
-// A click on a window that does not accept the keyboard leaves it where it is.
+// Clicking a window that does not accept the keyboard focus leaves the focus where it is.
 void ControlPanel::setAcceptsKeyboard(bool accepts) {
     if (QWindow* handle = windowHandle()) {
         handle->setFlag(Qt::WindowDoesNotAcceptFocus, !accepts);
     }
 }
 
-// While the window is gliding, its height is not yet that of its form.
+// During the animation the height is not that of the form yet.
 bool ControlPanel::isCutOff(const QWidget& control) const {
     return !_isAdvanced && control.mapTo(this, QPoint()).y() >= minimumHeight();
 }
@@ -90,9 +90,9 @@ bool ControlPanel::focusNextPrevChild(bool next) {
 }
 
 bool ControlPanel::event(QEvent* event) {
-    // The panel refuses the keyboard only while the pointer is on it and not on a number field: a
-    // click on a slider leaves the keyboard where it is, and yet the panel can be reached by
-    // switching between windows.
+    // The panel refuses the keyboard focus only while the pointer is on it and not on a number
+    // field: clicking a slider leaves the focus where it is, but the panel can still be reached by
+    // switching windows.
     if (event->type() == QEvent::Enter || event->type() == QEvent::Leave ||
         event->type() == QEvent::WindowDeactivate) {
         updateAcceptsKeyboard();
@@ -111,8 +111,8 @@ bool ControlPanel::eventFilter(QObject* watched, QEvent* event) {
         firstResponderChanged(field);
     } else if (field != nullptr &&
                (event->type() == QEvent::Enter || event->type() == QEvent::Leave)) {
-        // A window manager decides at the press whether a window takes the keyboard, before we
-        // hear of it.
+        // A window manager decides on the press whether a window takes the focus, before we get the
+        // event.
         _isFieldUnderMouse = event->type() == QEvent::Enter && field->isEnabled();
         updateAcceptsKeyboard();
     }
@@ -128,7 +128,7 @@ void ControlPanel::moveEvent(QMoveEvent* event) {
 
 void ControlPanel::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    // Most of it may be on another display now.
+    // Most of the panel may be on another display now.
     if (_actions != nullptr) {
         _actions->panelMoved();
     }

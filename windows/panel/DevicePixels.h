@@ -7,8 +7,8 @@
 
 namespace tonquil {
 
-/// Turns the toolkit's points into pixels of the desktop and back. The toolkit scales each screen
-/// from its upper left corner, whose place it takes as it is in pixels.
+/// Converts between Qt's points and desktop pixels. Qt scales each screen from its upper left
+/// corner, whose position it uses unscaled, in pixels.
 [[nodiscard]] Rectangle devicePixelsFrom(const QRect& points);
 [[nodiscard]] QPoint pointsFrom(const Point& devicePixels);
 [[nodiscard]] QRect pointsFrom(const Rectangle& devicePixels);

@@ -5,7 +5,7 @@
 
 namespace tonquil {
 
-/// A menu of choices that looks as the panel's fields do.
+/// A drop-down menu styled like the panel's fields.
 class FlatPopUp : public QComboBox {
  public:
     using QComboBox::QComboBox;

@@ -161,14 +161,14 @@ int PanelContents::advancedHeight() const {
 }
 
 void PanelContents::fit() {
-    // A child that was just shown or hidden has invalidated only its own layout so far.
+    // A child that was just shown or hidden has only invalidated its own layout so far.
     layout()->invalidate();
     resize(width(), advancedHeight());
     layout()->activate();
 }
 
-// The toolkit runs nested layouts only when the window is shown, and those of a page only when the
-// page is shown.
+// Qt runs nested layouts only when the window is shown, and those of a page only when the page is
+// shown.
 QRect PanelContents::placeOf(const QWidget& control) const {
     std::vector<QLayout*> layouts;
     for (const QWidget* outer = control.parentWidget(); outer != parentWidget();

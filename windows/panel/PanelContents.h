@@ -18,26 +18,26 @@ class CurvePlot;
 class TitleStrip;
 class TQVibrantMatrix;
 
-/// Everything in the panel, laid out from its upper edge down: first what both forms show, then
-/// what only the advanced form does. What it does is up to its owner.
+/// The content of the panel, laid out from the top: first what both forms show, then what only the
+/// advanced form shows. Its owner provides the behaviour.
 class PanelContents : public QWidget {
  public:
     PanelContents(QMenu& menu, QWidget* parent);
 
-    /// Where the compact form ends, in points from the upper edge.
+    /// The end of the compact form, in points from the upper edge.
     [[nodiscard]] int compactHeight() const;
     [[nodiscard]] int advancedHeight() const;
-    /// Takes the height of the advanced form, and lays everything out anew.
+    /// Resizes to the height of the advanced form and redoes the layout.
     void fit();
     void showTab(int tab) const;
-    /// A control's place from this object's upper left corner, in points; right also before the
-    /// panel has ever been shown.
+    /// A control's rectangle relative to this object's upper left corner, in points; correct even
+    /// before the panel was first shown.
     [[nodiscard]] QRect placeOf(const QWidget& control) const;
 
     PanelSliders sliders;
     TitleStrip* titleStrip;
     TQVibrantMatrix* gammaTabSelector;
-    /// The master's row of each tab, and the colours'.
+    /// Each tab's master row, and each tab's colour rows.
     QStackedWidget* gammaTabs;
     QStackedWidget* gammaTabColours;
     QCheckBox* applyCorrectionBox;

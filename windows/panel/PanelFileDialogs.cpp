@@ -27,7 +27,7 @@ std::filesystem::path pathFrom(const QString& text) {
     return QFile::encodeName(text).toStdString();
 }
 
-/// The format decides which kind of file the dialog lets through.
+/// The format decides which kind of file the dialog accepts.
 void savePanelFormatDidChange(QFileDialog& dialog, const QString& filter) {
     dialog.setDefaultSuffix(
         QString::fromLatin1(filter == multiFilter() ? multiSuffix : singleSuffix));
@@ -78,8 +78,8 @@ void PanelFileDialogs::chooseFileToSave(SettingsFormat format, ChosenWithFormat 
     present(dialog);
 }
 
-// An alert may follow a dialog that is only about to close. Files may be opened by the hundred, and
-// what is wrong with them is told in one window.
+// An alert may follow a dialog that is still closing. Files may be opened by the hundred, and all
+// their problems are shown in one window.
 void PanelFileDialogs::alert(const std::string& title, const std::string& message,
                              const std::vector<std::string>& arguments) {
     const QString titleText = QCoreApplication::translate("Problem", title.c_str());
@@ -93,7 +93,7 @@ void PanelFileDialogs::alert(const std::string& title, const std::string& messag
     _alert =
         new QMessageBox(QMessageBox::NoIcon, titleText, titleText, QMessageBox::NoButton, &_window);
     _alert->setInformativeText(text);
-    // A file's name may look like markup.
+    // A file name may look like markup.
     for (QLabel* label : _alert->findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);

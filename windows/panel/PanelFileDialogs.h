@@ -23,12 +23,13 @@ class PanelFileDialogs final : public FileDialogs {
                const std::vector<std::string>& arguments) override;
 
  private:
-    /// Shows a dialog that deletes itself; false, and none is shown, while another one is up.
+    /// Shows a dialog that deletes itself; returns false and shows nothing while another one is
+    /// open.
     bool present(QDialog* dialog);
 
     QWidget& _window;
     bool _isDialogUp = false;
-    /// While one is up.
+    /// Set while one is open.
     QPointer<QMessageBox> _alert;
 };
 

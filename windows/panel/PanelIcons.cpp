@@ -11,7 +11,7 @@ namespace tonquil {
 
 namespace {
 
-/// Draws at every scale that a desktop may ask for, in a square of 16 points.
+/// Draws the icon at every scale that a desktop may request, in a square of 16 points.
 QIcon iconFrom(const std::function<void(QPainter&)>& draw, int points = 16) {
     QIcon icon;
     for (const double scale : {1.0, 1.5, 2.0, 3.0}) {
@@ -46,7 +46,7 @@ void drawMenu(QPainter& painter) {
     }
 }
 
-/// An arrow most of the way round, against the clock.
+/// An arrow most of the way round, counter-clockwise.
 void drawReset(QPainter& painter) {
     const QRectF circle(3, 3.5, 10, 10);
     constexpr int degree = 16;
@@ -58,7 +58,7 @@ void drawReset(QPainter& painter) {
     painter.drawPath(head);
 }
 
-/// A square whose quarters alternate, as those of the targets do.
+/// A checkerboard square of four quarters, like those of the targets.
 void drawTargets(QPainter& painter) {
     const QColor colour = painter.pen().color();
     painter.setRenderHint(QPainter::Antialiasing, false);
@@ -67,7 +67,7 @@ void drawTargets(QPainter& painter) {
     painter.fillRect(QRectF(8, 8, 5, 5), colour);
 }
 
-/// Waves that go out to both sides of a point.
+/// Waves that spread to both sides of a point.
 void drawRemote(QPainter& painter) {
     constexpr int degree = 16;
     for (const double radius : {3.0, 5.5}) {
@@ -80,7 +80,7 @@ void drawRemote(QPainter& painter) {
     painter.drawEllipse(QPointF(8, 8), 1.25, 1.25);
 }
 
-/// A triangle with a stroke and a dot in it.
+/// A triangle with a stroke and a dot inside.
 void drawUnsaved(QPainter& painter) {
     QPainterPath triangle(QPointF(8, 2.5));
     triangle.lineTo(14.5, 13.5);
@@ -93,7 +93,7 @@ void drawUnsaved(QPainter& painter) {
     painter.drawEllipse(QPointF(8, 11.3), 0.9, 0.9);
 }
 
-/// The curve from black to white of the point's pictures; below 8 it is dark.
+/// The curve from black to white in the point icons; below 8 it is dark.
 QPointF curvePoint(double input) {
     return {2 + input * 12, 14 - input * input * 12};
 }

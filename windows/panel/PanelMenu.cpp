@@ -75,7 +75,7 @@ void PanelMenu::setActions(PanelActions& actions, QWidget& panel) {
 void PanelMenu::fillRecent(PanelActions& actions) {
     _recent->clear();
     for (const std::filesystem::path& file : actions.recentFiles()) {
-        // An ampersand would underline what follows it.
+        // An unescaped ampersand would underline the next character.
         QString name = QFile::decodeName(file.filename().c_str());
         QAction* action = _recent->addAction(name.replace(QLatin1Char('&'), QStringLiteral("&&")));
         action->setToolTip(QFile::decodeName(file.c_str()));

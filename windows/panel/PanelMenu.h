@@ -7,17 +7,17 @@ namespace tonquil {
 
 class PanelActions;
 
-/// The panel's menu. Its actions' shortcuts work wherever the focus is in the panel.
+/// The panel's menu. Its shortcuts work wherever the focus is in the panel.
 class PanelMenu : public QMenu {
  public:
     PanelMenu();
 
     void setActions(PanelActions& actions, QWidget& panel);
-    /// Lists the files that were used last.
+    /// Lists the recently used files.
     void fillRecent(PanelActions& actions);
     void showUndo(bool canUndo, bool canRedo);
     void showForm(bool isAdvanced, bool isDark, bool hasChannelStrip);
-    /// A copy of the program may have no sites of its own.
+    /// A build of the program may have no web sites.
     void showWebSites(bool hasSite, bool hasBoardSite) {
         _webSite->setVisible(hasSite);
         _boardWebSite->setVisible(hasBoardSite);

@@ -36,12 +36,12 @@ struct SliderRange {
 };
 
 // Levels go from 0 to 1. Exponents have the neutral 1 in the middle and stay above 0, which would
-// turn everything white. A master and a channel at their ends make 2.8.
+// turn everything white. A master and a channel both at their maximum give 2.8.
 constexpr std::array<SliderRange, PanelSliders::tabCount> ranges{
     {{0, 1}, {0.1F, 1.9F}, {0, 1}},
 };
 
-/// While the person drags, the range stays: under the pointer it would run away.
+/// The range stays fixed during a drag: otherwise it would shift under the pointer.
 void fitRange(TQSlider& slider, const SliderRange& range, float value) {
     float minimum = std::min(range.minimum, value);
     float maximum = std::max(range.maximum, value);

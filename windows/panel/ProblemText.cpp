@@ -9,7 +9,7 @@ namespace tonquil {
 
 QString translatedProblem(const std::string& key, const std::vector<std::string>& arguments) {
     const QString format = QCoreApplication::translate("Problem", key.c_str());
-    // A sentence with a file's name in it may hold what looks like a place for an argument.
+    // A message containing a file name may contain something that looks like a placeholder.
     if (arguments.empty()) {
         return format;
     }

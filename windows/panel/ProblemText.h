@@ -7,8 +7,8 @@
 
 namespace tonquil {
 
-/// What a `Problem` says in the person's language: its key and its arguments. An argument that is a
-/// translatable text is translated too.
+/// The text of a `Problem` in the user's language: its key with its arguments filled in. Arguments
+/// that are translatable texts are translated too.
 [[nodiscard]] QString translatedProblem(const std::string& key,
                                         const std::vector<std::string>& arguments);
 

@@ -9,14 +9,14 @@
 
 namespace tonquil {
 
-/// The toolkit's plain style, whatever the desktop's own is: that would tint the greys.
+/// Qt's plain style instead of the desktop's, which would tint the greys.
 class QuietStyle : public QProxyStyle {
  public:
     QuietStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                                 QStyleHintReturn* data) const override {
-        // What is disabled is fainter, which a shadow below its text would undo.
+        // Disabled text is fainter, which an etched shadow would counteract.
         return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
     }
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -59,7 +59,7 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     _subjectButton->setAutoRaise(true);
     _subjectButton->setFocusPolicy(Qt::TabFocus);
     _subjectButton->installEventFilter(this);
-    // A button that has a menu of its own is drawn with an arrow of the style's.
+    // A button with a menu of its own would get the style's arrow.
     openBelow(*_menuButton, menu);
     buildSubjectMenu();
     QObject::connect(_closeButton, &QToolButton::clicked, this, [this] {
@@ -69,7 +69,7 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     });
 
     _storageSign->hide();
-    // Where nothing hovers, a click tells what is wrong.
+    // Without hovering, as on a touch screen, a click shows the problem.
     QObject::connect(_storageSign, &QToolButton::clicked, this, [this] {
         QToolTip::showText(_storageSign->mapToGlobal(_storageSign->rect().bottomLeft()),
                            _storageSign->toolTip(), _storageSign);
@@ -111,7 +111,7 @@ void TitleStrip::buildSubjectMenu() {
 void TitleStrip::showSubject(const PanelSubject& subject) {
     _title = QCoreApplication::translate("PanelSubject", subject.title.c_str());
     (subject.isAllDisplays ? _allDisplays : _thisDisplay)->setChecked(true);
-    // The compact form has no other place for the reason.
+    // The compact form has no other place to show the reason.
     const QString hint =
         subject.obstacle.empty()
             ? QCoreApplication::translate("Panel", "Choose which displays are edited")
@@ -132,7 +132,7 @@ void TitleStrip::showStorageProblem(const QString& sentence) {
     _storageSign->setVisible(!sentence.isEmpty());
     _storageSign->setAccessibleName(name);
     _storageSign->setAccessibleDescription(sentence);
-    // The sentence may name a file, whose name may look like markup.
+    // The sentence may contain a file name that looks like markup.
     _storageSign->setToolTip(
         Qt::convertFromPlainText(name + QLatin1Char('\n') + sentence, Qt::WhiteSpaceNormal));
     updateTitle();
@@ -177,8 +177,8 @@ void TitleStrip::mouseReleaseEvent(QMouseEvent* /*event*/) {
     _hold.reset();
 }
 
-// The window manager moves the window best. The toolkit still asks one that has quit, and says that
-// this has worked.
+// The window manager moves the window best. After it has quit, Qt still asks it and reports
+// success.
 void TitleStrip::beginMove(const QPoint& pointer) {
     QWindow* const handle = window()->windowHandle();
     const bool isMoved = handle != nullptr && (!_hasWindowManager || _hasWindowManager()) &&
@@ -194,7 +194,7 @@ void TitleStrip::continueMove(const QPoint& pointer) {
     }
 }
 
-// The name is a button, but it is also the middle of the strip: a drag that begins on it moves the
+// The name is a button, but also the middle of the strip: a drag that starts on it moves the
 // window.
 bool TitleStrip::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress) {
@@ -209,7 +209,7 @@ bool TitleStrip::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-// The button must not hear of a drag, or it would take its end for a click.
+// The button must not see a drag, or it would treat its end as a click.
 bool TitleStrip::dragSubject(const QMouseEvent& move) {
     const QPoint pointer = move.globalPosition().toPoint();
     if (!_isDragged && move.buttons().testFlag(Qt::LeftButton) &&

@@ -14,8 +14,8 @@ class QToolButton;
 
 namespace tonquil {
 
-/// The upper edge of the panel: moves the window, names what is edited, and holds the buttons of
-/// the window itself.
+/// The panel's title strip: moves the window, names the edited displays, and holds the window
+/// buttons.
 class TitleStrip : public QWidget {
  public:
     explicit TitleStrip(QMenu& menu, QWidget* parent = nullptr);
@@ -23,13 +23,13 @@ class TitleStrip : public QWidget {
     void showSubject(const PanelSubject& subject);
     /// Called with true for all displays and false for the one under the panel.
     void setSubjectAction(std::function<void(bool)> action) { _chooseSubject = std::move(action); }
-    /// Shows a sign that opens what the action opens.
+    /// Shows or hides a sign that triggers the remote-configuration action.
     void showRemoteConfiguration(bool isOn);
-    /// Shows a sign that tells why changes are not saved; none where the sentence is empty.
+    /// Shows a sign explaining why changes are not saved; none if the sentence is empty.
     void showStorageProblem(const QString& sentence);
     void setRemoteAction(std::function<void()> action) { _openRemote = std::move(action); }
     void setCloseAction(std::function<void()> action) { _close = std::move(action); }
-    /// Asked at each drag: whether there is a window manager to move the window.
+    /// Called at each drag to find out whether a window manager can move the window.
     void setHasWindowManager(std::function<bool()> question) {
         _hasWindowManager = std::move(question);
     }
@@ -64,10 +64,10 @@ class TitleStrip : public QWidget {
     std::function<void()> _close;
     std::function<void()> _openRemote;
     std::function<bool()> _hasWindowManager;
-    /// Where the button with the name was pressed, and whether that has become a drag.
+    /// Where the name button was pressed, and whether that has become a drag.
     QPoint _pressedAt;
     bool _isDragged = false;
-    /// Where the pointer took hold of the window, while it is moved without a window manager.
+    /// Where the pointer grabbed the window, while it is moved without a window manager.
     std::optional<QPoint> _hold;
 };
 

@@ -16,7 +16,7 @@ namespace {
 constexpr double boxRadius = 3;
 constexpr float frameOpacity = 0.6F;
 
-/// The box, with a ring where the focus is shown.
+/// The box, with a focus ring if the focus is shown.
 void drawBox(QPainter& painter, const QRectF& box, double radius, const QStyleOptionButton& option,
              const Theme& theme) {
     constexpr double ringWidth = 2;

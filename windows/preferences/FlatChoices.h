@@ -6,7 +6,7 @@
 
 namespace tonquil {
 
-/// A checkbox whose box looks as the fields do, with a frame that can be seen on either theme.
+/// A checkbox whose box is styled like the fields, with a frame visible on both themes.
 class FlatCheckBox : public QCheckBox {
  public:
     using QCheckBox::QCheckBox;
@@ -15,7 +15,7 @@ class FlatCheckBox : public QCheckBox {
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// A radio button that goes with it.
+/// A matching radio button.
 class FlatRadioButton : public QRadioButton {
  public:
     using QRadioButton::QRadioButton;

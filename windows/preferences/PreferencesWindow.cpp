@@ -29,10 +29,10 @@ namespace {
 constexpr int margin = 12;
 constexpr int spacing = 8;
 constexpr int groupSpacing = 16;
-/// What a window manager needs of a screen's height, or somewhat more.
+/// What a window manager takes of a screen's height, or a little more.
 constexpr int titleBarHeight = 40;
 
-/// Texts by themselves would be looked up among the toolkit's own.
+/// Texts without this context would be looked up among Qt's own.
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(Preferences)
 };
@@ -56,7 +56,7 @@ void addChecks(QVBoxLayout& column, std::initializer_list<QCheckBox*> boxes) {
     }
 }
 
-/// Labels stand level with the first button of their choice.
+/// Aligns a label with the first button of its choice.
 void addChoice(QGridLayout& grid, QLabel* label, RadioMatrix* matrix) {
     const int row = grid.rowCount();
     label->setMinimumHeight(matrix->cellHeight());
@@ -65,7 +65,7 @@ void addChoice(QGridLayout& grid, QLabel* label, RadioMatrix* matrix) {
     grid.addWidget(matrix, row, 1);
 }
 
-/// The sentence starts below its box's own text.
+/// Aligns the sentence with the text of its checkbox.
 void prepareProblem(QLabel& problem, const QCheckBox& box) {
     problem.setTextFormat(Qt::PlainText);
     problem.setWordWrap(true);
@@ -125,7 +125,8 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
     setWindowTitle(Texts::tr("Preferences"));
     setWindowIcon(programIcon());
     setAttribute(Qt::WA_QuitOnClose, false);
-    // What has the focus when no control has it: a window without any would give it to the first.
+    // Takes the focus when no control should have it: otherwise the window would give it to its
+    // first control.
     setFocusPolicy(Qt::ClickFocus);
     auto* contents = new QWidget;
     auto* column = new QVBoxLayout(contents);
@@ -140,7 +141,7 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
     _scrollArea->setFocusPolicy(Qt::NoFocus);
     _scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     _scrollArea->setWidget(contents);
-    // The window's own background shines through.
+    // Lets the window's own background show through.
     _scrollArea->viewport()->setAutoFillBackground(false);
     contents->setAutoFillBackground(false);
     contents->installEventFilter(this);

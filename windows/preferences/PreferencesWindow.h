@@ -17,20 +17,20 @@ namespace tonquil {
 class DDHotKeyTextField;
 class RadioMatrix;
 
-/// The preferences window as it is laid out: three sections of controls that nothing is joined to
-/// yet. Each control is named after its member. The window is as large as its controls need.
+/// The preferences window before it is connected to anything: three sections of controls. Each
+/// control is named after its member. The window is as large as its controls need.
 class PreferencesWindow : public QWidget {
  public:
     /// The layout must outlive the window.
     explicit PreferencesWindow(const KeyboardLayout& layout);
 
-    /// Asked before the window closes.
+    /// Called before the window closes, to ask whether it may.
     void setShouldClose(std::function<bool()> shouldClose) {
         _shouldClose = std::move(shouldClose);
     }
     /// Called after it has closed.
     void setClosed(std::function<void()> closed) { _closed = std::move(closed); }
-    /// Takes the focus from whichever control has it.
+    /// Takes the focus away from the control that has it.
     void clearFirstResponder();
 
     // All are owned by the window.
@@ -48,13 +48,13 @@ class PreferencesWindow : public QWidget {
     RadioMatrix* showStatusItem;
     QCheckBox* useHotKey;
     DDHotKeyTextField* hotKeyField;
-    /// Why the hot key beside it was refused; hidden while it has nothing to say.
+    /// Why the hot key next to it was refused; hidden while empty.
     QLabel* hotKeyProblem;
     QCheckBox* panelHotKey;
     DDHotKeyTextField* panelHotKeyField;
     QLabel* panelHotKeyProblem;
     QCheckBox* allowRemote;
-    /// Why companions cannot reach this computer, below the box that lets them in.
+    /// Why companions cannot reach this computer; below the checkbox that allows them to connect.
     QLabel* remoteProblem;
 
  protected:
@@ -66,7 +66,7 @@ class PreferencesWindow : public QWidget {
 
  private:
     void nameControls();
-    /// As large as the controls; where the screen is not as high, they scroll.
+    /// Resizes to fit the controls; they scroll if the screen is not high enough.
     void fit();
     void addGeneral(QVBoxLayout& column) const;
     void addHotKeys(QVBoxLayout& column) const;

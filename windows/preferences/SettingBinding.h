@@ -11,7 +11,7 @@ class QCheckBox;
 
 namespace tonquil {
 
-/// Joins a checkbox with a boolean setting: each follows the other, whoever changes it.
+/// Keeps a checkbox and a boolean setting in sync, whichever changes.
 class SettingBinding {
  public:
     /// `key` must live as long as the program; the checkbox and the store as long as the binding.

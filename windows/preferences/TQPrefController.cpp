@@ -137,8 +137,8 @@ void TQPrefController::update() {
 }
 
 void TQPrefController::showWindow() {
-    // By its contents: the place of its border, which the toolkit would ask for, is taken for that
-    // of the contents where the window is shown anew, and the window wanders.
+    // Set the contents' geometry explicitly: on showing the window again Qt would request the
+    // position of its frame, which is taken as that of the contents, and the window would drift.
     if (!_window->isVisible() && std::exchange(_hasBeenShown, true)) {
         _window->setGeometry(_window->geometry());
     }
@@ -177,7 +177,7 @@ void TQPrefController::setRecordingHooks(std::function<void()> began, std::funct
     _recordingEnded = std::move(ended);
 }
 
-// A boolean has eight bits, and no more of the value counts.
+// A boolean has eight bits; the rest of the value is ignored.
 void TQPrefController::setBool(std::string_view key, int value) {
     _preferences.setValue(key, static_cast<std::int8_t>(value) != 0);
 }
@@ -220,7 +220,7 @@ void TQPrefController::hitPanelHotKey(const QCheckBox& sender) {
     moveFocus(sender.isChecked(), *_window->panelHotKeyField);
 }
 
-// A hot key that is wanted but not there yet is recorded at once.
+// Enabling a hot key that is not set yet starts recording it at once.
 void TQPrefController::moveFocus(bool isOn, DDHotKeyTextField& field) {
     if (!isOn) {
         _window->clearFirstResponder();
@@ -242,7 +242,7 @@ void TQPrefController::panelHotKeyDidChange(const DDHotKeyTextField& sender) {
 void TQPrefController::openAtLoginDidChange(const QCheckBox& sender) {
     const bool isEnabled = sender.checkState() == Qt::Checked;
     setLoginItemEnabled(isEnabled);
-    // What is so now, even if that could not be changed.
+    // The actual state, even if it could not be changed.
     _window->openAtLoginCheckbox->setChecked(_surroundings.loginItem.isEnabled());
     if (isEnabled) {
         adviseOnPlace();

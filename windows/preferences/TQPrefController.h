@@ -27,14 +27,14 @@ class PreferencesWindow;
 class RadioMatrix;
 class SettingBinding;
 
-/// What the preferences window works with. All of it must outlive the window's controller.
+/// What the preferences controller works with. Everything must outlive it.
 struct PreferencesSurroundings {
     PreferencesStore& preferences;
     LoginItem& loginItem;
     Alerts& alerts;
     const KeyboardLayout& layout;
     WindowSystem& windowSystem;
-    /// The absolute path of the running program, and the person's home folder.
+    /// The absolute path of the running program, and the user's home folder.
     std::filesystem::path program;
     std::filesystem::path home;
     Log log;
@@ -42,11 +42,11 @@ struct PreferencesSurroundings {
     int toolkitVersion = 1343;
 };
 
-/// Runs the preferences window: each control writes its setting at once, and whoever it concerns
-/// sees the change in the preferences store.
+/// Runs the preferences window: each control writes its setting at once, and interested code sees
+/// the change in the preferences store.
 ///
-/// The controls are filled when the window is made. Only those bound to their settings follow
-/// changes from elsewhere, and so do the colours of the window.
+/// The controls are filled when the window is created. Only the colours of the window and the
+/// controls bound to their settings follow changes from elsewhere.
 class TQPrefController {
  public:
     explicit TQPrefController(PreferencesSurroundings surroundings);
@@ -55,26 +55,27 @@ class TQPrefController {
     ~TQPrefController();
 
     [[nodiscard]] PreferencesWindow& window() { return *_window; }
-    /// Shows the window in front, with the focus on no control.
+    /// Shows the window in front, with no control focused.
     void showWindow();
-    /// Ends what is being recorded; the window may always close.
+    /// Stops recording a hot key; the window may always close.
     bool windowShouldClose();
-    /// Fills every control but the bound ones from its setting.
+    /// Fills every control except the bound ones from its setting.
     void update();
 
-    /// Of the contents, in points; see `devicePixelsFrom`. The size follows from the controls.
+    /// The contents' rectangle, in points; see `devicePixelsFrom`. The size follows from the
+    /// controls.
     [[nodiscard]] QRect frame() const;
     void setFrameOrigin(const QPoint& origin);
     /// Called when the window has closed.
     void setClosed(std::function<void()> closed);
 
-    /// Says beside its field why a hot key does not work; an empty sentence takes that back.
+    /// Shows beside its field why a hot key does not work; an empty sentence clears it.
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence);
-    /// The same below the box that lets companions in.
+    /// The same below the checkbox that allows companions to connect.
     void showRemoteProblem(const std::string& sentence);
-    /// Called around each recording: the program's hot keys should be given up meanwhile.
+    /// Called when recording begins and ends: the program's hot keys should be suspended meanwhile.
     void setRecordingHooks(std::function<void()> began, std::function<void()> ended);
-    /// What the person asked of the whole desktop.
+    /// The user's desktop-wide accessibility settings.
     void setAccessibilityOptions(const AccessibilityOptions& options);
 
     void hitRememberWhenQuitting(const QCheckBox& sender);
@@ -105,7 +106,7 @@ class TQPrefController {
     AccessibilityOptions _options;
     std::unique_ptr<PreferencesWindow> _window;
     bool _hasBeenShown = false;
-    /// They go before the checkboxes that they are bound to.
+    /// Declared to be destroyed before the checkboxes that they are bound to.
     std::vector<std::unique_ptr<SettingBinding>> _bindings;
     std::unique_ptr<PreferencesStore::Subscription> _themeSubscription;
     std::function<void()> _recordingBegan;

@@ -9,13 +9,13 @@ namespace tonquil {
 
 AspectKeeper::AspectKeeper(QWidget& window, WindowSystem& windowSystem)
     : _window(window), _windowSystem(windowSystem), _proportions(window.size()) {
-    // Only a window that exists in the window system has a handle.
+    // Only a native window has a handle.
     static_cast<void>(_window.winId());
     _window.windowHandle()->installEventFilter(this);
 }
 
-// The toolkit knows no proportions, and overwrites them when it shows or moves the window. Once
-// there is something to draw, the window system has what the toolkit wrote.
+// Qt does not know aspect ratios, and overwrites the hints when it shows or moves the window. By
+// the time there is something to draw, Qt's hints have reached the window system.
 bool AspectKeeper::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose && _window.windowHandle()->isExposed()) {
         _windowSystem.keepProportions(_window.winId(),

@@ -10,7 +10,7 @@ class QWidget;
 
 namespace tonquil {
 
-/// Keeps the proportions that a window has now whenever the person resizes it.
+/// Keeps a window's current aspect ratio whenever the user resizes it.
 class AspectKeeper : public QObject {
  public:
     /// Both must outlive the keeper.

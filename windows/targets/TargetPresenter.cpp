@@ -82,7 +82,7 @@ void TargetPresenter::coverDisplay(DisplayID display, TargetKind kind,
     cover.showWindow();
 }
 
-// Whoever is told may cover the display again.
+// The callback may cover the display again.
 void TargetPresenter::coverClosed(const TQTargetWindowController& cover) {
     std::vector<Closing> due;
     std::erase_if(_closings, [&](Closing& closing) {

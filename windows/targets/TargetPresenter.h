@@ -16,11 +16,11 @@
 
 namespace tonquil {
 
-/// Shows the calibration targets on the displays of a display service, and keeps the floating
-/// window's place and kind in the preferences.
+/// Shows the calibration targets on the displays of a display service, and stores the floating
+/// window's position and kind in the preferences.
 class TargetPresenter final : public TargetWindows {
  public:
-    /// `windowMade` is called with the floating window before it is shown.
+    /// Calls `windowMade` with the floating window before it is shown.
     TargetPresenter(DisplayService& service, PreferencesStore& preferences,
                     WindowSystem& windowSystem, std::function<void(QWidget&)> windowMade)
         : _service(service),
@@ -39,11 +39,11 @@ class TargetPresenter final : public TargetWindows {
     void displaysChanged() override;
     void saveFrame() override;
 
-    /// The covers, one for each display that has one.
+    /// The covers, at most one per display.
     [[nodiscard]] TargetWindowList& covers() { return _covers; }
 
  private:
-    /// Who waits for a cover to be closed.
+    /// A cover, and the callback to call when it closes.
     struct Closing {
         const TQTargetWindowController* cover;
         std::function<void()> closed;
@@ -62,7 +62,7 @@ class TargetPresenter final : public TargetWindows {
     bool _areHintsShown = true;
     std::vector<Closing> _closings;
     TargetWindowList _covers;
-    /// Made when it is first shown.
+    /// Created when first shown.
     std::unique_ptr<TQTargetWindowController> _targetWindowController;
     std::unique_ptr<AspectKeeper> _aspect;
 };

@@ -43,7 +43,8 @@ void X11DesktopEvents::start(Handler handler) {
     _windows = windows();
     _watch = _runLoop.watchReadable(xcb_get_file_descriptor(_connection->get()),
                                     [this] { takeEvents(); });
-    // Events that came with the answers are in memory, where the descriptor does not show them.
+    // Events that arrived with the replies are in memory, so the file descriptor does not show
+    // them.
     _early = _runLoop.callOnce(milliseconds(0), [this] { takeEvents(); });
 }
 
@@ -64,7 +65,7 @@ void X11DesktopEvents::watchCompositor() {
     if (extension == nullptr || extension->present == 0) {
         return;
     }
-    // The server takes no other request of this extension before it knows our release of it.
+    // The server accepts no other request of this extension before it knows our version.
     const XcbPointer<xcb_xfixes_query_version_reply_t> version(xcb_xfixes_query_version_reply(
         connection,
         xcb_xfixes_query_version(connection, XCB_XFIXES_MAJOR_VERSION, XCB_XFIXES_MINOR_VERSION),
@@ -79,7 +80,7 @@ void X11DesktopEvents::watchCompositor() {
                                       XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
                                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
                                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
-    // It may have changed since it was asked about for the first time.
+    // It may have changed since the first query.
     if (_compositingChanged) {
         _compositingChanged();
     }
@@ -102,7 +103,7 @@ void X11DesktopEvents::takeEvents() {
 }
 
 void X11DesktopEvents::take(const xcb_generic_event_t& event) {
-    // Bit 7 says that another client sent the event.
+    // Bit 7 means that another client sent the event.
     const int type = event.response_type & 0x7F;
     if (type == XCB_PROPERTY_NOTIFY) {
         xcb_property_notify_event_t change{};
@@ -158,7 +159,8 @@ bool X11DesktopEvents::isProfile(xcb_atom_t property) {
             const std::string name(
                 xcb_get_atom_name_name(reply.get()),
                 static_cast<std::size_t>(xcb_get_atom_name_name_length(reply.get())));
-            // The first display's, or one numbered; not the version of the convention.
+            // The first display's name, or one with a number; not the property for the convention's
+            // version.
             known->second = name == "_ICC_PROFILE" ||
                             (name.starts_with("_ICC_PROFILE_") &&
                              name.find_first_not_of("0123456789", 13) == std::string::npos);

@@ -17,7 +17,7 @@
 
 namespace tonquil {
 
-/// Session events that the X server tells.
+/// Session events reported by the X server.
 ///
 /// | event | from |
 /// |---|---|
@@ -25,20 +25,20 @@ namespace tonquil {
 /// | ColourSpaceChanged | the root window's _ICC_PROFILE and _ICC_PROFILE_<n> |
 /// | ScreenSaverStopped | the server's own screen saver |
 ///
-/// Several of the first two within 200 ms are told once.
+/// Several of the first two within 200 ms are reported once.
 class X11DesktopEvents final : public SessionEvents {
  public:
-    /// How long several events of one kind are told as one.
+    /// Events of one kind within this time are reported as one.
     static constexpr std::chrono::milliseconds coalescingTime{200};
 
-    /// Connects to `display` as X11Connection::open does. Once started, it calls `connectionLost`
-    /// when the server has gone, which is the moment to save what is unsaved: the window toolkit
-    /// ends the program when it notices.
+    /// Connects to `display` like X11Connection::open. Once started, calls `connectionLost` when
+    /// the connection is lost, which is the moment to save unsaved work: Qt ends the program when
+    /// it notices.
     [[nodiscard]] static Result<std::unique_ptr<X11DesktopEvents>> open(
         const char* display, RunLoop& runLoop, Log log, std::function<void()> connectionLost = {});
 
     void start(Handler handler) override;
-    /// Called, once started, when the blending of translucent windows is switched on or off.
+    /// Called, once started, when compositing is switched on or off.
     void setCompositingChanged(std::function<void()> changed) {
         _compositingChanged = std::move(changed);
     }
@@ -65,11 +65,11 @@ class X11DesktopEvents final : public SessionEvents {
     std::function<void()> _compositingChanged;
     Handler _handler;
     xcb_atom_t _clientList;
-    /// Of the root window's properties seen so far: whether it holds a display's profile.
+    /// The root window's properties seen so far, and whether each holds a display's profile.
     std::map<xcb_atom_t, bool> _isProfile;
-    /// The event number, or none where the server has no screen saver.
+    /// The event number; none if the server has no screen saver extension.
     std::optional<int> _screenSaverEvent;
-    /// The event number, or none where the server cannot tell.
+    /// The event number; none if the server cannot report it.
     std::optional<int> _selectionEvent;
     Windows _windows;
     std::unique_ptr<RunLoop::Handle> _watch;

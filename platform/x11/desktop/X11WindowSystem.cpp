@@ -11,11 +11,11 @@ namespace tonquil {
 namespace {
 
 constexpr std::uint32_t allWorkspaces = 0xFFFFFFFF;
-// In messages to the window manager: who sends them.
+// The source indication in messages to the window manager.
 constexpr std::uint32_t fromApplication = 1;
 constexpr std::uint32_t fromPerson = 2;
 
-// The size hints of a window (ICCCM 4.1.2.3): flags first, each aspect a width and a height.
+// The size hints of a window (ICCCM 4.1.2.3): flags first, each aspect as a width and a height.
 constexpr std::size_t sizeHintCount = 18;
 constexpr std::uint32_t hasAspect = 1U << 7U;
 constexpr std::size_t leastAspect = 11;
@@ -62,7 +62,7 @@ void X11WindowSystem::keepOnAllWorkspaces(WindowID window) {
     }
 }
 
-// A window that no manager looks after appears on the active workspace anyway.
+// An unmanaged window appears on the active workspace anyway.
 void X11WindowSystem::bringToActiveWorkspace(WindowID window) {
     const auto id = static_cast<xcb_window_t>(window);
     const auto current = property(_connection->root(), _currentDesktop);
@@ -130,13 +130,14 @@ bool X11WindowSystem::isCompositing() const {
 }
 
 bool X11WindowSystem::hasWindowManager() const {
-    // A manager that has gone may have left its name, but not the window that bears it too.
+    // A window manager that has gone may have left its name behind, but not the window with the
+    // same name.
     const auto named = property(_connection->root(), _managerCheck);
     return !named.empty() && property(named.front(), _managerCheck) == named;
 }
 
 bool X11WindowSystem::isManaged(xcb_window_t window) const {
-    // The manager's own mark. A minimised window has it too, although it is unmapped.
+    // WM_STATE, set by the window manager. A minimised window has it too, although it is unmapped.
     constexpr std::uint32_t withdrawn = 0;
     const auto state = property(window, _managerState);
     return !state.empty() && state.front() != withdrawn;
@@ -183,7 +184,7 @@ std::vector<std::uint32_t> X11WindowSystem::property(xcb_window_t window, xcb_at
     return values;
 }
 
-// The toolkit has a connection of its own, and what it sends next must not overtake this.
+// Qt has a connection of its own, and its next request must not overtake this one.
 void X11WindowSystem::finish() const {
     const XcbPointer<xcb_get_input_focus_reply_t> roundTrip(xcb_get_input_focus_reply(
         _connection->get(), xcb_get_input_focus(_connection->get()), nullptr));

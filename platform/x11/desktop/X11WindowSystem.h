@@ -11,16 +11,16 @@
 
 namespace tonquil {
 
-/// The selection that whoever blends the windows of the connection's screen holds meanwhile.
+/// The selection owned by a running compositor of the connection's screen.
 [[nodiscard]] xcb_atom_t compositorSelection(const X11Connection& connection);
 
-/// Asks an X11 window manager by the conventions that all of them share (EWMH).
+/// Talks to an X11 window manager by the shared conventions (EWMH).
 ///
-/// A window that a window manager looks after, shown or minimised, is changed by a message to it;
-/// the properties of any other are set, for a window manager to read when it takes the window on.
+/// A managed window, shown or minimised, is changed by a message to the window manager; for any
+/// other the properties are set, for a window manager to read when it starts managing the window.
 class X11WindowSystem final : public WindowSystem {
  public:
-    /// Connects to `display` as X11Connection::open does.
+    /// Connects to `display` like X11Connection::open.
     [[nodiscard]] static Result<std::unique_ptr<X11WindowSystem>> open(const char* display);
 
     void keepOnAllWorkspaces(WindowID window) override;

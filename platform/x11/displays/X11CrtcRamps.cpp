@@ -9,12 +9,12 @@ namespace tonquil {
 
 namespace {
 
-/// Red, green and blue stand one behind the other in the reply.
+/// Red, green and blue follow one another in the reply.
 std::span<const std::uint16_t> entriesOf(const xcb_randr_get_crtc_gamma_reply_t& reply) {
     return {xcb_randr_get_crtc_gamma_red(&reply), 3 * std::size_t{reply.size}};
 }
 
-/// Size 0 where there is no ramp to speak of.
+/// Size 0 if there is no usable ramp.
 HardwareRamp rampOf(const xcb_randr_get_crtc_gamma_reply_t* reply) {
     if (reply == nullptr || reply->size < 2 || reply->size > HardwareRamp::largestSize) {
         return {};
@@ -41,7 +41,7 @@ void X11CrtcRamps::load(const std::vector<xcb_randr_crtc_t>& crtcs) {
              journal.areCorrectionsDamaged);
     }
     if (journal.areCorrectionsDamaged) {
-        // What was appended must not lie in our buffer until the next call.
+        // Appended records must not stay in our output buffer until the next call.
         xcb_flush(_connection.get());
     }
 }
@@ -61,7 +61,7 @@ void X11CrtcRamps::look(xcb_randr_crtc_t crtc, HardwareRamp present, RampHistory
         return;
     }
     if (state.isHeld) {
-        // The journal may have lost it; a present ramp that is not ours is a disturbance.
+        // The journal may have lost it; a current ramp that is not ours is a disturbance.
         if (!state.history.systemRamp() && former.systemRamp()) {
             state.history.setSystemRamp(*former.systemRamp());
             state.isSystemRampUnsaved = true;
@@ -73,8 +73,8 @@ void X11CrtcRamps::look(xcb_randr_crtc_t crtc, HardwareRamp present, RampHistory
         return;
     }
     if (areRecordsLost && state.history.systemRamp()) {
-        // Most likely a correction whose record is lost. Taken for the system's, it would be
-        // corrected twice, and for good.
+        // Most likely a correction whose record is lost. If it were taken for the system's ramp, it
+        // would be corrected twice, permanently.
         const RampHistory::Correction lost{.fingerprint = fingerprint, .holder = _journal.holder()};
         _journal.appendCorrection(crtc, lost);
         state.history.addCorrection(lost);
@@ -90,7 +90,7 @@ void X11CrtcRamps::release(xcb_randr_crtc_t crtc) {
     const CrtcRamp& state = _crtcs[crtc];
     const std::uint64_t fingerprint = state.present.fingerprint();
     const bool isOurs = ours.isCorrection(fingerprint);
-    // What another process of ours has set since is for the display that has come there.
+    // What another process of ours has set since belongs to the display that is now on the CRTC.
     const bool isAnothers = !isOurs && state.history.isCorrection(fingerprint);
     if (state.present.size() > 0 && (isOurs || (state.isHeld && !isAnothers))) {
         setSystemRamp(crtc, state.history.underCorrection(state.present.size()));
@@ -130,13 +130,13 @@ void X11CrtcRamps::setCorrection(xcb_randr_crtc_t crtc, const GammaTable& table)
         state.table = table;
         state.isCorrectionSaved = false;
     }
-    // In this order, so that a kill between any two requests leaves a ramp that is recognised and
-    // a system ramp to go back to.
+    // In this order, so that being killed between any two requests leaves a recognisable ramp and a
+    // system ramp to restore.
     if (std::exchange(state.isSystemRampUnsaved, false)) {
         _journal.appendSystemRamp(crtc, *state.history.systemRamp());
     }
-    // Not with every re-application: each change of the journal wakes up everybody who watches the
-    // root window, and a holder's last correction is not forgotten.
+    // Not on every re-application: each change of the journal wakes up every client that watches
+    // the root window, and a holder's last correction is not forgotten.
     if (!std::exchange(state.isCorrectionSaved, true)) {
         _journal.appendCorrection(crtc, correctionOf(state));
         state.history.addCorrection(correctionOf(state));
@@ -169,7 +169,7 @@ void X11CrtcRamps::send(xcb_randr_crtc_t crtc, CrtcRamp& state, const HardwareRa
     state.present = ramp;
 }
 
-// The system may have set its ramp after we had looked.
+// The system may have set its ramp after our last look.
 void X11CrtcRamps::examineReplaced(xcb_randr_crtc_t crtc, const HardwareRamp& replaced) {
     const auto found = _crtcs.find(crtc);
     if (found == _crtcs.end() || replaced.size() == 0) {
@@ -192,7 +192,7 @@ void X11CrtcRamps::examineReplaced(xcb_randr_crtc_t crtc, const HardwareRamp& re
     }
 }
 
-// Somebody has shortened the journal, or taken it away.
+// Somebody has shortened the journal, or deleted it.
 void X11CrtcRamps::saveAgain() {
     _journal.ask();
     auto journal = _journal.receive();
@@ -218,7 +218,7 @@ std::vector<xcb_randr_crtc_t> X11CrtcRamps::finish() {
         return refused;
     }
     xcb_connection_t* const connection = _connection.get();
-    // The answer to this comes last: once it is here, those to all that was sent are.
+    // The reply to this comes last: once it is here, so are the replies to everything sent before.
     _journal.askIfIntact();
     if (!_journal.isIntact()) {
         saveAgain();
@@ -231,7 +231,7 @@ std::vector<xcb_randr_crtc_t> X11CrtcRamps::finish() {
         }
         if (error || (pending.replaced && !replaced)) {
             refused.push_back(pending.crtc);
-            // Whatever was known of it is in doubt.
+            // Whatever was known about it is in doubt.
             _crtcs.erase(pending.crtc);
         } else if (replaced) {
             examineReplaced(pending.crtc, rampOf(replaced.get()));
@@ -239,7 +239,7 @@ std::vector<xcb_randr_crtc_t> X11CrtcRamps::finish() {
     }
     _pending.clear();
     _journal.compactIfLong();
-    // What was appended meanwhile must not lie in our buffer until the next call.
+    // Records appended meanwhile must not stay in our output buffer until the next call.
     xcb_flush(connection);
     return refused;
 }

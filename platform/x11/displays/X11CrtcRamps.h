@@ -15,31 +15,30 @@
 
 namespace tonquil {
 
-/// Reads and writes the ramps of the server's CRTCs, and keeps apart what the system set from what
-/// we set.
+/// Reads and writes the ramps of the server's CRTCs, and distinguishes what the system set from
+/// what we set.
 ///
 /// From the first correction that this object sets on a CRTC until it sets the system ramp there,
-/// it *holds* the CRTC: whatever others put there meanwhile is a disturbance. On a CRTC that it
+/// it *holds* the CRTC: whatever others write there meanwhile is a disturbance. On a CRTC that it
 /// does not hold, a ramp that no program of ours has set is the system's.
 ///
-/// Everything that is set between two calls of `finish` goes out together and is waited for once.
-/// Together with a correction that begins to hold a CRTC, the ramp that it replaces is asked for:
-/// the server answers in order, so a system ramp that came since the last look is found without a
-/// round trip of its own.
+/// Everything set between two calls of `finish` is sent together and waited for once. The
+/// correction that starts to hold a CRTC also requests the ramp that it replaces: the server
+/// replies in order, so a system ramp set since the last look is found without an extra round trip.
 class X11CrtcRamps {
  public:
     explicit X11CrtcRamps(const X11Connection& connection)
         : _connection(connection), _journal(connection) {}
 
-    /// Looks at the given CRTCs at one moment, in one round trip. Those without a ramp, or gone,
-    /// have size 0 from then on.
+    /// Reads the given CRTCs at one moment, in one round trip. Those that are gone or have no ramp
+    /// get size 0.
     void load(const std::vector<xcb_randr_crtc_t>& crtcs);
     [[nodiscard]] bool isLoaded(xcb_randr_crtc_t crtc) const { return _crtcs.contains(crtc); }
-    /// Sends a CRTC its system ramp if it has a correction or is held, and forgets it.
+    /// If a CRTC has a correction or is held, sends it its system ramp; then forgets the CRTC.
     void release(xcb_randr_crtc_t crtc);
-    /// Entries per channel; 0 when there is no gamma.
+    /// Entries per channel; 0 without gamma.
     [[nodiscard]] std::uint32_t size(xcb_randr_crtc_t crtc) const;
-    /// What was on the hardware when it was last looked at; null when there is no ramp.
+    /// The hardware's ramp as of the last look; null if there is none.
     [[nodiscard]] const HardwareRamp* present(xcb_randr_crtc_t crtc) const;
     /// The system's ramp at that moment.
     [[nodiscard]] std::optional<HardwareRamp> uncorrected(xcb_randr_crtc_t crtc) const;
@@ -48,7 +47,7 @@ class X11CrtcRamps {
     void setCorrection(xcb_randr_crtc_t crtc, const GammaTable& table);
     /// Sends a ramp that counts as the system's own from then on.
     void setSystemRamp(xcb_randr_crtc_t crtc, const HardwareRamp& ramp);
-    /// Waits for what was sent, and returns the CRTCs that refused.
+    /// Waits for everything sent, and returns the CRTCs that refused.
     [[nodiscard]] std::vector<xcb_randr_crtc_t> finish();
 
  private:
@@ -60,7 +59,7 @@ class X11CrtcRamps {
         bool isHeld = false;
         /// The journal has the correction as this process's last.
         bool isCorrectionSaved = false;
-        /// The last table that was set and the ramp made of it.
+        /// The last table that was set, and the ramp computed from it.
         std::optional<GammaTable> table;
         HardwareRamp correction;
         std::uint64_t correctionFingerprint = 0;
@@ -68,7 +67,7 @@ class X11CrtcRamps {
     struct Pending {
         xcb_randr_crtc_t crtc = XCB_NONE;
         xcb_void_cookie_t set{};
-        /// Asked for by the first correction on a CRTC that is not held.
+        /// Requested by the first correction on a CRTC that is not held.
         std::optional<xcb_randr_get_crtc_gamma_cookie_t> replaced;
     };
 

@@ -11,12 +11,12 @@ namespace tonquil {
 
 namespace {
 
-/// Whether an equal entry stands in the other list.
+/// Whether the other list contains an equal entry.
 bool isIn(const std::vector<X11Display>& displays, const X11Display& display) {
     return std::find(displays.begin(), displays.end(), display) != displays.end();
 }
 
-/// Whether the display's CRTC was set up in another way in between.
+/// Whether the display's CRTC was configured differently in between.
 bool wasOtherwise(const X11Reconfiguration::CrtcStates& passed, const X11Display& display) {
     return std::any_of(passed.begin(), passed.end(), [&](const auto& state) {
         const Rectangle bounds{static_cast<double>(state.x), static_cast<double>(state.y),
@@ -67,7 +67,7 @@ void X11DisplayService::readLayout() {
             std::any_of(_layout->begin(), _layout->end(), [&](const X11Display& now) {
                 return now.output == display.output && now.crtc == display.crtc;
             });
-        // A correction left behind would be whoever's display comes to this CRTC next.
+        // A correction left behind would apply to whichever display uses this CRTC next.
         if (!keepsItsCrtc && _ramps.isLoaded(display.crtc)) {
             _ramps.release(display.crtc);
         }
@@ -78,7 +78,7 @@ void X11DisplayService::readLayout() {
 }
 
 DisplayID X11DisplayService::idFor(const X11Display& display) {
-    // IDs of the server's own resources have the three highest bits clear.
+    // The server's own resource IDs have the three highest bits clear.
     constexpr DisplayID firstBeyondOutputs = 0x80000000U;
     const auto known = std::find_if(_known.begin(), _known.end(), [&](const KnownDisplay& each) {
         return each.output == display.output && each.identity == display.identity;
@@ -104,7 +104,7 @@ const X11Display* X11DisplayService::find(DisplayID display) {
 }
 
 bool X11DisplayService::isXwayland(const X11Display& display) const {
-    // Releases before 23.1 have no extension to say so, but name their outputs XWAYLAND0, 1, ….
+    // Releases before 23.1 lack the extension that says so, but name their outputs XWAYLAND0, 1, ….
     return _connection->isXwayland() || display.connector.starts_with("XWAYLAND");
 }
 
@@ -247,12 +247,12 @@ void X11DisplayService::restoreSystemCalibration(std::span<const DisplayID> disp
 }
 
 void X11DisplayService::warpPointer(const Point& point) {
-    // The protocol has 16 bits for a coordinate; a not-a-number ends at 0.
+    // The protocol has 16 bits for a coordinate; a not-a-number becomes 0.
     const auto coordinate = [](double value) {
         return static_cast<std::int16_t>(std::isnan(value) ? 0
                                                            : std::clamp(value, -32768.0, 32767.0));
     };
-    // Waited for, so that whoever asks over another connection finds the pointer there.
+    // Waited for, so that a query over another connection finds the pointer there.
     const XcbPointer<xcb_generic_error_t> ignored(xcb_request_check(
         _connection->get(),
         xcb_warp_pointer_checked(_connection->get(), XCB_NONE, _connection->root(), 0, 0, 0, 0,
@@ -298,8 +298,8 @@ std::unique_ptr<DisplayService::Subscription> X11DisplayService::registerReconfi
     ReconfigurationCallback callback) {
     auto subscription = _callbacks.add(std::move(callback));
     if (!_reconfiguration && _runLoop != nullptr) {
-        // Selected first and read after, so that no change falls between the two. What has changed
-        // since the displays were listed is told like any other change.
+        // Events are selected before the state is read, so that no change is missed in between.
+        // Changes since the displays were listed are reported like any other.
         _reconfiguration = std::make_unique<X11Reconfiguration>(
             *_connection, *_runLoop, _log,
             [this](const X11Reconfiguration::CrtcStates& passed) { displaysChanged(passed); });

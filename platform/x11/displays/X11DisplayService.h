@@ -20,12 +20,12 @@ namespace tonquil {
 
 /// The displays of an X server, corrected through the gamma ramps of their CRTCs.
 ///
-/// A display's ID is its RandR output, until another monitor is found there: that one gets an ID
-/// that no output has. A monitor that comes back to its output gets its ID back.
+/// A display's ID is its RandR output, until another monitor appears there: that one gets an ID
+/// that no output has. A monitor that returns to its output gets its ID back.
 class X11DisplayService : public DisplayService {
  public:
-    /// Connects to the server named as in DISPLAY (null takes the environment's). Without a run
-    /// loop, which must outlive the service, changes of the displays are not watched for.
+    /// Connects to the server named as in DISPLAY (null takes it from the environment). Without a
+    /// run loop, which must outlive the service, changes of the displays are not watched.
     [[nodiscard]] static Result<std::unique_ptr<X11DisplayService>> open(const char* display,
                                                                          RunLoop* runLoop, Log log);
     ~X11DisplayService() override;
@@ -56,18 +56,18 @@ class X11DisplayService : public DisplayService {
     [[nodiscard]] DisplayID idFor(const X11Display& display);
     /// Whether the server only draws into a Wayland compositor, which takes no gamma ramp from it.
     [[nodiscard]] bool isXwayland(const X11Display& display) const;
-    /// Null when there is none with this ID; 0 means the main display.
+    /// Null if there is none with this ID; 0 means the main display.
     [[nodiscard]] const X11Display* find(DisplayID display);
-    /// The same, but only if it has a ramp to correct; otherwise the log says once why not. A ramp
-    /// that was never looked at is looked at.
+    /// The same, but only if it has a ramp to correct; otherwise logs the reason once. Reads a ramp
+    /// that was never read.
     [[nodiscard]] const X11Display* correctable(DisplayID display);
-    /// Looks at the display's ramp: in a batch at all displays' at once and only once, outside of
-    /// one each time.
+    /// Reads the display's ramp: in a batch, all displays' at once and only once; outside of one,
+    /// every time.
     void lookAtRamp(const X11Display& display);
-    /// Why the display cannot be corrected; empty when it can.
+    /// Why the display cannot be corrected; empty if it can.
     [[nodiscard]] std::string obstacle(const X11Display& display) const;
-    /// The calibration of the display's profile, else its ramp without our correction. Looks at
-    /// both as `lookAtRamp` does; null when there is no ramp.
+    /// The calibration in the display's profile, else its ramp without our correction. Reads both
+    /// like `lookAtRamp`; nothing if there is no ramp.
     [[nodiscard]] std::optional<HardwareRamp> systemCalibration(const X11Display& display);
     void displaysChanged(const X11Reconfiguration::CrtcStates& passed);
     void report(DisplayID display, const std::string& text);
@@ -78,7 +78,7 @@ class X11DisplayService : public DisplayService {
     X11CrtcRamps _ramps;
     X11Profiles _profiles;
     std::optional<std::vector<X11Display>> _layout;
-    /// What the callbacks were told of last.
+    /// The displays last reported to the callbacks.
     std::vector<X11Display> _announced;
     std::unique_ptr<X11Reconfiguration> _reconfiguration;
     ReconfigurationCallbacks _callbacks;

@@ -36,7 +36,7 @@ Resources readResources(const X11Connection& connection) {
             .primary = primary ? primary->output : static_cast<xcb_randr_output_t>(XCB_NONE)};
 }
 
-/// The CRTCs that show something, each as a display with only its place known.
+/// The active CRTCs, each as a display with only its position known.
 std::vector<X11Display> readLitCrtcs(const X11Connection& connection, const Resources& resources) {
     xcb_connection_t* const c = connection.get();
     std::vector<xcb_randr_get_crtc_info_cookie_t> cookies;
@@ -66,7 +66,7 @@ std::vector<X11Display> readLitCrtcs(const X11Connection& connection, const Reso
 
 void describe(X11Display& display, const xcb_randr_get_output_info_reply_t& info,
               std::span<const std::uint8_t> edidBytes) {
-    // The accessor hands out mutable bytes although it only reads.
+    // The accessor returns non-const bytes although it only reads.
     const auto* name = xcb_randr_get_output_info_name(&info);
     display.connector.assign(name, name + xcb_randr_get_output_info_name_length(&info));
     display.identity.isBuiltIn = isBuiltInConnector(display.connector);
@@ -83,7 +83,7 @@ void describe(X11Display& display, const xcb_randr_get_output_info_reply_t& info
     }
 }
 
-/// Fills in what the outputs say of themselves and drops those that vanished meanwhile.
+/// Fills in what the outputs report, and drops those that vanished meanwhile.
 void describeAll(const X11Connection& connection, xcb_timestamp_t timestamp,
                  std::vector<X11Display>& displays) {
     xcb_connection_t* const c = connection.get();

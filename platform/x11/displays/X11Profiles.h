@@ -10,17 +10,17 @@
 
 namespace tonquil {
 
-/// The calibrations that the desktop publishes: the `vcgt` tags of the colour profiles in
-/// properties of the root window.
+/// The calibrations that the desktop publishes: the `vcgt` tags of the colour profiles in root
+/// window properties.
 ///
-/// Desktops publish the main monitor's profile under the plain name and the others' by their
-/// number, in the order that readX11Layout gives.
+/// Desktops publish the main monitor's profile under the plain name and the others' with their
+/// number, in the order of readX11Layout.
 class X11Profiles {
  public:
     explicit X11Profiles(const X11Connection& connection) : _connection(connection) {}
 
-    /// Reads the profiles of the first `count` displays anew, in one round trip where there are
-    /// none and in two where there are some.
+    /// Reads the profiles of the first `count` displays again, in one round trip if there are none
+    /// and two if there are some.
     void load(std::size_t count);
     /// The calibration for a ramp of `size` entries; nothing without a profile that has one.
     [[nodiscard]] std::optional<HardwareRamp> calibration(std::size_t index,
@@ -30,7 +30,7 @@ class X11Profiles {
     void findAtoms(std::size_t count);
 
     const X11Connection& _connection;
-    /// Of the properties' names, as far as anybody has ever used them.
+    /// The atoms of the property names, as far as they have ever been used by anyone.
     std::vector<xcb_atom_t> _atoms;
     std::vector<std::vector<std::uint8_t>> _profiles;
 };

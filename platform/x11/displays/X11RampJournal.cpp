@@ -16,7 +16,7 @@ constexpr std::size_t systemRampHeaderUnits = 5;
 constexpr std::size_t longCorrections =
     std::size_t{5} * correctionUnits * RampHistory::mostCorrections;
 constexpr std::size_t longSystemRamps = 64 * std::size_t{1024};
-/// In 32-bit units; nothing of ours comes near.
+/// In 32-bit units; far more than we ever write.
 constexpr std::uint32_t mostUnits = 1U << 20U;
 
 using Units = std::span<const std::uint32_t>;
@@ -29,7 +29,7 @@ std::uint32_t low(std::uint64_t fingerprint) {
     return static_cast<std::uint32_t>(fingerprint & 0xFFFFFFFFU);
 }
 
-/// What the first of a block's five leading units must be.
+/// The value that a block's first unit must have, computed from the other four leading units.
 std::uint32_t checkOf(Units block) {
     std::uint32_t check = 0x811c9dc5U;
     for (const std::uint32_t unit : block.subspan(1, correctionUnits - 1)) {
@@ -43,7 +43,7 @@ std::size_t unitsForEntries(std::uint32_t size) {
     return (3 * std::size_t{size} + 1) / 2;
 }
 
-/// The units that a correction takes at the front; none if there is no correction there.
+/// The number of units that a correction takes at the front; 0 if there is none.
 std::size_t takeCorrection(Units units, X11RampJournal::Histories& histories) {
     if (units.size() < correctionUnits || units[0] != checkOf(units)) {
         return 0;
@@ -72,7 +72,7 @@ std::size_t takeSystemRamp(Units units, X11RampJournal::Histories& histories) {
     return systemRampHeaderUnits + unitsForEntries(size);
 }
 
-/// Takes block after block; false if it had to pass over units that are none of ours.
+/// Takes block after block; returns false if it had to skip units that are not ours.
 template <typename Take>
 bool takeAll(Units units, X11RampJournal::Histories& histories, Take take) {
     bool areAllOurs = true;
@@ -128,7 +128,7 @@ X11RampJournal::Contents X11RampJournal::receiveAnswers() {
 X11RampJournal::Contents X11RampJournal::receive() {
     Contents contents = receiveAnswers();
     if (contents.areCorrectionsDamaged || contents.areSystemRampsDamaged) {
-        // What is appended to a property of another type is lost.
+        // Appending to a property of another type fails.
         rewrite();
     }
     return contents;
@@ -200,7 +200,7 @@ void X11RampJournal::appendSystemRamp(xcb_randr_crtc_t crtc, const HardwareRamp&
 }
 
 void X11RampJournal::compactIfLong() {
-    // A journal that is long when compact is left to double first.
+    // A journal that is long even when compact may double before it is compacted again.
     if (_correctionUnits >= std::max(longCorrections, 2 * _compactCorrectionUnits) ||
         _systemRampUnits >= std::max(longSystemRamps, 2 * _compactSystemRampUnits)) {
         rewrite();
@@ -208,7 +208,7 @@ void X11RampJournal::compactIfLong() {
 }
 
 void X11RampJournal::rewrite() {
-    // Nobody may append between the reading and the writing.
+    // Nobody may append between the read and the write.
     xcb_grab_server(_connection.get());
     ask();
     const Contents contents = receiveAnswers();

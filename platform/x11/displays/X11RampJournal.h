@@ -16,46 +16,47 @@ namespace tonquil {
 /// The histories of the server's ramps, kept in two properties of its root window: they live
 /// exactly as long as the ramps themselves, and every process of ours can read them.
 ///
-/// Both are journals to which single requests append, so that neither a kill between two requests
-/// nor two processes writing at once can tear them. In 32-bit units:
+/// Both are journals, extended by single append requests, so that neither being killed between two
+/// requests nor two processes writing at once can corrupt them. In 32-bit units:
 ///  - corrections: check, CRTC, holder, fingerprint (high, low) for each correction that was set;
 ///  - system ramps: check, CRTC, size, fingerprint (high, low), then the 16-bit entries two to a
-///    unit; the last of a CRTC counts.
+///    unit; a CRTC's last one counts.
 ///
-/// The check, over the units up to the entries, tells a block from what other clients may write
-/// there. The holder is the X client that set the correction, by its resource base.
+/// The check, over the units up to the entries, distinguishes a block from what other clients may
+/// write there. The holder is the X client that set the correction, by its resource base.
 class X11RampJournal {
  public:
     using Histories = std::map<xcb_randr_crtc_t, RampHistory>;
     struct Contents {
         Histories histories;
-        /// Something stood there that we never wrote, so that records of ours may be missing.
+        /// There was something that we never wrote, so records of ours may be missing.
         bool areCorrectionsDamaged = false;
         bool areSystemRampsDamaged = false;
     };
 
     explicit X11RampJournal(const X11Connection& connection);
 
-    /// This process in the journal.
+    /// This process's holder number in the journal.
     [[nodiscard]] std::uint32_t holder() const { return _holder; }
 
-    /// Sends the questions; `receive` takes the answers, so that others can be asked in between.
+    /// Sends the requests; `receive` reads the replies, so that other requests can be sent in
+    /// between.
     void ask();
-    /// Writes the journals anew if they are damaged.
+    /// Rewrites the journals if they are damaged.
     [[nodiscard]] Contents receive();
 
     /// Asks whether the corrections are still there, without reading them.
     void askIfIntact();
-    /// False when somebody has replaced or shortened them: they should then be read again.
+    /// False if somebody has replaced or shortened them: they should then be read again.
     [[nodiscard]] bool isIntact();
 
-    /// Appends without waiting: it reaches the server before whatever is sent next.
+    /// Appends without waiting: the server gets it before any later request.
     void appendCorrection(xcb_randr_crtc_t crtc, const RampHistory::Correction& correction);
     void appendSystemRamp(xcb_randr_crtc_t crtc, const HardwareRamp& ramp);
-    /// Shortens the journals when they have grown long; waits for the server if so.
+    /// Compacts the journals if they have grown long; only then waits for the server.
     void compactIfLong();
 
-    /// Reads what the properties hold, passing over what makes no sense.
+    /// Parses the contents of the properties, skipping anything invalid.
     [[nodiscard]] static Contents parse(std::span<const std::uint32_t> corrections,
                                         std::span<const std::uint32_t> systemRamps);
     /// A block as it is appended.

@@ -30,7 +30,7 @@ void X11Reconfiguration::takeQueuedEvents() {
 }
 
 void X11Reconfiguration::takeEvents() {
-    // One reading from the socket, not all that a storm has to say: others need the run loop too.
+    // One read from the socket, not everything in a storm: other sources need the run loop too.
     if (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(_connection.get())}) {
         take(*event);
     }
@@ -45,7 +45,7 @@ void X11Reconfiguration::takeEvents() {
 }
 
 void X11Reconfiguration::take(const xcb_generic_event_t& event) {
-    // Bit 7 says that another client sent the event.
+    // Bit 7 means that another client sent the event.
     const int type = (event.response_type & 0x7F) - _connection.randrFirstEvent();
     if (type == XCB_RANDR_NOTIFY) {
         xcb_randr_notify_event_t change{};
@@ -72,7 +72,7 @@ void X11Reconfiguration::waitForQuiet() {
     }
 }
 
-// Not a new timer for each event: there may be thousands.
+// Not a new timer per event: there may be thousands.
 void X11Reconfiguration::callWhenDue() {
     using std::chrono::milliseconds;
     const auto due = std::min(_lastEvent + quietTime, _firstEvent + longestWait);

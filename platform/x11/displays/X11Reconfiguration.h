@@ -15,21 +15,22 @@
 
 namespace tonquil {
 
-/// Watches the server for changes of its displays and calls once each time it has become quiet, or
-/// while it does not: then in between, so that a display need not wait for the end of a storm.
+/// Watches the server's displays for changes and calls once whenever it has become quiet; if it
+/// does not become quiet, it calls in between, so that a display need not wait for the end of a
+/// storm.
 ///
-/// One plug or mode change comes as 33 to 200 events within a moment, and what they say one by one
-/// is half of the truth: the caller reads everything anew. Only what it cannot read from the result
-/// is told: what the CRTCs went through since the last call. A display that was off for a moment is
-/// as before, but may have lost its ramp.
+/// One plug or mode change causes 33 to 200 events in a moment, and each alone is only half the
+/// truth: the callee reads everything again. It is only told what it cannot read from the result:
+/// which states the CRTCs went through since the last call. A display that was off for a moment
+/// looks the same as before, but may have lost its ramp.
 class X11Reconfiguration {
  public:
     /// How long the server must have been silent.
     static constexpr std::chrono::milliseconds quietTime{150};
-    /// How long after the first event it is called at the latest.
+    /// The maximum time from the first event to the call.
     static constexpr std::chrono::milliseconds longestWait{400};
 
-    /// How a CRTC was set up at some moment; of no size while it was dark.
+    /// A CRTC's configuration at some moment; of size 0 while it was off.
     struct CrtcState {
         xcb_randr_crtc_t crtc;
         std::int16_t x;
@@ -44,8 +45,8 @@ class X11Reconfiguration {
     X11Reconfiguration(const X11Connection& connection, RunLoop& runLoop, Log log,
                        std::function<void(const CrtcStates&)> becameQuiet);
 
-    /// Takes note of events that came along with replies: these never make the descriptor readable.
-    /// To be called after each exchange with the server.
+    /// Handles events that arrived along with replies: these never make the file descriptor
+    /// readable. Call after each exchange with the server.
     void takeQueuedEvents();
     /// Calls after the quiet time, as after an event.
     void waitForQuiet();
@@ -63,7 +64,7 @@ class X11Reconfiguration {
     RunLoop::Clock::time_point _firstEvent;
     RunLoop::Clock::time_point _lastEvent;
     std::unique_ptr<RunLoop::Handle> _watch;
-    /// There is one from the first event on until the call.
+    /// Set from the first event until the call.
     std::unique_ptr<RunLoop::Handle> _timer;
 };
 

@@ -18,10 +18,10 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// X key codes count from here.
+// The offset of X key codes.
 constexpr std::uint8_t firstKeyCode = 8;
 
-/// Control, Alt and one of F1 to F12: the server acts on them itself, and no grab hears of it.
+/// Control, Alt and one of F1 to F12: the server handles them itself, and no grab receives them.
 bool isForTerminals(std::uint32_t evdevCode, HotKeyServiceMask modifiers) {
     const bool isFunctionKey = (evdevCode >= KEY_F1 && evdevCode <= KEY_F10) ||
                                evdevCode == KEY_F11 || evdevCode == KEY_F12;
@@ -90,7 +90,7 @@ std::optional<Problem> X11HotKeyService::setUpKeyboard() {
 
 void X11HotKeyService::selectEvents() const {
     auto* const connection = _connection->get();
-    // A key that is held is then told as going down again and again, and as going up once.
+    // With it, auto-repeat of a held key sends only presses, and a single release at the end.
     constexpr std::uint32_t detectable = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
     const XcbPointer<xcb_xkb_per_client_flags_reply_t> flags(
         xcb_xkb_per_client_flags_reply(connection,
@@ -167,7 +167,7 @@ std::optional<HotKeyHandle> X11HotKeyService::find(xcb_keycode_t key, std::uint1
     return found != _registrations.end() ? std::optional(found->first) : std::nullopt;
 }
 
-// Events that arrived together with a reply are already in memory, so the descriptor is not
+// Events that arrived together with a reply are already in memory, so the file descriptor is not
 // readable.
 void X11HotKeyService::takeEventsSoon() {
     _early = _runLoop.callOnce(milliseconds(0), [this] { takeEvents(); });
@@ -183,7 +183,7 @@ void X11HotKeyService::takeEvents() {
 }
 
 void X11HotKeyService::take(const xcb_generic_event_t& event) {
-    // Bit 7 marks an event that another client sent: nobody pressed that key.
+    // Bit 7 marks an event sent by another client: nobody pressed that key.
     const int type = event.response_type;
     if (type == XCB_KEY_PRESS) {
         keyPressed(as<xcb_key_press_event_t>(event));
@@ -195,7 +195,7 @@ void X11HotKeyService::take(const xcb_generic_event_t& event) {
 }
 
 HotKeyServiceEvent X11HotKeyService::eventFrom(const xcb_key_press_event_t& event) {
-    // The server counts milliseconds in 32 bits and begins again after seven weeks.
+    // The server counts milliseconds in 32 bits, which wrap around after seven weeks.
     const auto step = event.time - static_cast<std::uint32_t>(_serverTime.count());
     _serverTime += milliseconds(static_cast<std::int32_t>(step));
     _serverTimeTaken = _runLoop.now();
@@ -205,14 +205,14 @@ HotKeyServiceEvent X11HotKeyService::eventFrom(const xcb_key_press_event_t& even
 
 void X11HotKeyService::keyPressed(const xcb_key_press_event_t& event) {
     HotKeyServiceEvent told = eventFrom(event);
-    // While a hot key is down, every key comes here.
+    // While a hot key is down, the grab receives every key.
     const auto handle = find(event.detail, _modifiers.held(event.state));
     if (!handle || _held.contains(event.detail) || _downBefore.contains(event.detail)) {
         return;
     }
     _held[event.detail] = {*handle, ++_lastNumber};
     told.id = _registrations.at(*handle).id;
-    // A copy, since what is called may set other handlers.
+    // A copy, because the callback may set other handlers.
     if (const Handler handler = _pressed) {
         handler(told);
     }
@@ -222,7 +222,7 @@ void X11HotKeyService::keyReleased(const xcb_key_press_event_t& event) {
     const HotKeyServiceEvent told = eventFrom(event);
     _downBefore.erase(event.detail);
     release(event.detail, told);
-    // The grab that began with the first of several keys ends with it, and with it the events.
+    // The grab that started with the first of several keys ends with it, and so do the events.
     if (!_held.empty()) {
         lookUntilReleased();
     }
@@ -240,8 +240,8 @@ void X11HotKeyService::release(xcb_keycode_t key, HotKeyServiceEvent event) {
     }
 }
 
-// A key may be down while it is registered, for example because somebody has just recorded it. That
-// press is not a hot key, although its repeats look like one.
+// A key may be down while it is registered, for example because the user has just recorded it. That
+// press is not a hot key, although its auto-repeat looks like one.
 void X11HotKeyService::noteIfDown(xcb_keycode_t key) {
     const auto keymap = queryKeymap();
     if (keymap && isDown(*keymap, key)) {
@@ -267,7 +267,8 @@ void X11HotKeyService::lookForReleases() {
     const HotKeyServiceEvent present = presentEvent();
     takeEvents();
     for (const auto& [key, held] : before) {
-        // One that went up and down again since is not the one that was asked about.
+        // If the key was released and pressed again since, this press is not the one that was asked
+        // about.
         const auto now = _held.find(key);
         if (keymap && now != _held.end() && now->second.number == held.number &&
             !isDown(*keymap, key)) {

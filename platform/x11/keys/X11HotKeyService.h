@@ -18,22 +18,21 @@
 
 namespace tonquil {
 
-/// Hot keys of an X server: keys grabbed on its root windows, by a connection of its own.
+/// Hot keys of an X server: passive key grabs on its root windows, on a connection of its own.
 ///
-/// The locks make no difference to a combination, nor does the layout that is switched to. When the
-/// keyboard is set up anew, the combinations are grabbed anew; one that is refused then is in the
-/// log, and is tried again at the next such change. Once the server has gone nothing is heard, and
-/// registering is refused. In a Wayland session's X server combinations are heard only while one
-/// of its own windows is in front.
+/// The lock keys do not affect a combination, nor does the selected layout. When the keyboard is
+/// reconfigured, the combinations are grabbed again; a refused one is logged and tried again at the
+/// next such change. Once the connection is lost, no keys are received and registering fails. On a
+/// Wayland session's X server combinations only work while one of its own windows is in front.
 class X11HotKeyService final : public HotKeyService {
  public:
-    /// How often the keyboard is looked at where no event tells that a key goes up.
+    /// How often the keyboard is polled when no event reports a key's release.
     static constexpr std::chrono::milliseconds releaseInterval{30};
-    /// How long several changes of the keyboard's set-up are taken as one.
+    /// Several changes of the keyboard configuration within this time are handled as one.
     static constexpr std::chrono::milliseconds settlingTime{50};
 
-    /// Connects to `display` as X11Connection::open does. A Problem also where the server has no
-    /// XKB extension. The run loop must outlive this.
+    /// Connects to `display` like X11Connection::open. Also fails if the server has no XKB
+    /// extension. The run loop must outlive this.
     [[nodiscard]] static Result<std::unique_ptr<X11HotKeyService>> open(const char* display,
                                                                         RunLoop& runLoop, Log log);
 
@@ -48,13 +47,13 @@ class X11HotKeyService final : public HotKeyService {
         xcb_keycode_t key;
         HotKeyServiceMask modifiers;
         std::uint32_t id;
-        /// The state that is grabbed; nothing while the keyboard cannot give it.
+        /// The grabbed modifier state; nothing while the keyboard cannot produce it.
         std::optional<std::uint16_t> state;
     };
     /// A hot key that is down.
     struct Held {
         HotKeyHandle handle;
-        /// Tells one time that the key is down from the next.
+        /// Distinguishes one press of the key from the next.
         std::uint64_t number;
     };
 
@@ -92,8 +91,8 @@ class X11HotKeyService final : public HotKeyService {
     std::uint64_t _lastNumber = 0;
     /// Keys that have been down since before they were registered.
     std::set<xcb_keycode_t> _downBefore;
-    /// The server's time in the last event of a key, counted on beyond its 32 bits, and our time
-    /// when it came.
+    /// The server's time in the last key event, extended beyond its 32 bits, and our time when it
+    /// arrived.
     std::chrono::milliseconds _serverTime{0};
     RunLoop::Clock::time_point _serverTimeTaken;
     std::unique_ptr<RunLoop::Handle> _watch;

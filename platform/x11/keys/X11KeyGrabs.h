@@ -12,18 +12,18 @@ namespace tonquil {
 
 /// Passive grabs of keys on all root windows of an X server.
 ///
-/// A grab is of one exact state of the modifiers, so a key is grabbed in several of them: once for
-/// each state of the locks.
+/// A grab applies to one exact modifier state, so a key is grabbed several times: once for each
+/// state of the locks.
 class X11KeyGrabs {
  public:
     /// The connection must outlive this.
     explicit X11KeyGrabs(const X11Connection& connection);
 
-    /// Grabs a key in `state` with each of `lockStates`, and waits for the answer. When any of it
-    /// is refused, nothing is kept.
+    /// Grabs a key in `state` with each of `lockStates`, and waits for the reply. If any of them is
+    /// refused, none is kept.
     [[nodiscard]] Result<void> grab(xcb_keycode_t key, std::uint16_t state,
                                     std::span<const std::uint16_t> lockStates) const;
-    /// On return, others may have what was given up.
+    /// Once it returns, other clients may grab the key.
     void ungrab(xcb_keycode_t key, std::uint16_t state,
                 std::span<const std::uint16_t> lockStates) const;
 

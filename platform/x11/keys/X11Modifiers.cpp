@@ -18,7 +18,7 @@ constexpr xcb_keysym_t scrollLockKey = 0xFF14;
 
 constexpr std::uint16_t allModifiers = 0xFF;
 
-// What each key code gives, `symbolsPerKey` at a time.
+// The symbols of each key code, `symbolsPerKey` at a time.
 struct Symbols {
     std::span<const xcb_keysym_t> all;
     std::size_t symbolsPerKey;
@@ -35,11 +35,11 @@ struct Symbols {
     }
 };
 
-// The mask of the first modifier that a key with one of these symbols sets; 0 for none. `keys` are
+// The mask of the first modifier set by a key with one of these symbols; 0 for none. `keys` are
 // those of each modifier in turn.
 std::uint16_t modifierOf(std::span<const xcb_keycode_t> keys, std::size_t keysPerModifier,
                          const Symbols& symbols, std::initializer_list<xcb_keysym_t> wanted) {
-    // Shift, Lock and Control have their fixed places before these.
+    // Shift, Lock and Control have fixed positions before these.
     for (std::size_t modifier = XCB_MAP_INDEX_1; modifier <= XCB_MAP_INDEX_5; ++modifier) {
         for (const auto key : keys.subspan(modifier * keysPerModifier, keysPerModifier)) {
             if (std::any_of(wanted.begin(), wanted.end(),
@@ -116,7 +116,7 @@ ModifierFlags X11Modifiers::flags(std::uint16_t state) const {
 }
 
 std::uint16_t X11Modifiers::locks() const {
-    // A modifier that is held for a combination cannot be told from its lock.
+    // If a lock shares its modifier with one of a combination, the two cannot be distinguished.
     return static_cast<std::uint16_t>((XCB_MOD_MASK_LOCK | numLock | scrollLock) &
                                       ~(option | command));
 }

@@ -3,7 +3,7 @@
 
 #include <xcb/xcb.h>
 
-// This C header has a member with a name that C++ keeps for itself.
+// This C header has a member whose name is a C++ keyword.
 #ifdef __clang__
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wkeyword-macro"
