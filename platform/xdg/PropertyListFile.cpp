@@ -64,6 +64,14 @@ PropertyListBudget PropertyListFile::budget() {
 PropertyListFile::Contents PropertyListFile::read() const {
     auto bytes = readBoundedFile(_path, budget().mostBytes);
     if (!bytes) {
+        std::error_code unknown;
+        if (!std::filesystem::exists(_path, unknown) && !unknown) {
+            return {};
+        }
+        // Another process may have made it in between.
+        bytes = readBoundedFile(_path, budget().mostBytes);
+    }
+    if (!bytes) {
         return unread(_path, std::move(bytes.error()));
     }
     auto list = readPropertyList(*bytes, budget());

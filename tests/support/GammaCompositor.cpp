@@ -118,8 +118,8 @@ GammaCompositor::GammaCompositor()
         }
         return 0;
     };
-    wl_event_loop_add_fd(wl_display_get_event_loop(_display), _wakeUp.get(), WL_EVENT_READABLE,
-                         wake, this);
+    _wakeUpSource = wl_event_loop_add_fd(wl_display_get_event_loop(_display), _wakeUp.get(),
+                                         WL_EVENT_READABLE, wake, this);
     _thread = std::thread([this] { wl_display_run(_display); });
 }
 
@@ -145,6 +145,7 @@ void GammaCompositor::die() {
         call([this] { wl_display_terminate(_display); });
         _thread.join();
         wl_display_destroy_clients(_display);
+        wl_event_source_remove(_wakeUpSource);
         wl_display_destroy(_display);
     }
 }

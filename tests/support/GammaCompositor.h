@@ -12,6 +12,7 @@
 #include "tests/support/FileDescriptor.h"
 #include "tests/support/ScratchFolder.h"
 
+struct wl_event_source;
 struct wl_display;
 struct wl_resource;
 
@@ -55,6 +56,7 @@ class GammaCompositor {
     ScratchFolder _folder;
     wl_display* _display;
     FileDescriptor _wakeUp;
+    wl_event_source* _wakeUpSource = nullptr;
     std::function<void()> _work;
     /// Those that were unplugged stay: clients may still hold them.
     std::multimap<std::string, std::unique_ptr<Output>> _gone;

@@ -224,6 +224,9 @@ TEST(PreferencesSaving, LosesNothingInSimultaneousSaves) {
                 process.store->setValue(name + std::to_string(number), number);
                 process.store->synchronize();
             }
+            for (const std::string& line : process.log) {
+                std::fputs((line + "\n").c_str(), stderr);
+            }
             ::_exit(process.log.empty() ? 0 : 1);
         }
     }
