@@ -191,6 +191,7 @@ TEST(ExtendedCurveReader, FallsBackToOlderGenerations) {
     const auto unsplit = TQExtendedGammaCurve::gammaCurveWithDictionary(single);
     EXPECT_EQ(unsplit->masterBlackCorrection(), 0);
     EXPECT_EQ(unsplit->masterMiddleCorrection(), 1.5F);
+    EXPECT_EQ(unsplit->masterWhiteCorrection(), 1);
     EXPECT_EQ(unsplit->blackPoint()->redValue(), 0.1F);
 
     PropertyValue current = single;

@@ -224,6 +224,9 @@ TEST(ScreenRegistry, RetriesReadingAMissingBase) {
     desk.registry.updateScreenList();
     EXPECT_EQ(second->baseGamma().table.channel(0)[255], 1.0F)
         << "a base that is there is read again only on request";
+    desk.desk.unplug(2);
+    second->readBaseGamma();
+    EXPECT_EQ(second->baseGamma().sampleCount, 256U) << "a display that is gone keeps its base";
     const auto unknown = desk.registry.screenWithDirectDisplayID(77);
     EXPECT_EQ(unknown->baseGamma().sampleCount, 0U);
     EXPECT_EQ(desk.registry.sightedScreens().size(), 2U) << "a screen for no display is not kept";

@@ -115,8 +115,8 @@ TEST_F(Covers, FollowTheirDisplaysUntilRemoved) {
     EXPECT_EQ(list.existingTargetWindowControllerForScreen({1, right.frame}), &second);
     EXPECT_EQ(list.existingTargetWindowControllerForScreen({9, left.frame}), &first);
     // The displays change places.
-    const TargetScreen newLeft{.displayID = right.displayID, .frame = QRect(0, 0, 640, 480)};
-    const TargetScreen newRight{.displayID = left.displayID, .frame = QRect(640, 0, 800, 600)};
+    const TargetScreen newLeft{.displayID = right.displayID, .frame = left.frame};
+    const TargetScreen newRight{.displayID = left.displayID, .frame = QRect(800, 0, 800, 600)};
     list.screensChanged({newLeft, newRight});
     EXPECT_EQ(first.frame(), newRight.frame);
     EXPECT_EQ(second.frame(), newLeft.frame);
