@@ -8,6 +8,7 @@
 #include "settings/Settings.h"
 #include "tests/app/ControllerBench.h"
 #include "tests/support/ScratchFolder.h"
+#include "tests/support/Succeeded.h"
 
 namespace tonquil {
 namespace {
@@ -86,6 +87,10 @@ TEST_F(Files, WithSeveralCurvesApplyByDisplayAndWaitForUnplugged) {
     EXPECT_FALSE(stored.contains("damaged"));
     EXPECT_THAT(bench.controller().recentFiles(), ElementsAre(file));
     EXPECT_THAT(bench.dialogs.alerts, IsEmpty());
+    bench.controller().setApplyCorrection(false);
+    const int restored = bench.firstEntry(left);
+    open(file);
+    EXPECT_GT(bench.firstEntry(left), restored) << "Applied even while the correction is off.";
 }
 
 TEST_F(Files, ForUnpluggedDisplaysAreReportedAndKept) {
@@ -130,6 +135,8 @@ TEST_F(Files, WithoutSettingsChangeNothing) {
         EXPECT_EQ(bench.red(left), 0.25F);
         EXPECT_THAT(bench.dialogs.alerts, ElementsAre("The file was not opened"));
     }
+    many["Screens"].erase("256");
+    EXPECT_TRUE(succeeded(readSettingsFile(fileWith(many)))) << "Just few enough.";
 }
 
 TEST_F(Files, SaveInChosenFormat) {
