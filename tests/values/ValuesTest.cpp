@@ -6,6 +6,7 @@
 
 #include "values/BoundedJson.h"
 #include "values/PropertyValue.h"
+#include "values/Utf8.h"
 
 namespace tonquil {
 namespace {
@@ -44,6 +45,13 @@ TEST(PropertyValue, ClampsIntegersToTheirRange) {
         EXPECT_EQ(integerValue(row[0]), row[1].get<std::int64_t>()) << row[0];
     }
     EXPECT_EQ(integerValue(std::numeric_limits<double>::quiet_NaN()), 0);
+}
+
+TEST(Utf8, RefusesSurrogatesOnly) {
+    for (const char* const text : {"\xED\xA0\x80", "\xED\xBF\xBF"}) {
+        EXPECT_FALSE(isUtf8(text));
+    }
+    EXPECT_TRUE(isUtf8("\xED\x9F\xBF\xEE\x80\x80")) << "their neighbours";
 }
 
 TEST(BoundedJson, ReadsOnlyWithinItsBounds) {
