@@ -56,6 +56,10 @@ TEST(Launch, RestoresPanelEntirelyOnAnAttachedDisplay) {
         EXPECT_EQ(bench.panel.place.x, origin.x);
         EXPECT_EQ(bench.panel.place.y, origin.y);
     }
+    ControllerBench bench;
+    bench.panel.place.height = 5000;
+    bench.launchAndSettle();
+    EXPECT_EQ(bench.panel.place.y, 0) << "Too tall a panel keeps the edge it is moved by.";
 }
 
 TEST(Launch, SavesOnceAtShutdownAndLoadsOnNextStart) {

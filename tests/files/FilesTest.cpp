@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 #include "FolderContents.h"
@@ -16,6 +17,19 @@
 #include "files/BoundedFile.h"
 #include "files/FileHandle.h"
 #include "tests/support/OrdinaryUser.h"
+
+namespace {
+bool& isFlushFailing() {
+    static bool isFailing = false;
+    return isFailing;
+}
+}  // namespace
+
+// Replaces the C library's.
+extern "C" int fsync(int file) {
+    errno = EIO;
+    return isFlushFailing() ? -1 : ::fdatasync(file);
+}
 
 namespace tonquil {
 namespace {
@@ -52,7 +66,7 @@ TEST(AtomicFile, SetsPermissionsByKindOfFile) {
     ::umask(former);
 }
 
-TEST(AtomicFile, KeepsOldFileWhenDiskIsFull) {
+TEST(AtomicFile, KeepsOldFileWhenDiskIsFullOrFailing) {
     const ScratchFolder folder;
     putContents(folder / "file", "older");
     rlimit former{};
@@ -65,6 +79,9 @@ TEST(AtomicFile, KeepsOldFileWhenDiskIsFull) {
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &former), 0);
     std::signal(SIGXFSZ, formerHandler);
     EXPECT_THAT(sentence, HasSubstr("larger than is allowed. The older file was kept."));
+    isFlushFailing() = true;
+    EXPECT_THAT(save(folder / "file", "new"), HasSubstr("The older file was kept."));
+    isFlushFailing() = false;
     EXPECT_EQ(contentsOf(folder / "file"), "older");
     EXPECT_EQ(entriesIn(folder.path()), 1);
 }
