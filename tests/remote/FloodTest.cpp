@@ -26,8 +26,11 @@ TEST_F(Flood, FromOneHostGetsFewAnswersOnAnyPorts) {
     }
     // A burst of 100, and 20 a second.
     EXPECT_NEAR(static_cast<double>(wire.sent.size()), 100 + 20 * 10, 5);
-    receive("Kantivel scan ", honest);
-    EXPECT_EQ(sentTo(honest), 1) << "others are answered meanwhile";
+    // More than the global rate could grant at one moment if refused requests used it up.
+    for (int i = 0; i < 50; ++i) {
+        receive("Kantivel scan ", honest);
+    }
+    EXPECT_EQ(sentTo(honest), 50) << "others are answered meanwhile";
     const SocketAddress otherPort(stranger, 50000);
     receive("Kantivel scan ", otherPort);
     loop.advance(2s);
@@ -46,8 +49,11 @@ TEST_F(Flood, FromForgedHostsIsLimitedGloballyAndForgotten) {
     }
     EXPECT_LE(wire.sent.size(), 200U + 50 * 10 + 1);
     receive("Kantivel scan ", honest);
+    for (std::uint16_t port = 0; port < 100; ++port) {
+        receive("Kantivel scan ", {stranger, port});
+    }
     loop.advance(100ms);
-    EXPECT_EQ(sentTo(honest), 1) << "the newest is answered first";
+    EXPECT_EQ(sentTo(honest), 1) << "the newest hosts are answered first, and each waits once";
     loop.advance(3s);
     forget();
     loop.advance(1h);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdlib>
 #include <vector>
 
 #include "platform/xdg/AutostartLoginItem.h"
@@ -62,6 +63,18 @@ TEST_F(DesktopEntriesTest, PicksFirstInstalledCandidateThatWouldStart) {
         SCOPED_TRACE(lines);
         put("own/a.desktop", lines);
         EXPECT_EQ(found(), name);
+    }
+}
+
+TEST(DesktopEntriesPlaces, TakeLanguageOfMessagesFromEnvironment) {
+    ::setenv("LC_ALL", "", 1);
+    ::setenv("LANG", "fr", 1);
+    ::setenv("LC_MESSAGES", "de", 1);
+    EXPECT_EQ(DesktopEntries::fromEnvironment().locale, "de");
+    ::setenv("LC_ALL", "en", 1);
+    EXPECT_EQ(DesktopEntries::fromEnvironment().locale, "en");
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        ::unsetenv(name);
     }
 }
 
