@@ -10,8 +10,8 @@
 
 namespace tonquil {
 
-TQController::TQController(const ControllerSurroundings& surroundings)
-    : _with(surroundings),
+TQController::TQController(ControllerSurroundings surroundings)
+    : _with(std::move(surroundings)),
       _currentScreens(_with.service, _with.registry, _with.preferences, _with.panel,
                       _with.whyNoDisplays),
       _currentCurve(_with.controls),

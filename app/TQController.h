@@ -26,7 +26,7 @@ namespace tonquil {
 /// classes responsible for them.
 class TQController final : public PanelActions {
  public:
-    explicit TQController(const ControllerSurroundings& surroundings);
+    explicit TQController(ControllerSurroundings surroundings);
     TQController(const TQController&) = delete;
     TQController& operator=(const TQController&) = delete;
     ~TQController() override = default;

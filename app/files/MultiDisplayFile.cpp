@@ -34,7 +34,7 @@ std::size_t MultiDisplayFile::applyTo(ScreenRegistry& registry) const {
     std::size_t count = 0;
     for (const auto& screen : registry.sightedScreens()) {
         const auto keys = screen->keys();
-        const auto key =
+        const auto* const key =
             std::ranges::find_if(keys, [this](const auto& each) { return _curves.contains(each); });
         if (key == keys.end()) {
             continue;

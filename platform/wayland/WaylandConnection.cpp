@@ -32,7 +32,7 @@ void WaylandConnection::takeEvents() {
     takeEventsWithin(0);
 }
 
-void WaylandConnection::takeEventsWithin(int milliseconds) {
+void WaylandConnection::takeEventsWithin(int milliseconds) const {
     if (wl_display_prepare_read(get()) != 0) {
         // Some have been read already.
         wl_display_dispatch_pending(get());

@@ -54,7 +54,7 @@ class WaylandConnection {
     };
     explicit WaylandConnection(wl_display* display) : _display(display) {}
     /// Handles events once; waits for some no longer than `milliseconds`.
-    void takeEventsWithin(int milliseconds);
+    void takeEventsWithin(int milliseconds) const;
 
     std::unique_ptr<wl_display, Disconnect> _display;
 };

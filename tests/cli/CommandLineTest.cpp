@@ -23,6 +23,7 @@ Result<Arguments> parsed(const std::string& line) {
     std::istringstream text("tonquilctl " + line);
     std::vector<std::string> words(std::istream_iterator<std::string>(text), {});
     std::vector<char*> argv;
+    argv.reserve(words.size() + 1);
     for (std::string& word : words) {
         argv.push_back(word.data());
     }

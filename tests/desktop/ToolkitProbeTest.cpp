@@ -26,6 +26,7 @@ class HangingBus {
         sockaddr_un name{.sun_family = AF_UNIX, .sun_path = {}};
         const std::string path = _folder.path() / "bus";
         std::copy(path.begin(), path.end(), std::begin(name.sun_path));
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what the system asks for.
         const auto* const generic = reinterpret_cast<const sockaddr*>(&name);
         EXPECT_EQ(bind(_socket.get(), generic, sizeof name), 0);
         EXPECT_EQ(listen(_socket.get(), 8), 0);

@@ -25,10 +25,10 @@ bool& isFlushFailing() {
 }
 }  // namespace
 
-// Replaces the C library's.
-extern "C" int fsync(int file) {
+// Replaces the C library's. No test outlives a loss of power.
+extern "C" int fsync(int /*file*/) {
     errno = EIO;
-    return isFlushFailing() ? -1 : ::fdatasync(file);
+    return isFlushFailing() ? -1 : 0;
 }
 
 namespace tonquil {

@@ -36,7 +36,7 @@ inline void computeByPlainFormula(const CurveValues& curve, GammaTable& table, s
                 static_cast<float>(p * static_cast<double>(r) + static_cast<double>(b));
             table.channel(c)[i] =
                 curve.blendingMode == 1
-                    ? sampled(&base.channel(c)[0], level * static_cast<float>(n - 1), n)
+                    ? sampled(base.channel(c).data(), level * static_cast<float>(n - 1), n)
                     : level;
         }
     }

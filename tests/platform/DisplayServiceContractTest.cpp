@@ -111,7 +111,7 @@ class WlrBench : public ServiceBench {
             std::filesystem::create_directory(folder);
             const auto edid = buildEdid({.serial = serial});
             std::ofstream(folder / "edid", std::ios::binary)
-                .write(reinterpret_cast<const char*>(edid.data()), std::ssize(edid));
+                << std::string(edid.begin(), edid.end());
         }
         WlrBench::plugSecond();
         _compositor.plug("DP-1", 0);

@@ -67,6 +67,7 @@ class Desk {
     static constexpr int redRow = 156;
     /// Corrects a display below the panel by dragging the master; returns its ramp once the whole
     /// drag has arrived.
+    // NOLINTNEXTLINE(modernize-use-nodiscard): called for what it does as well.
     Ramp correct(const std::string& connector = "DUMMY0", double end = 0.6) const;
 
     [[nodiscard]] Ramp ramp(const std::string& connector = "DUMMY0") const;

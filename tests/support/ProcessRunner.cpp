@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 
@@ -20,10 +21,10 @@ using SteadyClock = std::chrono::steady_clock;
 
 std::string contentOf(const FileDescriptor& file) {
     std::string content;
-    char part[4096];
-    for (ssize_t count = 0;
-         (count = pread(file.get(), part, sizeof part, static_cast<off_t>(content.size()))) > 0;) {
-        content.append(part, static_cast<std::size_t>(count));
+    std::array<char, 4096> part{};
+    for (ssize_t count = 0; (count = pread(file.get(), part.data(), part.size(),
+                                           static_cast<off_t>(content.size()))) > 0;) {
+        content.append(part.data(), static_cast<std::size_t>(count));
     }
     return content;
 }
@@ -46,6 +47,7 @@ Result<std::unique_ptr<BackgroundProcess>> BackgroundProcess::start(const Proces
     command.insert(command.end(), request.command.begin(), request.command.end());
     // Everything is prepared before the fork, because the child must not allocate after it.
     std::vector<char*> arguments;
+    arguments.reserve(command.size() + 1);
     for (auto& text : command) {
         arguments.push_back(text.data());
     }

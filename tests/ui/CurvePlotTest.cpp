@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <ranges>
 
 #include "tests/ui/Input.h"
 #include "ui/CurvePlot.h"
@@ -23,10 +22,12 @@ class CurvePlotTest : public testing::Test {
     // Slightly rising lines cover some pixels entirely.
     bool shows(const QColor& colour) {
         const QImage picture = drawn(plot);
-        const auto isShown = [&](int pixel) {
-            return isNear(picture.pixelColor(pixel % 240, pixel / 240), colour, 4);
-        };
-        return std::ranges::any_of(std::views::iota(0, 240 * 200), isShown);
+        for (int pixel = 0; pixel < 240 * 200; ++pixel) {
+            if (isNear(picture.pixelColor(pixel % 240, pixel / 240), colour, 4)) {
+                return true;
+            }
+        }
+        return false;
     }
 
     CurvePlot plot;

@@ -10,7 +10,6 @@
 #include <QStackedWidget>
 #include <QToolButton>
 #include <algorithm>
-#include <ranges>
 #include <vector>
 
 #include "model/KVGammaCurve.h"
@@ -177,7 +176,7 @@ QRect PanelContents::placeOf(const QWidget& control) const {
             layouts.push_back(layout);
         }
     }
-    std::ranges::for_each(layouts | std::views::reverse, [](QLayout* each) {
+    std::for_each(layouts.rbegin(), layouts.rend(), [](QLayout* each) {
         each->invalidate();
         each->activate();
     });

@@ -8,7 +8,7 @@
 namespace tonquil {
 
 QString translatedProblem(const std::string& key, const std::vector<std::string>& arguments) {
-    const QString format = QCoreApplication::translate("Problem", key.c_str());
+    QString format = QCoreApplication::translate("Problem", key.c_str());
     // A message containing a file name may contain something that looks like a placeholder.
     if (arguments.empty()) {
         return format;

@@ -38,6 +38,7 @@ class X11Reconfiguration {
         std::uint16_t width;
         std::uint16_t height;
 
+        // NOLINTNEXTLINE(modernize-use-nullptr): a known false alarm of the check.
         auto operator<=>(const CrtcState&) const = default;
     };
     using CrtcStates = std::set<CrtcState>;
