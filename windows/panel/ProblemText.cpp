@@ -14,6 +14,7 @@ QString translatedProblem(const std::string& key, const std::vector<std::string>
         return format;
     }
     std::vector<std::string> translated;
+    translated.reserve(arguments.size());
     for (const std::string& argument : arguments) {
         translated.push_back(
             QCoreApplication::translate("Problem", argument.c_str()).toStdString());
