@@ -17,7 +17,7 @@ DiskThread::DiskThread(RunLoop& runLoop) : _event(::eventfd(0, EFD_CLOEXEC | EFD
     }
     _watch = runLoop.watchReadable(_event.get(), [this] {
         std::uint64_t count = 0;
-        static_cast<void>(::read(_event.get(), &count, sizeof count));
+        [[maybe_unused]] const ssize_t readBytes = ::read(_event.get(), &count, sizeof count);
         callDone();
     });
     startThread();
@@ -79,7 +79,7 @@ void DiskThread::run() {
         _isBusy = false;
         _done.push_back(std::move(job.done));
         const std::uint64_t one = 1;
-        static_cast<void>(::write(_event.get(), &one, sizeof one));
+        [[maybe_unused]] const ssize_t writeBytes = ::write(_event.get(), &one, sizeof one);
         _changed.notify_all();
     }
 }
