@@ -41,7 +41,7 @@ Result<std::unique_ptr<WlrDisplayService>> WlrDisplayService::open(const char* d
         static_cast<void>(service->_connection->waitUntil(
             [&] { return service->_outputs->areAnswered(); }, longestGammaAnswer));
     }
-    service->_announced = service->layout();
+    service->_listing.begin(service->layout());
     service->_quiet.reset();
     service->retryLater();
     return service;
@@ -57,6 +57,7 @@ WlrDisplayService::WlrDisplayService(std::unique_ptr<WaylandConnection> connecti
                                      Surroundings with)
     : _connection(std::move(connection)),
       _with(std::move(with)),
+      _listing(_with.log),
       _outputs(std::make_unique<WlrOutputs>(*_connection, [this] { outputsChanged(); })) {
     if (_with.runLoop != nullptr) {
         _watch = _with.runLoop->watchReadable(_connection->descriptor(), [this] { takeEvents(); });
@@ -69,7 +70,7 @@ std::vector<WlrOutput*> WlrDisplayService::outputs() {
     std::vector<WlrOutput*> complete;
     for (const auto& output : _outputs->all()) {
         if (output->wayland.isComplete()) {
-            if (output->id == 0) {
+            if (output->display.id == 0) {
                 identify(*output);
             }
             complete.push_back(output.get());
@@ -88,40 +89,19 @@ std::vector<WlrOutput*> WlrDisplayService::outputs() {
 
 void WlrDisplayService::identify(WlrOutput& output) {
     const WaylandOutput::Properties& properties = output.wayland.properties();
-    output.productName = properties.model;
-    output.identity = {.isBuiltIn = isBuiltInConnector(properties.name),
-                       .widthInMillimetres = properties.widthInMillimetres,
-                       .heightInMillimetres = properties.heightInMillimetres};
-    if (const auto edid = readKernelEdid(_with.connectors, properties.name)) {
-        output.identity.serialNumber = edid->serialNumber;
-        output.identity.modelNumber = edid->modelNumber;
-        output.identity.vendorNumber = edid->vendorNumber;
-        output.productName = edid->productName;
-    } else {
-        // Otherwise all outputs of one size without an EDID would share a reference ID.
-        output.identity.modelNumber = numberOf(properties.name);
-    }
-    const auto isThis = [&](const KnownDisplay& each) {
-        return each.connector == properties.name && each.identity == output.identity;
-    };
-    const auto known = std::ranges::find_if(_known, isThis);
-    if (known != _known.end()) {
-        output.id = known->id;
-        return;
-    }
-    // By the connector, so that a display has the same ID in each run.
-    output.id = numberOf(properties.name);
-    while (output.id == 0 ||
-           std::ranges::find(_known, output.id, &KnownDisplay::id) != _known.end()) {
-        ++output.id;
-    }
-    _known.push_back({.connector = properties.name, .identity = output.identity, .id = output.id});
+    output.display.connector = properties.name;
+    output.display.productName = properties.model;
+    output.display.identity = {.widthInMillimetres = properties.widthInMillimetres,
+                               .heightInMillimetres = properties.heightInMillimetres};
+    tonquil::identify(output.display, readKernelEdid(_with.connectors, properties.name));
+    output.display.id = _listing.idFor(properties.name, output.display.identity);
 }
 
 WlrOutput* WlrDisplayService::find(DisplayID display) {
     const auto all = outputs();
-    const auto found = std::ranges::find_if(
-        all, [=](const WlrOutput* output) { return display == 0 || output->id == display; });
+    const auto found = std::ranges::find_if(all, [=](const WlrOutput* output) {
+        return display == 0 || output->display.id == display;
+    });
     return found == all.end() ? nullptr : *found;
 }
 
@@ -137,27 +117,25 @@ WlrOutput* WlrDisplayService::correctable(DisplayID display) {
         retryLater();
     }
     if (found == nullptr) {
-        report(display, "Display " + std::to_string(display) + " is gone.");
+        _listing.reportGone(display);
         return nullptr;
     }
     if (const std::string reason = found->gamma.obstacle(); !reason.empty()) {
-        report(display, found->wayland.properties().name + ": " + reason);
+        _listing.report(display, found->wayland.properties().name + ": " + reason);
         return nullptr;
     }
-    _reported.erase(display);
+    _listing.forget(display);
     return found;
 }
 
-std::vector<WlrDisplay> WlrDisplayService::layout() {
-    std::vector<WlrDisplay> displays;
+std::vector<ListedDisplay> WlrDisplayService::layout() {
+    std::vector<ListedDisplay> displays;
     for (const WlrOutput* output : outputs()) {
-        const WaylandOutput::Properties& properties = output->wayland.properties();
-        displays.push_back({.id = output->id,
-                            .identity = output->identity,
-                            .connector = properties.name,
-                            .bounds = properties.bounds,
-                            .rampSize = output->gamma.size(),
-                            .obstacle = output->gamma.obstacle()});
+        ListedDisplay display = output->display;
+        display.bounds = output->wayland.properties().bounds;
+        display.rampSize = output->gamma.size();
+        display.obstacle = output->gamma.obstacle();
+        displays.push_back(std::move(display));
     }
     return displays;
 }
@@ -171,7 +149,7 @@ std::vector<DisplayID> WlrDisplayService::onlineDisplays(std::size_t most) {
     std::vector<DisplayID> online;
     for (const WlrOutput* output : outputs()) {
         if (online.size() < most) {
-            online.push_back(output->id);
+            online.push_back(output->display.id);
         }
     }
     return online;
@@ -179,12 +157,12 @@ std::vector<DisplayID> WlrDisplayService::onlineDisplays(std::size_t most) {
 
 DisplayID WlrDisplayService::mainDisplay() {
     const WlrOutput* output = find(0);
-    return output == nullptr ? 0 : output->id;
+    return output == nullptr ? 0 : output->display.id;
 }
 
 DisplayIdentity WlrDisplayService::identity(DisplayID display) {
     const WlrOutput* output = find(display);
-    return output == nullptr ? DisplayIdentity{} : output->identity;
+    return output == nullptr ? DisplayIdentity{} : output->display.identity;
 }
 
 DisplayDescription WlrDisplayService::description(DisplayID display) {
@@ -193,7 +171,7 @@ DisplayDescription WlrDisplayService::description(DisplayID display) {
         return {};
     }
     return {.connector = output->wayland.properties().name,
-            .productName = output->productName,
+            .productName = output->display.productName,
             .rampSize = output->gamma.size(),
             .obstacle = output->gamma.obstacle(),
             .outlivesProgram = false,
@@ -222,11 +200,12 @@ void WlrDisplayService::setTransferTable(DisplayID display, const GammaTable& ta
 std::uint32_t WlrDisplayService::getTransferTable(DisplayID display, GammaTable& table) {
     const WlrOutput* output = find(display);
     if (output == nullptr) {
-        report(display, "Display " + std::to_string(display) + " is gone.");
+        _listing.reportGone(display);
         return 0;
     }
     if (output->gamma.state() == WlrGammaControl::State::Missing) {
-        report(display, output->wayland.properties().name + ": " + output->gamma.obstacle());
+        _listing.report(display,
+                        output->wayland.properties().name + ": " + output->gamma.obstacle());
         return 0;
     }
     // Of a display that another program holds the size is not known; a straight line is one of any
@@ -240,7 +219,7 @@ void WlrDisplayService::restoreSystemCalibration(std::span<const DisplayID> disp
     for (const DisplayID display : displays) {
         WlrOutput* output = find(display);
         if (output == nullptr) {
-            report(display, "Display " + std::to_string(display) + " is gone.");
+            _listing.reportGone(display);
             _allReached = false;
             continue;
         }
@@ -257,7 +236,7 @@ bool WlrDisplayService::endBatch() {
     std::vector<DisplayID> set;
     for (const auto& output : _outputs->all()) {
         if (output->isRampUnsent) {
-            set.push_back(output->id);
+            set.push_back(output->display.id);
         }
     }
     sendRamps();
@@ -292,7 +271,8 @@ void WlrDisplayService::sendRamps() {
             isSomethingSent = true;
         } else {
             _allReached = false;
-            report(output->id, output->wayland.properties().name + " did not take its gamma ramp.");
+            _listing.report(output->display.id,
+                            output->wayland.properties().name + " did not take its gamma ramp.");
         }
     }
     if (isSomethingSent && _with.runLoop != nullptr) {
@@ -325,20 +305,14 @@ void WlrDisplayService::connectionLost() {
     if (_with.lost) {
         _with.lost();
     }
-    report(0, "The Wayland compositor has gone.");
-}
-
-void WlrDisplayService::report(DisplayID display, const std::string& text) {
-    if (_reported.insert(display).second && _with.log) {
-        _with.log(text);
-    }
+    _listing.report(0, "The Wayland compositor has gone.");
 }
 
 std::unique_ptr<DisplayService::Subscription> WlrDisplayService::registerReconfigurationCallback(
     ReconfigurationCallback callback) {
-    auto subscription = _callbacks.add(std::move(callback));
+    auto subscription = _listing.add(std::move(callback));
     // What has changed since the displays were listed is told like any other change.
-    if (_announced != layout()) {
+    if (_listing.announced() != layout()) {
         outputsChanged();
     }
     return subscription;
@@ -351,22 +325,7 @@ void WlrDisplayService::outputsChanged() {
 }
 
 void WlrDisplayService::displaysChanged() {
-    const auto before = std::exchange(_announced, layout());
-    std::set<DisplayID> affected;
-    const auto addChanged = [&](const auto& displays, const auto& others) {
-        for (const WlrDisplay& display : displays) {
-            if (std::ranges::find(others, display) == others.end()) {
-                affected.insert(display.id);
-            }
-        }
-    };
-    addChanged(before, _announced);
-    addChanged(_announced, before);
-    for (const ReconfigurationFlags flags : {beginConfiguration, endConfiguration}) {
-        for (const DisplayID display : affected) {
-            _callbacks.call(display, flags);
-        }
-    }
+    _listing.announce(layout());
     // With the correction off nothing was set, and another program may have the display.
     for (WlrOutput* output : outputs()) {
         if (output->gamma.state() == WlrGammaControl::State::Held && !output->gamma.isInUse() &&

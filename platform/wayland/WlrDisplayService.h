@@ -4,19 +4,16 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
-#include <set>
-#include <string>
 #include <vector>
 
 #include "foundation/Log.h"
 #include "foundation/Problem.h"
 #include "foundation/RunLoop.h"
-#include "platform/wayland/KernelEdid.h"
+#include "platform/listing/DisplayListing.h"
+#include "platform/listing/KernelEdid.h"
 #include "platform/wayland/WaylandConnection.h"
-#include "platform/wayland/WlrDisplay.h"
 #include "platform/wayland/WlrOutputs.h"
 #include "screens/DisplayService.h"
-#include "screens/ReconfigurationCallbacks.h"
 
 namespace tonquil {
 
@@ -85,7 +82,7 @@ class WlrDisplayService final : public DisplayService {
     /// The same, but only if its gamma control is held, after asking for it if need be; otherwise
     /// the log says once why not.
     [[nodiscard]] WlrOutput* correctable(DisplayID display);
-    [[nodiscard]] std::vector<WlrDisplay> layout();
+    [[nodiscard]] std::vector<ListedDisplay> layout();
     void takeEvents();
     void outputsChanged();
     void displaysChanged();
@@ -93,26 +90,16 @@ class WlrDisplayService final : public DisplayService {
     void retry();
     void connectionLost();
     void sendRamps();
-    void report(DisplayID display, const std::string& text);
 
     std::unique_ptr<WaylandConnection> _connection;
     Surroundings _with;
+    DisplayListing _listing;
     std::unique_ptr<WlrOutputs> _outputs;
     /// The answer to the ramps sent last; while it is awaited no more are sent.
     std::unique_ptr<wl_callback, DestroyWaylandProxy> _sent;
     std::unique_ptr<RunLoop::Handle> _watch;
     std::unique_ptr<RunLoop::Handle> _quiet;
     std::unique_ptr<RunLoop::Handle> _retry;
-    ReconfigurationCallbacks _callbacks;
-    /// What the callbacks were told of last.
-    std::vector<WlrDisplay> _announced;
-    struct KnownDisplay {
-        std::string connector;
-        DisplayIdentity identity;
-        DisplayID id;
-    };
-    std::vector<KnownDisplay> _known;
-    std::set<DisplayID> _reported;
     bool _allReached = true;
     bool _isLostKnown = false;
 };

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "platform/listing/ListedDisplay.h"
 #include "platform/wayland/WaylandConnection.h"
 #include "platform/wayland/WaylandOutput.h"
 #include "platform/wayland/WlrGammaControl.h"
-#include "screens/DisplayIdentity.h"
 
 namespace tonquil {
 
@@ -21,10 +21,8 @@ struct WlrOutput {
 
     WaylandOutput wayland;
     WlrGammaControl gamma;
-    /// Given by the service once the output is complete; 0 until then.
-    DisplayID id = 0;
-    DisplayIdentity identity;
-    std::string productName;
+    /// Known once the output is complete; its `id` is 0 until then.
+    ListedDisplay display;
     /// The ramp to set next.
     HardwareRamp ramp;
     bool isRampUnsent = false;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/wayland/KernelEdid.h"
+#include "platform/listing/KernelEdid.h"
 
 #include <algorithm>
 #include <cctype>

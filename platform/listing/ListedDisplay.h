@@ -2,24 +2,31 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
+#include "platform/edid/Edid.h"
 #include "screens/DisplayIdentity.h"
 #include "screens/Geometry.h"
 
 namespace tonquil {
 
 /// What other parts of the program may have seen of a display: they are told when it changes.
-struct WlrDisplay {
+struct ListedDisplay {
     DisplayID id = 0;
     DisplayIdentity identity;
     std::string connector;
+    std::string productName;
     /// Top-down.
     Rectangle bounds;
     std::uint32_t rampSize = 0;
     std::string obstacle;
 
-    bool operator==(const WlrDisplay&) const = default;
+    bool operator==(const ListedDisplay&) const = default;
 };
+
+/// Fills in who the display on `display.connector` is. Without an EDID the connector's name stands
+/// for the model: otherwise all displays of one size would share a reference ID.
+void identify(ListedDisplay& display, const std::optional<Edid>& edid);
 
 }  // namespace tonquil

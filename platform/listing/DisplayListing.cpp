@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "platform/listing/DisplayListing.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tonquil {
+
+DisplayID DisplayListing::idFor(const std::string& connector, const DisplayIdentity& identity) {
+    const auto isThis = [&](const KnownDisplay& each) {
+        return each.connector == connector && each.identity == identity;
+    };
+    const auto known = std::ranges::find_if(_known, isThis);
+    if (known != _known.end()) {
+        return known->id;
+    }
+    DisplayID id = numberOf(connector);
+    while (id == 0 || std::ranges::find(_known, id, &KnownDisplay::id) != _known.end()) {
+        ++id;
+    }
+    _known.push_back({.connector = connector, .identity = identity, .id = id});
+    return id;
+}
+
+void DisplayListing::announce(std::vector<ListedDisplay> displays) {
+    const auto before = std::exchange(_announced, std::move(displays));
+    std::set<DisplayID> affected;
+    const auto addChanged = [&](const auto& those, const auto& others) {
+        for (const ListedDisplay& display : those) {
+            if (std::ranges::find(others, display) == others.end()) {
+                affected.insert(display.id);
+            }
+        }
+    };
+    addChanged(before, _announced);
+    addChanged(_announced, before);
+    for (const ReconfigurationFlags flags : {beginConfiguration, endConfiguration}) {
+        for (const DisplayID display : affected) {
+            _callbacks.call(display, flags);
+        }
+    }
+}
+
+void DisplayListing::report(DisplayID display, const std::string& text) {
+    if (_reported.insert(display).second && _log) {
+        _log(text);
+    }
+}
+
+void DisplayListing::reportGone(DisplayID display) {
+    report(display, "Display " + std::to_string(display) + " is gone.");
+}
+
+}  // namespace tonquil
