@@ -8,7 +8,9 @@ namespace tonquil {
 Result<void> runCommand(const Arguments& arguments, const CommandEnvironment& environment) {
     switch (arguments.command) {
         case Arguments::Command::version:
-            environment.out += "tonquilctl " TONQUIL_VERSION "\n";
+            environment.out +=
+                "tonquilctl " TONQUIL_VERSION "\nDisplay services: " + environment.displayServices +
+                "\n";
             return {};
         case Arguments::Command::displays:
             return runDisplays(arguments, environment);

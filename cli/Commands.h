@@ -29,6 +29,8 @@ struct CommandEnvironment {
     std::function<Result<std::unique_ptr<DisplayService>>()> openDisplaysToHold = {};
     /// Whether the displays were lost meanwhile.
     std::function<bool()> areDisplaysLost = {};
+    /// The names of the display services that are built in.
+    std::string displayServices = {};
 };
 
 /// Runs a command. Invalid input is detected before any display is changed.

@@ -78,7 +78,8 @@ struct Session {
              .remote = remote,
              .notes = notes,
              .openDisplaysToHold = [&] { return tonquil::chooseDisplayService(&loop, log, lost); },
-             .areDisplaysLost = [this] { return areDisplaysLost; }});
+             .areDisplaysLost = [this] { return areDisplaysLost; },
+             .displayServices = tonquil::builtInDisplayServices()});
     }
 };
 

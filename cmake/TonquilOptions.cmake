@@ -3,7 +3,7 @@
 add_library(tonquil_options INTERFACE)
 target_compile_features(tonquil_options INTERFACE cxx_std_20)
 target_compile_options(tonquil_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow $<$<BOOL:${TONQUIL_WARNINGS_ARE_ERRORS}>:-Werror>
     # Tables are held to the bit: a fused multiply-add would round once where the formula rounds
     # twice. Never -ffast-math, for the same reason.
     -ffp-contract=off)

@@ -64,8 +64,7 @@ Program::Program(Groundwork& groundwork, BusSessionEvents::Addresses buses)
       _sessionBus(buses.session),
       _busEvents(_runLoop, std::move(buses), logLine),
       _desktopAppearance(_runLoop),
-      _loginItem(groundwork.folders().config().parent_path() / "autostart",
-                 programFile().parent_path() / "tonquil-launcher"),
+      _loginItem(groundwork.folders().config().parent_path() / "autostart", launcherFile()),
       _sessionWindows(groundwork.folders().state() / ("windows-" + instanceName() + ".plist")) {
     groundwork.setWhenDisplaysLost([this] { displaysLost(); });
     openWindowSystem();

@@ -41,4 +41,13 @@ std::filesystem::path programFile() {
     return std::filesystem::read_symlink("/proc/self/exe", unknown);
 }
 
+std::filesystem::path launcherFile() {
+    const auto folder = programFile().parent_path();
+    std::error_code unknown;
+    if (auto built = folder / "tonquil-launcher"; std::filesystem::exists(built, unknown)) {
+        return built;
+    }
+    return (folder / TONQUIL_LAUNCHER_FROM_PROGRAM).lexically_normal();
+}
+
 }  // namespace tonquil

@@ -19,5 +19,8 @@ void report(const Problem& problem);
 [[nodiscard]] std::string instanceName();
 /// The program's own file.
 [[nodiscard]] std::filesystem::path programFile();
+/// What the desktop starts at login, whether there or not: beside the program, as it is built, or
+/// where it is installed.
+[[nodiscard]] std::filesystem::path launcherFile();
 
 }  // namespace tonquil

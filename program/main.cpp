@@ -162,7 +162,8 @@ int start(int argc, char** argv) {
         return EXIT_SUCCESS;
     }
     if (line->wantsVersion) {
-        std::puts("tonquil " TONQUIL_VERSION);
+        std::puts(
+            ("tonquil " TONQUIL_VERSION "\nDisplay services: " + builtInDisplayServices()).c_str());
         return EXIT_SUCCESS;
     }
     if (!findDesktop()) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/choice/DisplayServiceChoice.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <string_view>
 #include <utility>
@@ -15,6 +17,9 @@
 namespace tonquil {
 
 namespace {
+
+/// In the order in which they are tried; the last one only when asked for.
+constexpr std::array<std::string_view, 3> serviceNames{"wlr", "x11", "simulated"};
 
 std::string_view environment(const char* name) {
     const char* value = std::getenv(name);
@@ -68,6 +73,15 @@ Result<std::unique_ptr<DisplayService>> openWlr(RunLoop* runLoop, const Log& log
 
 }  // namespace
 
+std::string builtInDisplayServices() {
+    std::string names;
+    for (const std::string_view name : serviceNames) {
+        names += names.empty() ? "" : ", ";
+        names += name;
+    }
+    return names;
+}
+
 bool isWaylandServed() {
     return WlrDisplayService::isOffered();
 }
@@ -78,9 +92,9 @@ Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop, c
     if (wanted == "simulated") {
         return openSimulated(log);
     }
-    if (!wanted.empty() && wanted != "wlr" && wanted != "x11") {
+    if (!wanted.empty() && std::ranges::count(serviceNames, wanted) == 0) {
         return problem("TONQUIL_DISPLAY_SERVICE is \"" + std::string(wanted) +
-                       "\"; it can be wlr, x11 or simulated.");
+                       "\"; it can be one of " + builtInDisplayServices() + ".");
     }
     if (wanted == "wlr" || (wanted.empty() && !environment("WAYLAND_DISPLAY").empty())) {
         auto service = openWlr(runLoop, log, lost);

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "foundation/Log.h"
 #include "foundation/Problem.h"
@@ -19,6 +20,9 @@ namespace tonquil {
 /// compositor that lends the displays has gone.
 [[nodiscard]] Result<std::unique_ptr<DisplayService>> chooseDisplayService(
     RunLoop* runLoop, const Log& log, const std::function<void()>& lost = {});
+
+/// The services that are built in, in the order in which they are tried, with commas between them.
+[[nodiscard]] std::string builtInDisplayServices();
 
 /// Whether this is a Wayland session whose displays can be asked for.
 [[nodiscard]] bool isWaylandServed();

@@ -44,6 +44,8 @@ Result<void> AutostartLoginItem::write() const {
     entry.setValue("Icon", "tonquil");
     entry.setValue("Terminal", "false");
     entry.setValue("NoDisplay", "true");
+    // Once the program is removed, desktops pass over what it left.
+    entry.setValue("TryExec", _launcher.native());
     entry.setValue("Exec", DesktopEntry::quotedArgument(_launcher.native()));
     const std::string text = entry.text();
     return makeFolder(_file.parent_path()).and_then([&] {

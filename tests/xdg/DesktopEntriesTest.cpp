@@ -99,6 +99,7 @@ TEST(AutostartLoginItem, WritesAndRemovesDesktopFileAndSeesItDisabled) {
     ASSERT_TRUE(succeeded(item.setEnabled(true)));
     EXPECT_TRUE(item.isEnabled());
     EXPECT_EQ(DesktopEntry::read(file)->value("Exec"), "\"" + launcher.native() + "\"");
+    EXPECT_EQ(DesktopEntry::read(file)->value("TryExec"), launcher.native());
     const std::string written = contentsOf(file);
     for (const std::string line : {"Hidden=", "X-GNOME-Autostart-enabled="}) {
         for (const bool isOn : {true, false}) {
