@@ -13,6 +13,7 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import subprocess
 import sys
 
@@ -48,7 +49,7 @@ def lint(build, unit, clean):
     result = subprocess.run(["clang-tidy", "-p", build, "--quiet", f"--checks={UNITY_CHECKS}",
                              unit["file"]], text=True, capture_output=True, check=False)
     if result.returncode != 0:
-        return result.stdout
+        return re.sub(r"\x1b\[[0-9;]*m", "", result.stdout)
     clean.touch()
     return ""
 
@@ -68,8 +69,12 @@ def main(build):
         if not clean.exists():
             waiting.append((unit, clean))
     print(f"{len(units)} units, {len(waiting)} to lint", flush=True)
+    findings = []
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        findings = list(pool.map(lambda each: lint(build, *each), waiting))
+        for text in pool.map(lambda each: lint(build, *each), waiting):
+            findings.append(text)
+            unit = os.path.relpath(waiting[len(findings) - 1][0]["file"], ROOT)
+            print(f"[{len(findings)}/{len(waiting)}] {unit}", flush=True)
     for text in filter(None, findings):
         print(text)
     return 1 if any(findings) else 0

@@ -2,6 +2,8 @@
 # shellcheck shell=bash
 # The Debian packages that the scripts need, and how they are installed. To be sourced.
 # shellcheck disable=SC2034  # The lists are read by the scripts that source this.
+# shellcheck source=scripts/progress.sh
+source "${BASH_SOURCE[0]%/*}/progress.sh"
 
 packages_to_build=(
     g++ cmake ninja-build pkg-config
@@ -18,12 +20,17 @@ packages_for_x_server=(xserver-xorg-core xserver-xorg-video-dummy x11-xserver-ut
 # What makes a desk of it: a window manager, a hand for the pointer, an eye for the screen.
 packages_for_desk=(openbox xdotool imagemagick fonts-dejavu-core)
 
+packages_to_bench=(libbenchmark-dev libgtest-dev libxcb-xtest0-dev xxd)
+
 packages_to_check=(
     x11-utils x11-xkb-utils
-    git xvfb libgtest-dev libgmock-dev libbenchmark-dev libxcb-xtest0-dev
+    git xvfb libgtest-dev libgmock-dev
     clang clang-format clang-tidy libclang-rt-14-dev python3 procps shellcheck
     dbus at-spi2-core python3-pyatspi iproute2 trayer
+    appstream desktop-file-utils mandoc systemd
 )
+
+packages_to_package=(debhelper dpkg-dev lintian blhc devscripts)
 
 is_installed() {
     dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
@@ -49,8 +56,11 @@ install_packages() {
     local as_root=()
     if ((EUID != 0)); then
         as_root=(sudo)
+        # Asks for the password before a status line is in its way.
+        sudo true || return
     fi
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq update &&
-        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-            apt-get -qq install -y --no-install-recommends "${missing[@]}" >/dev/null
+    as_root+=(env DEBIAN_FRONTEND=noninteractive)
+    with_progress "Looking for packages" "${as_root[@]}" apt-get -q update &&
+        with_progress "Installing packages" "${as_root[@]}" \
+            apt-get -q install -y --no-install-recommends "${missing[@]}"
 }
