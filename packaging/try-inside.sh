@@ -42,7 +42,7 @@ eventually() {
 
 # What another program than ours sees on the hardware.
 ramp() {
-    person xrandr --verbose | grep -m 1 Gamma:
+    person xrandr --verbose | awk '/Gamma:/ && !found++'
 }
 
 is_corrected() {
