@@ -27,7 +27,7 @@ packages_to_check=(
     git xvfb libgtest-dev libgmock-dev
     clang clang-format clang-tidy libclang-rt-14-dev python3 procps shellcheck
     dbus at-spi2-core python3-pyatspi iproute2 trayer
-    appstream desktop-file-utils mandoc systemd
+    appstream desktop-file-utils mandoc shared-mime-info systemd
 )
 
 packages_to_package=(debhelper dpkg-dev lintian blhc devscripts)
