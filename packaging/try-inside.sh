@@ -172,7 +172,8 @@ try_removal() {
     eventually "it does not end" is_over
     # What desktops do with the entry that is left in the home folder: nothing.
     test ! -e "$(sed -n 's/^TryExec=//p' "$home/.config/autostart/tonquil.desktop")"
-    apt-get -q purge -y tonquil tonquilctl >/tmp/log 2>&1 || fail "purge"
+    # They have no configuration files, so apt has forgotten them already.
+    dpkg --purge tonquil tonquilctl >/tmp/log 2>&1 || fail "purge"
     apt-get -q autoremove -y --purge >/tmp/log 2>&1 || fail "autoremove"
     local left
     left=$({ find / -xdev \( -path /proc -o -path /packages -o -path "$home" -o -path /tmp \) -prune \
