@@ -10,10 +10,10 @@ namespace tonquil {
 
 namespace {
 
-constexpr std::uint32_t displayCount = 25;
+constexpr std::uint32_t storedDisplays = 25;
 
 PropertyValue allScreens() {
-    ManyDisplays displays(displayCount);
+    ManyDisplays displays(storedDisplays);
     return displays.registry.gammaCurveDictionary();
 }
 
@@ -34,7 +34,7 @@ void readCurve(benchmark::State& state) {
 BENCHMARK(readCurve)->Name("dictionary/curve/read");
 
 void writeAllScreens(benchmark::State& state) {
-    ManyDisplays displays(displayCount);
+    ManyDisplays displays(storedDisplays);
     for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(displays.registry.gammaCurveDictionary());
     }
@@ -43,7 +43,7 @@ BENCHMARK(writeAllScreens)->Name("dictionary/25displays/write");
 
 /// From a dictionary to curves assigned to their displays, none of them applied.
 void adoptAllScreens(benchmark::State& state) {
-    ManyDisplays displays(displayCount);
+    ManyDisplays displays(storedDisplays);
     const PropertyValue dictionary = displays.registry.gammaCurveDictionary();
     for ([[maybe_unused]] auto _ : state) {
         displays.registry.adoptGammaCurveDictionary(dictionary, nullptr);
@@ -73,7 +73,7 @@ void readList(benchmark::State& state) {
     const std::vector<std::uint8_t> bytes(text->begin(), text->end());
     for ([[maybe_unused]] auto _ : state) {
         const auto value = readPropertyList(bytes);
-        if (!value || value->size() != displayCount) {
+        if (!value || value->size() != storedDisplays) {
             state.SkipWithError("The property list is not read back.");
             break;
         }

@@ -60,10 +60,10 @@ void applyRepeatedly(benchmark::State& state, Change change) {
     (*service)->restoreSystemCalibration();
 }
 
-void reapply(benchmark::State& state) {
+void reapplyOurs(benchmark::State& state) {
     applyRepeatedly(state, [](const ScreenRegistry::Screens&) {});
 }
-BENCHMARK(reapply)->Name("x11/3displays/reapply/ours")->UseRealTime();
+BENCHMARK(reapplyOurs)->Name("x11/3displays/reapply/ours")->UseRealTime();
 
 /// The cost of unchanged ramps without any of our code; see `BareRampLoop`.
 void reapplyBare(benchmark::State& state) {

@@ -45,7 +45,7 @@ static int setRamps(xcb_connection_t* connection, const xcb_randr_crtc_t* crtcs,
                 computeRamp(entries, computed);
             }
             xcb_randr_set_crtc_gamma(connection, crtcs[i], computed, entries, entries + computed,
-                                     entries + 2 * computed);
+                                     entries + (size_t)2 * computed);
             ++lit;
         }
         free(info);
