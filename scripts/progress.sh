@@ -56,9 +56,9 @@ build() {
     shift
     with_progress "Configuring $preset" cmake --preset "$preset" || return
     command=(cmake --build --preset "$preset" --parallel "$(nproc)" "$@")
-    if ! is_on_terminal; then
-        with_progress "Building $preset" "${command[@]}"
-    elif ! "${command[@]}" -- -n | grep -q 'no work to do'; then
+    if is_on_terminal; then
         "${command[@]}"
+    else
+        with_progress "Building $preset" "${command[@]}"
     fi
 }
