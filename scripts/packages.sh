@@ -24,11 +24,13 @@ packages_to_bench=(libbenchmark-dev libgtest-dev libxcb-xtest0-dev xxd)
 
 packages_to_check=(
     x11-utils x11-xkb-utils
-    git xvfb libgtest-dev libgmock-dev
+    git xvfb libgtest-dev libgmock-dev libbenchmark-dev libxcb-xtest0-dev
     clang clang-format clang-tidy libclang-rt-14-dev python3 procps shellcheck
     dbus at-spi2-core python3-pyatspi iproute2 trayer
-    appstream desktop-file-utils mandoc shared-mime-info systemd
 )
+
+# What looks at installed files.
+packages_to_validate=(appstream desktop-file-utils mandoc shared-mime-info systemd)
 
 packages_to_package=(debhelper dpkg-dev lintian blhc devscripts)
 
