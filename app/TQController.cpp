@@ -110,6 +110,7 @@ void TQController::applicationWillTerminate() {
         return;
     }
     _reconfigurationSubscription.reset();
+    compare(false);
     _periodicUpdate._stopPeriodicUpdate();
     _panelFrame.save();
     _with.targets.saveFrame();
@@ -223,6 +224,7 @@ void TQController::applyAppearance() {
     _with.panel._setAdvancedPanel(preferences.boolForKey(settingsKey::advancedPanel));
     _with.panel._setDarkTheme(preferences.boolForKey(settingsKey::darkTheme));
     _with.panel.showChannelStrip(preferences.boolForKey(settingsKey::channelStrip));
+    _with.panel.showFirstHint(!preferences.boolForKey(settingsKey::hasEdited));
     _with.targets.setHintsShown(preferences.boolForKey(settingsKey::showsTargetHints));
 }
 
@@ -253,6 +255,15 @@ void TQController::showPanel() {
     _with.panel.makeKeyAndOrderFront();
 }
 
+void TQController::togglePanel() {
+    if (_with.panel.isOrderedIn() && _with.panel.isOnActiveWorkspace()) {
+        endEdit();
+        _with.panel.orderOut();
+    } else {
+        showPanel();
+    }
+}
+
 void TQController::showTarget(std::optional<TargetKind> kind, const std::string& referenceID) {
     if (referenceID.empty()) {
         _restorableWindows.openTargetWindow(kind);
@@ -275,6 +286,14 @@ int TQController::storedTab() const {
     return stored >= 0 && stored <= 2 ? static_cast<int>(stored) : middleTab;
 }
 
+// The hint goes only now: what is below it must not move under the pointer during the first drag.
+void TQController::endEdit() {
+    _history.endStep();
+    if (_history.canUndo() && !_with.preferences.boolForKey(settingsKey::hasEdited)) {
+        _with.preferences.setValue(settingsKey::hasEdited, true);
+    }
+}
+
 void TQController::setSelectedTab(int index) {
     _history.endStep();
     _with.panel.showTab(index);
@@ -284,6 +303,19 @@ void TQController::setSelectedTab(int index) {
 void TQController::setAffectsAllScreens(bool affectsAll) {
     _with.preferences.setValue(settingsKey::affectAllScreens, affectsAll);
     _view._changeScreen();
+}
+
+void TQController::editDisplay(DisplayID display) {
+    _panelFrame.moveTo(display);
+    setAffectsAllScreens(false);
+}
+
+void TQController::identifyDisplays() {
+    std::vector<NamedDisplay> named;
+    for (const PanelDisplay& display : displays()) {
+        named.push_back({.display = display.display, .name = display.title});
+    }
+    _with.targets.identify(named);
 }
 
 void TQController::setAdvancedPanel(bool advanced) {

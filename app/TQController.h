@@ -40,7 +40,7 @@ class TQController final : public PanelActions {
 
     [[nodiscard]] bool applyCorrection() const { return _correction.applyCorrection(); }
     void setApplyCorrection(bool isOn) { _correction.setApplyCorrection(isOn); }
-    void toggleApplyCorrection() { setApplyCorrection(!applyCorrection()); }
+    void toggleApplyCorrection() override { setApplyCorrection(!applyCorrection()); }
     void _applyCurvesToScreen() { _correction._applyCurvesToScreen(); }
     void showPanel();
     /// Shows a target in the floating window or, given a display's reference ID, covering that
@@ -50,17 +50,24 @@ class TQController final : public PanelActions {
     void applyGamma(PanelSlider sender, bool isLinked) override {
         _editing.applyGamma(sender, isLinked);
     }
-    void endEdit() override { _history.endStep(); }
+    void endEdit() override;
     void changeBlendingMode() override { _editing.changeBlendingMode(); }
     void changeApplyCorrection(bool isOn) override { setApplyCorrection(isOn); }
+    void compare(bool isHeld) override { _correction.setCompared(isHeld); }
     void resetGamma() override { _editing.resetGamma(); }
     void setSelectedTab(int index) override;
     void setAffectsAllScreens(bool affectsAll) override;
+    [[nodiscard]] std::vector<PanelDisplay> displays() override {
+        return _currentScreens.displays();
+    }
+    void editDisplay(DisplayID display) override;
+    void identifyDisplays() override;
     void setAdvancedPanel(bool advanced) override;
     void setDarkTheme(bool dark) override;
     void setChannelStrip(bool isShown) override;
     void undo() override { _editing.undo(); }
     void redo() override { _editing.redo(); }
+    void togglePanel() override;
     void panelMoved() override { _view.panelMoved(); }
     [[nodiscard]] std::optional<PlottedCurves> plottedCurves() override {
         return _view.plottedCurves();

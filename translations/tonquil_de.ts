@@ -42,6 +42,22 @@
         <source>Output at input 0, 0.5 and 1.</source>
         <translation>Ausgabe bei Eingabe 0, 0.5 und 1.</translation>
     </message>
+    <message>
+        <source>In</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -283,10 +299,6 @@
         <translation>%1, Punkt %2</translation>
     </message>
     <message>
-        <source>Double-click sets the neutral value. With Shift the other colours follow.</source>
-        <translation>Ein Doppelklick stellt den neutralen Wert ein. Mit der Umschalttaste folgen die anderen Farben.</translation>
-    </message>
-    <message>
         <source>Close the panel</source>
         <translation>Bedienfeld schließen</translation>
     </message>
@@ -299,14 +311,6 @@
         <translation>Menü</translation>
     </message>
     <message>
-        <source>This display</source>
-        <translation>Dieser Bildschirm</translation>
-    </message>
-    <message>
-        <source>All displays</source>
-        <translation>Alle Bildschirme</translation>
-    </message>
-    <message>
         <source>Choose which displays are edited</source>
         <translation>Wählen, welche Bildschirme bearbeitet werden</translation>
     </message>
@@ -317,6 +321,50 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>Änderungen werden zurzeit nicht gespeichert. Tonquil versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>All displays: an edit replaces the curve of each</source>
+        <translation>Alle Bildschirme: Eine Änderung ersetzt die Kurve von jedem</translation>
+    </message>
+    <message>
+        <source>Identify displays</source>
+        <translation>Bildschirme kennzeichnen</translation>
+    </message>
+    <message>
+        <source>Hide the sliders of the colours</source>
+        <translation>Die Regler der Farben ausblenden</translation>
+    </message>
+    <message>
+        <source>Show the sliders of the colours</source>
+        <translation>Die Regler der Farben anzeigen</translation>
+    </message>
+    <message>
+        <source>Hold to compare with the uncorrected display</source>
+        <translation>Gedrückt halten, um mit dem unkorrigierten Bildschirm zu vergleichen</translation>
+    </message>
+    <message>
+        <source>Corrects this display. Show targets, then move the slider until striped and plain look equally bright.</source>
+        <translation>Korrigiert diesen Bildschirm. Testbilder anzeigen, dann den Regler bewegen, bis Gestreiftes und Glattes gleich hell aussehen.</translation>
+    </message>
+    <message>
+        <source>Drag it, or turn the wheel over it or its number.</source>
+        <translation>Ziehen, oder das Rad über dem Regler oder seiner Zahl drehen.</translation>
+    </message>
+    <message>
+        <source>With Ctrl a drag is four times as fine.</source>
+        <translation>Mit Strg ist das Ziehen viermal so fein.</translation>
+    </message>
+    <message>
+        <source>With Shift the other colours follow.</source>
+        <translation>Mit der Umschalttaste folgen die anderen Farben.</translation>
+    </message>
+    <message>
+        <source>A double-click makes it neutral.</source>
+        <translation>Ein Doppelklick stellt den neutralen Wert ein.</translation>
+    </message>
+    <message>
+        <source>An edit replaces the curve of each display</source>
+        <translation>Eine Änderung ersetzt die Kurve jedes Bildschirms</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,22 @@
         <source>Output at input 0, 0.5 and 1.</source>
         <translation>Salida para las entradas 0, 0.5 y 1.</translation>
     </message>
+    <message>
+        <source>In</source>
+        <translation>Ent</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>V</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>A</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -283,10 +299,6 @@
         <translation>%1, punto %2</translation>
     </message>
     <message>
-        <source>Double-click sets the neutral value. With Shift the other colours follow.</source>
-        <translation>Un doble clic fija el valor neutro. Con Mayús, los demás colores lo siguen.</translation>
-    </message>
-    <message>
         <source>Close the panel</source>
         <translation>Cerrar el panel</translation>
     </message>
@@ -299,14 +311,6 @@
         <translation>Menú</translation>
     </message>
     <message>
-        <source>This display</source>
-        <translation>Esta pantalla</translation>
-    </message>
-    <message>
-        <source>All displays</source>
-        <translation>Todas las pantallas</translation>
-    </message>
-    <message>
         <source>Choose which displays are edited</source>
         <translation>Elegir qué pantallas se editan</translation>
     </message>
@@ -317,6 +321,50 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>Los cambios no se guardan por el momento. Tonquil lo sigue intentando.</translation>
+    </message>
+    <message>
+        <source>All displays: an edit replaces the curve of each</source>
+        <translation>Todas las pantallas: un cambio sustituye la curva de cada una</translation>
+    </message>
+    <message>
+        <source>Identify displays</source>
+        <translation>Identificar las pantallas</translation>
+    </message>
+    <message>
+        <source>Hide the sliders of the colours</source>
+        <translation>Ocultar los deslizadores de los colores</translation>
+    </message>
+    <message>
+        <source>Show the sliders of the colours</source>
+        <translation>Mostrar los deslizadores de los colores</translation>
+    </message>
+    <message>
+        <source>Hold to compare with the uncorrected display</source>
+        <translation>Mantener pulsado para comparar con la pantalla sin corregir</translation>
+    </message>
+    <message>
+        <source>Corrects this display. Show targets, then move the slider until striped and plain look equally bright.</source>
+        <translation>Corrige esta pantalla. Muestre los patrones y mueva el deslizador hasta que lo rayado y lo liso se vean igual de claros.</translation>
+    </message>
+    <message>
+        <source>Drag it, or turn the wheel over it or its number.</source>
+        <translation>Arrastrar, o girar la rueda sobre el deslizador o su número.</translation>
+    </message>
+    <message>
+        <source>With Ctrl a drag is four times as fine.</source>
+        <translation>Con Ctrl, el arrastre es cuatro veces más fino.</translation>
+    </message>
+    <message>
+        <source>With Shift the other colours follow.</source>
+        <translation>Con Mayús, los demás colores lo siguen.</translation>
+    </message>
+    <message>
+        <source>A double-click makes it neutral.</source>
+        <translation>Un doble clic fija el valor neutro.</translation>
+    </message>
+    <message>
+        <source>An edit replaces the curve of each display</source>
+        <translation>Un cambio sustituye la curva de cada pantalla</translation>
     </message>
 </context>
 <context>

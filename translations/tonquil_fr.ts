@@ -42,6 +42,22 @@
         <source>Output at input 0, 0.5 and 1.</source>
         <translation>Sortie pour les entrées 0, 0.5 et 1.</translation>
     </message>
+    <message>
+        <source>In</source>
+        <translation>Entr.</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>V</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -283,10 +299,6 @@
         <translation>%1, point %2</translation>
     </message>
     <message>
-        <source>Double-click sets the neutral value. With Shift the other colours follow.</source>
-        <translation>Un double-clic rétablit la valeur neutre. Avec Maj, les autres couleurs suivent.</translation>
-    </message>
-    <message>
         <source>Close the panel</source>
         <translation>Fermer le panneau</translation>
     </message>
@@ -299,14 +311,6 @@
         <translation>Menu</translation>
     </message>
     <message>
-        <source>This display</source>
-        <translation>Cet écran</translation>
-    </message>
-    <message>
-        <source>All displays</source>
-        <translation>Tous les écrans</translation>
-    </message>
-    <message>
         <source>Choose which displays are edited</source>
         <translation>Choisir les écrans à modifier</translation>
     </message>
@@ -317,6 +321,50 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>Les modifications ne sont pas enregistrées pour le moment. Tonquil continue d’essayer.</translation>
+    </message>
+    <message>
+        <source>All displays: an edit replaces the curve of each</source>
+        <translation>Tous les écrans : une modification remplace la courbe de chacun</translation>
+    </message>
+    <message>
+        <source>Identify displays</source>
+        <translation>Identifier les écrans</translation>
+    </message>
+    <message>
+        <source>Hide the sliders of the colours</source>
+        <translation>Masquer les curseurs des couleurs</translation>
+    </message>
+    <message>
+        <source>Show the sliders of the colours</source>
+        <translation>Afficher les curseurs des couleurs</translation>
+    </message>
+    <message>
+        <source>Hold to compare with the uncorrected display</source>
+        <translation>Maintenir enfoncé pour comparer avec l’écran non corrigé</translation>
+    </message>
+    <message>
+        <source>Corrects this display. Show targets, then move the slider until striped and plain look equally bright.</source>
+        <translation>Corrige cet écran. Affichez les mires, puis déplacez le curseur jusqu’à ce que rayé et uni paraissent aussi clairs.</translation>
+    </message>
+    <message>
+        <source>Drag it, or turn the wheel over it or its number.</source>
+        <translation>Faire glisser, ou tourner la molette sur le curseur ou son nombre.</translation>
+    </message>
+    <message>
+        <source>With Ctrl a drag is four times as fine.</source>
+        <translation>Avec Ctrl, le glissement est quatre fois plus fin.</translation>
+    </message>
+    <message>
+        <source>With Shift the other colours follow.</source>
+        <translation>Avec Maj, les autres couleurs suivent.</translation>
+    </message>
+    <message>
+        <source>A double-click makes it neutral.</source>
+        <translation>Un double-clic rétablit la valeur neutre.</translation>
+    </message>
+    <message>
+        <source>An edit replaces the curve of each display</source>
+        <translation>Une modification remplace la courbe de chaque écran</translation>
     </message>
 </context>
 <context>

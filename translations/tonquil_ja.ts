@@ -42,6 +42,22 @@
         <source>Output at input 0, 0.5 and 1.</source>
         <translation>入力0、0.5、1に対する出力。</translation>
     </message>
+    <message>
+        <source>In</source>
+        <translation>入</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -283,10 +299,6 @@
         <translation>%1、%2ポイント</translation>
     </message>
     <message>
-        <source>Double-click sets the neutral value. With Shift the other colours follow.</source>
-        <translation>ダブルクリックでニュートラルな値になります。Shiftキーを押すと他の色も連動します。</translation>
-    </message>
-    <message>
         <source>Close the panel</source>
         <translation>パネルを閉じる</translation>
     </message>
@@ -299,14 +311,6 @@
         <translation>メニュー</translation>
     </message>
     <message>
-        <source>This display</source>
-        <translation>このディスプレイ</translation>
-    </message>
-    <message>
-        <source>All displays</source>
-        <translation>すべてのディスプレイ</translation>
-    </message>
-    <message>
         <source>Choose which displays are edited</source>
         <translation>編集するディスプレイを選択</translation>
     </message>
@@ -317,6 +321,50 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>現在、変更は保存されていません。Tonquil は保存を試み続けます。</translation>
+    </message>
+    <message>
+        <source>All displays: an edit replaces the curve of each</source>
+        <translation>すべてのディスプレイ：編集すると各ディスプレイのカーブが置き換わります</translation>
+    </message>
+    <message>
+        <source>Identify displays</source>
+        <translation>ディスプレイを識別</translation>
+    </message>
+    <message>
+        <source>Hide the sliders of the colours</source>
+        <translation>各色のスライダを隠す</translation>
+    </message>
+    <message>
+        <source>Show the sliders of the colours</source>
+        <translation>各色のスライダを表示</translation>
+    </message>
+    <message>
+        <source>Hold to compare with the uncorrected display</source>
+        <translation>押している間、補正前のディスプレイと比較</translation>
+    </message>
+    <message>
+        <source>Corrects this display. Show targets, then move the slider until striped and plain look equally bright.</source>
+        <translation>このディスプレイを補正します。テストパターンを表示し、縞と無地が同じ明るさに見えるまでスライダを動かしてください。</translation>
+    </message>
+    <message>
+        <source>Drag it, or turn the wheel over it or its number.</source>
+        <translation>ドラッグするか、スライダまたは数値の上でホイールを回します。</translation>
+    </message>
+    <message>
+        <source>With Ctrl a drag is four times as fine.</source>
+        <translation>Ctrlキーを押すと4倍細かくドラッグできます。</translation>
+    </message>
+    <message>
+        <source>With Shift the other colours follow.</source>
+        <translation>Shiftキーを押すと他の色も連動します。</translation>
+    </message>
+    <message>
+        <source>A double-click makes it neutral.</source>
+        <translation>ダブルクリックでニュートラルな値になります。</translation>
+    </message>
+    <message>
+        <source>An edit replaces the curve of each display</source>
+        <translation>編集すると各ディスプレイのカーブが置き換わります</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,21 @@ void PanelFrame::keepWhole() {
     }
 }
 
+void PanelFrame::moveTo(DisplayID display) {
+    const Rectangle bounds = _service.bounds(display);
+    if (bounds.isEmpty()) {
+        return;
+    }
+    Rectangle frame = _panel.frame();
+    const auto from = displayWithGrip(frame);
+    const Rectangle before = from ? _service.bounds(*from) : bounds;
+    frame.x += bounds.x - before.x;
+    frame.y += bounds.y - before.y;
+    frame = keptInside(frame, bounds);
+    _display = display;
+    _panel.setFrameOrigin({frame.x, frame.y});
+}
+
 bool PanelFrame::isWithinReach() const {
     return displayWithGrip(_panel.frame()).has_value();
 }

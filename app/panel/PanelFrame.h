@@ -24,6 +24,8 @@ class PanelFrame {
     /// Moves the whole panel onto its display: its size depends on its form and the desktop, and
     /// may differ from when its position was saved.
     void keepWhole();
+    /// Moves the panel to the same place on another display, or as near as it fits.
+    void moveTo(DisplayID display);
     /// Whether the middle of the panel's upper edge, the grip for moving it, is on a display.
     [[nodiscard]] bool isWithinReach() const;
     /// Restores a panel that is out of reach or was never placed, and moves all of it onto its

@@ -37,6 +37,8 @@ class PanelWindow {
     virtual void _setAdvancedPanel(bool advanced) = 0;
     virtual void _setDarkTheme(bool dark) = 0;
     virtual void showChannelStrip(bool isShown) = 0;
+    /// What the program does and what to do first, for people who have not edited yet.
+    virtual void showFirstHint(bool isShown) = 0;
     /// Shows a tab, 0 to 2, everywhere that tabs are shown. Triggers no callback.
     virtual void showTab(int index) = 0;
     /// Shows that companions on the network may change the displays.

@@ -52,6 +52,9 @@ inline constexpr std::string_view saveFormat = "SaveFormat";
 inline constexpr std::string_view recentFiles = "RecentFiles";
 /// Boolean: the warning of a rival program was shown.
 inline constexpr std::string_view conflictWarned = "KVFluxWarned";
+/// Boolean: a curve was edited in the panel, which from then on does without the hint of the first
+/// start.
+inline constexpr std::string_view hasEdited = "HasEdited";
 /// Boolean: the panel shows the strip with the slider of the focused channel.
 inline constexpr std::string_view channelStrip = "ChannelStrip";
 /// Boolean, true: target windows explain below the pattern what to look for.

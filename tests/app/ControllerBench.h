@@ -62,6 +62,7 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
     }
     void _setDarkTheme(bool dark) override { _journal.emplace_back(dark ? "dark" : "light"); }
     void showChannelStrip(bool /*isShown*/) override {}
+    void showFirstHint(bool isHintShown) override { hasHint = isHintShown; }
     void showTab(int index) override { _journal.push_back("tab " + std::to_string(index)); }
     void focusMasterOfSelectedTab() override { _journal.emplace_back("master focused"); }
     void observeFirstResponder() override { _journal.emplace_back("focus observed"); }
@@ -70,6 +71,7 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
     bool enabled = true;
     bool correction = false;
     bool canUndo = false;
+    bool hasHint = false;
     PanelSubject subject;
     Rectangle place{100, 100, 320, 470};
     bool isShown = false;
@@ -134,6 +136,11 @@ class RecordedTargets final : public TargetWindows {
     [[nodiscard]] std::optional<TargetKind> floatingTarget() const override { return floating; }
     void setHintsShown(bool /*areShown*/) override {}
     void displaysChanged() override {}
+    void identify(const std::vector<NamedDisplay>& displays) override {
+        for (const NamedDisplay& each : displays) {
+            shown.push_back(each.name);
+        }
+    }
     void saveFrame() override {}
 
     std::optional<TargetKind> floating;

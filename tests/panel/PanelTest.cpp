@@ -34,7 +34,13 @@ class RecordedActions final : public PanelActions {
         calls.push_back("tab " + std::to_string(index));
         panel->showTab(index);
     }
+    void toggleApplyCorrection() override {}
+    void compare(bool /*isHeld*/) override {}
     void setAffectsAllScreens(bool /*affectsAll*/) override {}
+    [[nodiscard]] std::vector<PanelDisplay> displays() override { return {}; }
+    void editDisplay(DisplayID /*display*/) override {}
+    void identifyDisplays() override {}
+    void togglePanel() override {}
     void setAdvancedPanel(bool /*advanced*/) override {}
     void setDarkTheme(bool /*dark*/) override {}
     void setChannelStrip(bool /*isShown*/) override {}

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 
 #include "app/panel/PanelActions.h"
+#include "windows/panel/RecentMenu.h"
 
 namespace tonquil {
 
@@ -14,6 +15,7 @@ StatusMenu::StatusMenu()
     _statusActiveItem->setCheckable(true);
     addSeparator();
     _open = addAction(QCoreApplication::translate("Panel", "Open settings\u2026"));
+    _recent = new RecentMenu(*this);
     _save = addAction(QCoreApplication::translate("Panel", "Save settings\u2026"));
     addSeparator();
     _remote = addAction(QCoreApplication::translate("Panel", "Remote configuration is on"));
@@ -35,6 +37,7 @@ void StatusMenu::setActions(PanelActions& actions, std::function<void()> showPan
     onTrigger(_showPanel, [showPanel = std::move(showPanel)] { showPanel(); });
     onTrigger(_targets, [&actions] { actions.openTargetWindow(); });
     onTrigger(_open, [&actions] { actions.loadGamma(); });
+    _recent->setActions(actions);
     onTrigger(_save, [&actions] { actions.saveGamma(); });
     onTrigger(_remote, [&actions] { actions.openPreferences(); });
     onTrigger(_preferenceStatusItem, [&actions] { actions.openPreferences(); });

@@ -7,6 +7,7 @@
 namespace tonquil {
 
 class PanelActions;
+class RecentMenu;
 
 /// The status icon's menu, for using the program without its panel.
 class StatusMenu : public QMenu {
@@ -27,6 +28,7 @@ class StatusMenu : public QMenu {
     QAction* _showPanel;
     QAction* _targets;
     QAction* _open = nullptr;
+    RecentMenu* _recent = nullptr;
     QAction* _save = nullptr;
     QAction* _remote = nullptr;
     QAction* _preferenceStatusItem = nullptr;

@@ -13,7 +13,7 @@
 #include <QToolTip>
 #include <QWindow>
 
-#include "ui/CurvePlot.h"
+#include "ui/EditablePlot.h"
 #include "ui/TQNumericTextField.h"
 #include "ui/TQSlider.h"
 #include "ui/TQVibrantMatrix.h"
@@ -21,6 +21,7 @@
 #include "ui/theme/Theme.h"
 #include "windows/panel/ChannelStrip.h"
 #include "windows/panel/DevicePixels.h"
+#include "windows/panel/FormChevron.h"
 #include "windows/panel/PanelIcons.h"
 #include "windows/panel/TitleStrip.h"
 
@@ -40,7 +41,8 @@ constexpr int editEndMilliseconds = 800;
 ControlPanel::ControlPanel(WindowSystem& windowSystem)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       _windowSystem(windowSystem),
-      _contents(new PanelContents(_menu, this)) {
+      _contents(new PanelContents(_menu, this)),
+      _plotEditing(*_contents->plot, _contents->sliders) {
     setWindowTitle(QCoreApplication::translate("Panel", "Tonquil"));
     setWindowIcon(programIcon());
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -72,6 +74,8 @@ void ControlPanel::setActions(PanelActions& actions) {
     _actions = &actions;
     _menu.setActions(actions, *this);
     connectControls();
+    connectWays();
+    addKeys();
 }
 
 void ControlPanel::connectControls() {
@@ -96,8 +100,6 @@ void ControlPanel::connectControls() {
     contents.titleStrip->setCloseAction([this] { close(); });
     contents.titleStrip->setHasWindowManager([this] { return _windowSystem.hasWindowManager(); });
     contents.titleStrip->setRemoteAction([this] { _actions->openPreferences(); });
-    contents.titleStrip->setSubjectAction(
-        [this](bool isAll) { _actions->setAffectsAllScreens(isAll); });
     QObject::connect(contents.applyCorrectionBox, &QCheckBox::clicked, this,
                      [this](bool isOn) { _actions->changeApplyCorrection(isOn); });
     QObject::connect(contents.resetButton, &QToolButton::clicked, this,
@@ -168,6 +170,7 @@ void ControlPanel::_setControlsEnabled(bool enabled) {
     _contents->channelStrip->_setControlsEnabled(enabled);
     _contents->blendingModePopUp->setEnabled(enabled);
     _contents->resetButton->setEnabled(enabled);
+    _plotEditing.setEnabled(enabled);
     _menu.setEditingEnabled(enabled);
     if (_focusToReturn && _focusToReturn->isEnabled()) {
         if (focusWidget() == this) {
@@ -179,6 +182,7 @@ void ControlPanel::_setControlsEnabled(bool enabled) {
 
 void ControlPanel::showCorrection(bool isOn) {
     _contents->applyCorrectionBox->setChecked(isOn);
+    _contents->compareButton->setEnabled(isOn);
 }
 
 void ControlPanel::showSubject(const PanelSubject& subject) {
@@ -257,6 +261,7 @@ void ControlPanel::pickTab(int tab) {
 void ControlPanel::showTab(int index) {
     _selectedTab = index;
     _contents->showTab(index);
+    _plotEditing.showTab(index);
 }
 
 void ControlPanel::focusMasterOfSelectedTab() {
@@ -280,6 +285,11 @@ void ControlPanel::makeFirstResponder(QWidget& control) {
 // does not.
 void ControlPanel::firstResponderChanged(QWidget* control) {
     _firstResponder = control;
+    // The plot itself is no channel: where points lie together, it is about the last one there was.
+    if (control != _contents->plot) {
+        const Channel channel = _contents->sliders.channelForResponder(control);
+        _contents->plot->setPreferredChannel(channel);
+    }
     if (_observesFirstResponder) {
         _contents->channelStrip->updateTouchBarForResponder(control);
     }
@@ -319,6 +329,7 @@ void ControlPanel::_setAdvancedPanel(bool advanced) {
     const bool becomesCompact = _isAdvanced && !advanced;
     _isAdvanced = advanced;
     fitForm(true);
+    _contents->chevron->showForm(advanced);
     // In the compact form the channel strip itself focuses fields that are cut off.
     if (becomesCompact && focusWidget() != nullptr && isCutOff(*focusWidget())) {
         focusMasterOfSelectedTab();

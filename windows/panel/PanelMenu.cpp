@@ -2,9 +2,9 @@
 #include "windows/panel/PanelMenu.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include "app/panel/PanelActions.h"
+#include "windows/panel/RecentMenu.h"
 
 namespace tonquil {
 
@@ -16,7 +16,7 @@ PanelMenu::PanelMenu()
     addSeparator();
     _open = addAction(QCoreApplication::translate("Panel", "Open settings\u2026"));
     _open->setShortcut(QKeySequence::Open);
-    _recent = addMenu(QCoreApplication::translate("Panel", "Open recent"));
+    _recent = new RecentMenu(*this);
     _save = addAction(QCoreApplication::translate("Panel", "Save settings\u2026"));
     _save->setShortcut(QKeySequence::Save);
     addSeparator();
@@ -50,7 +50,7 @@ void PanelMenu::setActions(PanelActions& actions, QWidget& panel) {
     QObject::connect(_redo, &QAction::triggered, this, [&actions] { actions.redo(); });
     QObject::connect(_open, &QAction::triggered, this, [&actions] { actions.loadGamma(); });
     QObject::connect(_save, &QAction::triggered, this, [&actions] { actions.saveGamma(); });
-    QObject::connect(this, &QMenu::aboutToShow, this, [this, &actions] { fillRecent(actions); });
+    _recent->setActions(actions);
     QObject::connect(_targets, &QAction::triggered, this,
                      [&actions] { actions.openTargetWindow(); });
     QObject::connect(_reset, &QAction::triggered, this, [&actions] { actions.resetGamma(); });
@@ -70,19 +70,6 @@ void PanelMenu::setActions(PanelActions& actions, QWidget& panel) {
     QObject::connect(_about, &QAction::triggered, this, [&actions] { actions.openAboutBox(); });
     QObject::connect(_quit, &QAction::triggered, this, [&actions] { actions.quit(); });
     panel.addActions({_undo, _redo, _open, _save, _preferences, _quit});
-}
-
-void PanelMenu::fillRecent(PanelActions& actions) {
-    _recent->clear();
-    for (const std::filesystem::path& file : actions.recentFiles()) {
-        // An unescaped ampersand would underline the next character.
-        QString name = QFile::decodeName(file.filename().c_str());
-        QAction* action = _recent->addAction(name.replace(QLatin1Char('&'), QStringLiteral("&&")));
-        action->setToolTip(QFile::decodeName(file.c_str()));
-        QObject::connect(action, &QAction::triggered, this,
-                         [&actions, file] { actions.openFile(file); });
-    }
-    _recent->setEnabled(!_recent->isEmpty());
 }
 
 void PanelMenu::showUndo(bool canUndo, bool canRedo) {

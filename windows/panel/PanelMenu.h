@@ -6,6 +6,7 @@
 namespace tonquil {
 
 class PanelActions;
+class RecentMenu;
 
 /// The panel's menu. Its shortcuts work wherever the focus is in the panel.
 class PanelMenu : public QMenu {
@@ -13,8 +14,6 @@ class PanelMenu : public QMenu {
     PanelMenu();
 
     void setActions(PanelActions& actions, QWidget& panel);
-    /// Lists the recently used files.
-    void fillRecent(PanelActions& actions);
     void showUndo(bool canUndo, bool canRedo);
     void showForm(bool isAdvanced, bool isDark, bool hasChannelStrip);
     /// A build of the program may have no web sites.
@@ -29,7 +28,7 @@ class PanelMenu : public QMenu {
     QAction* _undo;
     QAction* _redo;
     QAction* _open = nullptr;
-    QMenu* _recent = nullptr;
+    RecentMenu* _recent = nullptr;
     QAction* _save = nullptr;
     QAction* _targets = nullptr;
     QAction* _reset = nullptr;
