@@ -14,8 +14,18 @@ class Use : public testing::Test {
     void SetUp() override {
         desk.startSessionBus();
         neutral = desk.ramp();
-        // A drag of the plot's points is easiest to tell over a straight line.
         desk.start();
+        waitForKeyboard();
+    }
+    void waitForKeyboard() const {
+        EXPECT_TRUE(eventually([this] {
+            return desk.run({"xdotool", "getwindowfocus", "getwindowname"}).standardOutput ==
+                   "Tonquil\n";
+        }));
+    }
+    void openDisplayMenu() const {
+        desk.click(desk.panel().x + desk.panel().width / 2, desk.panel().y + 14);
+        EXPECT_TRUE(eventually([this] { return desk.windows().size() == 2; }));
     }
     [[nodiscard]] bool becomes(const Ramp& ramp) const {
         return eventually([&] { return desk.ramp() == ramp; });
@@ -89,7 +99,7 @@ TEST_F(Use, KeysChangeTabsAndHidePanel) {
         desk.xdotool({"key", key});
         EXPECT_TRUE(eventually([&] { return !desk.hasPanel(); })) << key;
         desk.request("--show-panel");
-        EXPECT_TRUE(eventually([&] { return desk.hasPanel(); }));
+        waitForKeyboard();
     }
     const Desk::Place advanced = desk.panel();
     desk.clickControl("push button", "Hide the sliders of the colours");
@@ -128,13 +138,14 @@ TEST_F(Use, ComparesWhileHeldEvenIfKilledMeanwhile) {
 
 TEST_F(Use, DisplayMenuMovesPanelAndIdentifiesDisplays) {
     desk.writePreferences({{"AffectAllScreens", true}});
-    desk.clickControl("push button", "Edited: All displays");
+    static_cast<void>(desk.control("push button", "Edited: All displays"));
+    openDisplayMenu();
     desk.xdotool({"key", "Down", "Down", "Return"});
     EXPECT_TRUE(eventually([&] { return desk.panel().x >= 1400; }));
     desk.correct("DUMMY1", 0.55);
     EXPECT_EQ(desk.ramp(), neutral) << "Only that display is edited.";
     const auto labels = [&] { return desk.windows("--name", "^[12]: DUMMY").size(); };
-    desk.click(desk.panel().x + desk.panel().width / 2, desk.panel().y + 14);
+    openDisplayMenu();
     desk.xdotool({"key", "Up", "Return"});
     EXPECT_TRUE(eventually([&] { return labels() == 2; }));
     EXPECT_TRUE(eventually([&] { return labels() == 0; }));

@@ -93,6 +93,7 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
     advanced->addWidget(plot);
     advanced->addWidget(makeBlendingRow());
 
+    setTabOrder(colorTargetButton, chevron);
     setFixedWidth(std::max(panelWidth, _compact->minimumSizeHint().width()));
     nameControls();
     updateIcons();
