@@ -284,12 +284,12 @@ void ControlPanel::makeFirstResponder(QWidget& control) {
 // Qt reports focus changes only while the window has the keyboard focus, which the panel mostly
 // does not.
 void ControlPanel::firstResponderChanged(QWidget* control) {
-    _firstResponder = control;
-    // The plot itself is no channel: where points lie together, it is about the last one there was.
-    if (control != _contents->plot) {
-        const Channel channel = _contents->sliders.channelForResponder(control);
-        _contents->plot->setPreferredChannel(channel);
+    // The plot stands for the slider there was: where points lie together, for its channel's.
+    if (control == _contents->plot) {
+        return;
     }
+    _firstResponder = control;
+    _contents->plot->setPreferredChannel(_contents->sliders.channelForResponder(control));
     if (_observesFirstResponder) {
         _contents->channelStrip->updateTouchBarForResponder(control);
     }

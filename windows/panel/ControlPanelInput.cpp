@@ -15,7 +15,6 @@ namespace tonquil {
 void ControlPanel::connectWays() {
     _plotEditing.setActions(*_actions, *this, [this](PanelSlider slider, bool isHeld) {
         heldSlider(slider, isHeld);
-        // The plot may have got the focus, but what is edited is this slider's channel.
         if (isHeld) {
             firstResponderChanged(&_contents->sliders.slider(slider));
         }
