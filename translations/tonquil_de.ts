@@ -343,8 +343,8 @@
         <translation>Gedrückt halten, um mit dem unkorrigierten Bildschirm zu vergleichen</translation>
     </message>
     <message>
-        <source>Corrects this display. Show targets, then move the slider until striped and plain look equally bright.</source>
-        <translation>Korrigiert diesen Bildschirm. Testbilder anzeigen, dann den Regler bewegen, bis Gestreiftes und Glattes gleich hell aussehen.</translation>
+        <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
+        <translation>Korrigiert diesen Bildschirm. Testbilder anzeigen und den Regler bewegen, bis Streifen glatt aussehen.</translation>
     </message>
     <message>
         <source>Drag it, or turn the wheel over it or its number.</source>

@@ -343,8 +343,8 @@
         <translation>Mantener pulsado para comparar con la pantalla sin corregir</translation>
     </message>
     <message>
-        <source>Corrects this display. Show targets, then move the slider until striped and plain look equally bright.</source>
-        <translation>Corrige esta pantalla. Muestre los patrones y mueva el deslizador hasta que lo rayado y lo liso se vean igual de claros.</translation>
+        <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
+        <translation>Corrige esta pantalla. Muestre los patrones y mueva el deslizador hasta que las rayas parezcan lisas.</translation>
     </message>
     <message>
         <source>Drag it, or turn the wheel over it or its number.</source>

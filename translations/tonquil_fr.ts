@@ -343,8 +343,8 @@
         <translation>Maintenir enfoncé pour comparer avec l’écran non corrigé</translation>
     </message>
     <message>
-        <source>Corrects this display. Show targets, then move the slider until striped and plain look equally bright.</source>
-        <translation>Corrige cet écran. Affichez les mires, puis déplacez le curseur jusqu’à ce que rayé et uni paraissent aussi clairs.</translation>
+        <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
+        <translation>Corrige cet écran. Affichez les mires et déplacez le curseur jusqu’à ce que les rayures paraissent unies.</translation>
     </message>
     <message>
         <source>Drag it, or turn the wheel over it or its number.</source>

@@ -343,8 +343,8 @@
         <translation>押している間、補正前のディスプレイと比較</translation>
     </message>
     <message>
-        <source>Corrects this display. Show targets, then move the slider until striped and plain look equally bright.</source>
-        <translation>このディスプレイを補正します。テストパターンを表示し、縞と無地が同じ明るさに見えるまでスライダを動かしてください。</translation>
+        <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
+        <translation>このディスプレイを補正します。テストパターンを表示し、縞が無地に見えるまでスライダを動かしてください。</translation>
     </message>
     <message>
         <source>Drag it, or turn the wheel over it or its number.</source>

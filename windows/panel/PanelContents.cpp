@@ -145,8 +145,7 @@ QWidget* PanelContents::makeApplyRow() {
 QLabel* PanelContents::makeHint() {
     auto* label = new TQVibrantLabel(QCoreApplication::translate(
         "Panel",
-        "Corrects this display. Show targets, then move the slider until striped and plain look "
-        "equally bright."));
+        "Corrects this display. Show targets and move the slider until stripes look plain."));
     label->setWordWrap(true);
     label->setFixedHeight(label->heightForWidth(panelWidth - 2 * margin));
     label->hide();
