@@ -22,8 +22,7 @@ import pyatspi, sys
 role, name = sys.argv[1:]
 for program in pyatspi.Registry.getDesktop(0):
     found = pyatspi.findDescendant(
-        program, lambda each: each.name == name and each.getRoleName() == role
-        and each.getState().contains(pyatspi.STATE_SHOWING))
+        program, lambda each: each.name == name and each.getRoleName() == role)
     if found:
         place = found.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
         print(place.x, place.y, place.width, place.height)

@@ -57,7 +57,7 @@ class Desk {
     [[nodiscard]] bool hasWindow(const Place& place) const;
     /// Starts the bus on which a program that is started later reports its controls.
     void startSessionBus();
-    /// Waits for a visible control, found as assistive technologies do, wherever the fonts and the
+    /// Waits for a control, found as assistive technologies do, wherever the fonts and the
     /// layout put it.
     [[nodiscard]] Place control(const std::string& role, const std::string& name) const;
     void clickControl(const std::string& role, const std::string& name) const;
