@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "model/Primaries.h"
+
 namespace tonquil {
 
 /// What the first 128 bytes of a monitor's EDID say about it (VESA Enhanced EDID Standard, release
@@ -21,6 +23,8 @@ struct Edid {
     std::uint32_t serialNumber = 0;
     /// May be empty; printable ASCII.
     std::string productName;
+    /// Nothing if the block has none that could be a display's.
+    std::optional<Primaries> primaries = {};
 };
 
 /// Returns nothing unless the bytes start with a complete base block. Does not verify the checksum:

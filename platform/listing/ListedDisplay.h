@@ -17,6 +17,7 @@ struct ListedDisplay {
     DisplayIdentity identity;
     std::string connector;
     std::string productName;
+    std::optional<Primaries> primaries;
     /// Top-down.
     Rectangle bounds;
     std::uint32_t rampSize = 0;

@@ -175,7 +175,8 @@ DisplayDescription WlrDisplayService::description(DisplayID display) {
             .rampSize = output->gamma.size(),
             .obstacle = output->gamma.obstacle(),
             .outlivesProgram = false,
-            .isReadable = false};
+            .isReadable = false,
+            .primaries = output->display.primaries};
 }
 
 Rectangle WlrDisplayService::bounds(DisplayID display) {

@@ -170,7 +170,8 @@ DisplayDescription X11DisplayService::description(DisplayID display) {
     return {.connector = found->connector,
             .productName = found->productName,
             .rampSize = _ramps.size(found->crtc),
-            .obstacle = obstacle(*found)};
+            .obstacle = obstacle(*found),
+            .primaries = found->primaries};
 }
 
 Rectangle X11DisplayService::bounds(DisplayID display) {

@@ -77,6 +77,7 @@ void describe(X11Display& display, const xcb_randr_get_output_info_reply_t& info
         display.identity.modelNumber = edid->modelNumber;
         display.identity.vendorNumber = edid->vendorNumber;
         display.productName = edid->productName;
+        display.primaries = edid->primaries;
     } else {
         // Otherwise all outputs of one size without an EDID would share a reference ID.
         display.identity.modelNumber = numberOf(display.connector);

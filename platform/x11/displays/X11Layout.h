@@ -3,6 +3,7 @@
 
 #include <xcb/randr.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,7 @@ struct X11Display {
     xcb_randr_crtc_t crtc = XCB_NONE;
     std::string connector;
     std::string productName;
+    std::optional<Primaries> primaries;
     DisplayIdentity identity;
     /// Y grows downward.
     Rectangle bounds;
