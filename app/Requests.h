@@ -26,6 +26,7 @@ struct Request {
         ShowPanel,
         Preferences,
         Open,     ///< A settings file.
+        Preset,   ///< A settings file of the folder of presets.
         Targets,  ///< Floating, or covering a display.
         Quit,
     };
@@ -38,6 +39,8 @@ struct Request {
     /// window.
     std::optional<TargetKind> target = {};
     std::string referenceID = {};
+    /// Only for `Preset`.
+    std::string preset = {};
 
     bool operator==(const Request&) const = default;
 };

@@ -43,6 +43,11 @@ TQController::TQController(ControllerSurroundings surroundings)
               .storage = _storage,
               .view = _view,
               .log = _with.log}),
+      _presets({.folder = PresetFolder(_with.presetFolder),
+                .preferences = _with.preferences,
+                .dialogs = _with.dialogs,
+                .files = _files,
+                .log = _with.log}),
       _panelFrame(_with.service, _with.preferences, _with.panel),
       _periodicUpdate(_with.runLoop, _with.preferences, _with.service,
                       [this] { _applyCurvesToScreen(); }),
@@ -267,6 +272,19 @@ void TQController::showTarget(std::optional<TargetKind> kind, const std::string&
                                      "No display with the reference ID %@ is attached. "
                                      "tonquilctl displays lists them."),
                         {referenceID});
+}
+
+std::vector<PresetEntry> TQController::presets() const {
+    std::vector<PresetEntry> entries;
+    for (const Preset& preset : _presets.presets()) {
+        PresetEntry& entry = entries.emplace_back();
+        entry.name = preset.name;
+        if (preset.problem) {
+            entry.problemKey = preset.problem->key();
+            entry.problemArguments = preset.problem->arguments;
+        }
+    }
+    return entries;
 }
 
 int TQController::storedTab() const {

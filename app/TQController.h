@@ -13,6 +13,7 @@
 #include "app/curves/CurveEditing.h"
 #include "app/desktop/RestorableWindows.h"
 #include "app/desktop/StatusItem.h"
+#include "app/files/PresetFiles.h"
 #include "app/files/SettingsFiles.h"
 #include "app/panel/ControllerHotKeys.h"
 #include "app/panel/PanelActions.h"
@@ -76,6 +77,11 @@ class TQController final : public PanelActions {
     [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const override {
         return _files.recentFiles();
     }
+    [[nodiscard]] std::vector<PresetEntry> presets() const override;
+    void openPreset(const std::string& name) override { _presets.open(name); }
+    void savePreset() override { _presets.saveAs(); }
+    [[nodiscard]] bool canMakeEditable() override { return _editing.hasTable(); }
+    void makeEditable() override { _files.makeEditable(); }
     void quit() override { _with.endProgram(); }
 
     /// Disables hot keys while the user records a combination, so that one of them can be recorded.
@@ -127,6 +133,7 @@ class TQController final : public PanelActions {
     PanelView _view;
     CurveEditing _editing;
     SettingsFiles _files;
+    PresetFiles _presets;
     PanelFrame _panelFrame;
     PeriodicUpdate _periodicUpdate;
     Reapplication _reapplication;

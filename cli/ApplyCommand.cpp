@@ -5,7 +5,7 @@
 #include "cli/Commands.h"
 #include "cli/CurveSource.h"
 #include "cli/ScreenSelection.h"
-#include "model/TQExtendedGammaCurve.h"
+#include "model/StoredCurve.h"
 
 namespace tonquil {
 
@@ -21,8 +21,7 @@ Result<std::vector<Assignment>> assign(const CurvesByDisplay& curves,
         for (const std::string& key : screen->keys()) {
             const PropertyValue* dictionary = entry(curves.screens, key);
             if (dictionary != nullptr && dictionary->is_object()) {
-                assignments.emplace_back(
-                    screen, TQExtendedGammaCurve::gammaCurveWithDictionary(*dictionary));
+                assignments.emplace_back(screen, curveWithDictionary(*dictionary));
                 break;
             }
         }

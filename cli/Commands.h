@@ -9,6 +9,7 @@
 #include "cli/RemoteAccess.h"
 #include "foundation/Problem.h"
 #include "screens/DisplayService.h"
+#include "settings/PresetFolder.h"
 
 namespace tonquil {
 
@@ -27,6 +28,8 @@ struct CommandEnvironment {
     /// Opens the display service for a command that stays: on the run loop of `remote`, which it
     /// stops when the displays are lost.
     std::function<Result<std::unique_ptr<DisplayService>>()> openDisplaysToHold = {};
+    /// The user's presets.
+    PresetFolder presets = PresetFolder({});
     /// Whether the displays were lost meanwhile.
     std::function<bool()> areDisplaysLost = {};
 };
@@ -45,6 +48,10 @@ struct CommandEnvironment {
                                    const CommandEnvironment& environment);
 [[nodiscard]] Result<void> runTable(const Arguments& arguments,
                                     const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runExport(const Arguments& arguments,
+                                     const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runFit(const Arguments& arguments,
+                                  const CommandEnvironment& environment);
 [[nodiscard]] Result<void> runRemoteScan(const Arguments& arguments,
                                          const CommandEnvironment& environment);
 [[nodiscard]] Result<void> runRemoteGet(const Arguments& arguments,

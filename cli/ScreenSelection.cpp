@@ -64,4 +64,15 @@ Result<ScreenRegistry::ScreenPointer> screenNamed(ScreenRegistry& registry,
     return *found;
 }
 
+Result<ScreenRegistry::ScreenPointer> screenOrMain(ScreenRegistry& registry,
+                                                   const std::vector<std::string>& names) {
+    if (!names.empty()) {
+        return screenNamed(registry, names.back());
+    }
+    if (registry.screens().empty()) {
+        return problem("No display is attached.");
+    }
+    return registry.screens().front();
+}
+
 }  // namespace tonquil

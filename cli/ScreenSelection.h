@@ -29,4 +29,8 @@ namespace tonquil {
 [[nodiscard]] Result<ScreenRegistry::ScreenPointer> screenNamed(ScreenRegistry& registry,
                                                                 const std::string& name);
 
+/// The screen with the last of these names or, without any, the main display's.
+[[nodiscard]] Result<ScreenRegistry::ScreenPointer> screenOrMain(
+    ScreenRegistry& registry, const std::vector<std::string>& names);
+
 }  // namespace tonquil

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -32,6 +33,12 @@ void say(std::string line) {
         line, [](unsigned char c) { return std::iscntrl(c) != 0; }, '?');
     // If this fails there is nowhere left to report it.
     static_cast<void>(print("tonquilctl: " + line + "\n", stderr));
+}
+
+/// A variable of the environment; empty where it is not set.
+std::string_view variable(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? std::string_view() : value;
 }
 
 tonquil::RemoteAccess remoteAccess(tonquil::PollRunLoop& loop) {
@@ -78,6 +85,8 @@ struct Session {
              .remote = remote,
              .notes = notes,
              .openDisplaysToHold = [&] { return tonquil::chooseDisplayService(&loop, log, lost); },
+             .presets =
+                 tonquil::PresetFolder::ofUser(variable("XDG_CONFIG_HOME"), variable("HOME")),
              .areDisplaysLost = [this] { return areDisplaysLost; }});
     }
 };

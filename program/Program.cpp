@@ -60,6 +60,7 @@ Program::Program(Groundwork& groundwork, BusSessionEvents::Addresses buses)
       _displays(groundwork.displays()),
       _registry(groundwork.registry()),
       _installedPrograms(groundwork.installedPrograms()),
+      _presetFolder(groundwork.folders().config() / "presets"),
       _whyNoDisplays(groundwork.whyNoDisplays()),
       _sessionBus(buses.session),
       _busEvents(_runLoop, std::move(buses), logLine),
@@ -202,6 +203,7 @@ void Program::makeController() {
                                .hotKeys = *_hotKeys,
                                .openServer = [this](Log log) { return openServer(std::move(log)); },
                                .sessionEvents = std::move(events),
+                               .presetFolder = _presetFolder,
                                .whyNoDisplays = _whyNoDisplays,
                                .endProgram = [this] { end(); },
                                .log = logLine});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -59,6 +60,7 @@ class Program {
     DisplayService& _displays;
     ScreenRegistry& _registry;
     DesktopEntries& _installedPrograms;
+    std::filesystem::path _presetFolder;
     std::string _whyNoDisplays;
     std::string _sessionBus;
     BusSessionEvents _busEvents;
