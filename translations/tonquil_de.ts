@@ -58,10 +58,6 @@
         <translation>Einstellungen öffnen</translation>
     </message>
     <message>
-        <source>Settings and tables (*.tonquil *.tonquil-screens *.amp)</source>
-        <translation>Einstellungen und Tabellen (*.tonquil *.tonquil-screens *.amp)</translation>
-    </message>
-    <message>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
     </message>
@@ -72,6 +68,34 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>ICC profile of one display (*.icc)</source>
+        <translation>ICC-Profil eines Bildschirms (*.icc)</translation>
+    </message>
+    <message>
+        <source>Calibration of one display (*.cal)</source>
+        <translation>Kalibrierung eines Bildschirms (*.cal)</translation>
+    </message>
+    <message>
+        <source>Settings, profiles and tables (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</source>
+        <translation>Einstellungen, Profile und Tabellen (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>Als Vorlage speichern</translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Name der Vorlage:</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
     </message>
 </context>
 <context>
@@ -317,6 +341,18 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>Änderungen werden zurzeit nicht gespeichert. Tonquil versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Vorlagen</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>Als Vorlage speichern&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Make editable</source>
+        <translation>Bearbeitbar machen</translation>
     </message>
 </context>
 <context>
@@ -702,6 +738,62 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Ein anderes Programm, etwa ein Nachtmodus, hält die Gammatabelle dieses Bildschirms, oder er hat keine.</translation>
+    </message>
+    <message>
+        <source>The table can be edited now</source>
+        <translation>Die Tabelle kann jetzt bearbeitet werden</translation>
+    </message>
+    <message>
+        <source>A curve has taken its place that differs from it by %@ % of full level at most. Undo brings the table back.</source>
+        <translation>An ihre Stelle ist eine Kurve getreten, die höchstens %@ % des vollen Pegels von ihr abweicht. „Rückgängig“ bringt die Tabelle zurück.</translation>
+    </message>
+    <message>
+        <source>The calibration is not for a display.</source>
+        <translation>Die Kalibrierung ist nicht für einen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>The calibration file is damaged.</source>
+        <translation>Die Kalibrierungsdatei ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>There is no display whose table could be saved.</source>
+        <translation>Es gibt keinen Bildschirm, dessen Tabelle gespeichert werden könnte.</translation>
+    </message>
+    <message>
+        <source>The profile&apos;s calibration is damaged.</source>
+        <translation>Die Kalibrierung des Profils ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The profile is too large.</source>
+        <translation>Das Profil ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The colour profile is damaged.</source>
+        <translation>Das Farbprofil ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The colour profile holds no calibration that could be put on a display.</source>
+        <translation>Das Farbprofil enthält keine Kalibrierung, die ein Bildschirm bekommen könnte.</translation>
+    </message>
+    <message>
+        <source>The colour profile could not be made.</source>
+        <translation>Das Farbprofil konnte nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>It holds no settings.</source>
+        <translation>Sie enthält keine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>There is no preset called &quot;%@&quot;.</source>
+        <translation>Es gibt keine Vorlage namens „%@“.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>Der Name einer Vorlage hat bis zu 100 Zeichen, keinen Schrägstrich und keinen Punkt am Anfang. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The folder of presets could not be made.</source>
+        <translation>Der Ordner für Vorlagen konnte nicht erstellt werden.</translation>
     </message>
 </context>
 <context>

@@ -58,10 +58,6 @@
         <translation>Abrir ajustes</translation>
     </message>
     <message>
-        <source>Settings and tables (*.tonquil *.tonquil-screens *.amp)</source>
-        <translation>Ajustes y tablas (*.tonquil *.tonquil-screens *.amp)</translation>
-    </message>
-    <message>
         <source>All files (*)</source>
         <translation>Todos los archivos (*)</translation>
     </message>
@@ -72,6 +68,34 @@
     <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>ICC profile of one display (*.icc)</source>
+        <translation>Perfil ICC de una pantalla (*.icc)</translation>
+    </message>
+    <message>
+        <source>Calibration of one display (*.cal)</source>
+        <translation>Calibración de una pantalla (*.cal)</translation>
+    </message>
+    <message>
+        <source>Settings, profiles and tables (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</source>
+        <translation>Ajustes, perfiles y tablas (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>Guardar como preajuste</translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Nombre del preajuste:</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
     </message>
 </context>
 <context>
@@ -317,6 +341,18 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>Los cambios no se guardan por el momento. Tonquil lo sigue intentando.</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Preajustes</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>Guardar como preajuste…</translation>
+    </message>
+    <message>
+        <source>Make editable</source>
+        <translation>Hacer editable</translation>
     </message>
 </context>
 <context>
@@ -702,6 +738,62 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Otro programa, como una luz nocturna, tiene la tabla de gamma de esta pantalla, o esta no tiene ninguna.</translation>
+    </message>
+    <message>
+        <source>The table can be edited now</source>
+        <translation>Ahora se puede editar la tabla</translation>
+    </message>
+    <message>
+        <source>A curve has taken its place that differs from it by %@ % of full level at most. Undo brings the table back.</source>
+        <translation>La ha sustituido una curva que difiere de ella en un %@ % del nivel máximo como mucho. «Deshacer» recupera la tabla.</translation>
+    </message>
+    <message>
+        <source>The calibration is not for a display.</source>
+        <translation>La calibración no es para una pantalla.</translation>
+    </message>
+    <message>
+        <source>The calibration file is damaged.</source>
+        <translation>El archivo de calibración está dañado.</translation>
+    </message>
+    <message>
+        <source>There is no display whose table could be saved.</source>
+        <translation>No hay ninguna pantalla cuya tabla se pueda guardar.</translation>
+    </message>
+    <message>
+        <source>The profile&apos;s calibration is damaged.</source>
+        <translation>La calibración del perfil está dañada.</translation>
+    </message>
+    <message>
+        <source>The profile is too large.</source>
+        <translation>El perfil es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>The colour profile is damaged.</source>
+        <translation>El perfil de color está dañado.</translation>
+    </message>
+    <message>
+        <source>The colour profile holds no calibration that could be put on a display.</source>
+        <translation>El perfil de color no contiene ninguna calibración que se pueda aplicar a una pantalla.</translation>
+    </message>
+    <message>
+        <source>The colour profile could not be made.</source>
+        <translation>No se ha podido crear el perfil de color.</translation>
+    </message>
+    <message>
+        <source>It holds no settings.</source>
+        <translation>No contiene ajustes.</translation>
+    </message>
+    <message>
+        <source>There is no preset called &quot;%@&quot;.</source>
+        <translation>No hay ningún preajuste llamado «%@».</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>El nombre de un preajuste tiene hasta 100 caracteres, ninguna barra y ningún punto al principio. No se ha guardado nada.</translation>
+    </message>
+    <message>
+        <source>The folder of presets could not be made.</source>
+        <translation>No se ha podido crear la carpeta de preajustes.</translation>
     </message>
 </context>
 <context>

@@ -58,10 +58,6 @@
         <translation>設定を開く</translation>
     </message>
     <message>
-        <source>Settings and tables (*.tonquil *.tonquil-screens *.amp)</source>
-        <translation>設定とテーブル (*.tonquil *.tonquil-screens *.amp)</translation>
-    </message>
-    <message>
         <source>All files (*)</source>
         <translation>すべてのファイル (*)</translation>
     </message>
@@ -72,6 +68,34 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>ICC profile of one display (*.icc)</source>
+        <translation>1台のディスプレイのICCプロファイル (*.icc)</translation>
+    </message>
+    <message>
+        <source>Calibration of one display (*.cal)</source>
+        <translation>1台のディスプレイのキャリブレーション (*.cal)</translation>
+    </message>
+    <message>
+        <source>Settings, profiles and tables (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</source>
+        <translation>設定、プロファイル、テーブル (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>プリセットとして保存</translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>プリセットの名前:</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
     </message>
 </context>
 <context>
@@ -317,6 +341,18 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>現在、変更は保存されていません。Tonquil は保存を試み続けます。</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>プリセットとして保存…</translation>
+    </message>
+    <message>
+        <source>Make editable</source>
+        <translation>編集可能にする</translation>
     </message>
 </context>
 <context>
@@ -702,6 +738,62 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>夜間モードなど別のプログラムがこのディスプレイのガンマテーブルを使用しているか、このディスプレイにはガンマテーブルがありません。</translation>
+    </message>
+    <message>
+        <source>The table can be edited now</source>
+        <translation>テーブルを編集できるようになりました</translation>
+    </message>
+    <message>
+        <source>A curve has taken its place that differs from it by %@ % of full level at most. Undo brings the table back.</source>
+        <translation>テーブルは曲線に置き換えられました。差は最大でフルレベルの %@ % です。「取り消す」でテーブルに戻せます。</translation>
+    </message>
+    <message>
+        <source>The calibration is not for a display.</source>
+        <translation>このキャリブレーションはディスプレイ用ではありません。</translation>
+    </message>
+    <message>
+        <source>The calibration file is damaged.</source>
+        <translation>キャリブレーションファイルが壊れています。</translation>
+    </message>
+    <message>
+        <source>There is no display whose table could be saved.</source>
+        <translation>テーブルを保存できるディスプレイがありません。</translation>
+    </message>
+    <message>
+        <source>The profile&apos;s calibration is damaged.</source>
+        <translation>プロファイルのキャリブレーションが壊れています。</translation>
+    </message>
+    <message>
+        <source>The profile is too large.</source>
+        <translation>プロファイルが大きすぎます。</translation>
+    </message>
+    <message>
+        <source>The colour profile is damaged.</source>
+        <translation>カラープロファイルが壊れています。</translation>
+    </message>
+    <message>
+        <source>The colour profile holds no calibration that could be put on a display.</source>
+        <translation>カラープロファイルには、ディスプレイに適用できるキャリブレーションがありません。</translation>
+    </message>
+    <message>
+        <source>The colour profile could not be made.</source>
+        <translation>カラープロファイルを作成できませんでした。</translation>
+    </message>
+    <message>
+        <source>It holds no settings.</source>
+        <translation>設定が入っていません。</translation>
+    </message>
+    <message>
+        <source>There is no preset called &quot;%@&quot;.</source>
+        <translation>「%@」という名前のプリセットはありません。</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>プリセットの名前は100文字以内で、スラッシュを含めず、ドットで始めないでください。何も保存されていません。</translation>
+    </message>
+    <message>
+        <source>The folder of presets could not be made.</source>
+        <translation>プリセットのフォルダを作成できませんでした。</translation>
     </message>
 </context>
 <context>
