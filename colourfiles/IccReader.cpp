@@ -109,7 +109,8 @@ Result<Calibration> readIcc(std::span<const std::uint8_t> profile) {
     }
     const std::unique_ptr<void, CloseReadProfile> opened(
         cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
-    if (!opened) {
+    // The profile begins with its size, and Little CMS reads what is left of one that is cut off.
+    if (!opened || number32(profile, 0) > profile.size()) {
         return problem(TONQUIL_TEXT("Problem", "The colour profile is damaged."));
     }
     const cmsUInt32Number size = cmsReadRawTag(opened.get(), cmsSigVcgtTag, nullptr, 0);
