@@ -14,8 +14,8 @@ namespace tonquil {
 
 namespace {
 
-constexpr std::size_t count = GammaTable::capacity;
-using Levels = std::span<const float, count>;
+constexpr std::size_t slotCount = GammaTable::capacity;
+using Levels = std::span<const float, slotCount>;
 
 /// For one exponent: the straight line through the levels over input^exponent, and how far off it
 /// stays.
@@ -26,36 +26,36 @@ struct Line {
 };
 
 /// The logarithms of the inputs i / 256; that of 0 is unused.
-std::array<double, count> inputLogarithms() {
-    std::array<double, count> logarithms{};
-    for (std::size_t i = 1; i < count; ++i) {
-        logarithms.at(i) = std::log(static_cast<double>(i) / count);
+std::array<double, slotCount> inputLogarithms() {
+    std::array<double, slotCount> logarithms{};
+    for (std::size_t i = 1; i < slotCount; ++i) {
+        logarithms.at(i) = std::log(static_cast<double>(i) / slotCount);
     }
     return logarithms;
 }
 
 // Once the exponent is given, black and range are linear: y = black + range * x.
-Line lineThrough(Levels levels, const std::array<double, count>& logarithms, double exponent) {
-    std::array<double, count> x{};
+Line lineThrough(Levels levels, const std::array<double, slotCount>& logarithms, double exponent) {
+    std::array<double, slotCount> x{};
     double sumX = 0;
     double sumY = 0;
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < slotCount; ++i) {
         x.at(i) = i == 0 ? 0 : std::exp(exponent * logarithms.at(i));
         sumX += x.at(i);
         sumY += static_cast<double>(levels[i]);
     }
-    const double meanX = sumX / count;
-    const double meanY = sumY / count;
+    const double meanX = sumX / slotCount;
+    const double meanY = sumY / slotCount;
     double xx = 0;
     double xy = 0;
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < slotCount; ++i) {
         xx += (x.at(i) - meanX) * (x.at(i) - meanX);
         xy += (x.at(i) - meanX) * (static_cast<double>(levels[i]) - meanY);
     }
     Line line;
     line.range = xy / xx;
     line.black = meanY - line.range * meanX;
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < slotCount; ++i) {
         const double off = line.black + line.range * x.at(i) - static_cast<double>(levels[i]);
         line.squares += off * off;
     }
@@ -63,7 +63,7 @@ Line lineThrough(Levels levels, const std::array<double, count>& logarithms, dou
 }
 
 /// The exponent with the least squares: the best of a coarse row, then a golden section around it.
-ChannelCurve fitChannel(Levels levels, const std::array<double, count>& logarithms) {
+ChannelCurve fitChannel(Levels levels, const std::array<double, slotCount>& logarithms) {
     const auto [lowest, highest] = std::ranges::minmax(levels);
     if (lowest == highest) {
         return {.black = lowest, .middle = 1, .white = lowest};
@@ -125,7 +125,7 @@ std::shared_ptr<TQExtendedGammaCurve> curveOf(const CurveValues& values) {
 }  // namespace
 
 CurveFit fitCurve(const GammaTable& table) {
-    static const std::array<double, count> logarithms = inputLogarithms();
+    static const std::array<double, slotCount> logarithms = inputLogarithms();
     CurveValues values{.channels = {}, .blendingMode = KVBlendingModeAbsolute};
     for (std::size_t c = 0; c < GammaTable::channelCount; ++c) {
         values.channels.at(c) = fitChannel(table.channel(c), logarithms);

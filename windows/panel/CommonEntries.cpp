@@ -59,14 +59,16 @@ void CommonEntries::setActions(PanelActions& actions) {
     onTrigger(_boardWebSite, [&actions] { actions.gammaBoardInfo(); });
     onTrigger(_about, [&actions] { actions.openAboutBox(); });
     onTrigger(_quit, [&actions] { actions.quit(); });
+    // A tray that draws the menu itself takes one without entries for a plain entry.
+    listPresets({}, actions);
+    // Their files may have changed since the menu was last seen.
     QObject::connect(&_menu, &QMenu::aboutToShow, &_menu,
-                     [this, &actions] { fillPresets(actions); });
+                     [this, &actions] { listPresets(actions.presets(), actions); });
 }
 
-// Their files may have changed since the menu was last seen.
-void CommonEntries::fillPresets(PanelActions& actions) {
+void CommonEntries::listPresets(const std::vector<PresetEntry>& presets, PanelActions& actions) {
     _presets->clear();
-    for (const PresetEntry& preset : actions.presets()) {
+    for (const PresetEntry& preset : presets) {
         QString text = QString::fromStdString(preset.name);
         if (!preset.problemKey.empty()) {
             text += QStringLiteral(" \u2014 ") +

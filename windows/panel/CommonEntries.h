@@ -2,10 +2,12 @@
 #pragma once
 
 #include <QMenu>
+#include <vector>
 
 namespace tonquil {
 
 class PanelActions;
+struct PresetEntry;
 
 /// The entries that the panel's menu and the status icon's menu have in common. Each `add` puts its
 /// entries at the menu's end.
@@ -36,7 +38,7 @@ class CommonEntries {
     [[nodiscard]] static QString entryText(QString name);
 
  private:
-    void fillPresets(PanelActions& actions);
+    void listPresets(const std::vector<PresetEntry>& presets, PanelActions& actions);
 
     QMenu& _menu;
     QAction* _targets = nullptr;
