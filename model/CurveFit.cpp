@@ -62,7 +62,33 @@ Line lineThrough(Levels levels, const std::array<double, slotCount>& logarithms,
     return line;
 }
 
-/// The exponent with the least squares: the best of a coarse row, then a golden section around it.
+/// Where a function with one valley between two points is lowest, by golden section.
+template <typename Function>
+double lowestBetween(double from, double to, const Function& function) {
+    constexpr double golden = 0.6180339887498949;
+    constexpr int rounds = 40;
+    double low = to - golden * (to - from);
+    double high = from + golden * (to - from);
+    double atLow = function(low);
+    double atHigh = function(high);
+    for (int round = 0; round < rounds; ++round) {
+        if (atLow < atHigh) {
+            to = std::exchange(high, low);
+            atHigh = atLow;
+            low = to - golden * (to - from);
+            atLow = function(low);
+        } else {
+            from = std::exchange(low, high);
+            atLow = atHigh;
+            high = from + golden * (to - from);
+            atHigh = function(high);
+        }
+    }
+    return (from + to) / 2;
+}
+
+// The exponent with the least squares: near the best of a coarse row, for there may be more valleys
+// than one.
 ChannelCurve fitChannel(Levels levels, const std::array<double, slotCount>& logarithms) {
     const auto [lowest, highest] = std::ranges::minmax(levels);
     if (lowest == highest) {
@@ -73,35 +99,18 @@ ChannelCurve fitChannel(Levels levels, const std::array<double, slotCount>& loga
     };
     constexpr double widest = 5;  // 2^5 is 32.
     constexpr double step = 0.25;
+    constexpr int rows = static_cast<int>(2 * widest / step);
     double best = 0;
-    double least = squares(0);
-    for (double at = -widest; at <= widest; at += step) {
+    double least = squares(best);
+    for (int row = 0; row <= rows; ++row) {
+        const double at = -widest + row * step;
         if (const double here = squares(at); here < least) {
             best = at;
             least = here;
         }
     }
-    constexpr double golden = 0.6180339887498949;
-    double from = std::max(best - step, -widest);
-    double to = std::min(best + step, widest);
-    double low = to - golden * (to - from);
-    double high = from + golden * (to - from);
-    double squaresLow = squares(low);
-    double squaresHigh = squares(high);
-    for (int round = 0; round < 40; ++round) {
-        if (squaresLow < squaresHigh) {
-            to = std::exchange(high, low);
-            squaresHigh = squaresLow;
-            low = to - golden * (to - from);
-            squaresLow = squares(low);
-        } else {
-            from = std::exchange(low, high);
-            squaresLow = squaresHigh;
-            high = from + golden * (to - from);
-            squaresHigh = squares(high);
-        }
-    }
-    const double exponent = std::exp2((from + to) / 2);
+    const double exponent = std::exp2(
+        lowestBetween(std::max(best - step, -widest), std::min(best + step, widest), squares));
     const Line line = lineThrough(levels, logarithms, exponent);
     return {.black = static_cast<float>(line.black),
             .middle = static_cast<float>(exponent),
