@@ -181,6 +181,9 @@ std::string textFromRequests(const std::vector<Request>& requests) {
             text += target->option.substr(2);
             text += ' ';
             text += escaped(request.referenceID);
+        } else if (request.kind == Request::Kind::Curves) {
+            text += handedCurvesWord;
+            text += textFromHandedCurves(request.curves);
         } else {
             const auto* name =
                 std::find_if(requestNames.begin(), requestNames.end(),
@@ -198,6 +201,12 @@ Result<std::vector<Request>> requestsFromText(std::string_view text) {
         const std::string_view word = text.substr(0, text.find('\n'));
         if (word.starts_with(openWord)) {
             requests.push_back(openRequest(unescaped(word.substr(openWord.size()))));
+        } else if (word.starts_with(handedCurvesWord)) {
+            auto curves = handedCurvesFromText(word.substr(handedCurvesWord.size()));
+            if (!curves) {
+                return tl::unexpected(std::move(curves.error()));
+            }
+            requests.push_back({.kind = Request::Kind::Curves, .curves = std::move(*curves)});
         } else if (const TargetWord* target = findTarget(word.substr(0, word.find(' ')), 2)) {
             requests.push_back({.kind = Request::Kind::Targets,
                                 .target = target->kind,
@@ -217,7 +226,8 @@ bool wantsEnd(const std::vector<Request>& requests) {
     return std::ranges::find(requests, Request{.kind = Request::Kind::Quit}) != requests.end();
 }
 
-void carryOut(const std::vector<Request>& requests, TQController& controller) {
+std::string carryOut(const std::vector<Request>& requests, TQController& controller) {
+    std::string undone;
     for (const Request& request : requests) {
         switch (request.kind) {
             case Request::Kind::Reopen:
@@ -244,11 +254,17 @@ void carryOut(const std::vector<Request>& requests, TQController& controller) {
             case Request::Kind::Targets:
                 controller.showTarget(request.target, request.referenceID);
                 break;
+            case Request::Kind::Curves:
+                if (const auto taken = controller.takeCurves(request.curves); !taken) {
+                    undone = taken.error().sentence;
+                }
+                break;
             case Request::Kind::Quit:
                 controller.quit();
                 break;
         }
     }
+    return undone;
 }
 
 }  // namespace tonquil

@@ -11,6 +11,7 @@
 
 #include "app/desktop/TargetWindows.h"
 #include "foundation/Problem.h"
+#include "screens/HandedCurves.h"
 
 namespace tonquil {
 
@@ -27,6 +28,7 @@ struct Request {
         Preferences,
         Open,     ///< A settings file.
         Targets,  ///< Floating, or covering a display.
+        Curves,   ///< For displays by their connectors, from tonquilctl.
         Quit,
     };
 
@@ -38,6 +40,8 @@ struct Request {
     /// window.
     std::optional<TargetKind> target = {};
     std::string referenceID = {};
+    /// Only for `Curves`.
+    HandedCurves curves = {};
 
     bool operator==(const Request&) const = default;
 };
@@ -62,7 +66,7 @@ struct CommandLine {
 
 /// Whether the program is to quit.
 [[nodiscard]] bool wantsEnd(const std::vector<Request>& requests);
-/// Carries out the requests.
-void carryOut(const std::vector<Request>& requests, TQController& controller);
+/// Carries out the requests; returns what could not be done, a sentence, or nothing.
+std::string carryOut(const std::vector<Request>& requests, TQController& controller);
 
 }  // namespace tonquil

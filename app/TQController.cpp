@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/TQController.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -251,6 +252,30 @@ void TQController::showPanel() {
         _panelFrame.bringBack();
     }
     _with.panel.makeKeyAndOrderFront();
+}
+
+// A neutral curve shows what a display shows while the correction is off, so it needs no switch.
+Result<void> TQController::takeCurves(const HandedCurves& curves) {
+    const auto neutral = TQExtendedGammaCurve().gammaCurveCompactArray();
+    const bool areNeutral = std::ranges::all_of(
+        curves, [&](const auto& each) { return each.second->gammaCurveCompactArray() == neutral; });
+    {
+        const DisplayBatch batch(_with.service);
+        const auto taken = _editing.takeCurves(curves);
+        if (!taken) {
+            return taken;
+        }
+        if (!areNeutral && !applyCorrection()) {
+            setApplyCorrection(true);
+        }
+    }
+    for (const auto& screen : _with.registry.screens()) {
+        const auto description = _with.service.description(screen->directDisplayID());
+        if (curves.contains(description.connector) && !description.obstacle.empty()) {
+            return problem(description.connector + ": " + description.obstacle);
+        }
+    }
+    return {};
 }
 
 void TQController::showTarget(std::optional<TargetKind> kind, const std::string& referenceID) {

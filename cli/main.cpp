@@ -2,17 +2,21 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "platform/choice/DisplayServiceChoice.h"
+#include "platform/posix/InstanceName.h"
+#include "platform/posix/InstanceSocket.h"
 #include "platform/posix/PollRunLoop.h"
 #include "platform/posix/PosixLocalHost.h"
 #include "platform/posix/StandardStreams.h"
 #include "platform/posix/TerminationSignals.h"
 #include "platform/posix/UdpSocket.h"
+#include "platform/xdg/XdgFolders.h"
 
 // No iostreams here: their locale setup takes longer than everything else a command does.
 
@@ -45,6 +49,21 @@ tonquil::RemoteAccess remoteAccess(tonquil::PollRunLoop& loop) {
             .printNow = [](const std::string& text) { return print(text, stdout); }};
 }
 
+/// Where a program can have no folders, none of ours runs either.
+std::optional<tonquil::Result<void>> handOver(const std::string& request) {
+    const auto folders = tonquil::XdgFolders::fromEnvironment();
+    const auto answer = folders ? tonquil::InstanceSocket::handOverIfListening(
+                                      folders->runtime() / tonquil::instanceName(), request)
+                                : std::nullopt;
+    if (!answer) {
+        return std::nullopt;
+    }
+    if (!*answer) {
+        return tl::unexpected(answer->error());
+    }
+    return (*answer)->empty() ? tonquil::Result<void>() : tonquil::problem(**answer);
+}
+
 /// What a command writes, and what it is told while it stays.
 struct Session {
     tonquil::PollRunLoop loop;
@@ -71,14 +90,21 @@ struct Session {
             loop.stop();
         };
         return tonquil::runCommand(
-            arguments,
-            {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
-             .logged = logged,
-             .out = out,
-             .remote = remote,
-             .notes = notes,
-             .openDisplaysToHold = [&] { return tonquil::chooseDisplayService(&loop, log, lost); },
-             .areDisplaysLost = [this] { return areDisplaysLost; }});
+            arguments, {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
+                        .logged = logged,
+                        .out = out,
+                        .remote = remote,
+                        .notes = notes,
+                        .openDisplaysToHold =
+                            [&] {
+                                auto service = tonquil::chooseDisplayService(&loop, log, lost);
+                                if (service) {
+                                    (*service)->setWhenLost(lost);
+                                }
+                                return service;
+                            },
+                        .handOver = handOver,
+                        .areDisplaysLost = [this] { return areDisplaysLost; }});
     }
 };
 

@@ -10,6 +10,7 @@
 #include "platform/missing/MissingHotKeyService.h"
 #include "platform/missing/MissingKeyboardLayout.h"
 #include "platform/missing/MissingWindowSystem.h"
+#include "platform/posix/InstanceName.h"
 #include "platform/posix/PosixLocalHost.h"
 #include "platform/posix/TerminationSignals.h"
 #include "platform/posix/UdpSocket.h"
@@ -160,11 +161,9 @@ std::string Program::answer(const std::string& text) {
     // A question that the start asks may wait for its answer for long; until then there are
     // neither defaults nor curves.
     if (_isLaunched || wantsEnd(*requests)) {
-        carryOut(*requests, *_controller);
-    } else {
-        _requestsBeforeLaunch.insert(_requestsBeforeLaunch.end(), requests->begin(),
-                                     requests->end());
+        return carryOut(*requests, *_controller);
     }
+    _requestsBeforeLaunch.insert(_requestsBeforeLaunch.end(), requests->begin(), requests->end());
     return {};
 }
 

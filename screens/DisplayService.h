@@ -83,6 +83,9 @@ class DisplayService : public SystemCalibration {
     /// Whether others can replace a table without the service's hearing of it. Where they cannot,
     /// there is nothing to put right again and again.
     [[nodiscard]] virtual bool canBeDisturbed() const { return true; }
+    /// `lost` is called once, from the run loop, when the displays are out of reach for good. A
+    /// service that was opened with such a callback may ignore this one.
+    virtual void setWhenLost(std::function<void()> /*lost*/) {}
     /// Moves the pointer to a point of the top-down desktop space.
     virtual void warpPointer(const Point& point) = 0;
 

@@ -91,7 +91,7 @@ check() {
         if [[ $composers != *" $1 "* ]]; then
             breach "$place" "\"$included\": only where a program is composed may platform/choice be included"
         fi
-    elif [[ $1 == cli/main.cpp && $target == platform/posix ]]; then
+    elif [[ $1 == cli/main.cpp && $target =~ ^platform/(posix|xdg)$ ]]; then
         return
     elif [[ $target != "$folder" && " ${arrows[$folder]} " != *" $target "* ]]; then
         breach "$place" "\"$included\": $folder may include ${arrows[$folder]:-only itself}"

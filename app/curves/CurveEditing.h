@@ -7,6 +7,7 @@
 #include "app/curves/CurveStorage.h"
 #include "app/curves/PanelView.h"
 #include "foundation/RunLoop.h"
+#include "screens/HandedCurves.h"
 
 namespace tonquil {
 
@@ -41,6 +42,10 @@ class CurveEditing {
     void adoptCurve(const KVGammaCurve& curve);
     /// Puts a table on the current displays, then derives every display's curve from its tables.
     void adoptTable(const std::shared_ptr<KVGammaCurve>& table);
+
+    /// Assigns curves to displays, as one undo step. A problem, with nothing changed, if one of the
+    /// displays is not attached.
+    Result<void> takeCurves(const HandedCurves& curves);
 
     /// Call it before other code replaces curves: starts a new undo step.
     void willEdit(const ScreenRegistry::Screens& screens, int subject);

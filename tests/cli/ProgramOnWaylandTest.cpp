@@ -81,5 +81,42 @@ TEST_F(ProgramOnWayland, HoldsACorrectionUntilItIsEnded) {
     EXPECT_EQ(alone->standardError, "tonquilctl: The display server has gone.\n");
 }
 
+TEST_F(ProgramOnWayland, HandsCurvesToTheTonquilThatRuns) {
+    const ScratchFolder home;
+    compositor.plug("DP-1", 0);
+    compositor.plug("DP-2", 1920);
+    const auto inSession = [&](ProcessRequest request) {
+        for (const char* const folder : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME",
+                                         "XDG_RUNTIME_DIR", "DBUS_SESSION_BUS_ADDRESS"}) {
+            request.environment[folder] = home.path();
+        }
+        request.environment["QT_QPA_PLATFORM"] = "offscreen";
+        return request;
+    };
+    const auto control = [&](const std::vector<std::string>& arguments) {
+        return run(inSession(request(arguments))).value().exitStatus;
+    };
+    auto start = inSession(request({}));
+    start.command = {TONQUIL};
+    const auto program = BackgroundProcess::start(start).value();
+    ASSERT_TRUE(comesTrue([&] { return control({"restore"}) == 0; })) << program->standardError();
+
+    // The correction was off, and what is not meant keeps its neutral curve.
+    EXPECT_EQ(control({"apply", "--display", "DP-2", "--curve", "[0,0,1.5]"}), 0);
+    const auto areAlike = [&] { return compositor.ramp("DP-1") == compositor.ramp("DP-2"); };
+    EXPECT_TRUE(comesTrue([&] { return compositor.isHeld("DP-1") && !areAlike(); }));
+    EXPECT_EQ(control({"restore", "--display", "DP-2"}), 0);
+    EXPECT_TRUE(comesTrue(areAlike));
+    const HardwareRamp neutral = compositor.ramp("DP-1");
+    EXPECT_EQ(control({"apply", fileWith(std::string(768, 'x'))}), 1) << "It keeps no tables.";
+
+    EXPECT_EQ(control({"apply", "--curve", "[0,0,1.5]"}), 0);
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") != neutral && areAlike(); }));
+    EXPECT_EQ(control({"restore"}), 0);
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == HardwareRamp::straight(256); }));
+    compositor.setTaken("DP-1", true);
+    EXPECT_TRUE(comesTrue([&] { return control({"apply", "--curve", "[0,0,1.2]"}) == 1; }));
+}
+
 }  // namespace
 }  // namespace tonquil

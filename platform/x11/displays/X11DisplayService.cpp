@@ -302,7 +302,12 @@ std::unique_ptr<DisplayService::Subscription> X11DisplayService::registerReconfi
         // Changes since the displays were listed are reported like any other.
         _reconfiguration = std::make_unique<X11Reconfiguration>(
             *_connection, *_runLoop, _log,
-            [this](const X11Reconfiguration::CrtcStates& passed) { displaysChanged(passed); });
+            [this](const X11Reconfiguration::CrtcStates& passed) { displaysChanged(passed); },
+            [this] {
+                if (_lost) {
+                    _lost();
+                }
+            });
         const bool isListed = _layout.has_value();
         _announced = layout();
         readLayout();
