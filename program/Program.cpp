@@ -19,6 +19,7 @@
 #include "platform/xdg/Folder.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 #include "program/ProgramEnvironment.h"
+#include "windows/panel/DevicePixels.h"
 
 namespace tonquil {
 
@@ -120,7 +121,7 @@ Program::~Program() {
 int Program::run(const std::vector<Request>& requests) {
     controllerToSave = _controller.get();
     std::atexit(saveAtExit);
-    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+    if (areWindowsPlacedByDesktop()) {
         qInstallMessageHandler(saveWhenWaylandIsLost);
     }
     QObject::connect(qApp, &QCoreApplication::aboutToQuit,
@@ -245,7 +246,7 @@ void Program::displaysLost() {
 }
 
 void Program::openWindowSystem() {
-    _windowSystem = std::make_unique<MissingWindowSystem>();
+    _windowSystem = std::make_unique<MissingWindowSystem>(areWindowsPlacedByDesktop());
     if (QGuiApplication::platformName() != QStringLiteral("xcb")) {
         return;
     }
