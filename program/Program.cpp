@@ -76,6 +76,10 @@ Program::Program(Groundwork& groundwork, BusSessionEvents::Addresses buses)
     _hotKeys = std::make_unique<DDHotKeyCenter>(*_hotKeyService, logLine);
     DDHotKeyCenter::setSharedHotKeyCenter(_hotKeys.get());
     makeController();
+    showHotKeyAssignment();
+    if (_portalHotKeys != nullptr) {
+        _portalHotKeys->start(_sessionBus);
+    }
 }
 
 void Program::makeWindows() {
@@ -87,27 +91,29 @@ void Program::makeWindows() {
     const auto windowMade = [this](QWidget& window) { _presence->watch(window); };
     _targets =
         std::make_unique<TargetPresenter>(_displays, _preferences, *_windowSystem, windowMade);
-    _windows = std::make_unique<OtherWindows>(
-        OtherWindows::Surroundings{.preferences = {.preferences = _preferences,
-                                                   .loginItem = _loginItem,
-                                                   .alerts = _alerts,
-                                                   .layout = *_keyboardLayout,
-                                                   .windowSystem = *_windowSystem,
-                                                   .program = programFile(),
-                                                   .home = environment("HOME"),
-                                                   .log = logLine},
-                                   .service = _displays,
-                                   .bundle = {.path = programFile(),
-                                              .name = "Tonquil",
-                                              .shortVersion = TONQUIL_VERSION,
-                                              .build = TONQUIL_VERSION,
-                                              .copyright = TONQUIL_COPYRIGHT},
-                                   .windowMade = windowMade,
-                                   .suspendHotKeys = [this](bool areSuspended) {
-                                       if (_controller) {
-                                           _controller->setHotKeysSuspended(areSuspended);
-                                       }
-                                   }});
+    _windows = std::make_unique<OtherWindows>(OtherWindows::Surroundings{
+        .preferences = {.preferences = _preferences,
+                        .loginItem = _loginItem,
+                        .alerts = _alerts,
+                        .layout = *_keyboardLayout,
+                        .windowSystem = *_windowSystem,
+                        .program = programFile(),
+                        .home = environment("HOME"),
+                        .log = logLine,
+                        .canBeDisturbed = _displays.canBeDisturbed(),
+                        .changeHotKeys = [this] { _portalHotKeys->changeKeys(); }},
+        .service = _displays,
+        .bundle = {.path = programFile(),
+                   .name = "Tonquil",
+                   .shortVersion = TONQUIL_VERSION,
+                   .build = TONQUIL_VERSION,
+                   .copyright = TONQUIL_COPYRIGHT},
+        .windowMade = windowMade,
+        .suspendHotKeys = [this](bool areSuspended) {
+            if (_controller) {
+                _controller->setHotKeysSuspended(areSuspended);
+            }
+        }});
 }
 
 // Nothing may call what goes before it.
@@ -267,6 +273,10 @@ void Program::openWindowSystem() {
 void Program::openKeyboard() {
     _hotKeyService = std::make_unique<MissingHotKeyService>();
     _keyboardLayout = std::make_unique<MissingKeyboardLayout>();
+    if (areWindowsPlacedByDesktop()) {
+        _hotKeyService = makePortalHotKeys();
+        return;
+    }
     if (QGuiApplication::platformName() != QStringLiteral("xcb")) {
         return;
     }
@@ -280,6 +290,33 @@ void Program::openKeyboard() {
     } else {
         report(opened.error());
     }
+}
+
+std::unique_ptr<HotKeyService> Program::makePortalHotKeys() {
+    const auto describe = [](const char* text) {
+        return QCoreApplication::translate("Preferences", text).toStdString();
+    };
+    auto service = std::make_unique<PortalHotKeyService>(PortalHotKeyService::Surroundings{
+        .runLoop = _runLoop,
+        .descriptions = {{hotKeyAction(HotKeyRole::ToggleCorrection),
+                          describe("Switch the correction on or off")},
+                         {hotKeyAction(HotKeyRole::ShowPanel), describe("Show the panel")}},
+        .changed = [this] { showHotKeyAssignment(); },
+        .log = logLine});
+    _portalHotKeys = service.get();
+    return service;
+}
+
+void Program::showHotKeyAssignment() {
+    HotKeyAssignment assignment;
+    if (_portalHotKeys != nullptr) {
+        assignment.chooser =
+            _portalHotKeys->isOffered() ? HotKeyChooser::Desktop : HotKeyChooser::Nobody;
+        for (const HotKeyRole role : {HotKeyRole::ToggleCorrection, HotKeyRole::ShowPanel}) {
+            assignment.triggers[role] = _portalHotKeys->trigger(hotKeyAction(role));
+        }
+    }
+    _windows->showHotKeyAssignment(std::move(assignment));
 }
 
 }  // namespace tonquil

@@ -56,6 +56,7 @@ declare -A arrows=(
     [platform/xdg]="foundation values files plist app/curves app/desktop app/preferences"
     [platform/choice]="foundation files screens platform/simulated platform/wayland platform/x11/displays"
     [platform/xkb]="foundation hotkeys"
+    [platform/portal]="foundation hotkeys platform/dbus platform/xkb"
     [platform/missing]="foundation screens hotkeys app/panel"
     [launcher]=""
     [cli]="foundation values files model screens settings remote"

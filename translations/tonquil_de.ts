@@ -428,6 +428,26 @@
         <source>Remote</source>
         <translation>Fernsteuerung</translation>
     </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>Bedienfeld anzeigen</translation>
+    </message>
+    <message>
+        <source>Not needed here: nothing takes a correction off the displays unnoticed.</source>
+        <translation>Hier nicht nötig: Nichts nimmt eine Korrektur unbemerkt von den Bildschirmen.</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>Im Desktop ändern…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>Dieser Desktop überlässt Tastenkürzel seinen eigenen Einstellungen. Legen Sie dort diese Befehle auf Tasten:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>Noch keine Tasten vergeben</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -702,6 +722,10 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Ein anderes Programm, etwa ein Nachtmodus, hält die Gammatabelle dieses Bildschirms, oder er hat keine.</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>Schalten Sie das Nachtlicht des Desktops aus, oder beenden Sie, was diesen Bildschirm sonst korrigiert. Tonquil übernimmt ihn dann innerhalb von Sekunden.</translation>
     </message>
 </context>
 <context>

@@ -428,6 +428,26 @@
         <source>Remote</source>
         <translation>Control remoto</translation>
     </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>Mostrar el panel</translation>
+    </message>
+    <message>
+        <source>Not needed here: nothing takes a correction off the displays unnoticed.</source>
+        <translation>Aquí no hace falta: nada quita una corrección de las pantallas sin que se note.</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>Cambiar en el escritorio…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>Este escritorio deja los atajos a sus propios ajustes. Asigne allí teclas a estas órdenes:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>Aún sin teclas</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -702,6 +722,10 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Otro programa, como una luz nocturna, tiene la tabla de gamma de esta pantalla, o esta no tiene ninguna.</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>Desactive la luz nocturna del escritorio o cierre lo que corrija esta pantalla. Tonquil se hará cargo de ella en unos segundos.</translation>
     </message>
 </context>
 <context>

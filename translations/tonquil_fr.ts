@@ -428,6 +428,26 @@
         <source>Remote</source>
         <translation>À distance</translation>
     </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>Afficher le panneau</translation>
+    </message>
+    <message>
+        <source>Not needed here: nothing takes a correction off the displays unnoticed.</source>
+        <translation>Inutile ici&#xa0;: rien n’enlève une correction des écrans à l’insu de Tonquil.</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>Modifier dans le bureau…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>Ce bureau laisse les raccourcis à ses propres réglages. Associez-y des touches à ces commandes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>Pas encore de touches</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -702,6 +722,10 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Un autre programme, par exemple un mode nuit, tient la table gamma de cet écran, ou celui-ci n’en a pas.</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>Désactivez l’éclairage nocturne du bureau ou fermez ce qui corrige cet écran. Tonquil le prendra alors en charge en quelques secondes.</translation>
     </message>
 </context>
 <context>

@@ -428,6 +428,26 @@
         <source>Remote</source>
         <translation>リモート</translation>
     </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>パネルを表示</translation>
+    </message>
+    <message>
+        <source>Not needed here: nothing takes a correction off the displays unnoticed.</source>
+        <translation>ここでは不要です。気付かないうちに補正がディスプレイから外れることはありません。</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>デスクトップで変更…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>このデスクトップではショートカットはデスクトップ側で設定します。次のコマンドをキーに割り当ててください:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>キーは未割り当て</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -702,6 +722,10 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>夜間モードなど別のプログラムがこのディスプレイのガンマテーブルを使用しているか、このディスプレイにはガンマテーブルがありません。</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>デスクトップの夜間モードをオフにするか、このディスプレイを補正している別のプログラムを終了してください。数秒以内に Tonquil が引き継ぎます。</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,25 @@
 
 namespace tonquil {
 
+std::string BusArguments::path() const {
+    const char* const path = sd_bus_message_get_path(_message);
+    return path == nullptr ? std::string() : path;
+}
+
+std::optional<std::uint32_t> BusArguments::number() {
+    std::uint32_t value = 0;
+    return sd_bus_message_read_basic(_message, SD_BUS_TYPE_UINT32, &value) > 0
+               ? std::optional(value)
+               : std::nullopt;
+}
+
+std::optional<std::uint64_t> BusArguments::longNumber() {
+    std::uint64_t value = 0;
+    return sd_bus_message_read_basic(_message, SD_BUS_TYPE_UINT64, &value) > 0
+               ? std::optional(value)
+               : std::nullopt;
+}
+
 std::optional<bool> BusArguments::boolean() {
     int value = 0;
     if (sd_bus_message_read_basic(_message, SD_BUS_TYPE_BOOLEAN, &value) <= 0) {
@@ -66,15 +85,40 @@ void BusArguments::eachEntry(const std::function<void(const std::string& key)>& 
     }
     while (sd_bus_message_enter_container(_message, SD_BUS_TYPE_DICT_ENTRY, nullptr) > 0) {
         read(text());
-        // The callback may have left the value unread.
-        if (sd_bus_message_at_end(_message, 0) == 0) {
-            sd_bus_message_skip(_message, nullptr);
-        }
-        if (sd_bus_message_exit_container(_message) < 0) {
+        if (!leave()) {
             return;
         }
     }
     sd_bus_message_exit_container(_message);
+}
+
+void BusArguments::eachStructure(const std::function<void()>& read) {
+    if (sd_bus_message_enter_container(_message, SD_BUS_TYPE_ARRAY, nullptr) <= 0) {
+        return;
+    }
+    while (sd_bus_message_enter_container(_message, SD_BUS_TYPE_STRUCT, nullptr) > 0) {
+        read();
+        if (!leave()) {
+            return;
+        }
+    }
+    sd_bus_message_exit_container(_message);
+}
+
+void BusArguments::insideVariant(const std::function<void()>& read) {
+    if (sd_bus_message_enter_container(_message, SD_BUS_TYPE_VARIANT, nullptr) > 0) {
+        read();
+        static_cast<void>(leave());
+    }
+}
+
+bool BusArguments::leave() {
+    while (sd_bus_message_at_end(_message, 0) == 0) {
+        if (sd_bus_message_skip(_message, nullptr) < 0) {
+            return false;
+        }
+    }
+    return sd_bus_message_exit_container(_message) >= 0;
 }
 
 }  // namespace tonquil

@@ -15,21 +15,6 @@ using std::chrono::microseconds;
 using std::chrono::milliseconds;
 using SteadyClock = std::chrono::steady_clock;
 
-int appendArgument(sd_bus_message* message, const BusConnection::Argument& argument) {
-    if (const auto* text = std::get_if<std::string>(&argument)) {
-        return sd_bus_message_append_basic(message, SD_BUS_TYPE_STRING, text->c_str());
-    }
-    if (const auto* number = std::get_if<std::uint32_t>(&argument)) {
-        return sd_bus_message_append_basic(message, SD_BUS_TYPE_UINT32, number);
-    }
-    int result = sd_bus_message_open_container(message, SD_BUS_TYPE_ARRAY, "s");
-    for (const std::string& text : std::get<std::vector<std::string>>(argument)) {
-        result = std::min(result,
-                          sd_bus_message_append_basic(message, SD_BUS_TYPE_STRING, text.c_str()));
-    }
-    return std::min(result, sd_bus_message_close_container(message));
-}
-
 // Without a callback, sd-bus closes the connection when the bus refuses a match.
 int takeInstallation(sd_bus_message* /*message*/, void* /*call*/, sd_bus_error* /*error*/) {
     return 0;
@@ -82,6 +67,11 @@ void BusConnection::watch(const Signal& signal, Call call) {
     _watches.push_back(std::move(call));
     sd_bus_add_match_async(_bus.get(), nullptr, match.c_str(), &takeSignal, &takeInstallation,
                            &_watches.back());
+}
+
+std::string BusConnection::uniqueName() const {
+    const char* name = nullptr;
+    return sd_bus_get_unique_name(_bus.get(), &name) < 0 ? std::string() : name;
 }
 
 void BusConnection::ask(const Method& method, const std::vector<Argument>& arguments, Call answered,

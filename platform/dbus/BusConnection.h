@@ -7,10 +7,10 @@
 #include <list>
 #include <memory>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "foundation/RunLoop.h"
+#include "platform/dbus/BusArgument.h"
 #include "platform/dbus/BusArguments.h"
 
 namespace tonquil {
@@ -27,7 +27,7 @@ class BusConnection {
     static constexpr std::chrono::milliseconds longestTurn{2};
 
     using Call = std::function<void(BusArguments& arguments)>;
-    using Argument = std::variant<std::string, std::uint32_t, std::vector<std::string>>;
+    using Argument = BusArgument;
 
     /// A signal by interface and name, from any sender.
     struct Signal {
@@ -61,6 +61,8 @@ class BusConnection {
     /// Starts connecting; does nothing for an empty address, which stands for no bus. Call once.
     void open(const std::string& address, Handler handler);
 
+    /// The name that the bus has given the connection, such as ":1.42"; empty before it is open.
+    [[nodiscard]] std::string uniqueName() const;
     /// Calls back with the arguments of each such signal from now on. Only after the connection is
     /// open.
     void watch(const Signal& signal, Call call);

@@ -141,6 +141,21 @@ TEST_F(Preferences, StartRecordingWhenMissingHotKeyIsEnabled) {
     EXPECT_EQ(window.focusWidget(), &window);
 }
 
+TEST_F(Preferences, ShowKeysThatDesktopGivesAndRecordNone) {
+    PreferencesWindow& window = open();
+    controller->showHotKeyAssignment(
+        {.chooser = HotKeyChooser::Desktop, .triggers = {{HotKeyRole::ShowPanel, "Hyper+1"}}});
+    EXPECT_EQ(window.panelHotKeyTrigger->text(), QString());
+    window.panelHotKey->click();
+    EXPECT_EQ(window.panelHotKeyTrigger->text(), QStringLiteral("Hyper+1"));
+    EXPECT_FALSE(window.panelHotKeyField->isVisible() || window.panelHotKeyField->isRecording());
+    EXPECT_FALSE(window.hotKeysByHand->isVisible());
+    controller->showHotKeyAssignment({.chooser = HotKeyChooser::Nobody});
+    EXPECT_FALSE(window.panelHotKey->isVisible() || window.panelHotKeyTrigger->isVisible());
+    EXPECT_THAT(window.hotKeysByHand->text().toStdString(),
+                testing::HasSubstr("tonquil --show-panel"));
+}
+
 TEST_F(Preferences, ReadLowBitsOfHotKeyAndStoreZerosForRemovedOne) {
     store.stored.update({{"UseHotKeyCode", 0x1000C}, {"UseHotKeyModifiers", 0x100000}});
     DDHotKeyTextField& field = *open().hotKeyField;

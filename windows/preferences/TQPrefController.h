@@ -12,6 +12,7 @@
 #include "app/desktop/Alerts.h"
 #include "app/desktop/LoginItem.h"
 #include "app/panel/WindowSystem.h"
+#include "app/preferences/HotKeyAssignment.h"
 #include "app/preferences/PreferencesStore.h"
 #include "app/preferences/StoredHotKey.h"
 #include "foundation/Log.h"
@@ -40,6 +41,10 @@ struct PreferencesSurroundings {
     Log log;
     /// A toolkit below 1138 has no status items, one below 1343 no dark theme.
     int toolkitVersion = 1343;
+    /// Whether a correction can be lost unnoticed, so that applying it again makes sense.
+    bool canBeDisturbed = true;
+    /// Lets the user choose the keys of the hot keys, where the desktop gives them.
+    std::function<void()> changeHotKeys = [] {};
 };
 
 /// Runs the preferences window: each control writes its setting at once, and interested code sees
@@ -69,6 +74,8 @@ class TQPrefController {
     /// Called when the window has closed.
     void setClosed(std::function<void()> closed);
 
+    /// Shows who gives the hot keys their keys, and which.
+    void showHotKeyAssignment(const HotKeyAssignment& assignment);
     /// Shows beside its field why a hot key does not work; an empty sentence clears it.
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence);
     /// The same below the checkbox that allows companions to connect.
@@ -97,6 +104,7 @@ class TQPrefController {
     void bindSettings();
     void followTheme();
     void setBool(std::string_view key, int value);
+    void showTriggers();
     void moveFocus(bool isOn, DDHotKeyTextField& field);
     void setLoginItemEnabled(bool isEnabled);
     void adviseOnPlace();
@@ -106,6 +114,7 @@ class TQPrefController {
     AccessibilityOptions _options;
     std::unique_ptr<PreferencesWindow> _window;
     bool _hasBeenShown = false;
+    HotKeyAssignment _assignment;
     /// Declared to be destroyed before the checkboxes that they are bound to.
     std::vector<std::unique_ptr<SettingBinding>> _bindings;
     std::unique_ptr<PreferencesStore::Subscription> _themeSubscription;
