@@ -433,8 +433,8 @@
         <translation>Bedienfeld anzeigen</translation>
     </message>
     <message>
-        <source>Not needed here: nothing takes a correction off the displays unnoticed.</source>
-        <translation>Hier nicht nötig: Nichts nimmt eine Korrektur unbemerkt von den Bildschirmen.</translation>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>Hier nicht nötig: Keine Korrektur geht unbemerkt verloren.</translation>
     </message>
     <message>
         <source>Change in desktop…</source>

@@ -433,8 +433,8 @@
         <translation>Mostrar el panel</translation>
     </message>
     <message>
-        <source>Not needed here: nothing takes a correction off the displays unnoticed.</source>
-        <translation>Aquí no hace falta: nada quita una corrección de las pantallas sin que se note.</translation>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>Aquí no hace falta: ninguna corrección se pierde sin que se note.</translation>
     </message>
     <message>
         <source>Change in desktop…</source>

@@ -433,8 +433,8 @@
         <translation>Afficher le panneau</translation>
     </message>
     <message>
-        <source>Not needed here: nothing takes a correction off the displays unnoticed.</source>
-        <translation>Inutile ici&#xa0;: rien n’enlève une correction des écrans à l’insu de Tonquil.</translation>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>Inutile ici&#xa0;: aucune correction ne se perd inaperçue.</translation>
     </message>
     <message>
         <source>Change in desktop…</source>

@@ -433,8 +433,8 @@
         <translation>パネルを表示</translation>
     </message>
     <message>
-        <source>Not needed here: nothing takes a correction off the displays unnoticed.</source>
-        <translation>ここでは不要です。気付かないうちに補正がディスプレイから外れることはありません。</translation>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>ここでは不要です。気付かないうちに補正が失われることはありません。</translation>
     </message>
     <message>
         <source>Change in desktop…</source>

@@ -110,8 +110,8 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
       rememberWhenQuitting(
           new FlatCheckBox(Texts::tr("Correct the displays as soon as Tonquil starts"))),
       ContinuouslyApply(new FlatCheckBox(Texts::tr("Apply the curves again every few seconds"))),
-      continuouslyApplyNote(new QLabel(
-          Texts::tr("Not needed here: nothing takes a correction off the displays unnoticed."))),
+      continuouslyApplyNote(
+          new QLabel(Texts::tr("Not needed here: no correction is lost unnoticed."))),
       advancedPanel(new FlatCheckBox(Texts::tr("Show sliders for the single channels"))),
       channelStrip(new FlatCheckBox(Texts::tr("Show the channel strip"))),
       showTargetHints(new FlatCheckBox(Texts::tr("Show hints under targets"))),
