@@ -261,7 +261,7 @@ Result<void> TQController::takeCurves(const HandedCurves& curves) {
         curves, [&](const auto& each) { return each.second->gammaCurveCompactArray() == neutral; });
     {
         const DisplayBatch batch(_with.service);
-        const auto taken = _editing.takeCurves(curves);
+        auto taken = _editing.takeCurves(curves);
         if (!taken) {
             return taken;
         }

@@ -85,7 +85,7 @@ class DisplayService : public SystemCalibration {
     [[nodiscard]] virtual bool canBeDisturbed() const { return true; }
     /// `lost` is called once, from the run loop, when the displays are out of reach for good. A
     /// service that was opened with such a callback may ignore this one.
-    virtual void setWhenLost(std::function<void()> /*lost*/) {}
+    virtual void setWhenLost(const std::function<void()>& /*lost*/) {}
     /// Moves the pointer to a point of the top-down desktop space.
     virtual void warpPointer(const Point& point) = 0;
 

@@ -26,20 +26,20 @@ class Appender {
     }
     void operator()(const BusDictionary& dictionary) {
         inside(SD_BUS_TYPE_ARRAY, "{sv}", [&] {
-            for (const auto& [key, text] : dictionary) {
-                inside(SD_BUS_TYPE_DICT_ENTRY, "sv", [this, &key, &text] {
-                    (*this)(key);
-                    inside(SD_BUS_TYPE_VARIANT, "s", [this, &text] { (*this)(text); });
+            for (const auto& entry : dictionary) {
+                inside(SD_BUS_TYPE_DICT_ENTRY, "sv", [&] {
+                    (*this)(entry.first);
+                    inside(SD_BUS_TYPE_VARIANT, "s", [&] { (*this)(entry.second); });
                 });
             }
         });
     }
     void operator()(const BusNamedDictionaries& named) {
         inside(SD_BUS_TYPE_ARRAY, "(sa{sv})", [&] {
-            for (const auto& [name, dictionary] : named) {
-                inside(SD_BUS_TYPE_STRUCT, "sa{sv}", [this, &name, &dictionary] {
-                    (*this)(name);
-                    (*this)(dictionary);
+            for (const auto& each : named) {
+                inside(SD_BUS_TYPE_STRUCT, "sa{sv}", [&] {
+                    (*this)(each.first);
+                    (*this)(each.second);
                 });
             }
         });

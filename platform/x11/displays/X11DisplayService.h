@@ -42,7 +42,7 @@ class X11DisplayService : public DisplayService {
     void restoreSystemCalibration(std::span<const DisplayID> displays) override;
     [[nodiscard]] std::unique_ptr<Subscription> registerReconfigurationCallback(
         ReconfigurationCallback callback) override;
-    void setWhenLost(std::function<void()> lost) override { _lost = std::move(lost); }
+    void setWhenLost(const std::function<void()>& lost) override { _lost = lost; }
     void warpPointer(const Point& point) override;
 
  protected:
