@@ -3,21 +3,16 @@
 
 #include <QPoint>
 #include <QRect>
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "app/desktop/Alerts.h"
-#include "app/desktop/LoginItem.h"
-#include "app/panel/WindowSystem.h"
 #include "app/preferences/HotKeyAssignment.h"
 #include "app/preferences/PreferencesStore.h"
 #include "app/preferences/StoredHotKey.h"
-#include "foundation/Log.h"
-#include "hotkeys/KeyboardLayout.h"
 #include "ui/theme/Appearance.h"
+#include "windows/preferences/PreferencesSurroundings.h"
 
 class QCheckBox;
 
@@ -27,25 +22,6 @@ class DDHotKeyTextField;
 class PreferencesWindow;
 class RadioMatrix;
 class SettingBinding;
-
-/// What the preferences controller works with. Everything must outlive it.
-struct PreferencesSurroundings {
-    PreferencesStore& preferences;
-    LoginItem& loginItem;
-    Alerts& alerts;
-    const KeyboardLayout& layout;
-    WindowSystem& windowSystem;
-    /// The absolute path of the running program, and the user's home folder.
-    std::filesystem::path program;
-    std::filesystem::path home;
-    Log log;
-    /// A toolkit below 1138 has no status items, one below 1343 no dark theme.
-    int toolkitVersion = 1343;
-    /// Whether a correction can be lost unnoticed, so that applying it again makes sense.
-    bool canBeDisturbed = true;
-    /// Lets the user choose the keys of the hot keys, where the desktop gives them.
-    std::function<void()> changeHotKeys = [] {};
-};
 
 /// Runs the preferences window: each control writes its setting at once, and interested code sees
 /// the change in the preferences store.
