@@ -227,7 +227,7 @@ void TQController::applyAppearance() {
 }
 
 // A new display gets its stored curve; the others keep theirs, which the system may have removed
-// from the hardware during the change.
+// from the hardware during the change. A display's own calibration may be another one now.
 void TQController::updateScreens() {
     _storage.keepPendingEdits();
     {
@@ -239,6 +239,7 @@ void TQController::updateScreens() {
                 screen->adoptGammaCurveDictionary(_storage.storedCurves(), nullptr);
             }
         }
+        adoptCalibration();
         _correction.activateScreens();
     }
     _panelFrame.bringBack();

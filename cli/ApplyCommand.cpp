@@ -86,6 +86,11 @@ Result<void> hold(const Curves& curves, const Arguments& arguments, DisplayServi
             if (flags != beginConfiguration && !std::exchange(isApplicationDue, true)) {
                 loop.post([&] {
                     isApplicationDue = false;
+                    // The change may be that of a colour profile.
+                    registry.updateScreenList();
+                    for (const auto& screen : registry.screens()) {
+                        screen->readBaseGamma();
+                    }
                     // With nothing to correct for the moment, the next change may bring it.
                     static_cast<void>(applyOnce(curves, arguments, service, registry, environment));
                 });
