@@ -167,6 +167,8 @@ void TQController::observeSurroundings() {
     });
     _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
         [this](DisplayID, ReconfigurationFlags flags) {
+            _mayCalibrationHaveChanged =
+                _mayCalibrationHaveChanged || (flags & calibrationChanged) != 0;
             _reconfigurations.displayReconfigured(flags);
         });
 }
@@ -227,7 +229,7 @@ void TQController::applyAppearance() {
 }
 
 // A new display gets its stored curve; the others keep theirs, which the system may have removed
-// from the hardware during the change. A display's own calibration may be another one now.
+// from the hardware during the change.
 void TQController::updateScreens() {
     _storage.keepPendingEdits();
     {
@@ -239,7 +241,9 @@ void TQController::updateScreens() {
                 screen->adoptGammaCurveDictionary(_storage.storedCurves(), nullptr);
             }
         }
-        adoptCalibration();
+        if (std::exchange(_mayCalibrationHaveChanged, false)) {
+            adoptCalibration();
+        }
         _correction.activateScreens();
     }
     _panelFrame.bringBack();
