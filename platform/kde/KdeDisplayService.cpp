@@ -300,6 +300,8 @@ void KdeDisplayService::takeEvents() {
     if (_connection->isLost()) {
         connectionLost();
     }
+    // An output that came has been bound, which has it say what it is.
+    _connection->flush();
 }
 
 void KdeDisplayService::connectionLost() {

@@ -89,9 +89,12 @@ TEST_F(ProgramOnWayland, HoldsACorrectionUntilItIsEnded) {
     EXPECT_EQ(alone->standardError, "tonquilctl: The display server has gone.\n");
 }
 
-TEST_F(ProgramOnKde, NeverLosesThePersonsProfileOrCorrectsTwice) {
+TEST_F(ProgramOnKde, NeverLosesThePersonsProfileAndCorrectsItOnce) {
     compositor.plug("DP-1", 0, 1);
-    const std::vector<std::uint16_t> entries(256, 1000);
+    std::vector<std::uint16_t> entries(256);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        entries[i] = static_cast<std::uint16_t>(900 + 200 * i);
+    }
     const auto profile = buildIccWithTable({entries, entries, entries});
     const KdeCompositor::Choice theirs{state.path() / "their own.icc", 1};
     std::ofstream(theirs.first, std::ios::binary) << std::string(profile.begin(), profile.end());
@@ -113,9 +116,23 @@ TEST_F(ProgramOnKde, NeverLosesThePersonsProfileOrCorrectsTwice) {
         EXPECT_EQ(control(apply).exitStatus, 0);
         EXPECT_EQ(compositor.ramp("DP-1"), once);
     }
+    ProcessRequest elsewhere = request({"read"});
+    elsewhere.environment["XDG_STATE_HOME"] = state.path() / "another";
+    EXPECT_EQ(run(elsewhere).value().standardOutput, base);
     std::filesystem::remove_all(state.path() / "tonquil");
     EXPECT_EQ(control(apply).exitStatus, 0) << "without the note, from a straight line";
+    const HardwareRamp plain = compositor.ramp("DP-1");
     EXPECT_EQ(control({"restore"}).exitStatus, 0);
+    EXPECT_EQ(compositor.choice("DP-1"), KdeCompositor::Choice("", 0));
+
+    compositor.choose("DP-1", theirs);
+    const auto holder =
+        BackgroundProcess::start(request({"apply", "--hold", "--curve", apply[2]})).value();
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == once; }));
+    compositor.choose("DP-1", {"", 0});
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == plain; }));
+    holder->send(SIGTERM);
+    EXPECT_TRUE(holder->wait(20s));
     EXPECT_EQ(compositor.choice("DP-1"), KdeCompositor::Choice("", 0));
 }
 

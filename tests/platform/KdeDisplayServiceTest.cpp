@@ -45,7 +45,7 @@ TEST_F(KdeDisplays, LaysTheCorrectionOverWhateverThePersonChoosesAndGivesThatBac
     const KdeCompositor::Choice ours = compositor.choice("DP-1");
     const KdeCompositor::Choice later = profileWith(3000);
     const std::vector<std::pair<KdeCompositor::Choice, long>> rows{
-        {profileWith(2000), 2000}, {{ours.first, 0}, 32896},  {later, 3000},
+        {profileWith(2000), 2000}, {{ours.first, 0}, 32896},  {later, 3000}, {later, 3000},
         {{"", 0}, 32896},          {{later.first, 2}, 32896}, {later, 3000}};
     for (const auto& [choice, calibration] : rows) {
         SCOPED_TRACE(choice.first + std::to_string(choice.second));
