@@ -50,7 +50,8 @@ TEST_F(KdeDisplays, LaysTheCorrectionOverWhateverThePersonChoosesAndGivesThatBac
     for (const auto& [choice, calibration] : rows) {
         SCOPED_TRACE(choice.first + std::to_string(choice.second));
         compositor.choose("DP-1", choice);
-        EXPECT_TRUE(comesTrue([&] { return base() == calibration && isCorrected("DP-1"); }));
+        EXPECT_TRUE(comesTrue(
+            [&, &wanted = calibration] { return base() == wanted && isCorrected("DP-1"); }));
     }
     service->restoreSystemCalibration();
     EXPECT_TRUE(comesTrue([&] { return compositor.choice("DP-1") == later; }));
