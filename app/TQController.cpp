@@ -167,6 +167,8 @@ void TQController::observeSurroundings() {
     });
     _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
         [this](DisplayID, ReconfigurationFlags flags) {
+            _mayCalibrationHaveChanged =
+                _mayCalibrationHaveChanged || (flags & calibrationChanged) != 0;
             _reconfigurations.displayReconfigured(flags);
         });
 }
@@ -238,6 +240,9 @@ void TQController::updateScreens() {
                 screen->retriveExtendedGammaCurve();
                 screen->adoptGammaCurveDictionary(_storage.storedCurves(), nullptr);
             }
+        }
+        if (std::exchange(_mayCalibrationHaveChanged, false)) {
+            adoptCalibration();
         }
         _correction.activateScreens();
     }

@@ -22,6 +22,8 @@ namespace tonquil {
 using ReconfigurationFlags = std::uint32_t;
 inline constexpr ReconfigurationFlags beginConfiguration = 1;
 inline constexpr ReconfigurationFlags endConfiguration = 2;
+/// Beside `endConfiguration`: the table that is read may be another one now.
+inline constexpr ReconfigurationFlags calibrationChanged = 4;
 
 /// The attached displays and their transfer tables.
 ///

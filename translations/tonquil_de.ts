@@ -703,6 +703,26 @@
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Ein anderes Programm, etwa ein Nachtmodus, hält die Gammatabelle dieses Bildschirms, oder er hat keine.</translation>
     </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>Das Farbprofil mit der Korrektur lässt sich nicht sichern.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>Der Compositor nimmt für diesen Bildschirm kein Farbprofil an, solange HDR eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>Der Compositor lehnt das Farbprofil für diesen Bildschirm ab.</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>Das ist kein KDE-Plasma-Desktop.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>Der Compositor nimmt für diesen Bildschirm kein Farbprofil an.</translation>
+    </message>
 </context>
 <context>
     <name>Targets</name>

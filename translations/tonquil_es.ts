@@ -703,6 +703,26 @@
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Otro programa, como una luz nocturna, tiene la tabla de gamma de esta pantalla, o esta no tiene ninguna.</translation>
     </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>El perfil de color con la corrección no se puede guardar.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>El compositor no acepta ningún perfil de color para esta pantalla mientras HDR está activado.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>El compositor rechaza el perfil de color para esta pantalla.</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>Este no es un escritorio de KDE Plasma.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>El compositor no acepta ningún perfil de color para esta pantalla.</translation>
+    </message>
 </context>
 <context>
     <name>Targets</name>

@@ -703,6 +703,26 @@
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Un autre programme, par exemple un mode nuit, tient la table gamma de cet écran, ou celui-ci n’en a pas.</translation>
     </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>Le profil de couleur avec la correction ne peut pas être enregistré.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>Le compositeur n’accepte pas de profil de couleur pour cet écran tant que le HDR est activé.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>Le compositeur refuse le profil de couleur pour cet écran.</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>Ce bureau n’est pas KDE Plasma.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>Le compositeur n’accepte pas de profil de couleur pour cet écran.</translation>
+    </message>
 </context>
 <context>
     <name>Targets</name>

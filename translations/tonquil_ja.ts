@@ -703,6 +703,26 @@
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>夜間モードなど別のプログラムがこのディスプレイのガンマテーブルを使用しているか、このディスプレイにはガンマテーブルがありません。</translation>
     </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>補正を入れたカラープロファイルを保存できません。</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>HDR がオンの間、コンポジタはこのディスプレイのカラープロファイルを受け付けません。</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>コンポジタがこのディスプレイのカラープロファイルを拒否しました。</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>これは KDE Plasma デスクトップではありません。</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>コンポジタはこのディスプレイのカラープロファイルを受け付けません。</translation>
+    </message>
 </context>
 <context>
     <name>Targets</name>

@@ -7,6 +7,8 @@
 
 #include "files/BoundedFile.h"
 #include "foundation/TranslatableText.h"
+#include "platform/folders/XdgFolders.h"
+#include "platform/kde/KdeDisplayService.h"
 #include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/simulated/SimulatedDisplayService.h"
 #include "platform/wayland/WlrDisplayService.h"
@@ -57,6 +59,20 @@ Result<std::unique_ptr<DisplayService>> openX11(RunLoop* runLoop, const Log& log
     return std::move(*service);
 }
 
+Result<std::unique_ptr<DisplayService>> openKde(RunLoop* runLoop, const Log& log,
+                                                const std::function<void()>& lost) {
+    const auto folders = XdgFolders::fromEnvironment();
+    if (!folders) {
+        return tl::unexpected(folders.error());
+    }
+    auto service = KdeDisplayService::open(
+        nullptr, {.state = folders->state(), .runLoop = runLoop, .log = log, .lost = lost});
+    if (!service) {
+        return tl::unexpected(std::move(service.error()));
+    }
+    return std::move(*service);
+}
+
 Result<std::unique_ptr<DisplayService>> openWlr(RunLoop* runLoop, const Log& log,
                                                 const std::function<void()>& lost) {
     auto service = WlrDisplayService::open(nullptr, {.runLoop = runLoop, .log = log, .lost = lost});
@@ -69,7 +85,7 @@ Result<std::unique_ptr<DisplayService>> openWlr(RunLoop* runLoop, const Log& log
 }  // namespace
 
 bool isWaylandServed() {
-    return WlrDisplayService::isOffered();
+    return KdeDisplayService::isOffered() || WlrDisplayService::isOffered();
 }
 
 Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop, const Log& log,
@@ -78,9 +94,15 @@ Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop, c
     if (wanted == "simulated") {
         return openSimulated(log);
     }
-    if (!wanted.empty() && wanted != "wlr" && wanted != "x11") {
+    if (!wanted.empty() && wanted != "kde" && wanted != "wlr" && wanted != "x11") {
         return problem("TONQUIL_DISPLAY_SERVICE is \"" + std::string(wanted) +
-                       "\"; it can be wlr, x11 or simulated.");
+                       "\"; it can be kde, wlr, x11 or simulated.");
+    }
+    if (wanted == "kde" || (wanted.empty() && !environment("WAYLAND_DISPLAY").empty())) {
+        auto service = openKde(runLoop, log, lost);
+        if (service || wanted == "kde") {
+            return service;
+        }
     }
     if (wanted == "wlr" || (wanted.empty() && !environment("WAYLAND_DISPLAY").empty())) {
         auto service = openWlr(runLoop, log, lost);

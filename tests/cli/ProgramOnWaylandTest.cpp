@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <thread>
 
 #include "tests/cli/ControlProgram.h"
 #include "tests/support/GammaCompositor.h"
+#include "tests/support/IccBuilder.h"
+#include "tests/support/KdeCompositor.h"
 #include "values/BoundedJson.h"
 
 namespace tonquil {
@@ -22,20 +25,25 @@ bool comesTrue(Question isSo) {
     return isSo();
 }
 
-class ProgramOnWayland : public testing::Test {
+template <typename Compositor>
+class ProgramOn : public testing::Test {
  protected:
     ProcessRequest request(const std::vector<std::string>& arguments) {
         ProcessRequest request = tonquilctlRequest("", arguments);
         std::erase(request.unset, "WAYLAND_DISPLAY");
         request.environment["WAYLAND_DISPLAY"] = compositor.socket();
+        request.environment["XDG_STATE_HOME"] = state.path();
         return request;
     }
     ProcessResult control(const std::vector<std::string>& arguments) {
         return run(request(arguments)).value();
     }
 
-    GammaCompositor compositor;
+    ScratchFolder state;
+    Compositor compositor;
 };
+using ProgramOnWayland = ProgramOn<GammaCompositor>;
+using ProgramOnKde = ProgramOn<KdeCompositor>;
 
 TEST_F(ProgramOnWayland, SaysWhatADesktopThatOnlyLendsItsTablesCannotDo) {
     compositor.plug("DP-1", 0, 1024);
@@ -79,6 +87,53 @@ TEST_F(ProgramOnWayland, HoldsACorrectionUntilItIsEnded) {
     ASSERT_TRUE(alone);
     EXPECT_EQ(alone->exitStatus, 1);
     EXPECT_EQ(alone->standardError, "tonquilctl: The display server has gone.\n");
+}
+
+TEST_F(ProgramOnKde, NeverLosesThePersonsProfileAndCorrectsItOnce) {
+    compositor.plug("DP-1", 0, 1);
+    std::vector<std::uint16_t> entries(256);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        entries[i] = static_cast<std::uint16_t>(900 + 200 * i);
+    }
+    const auto profile = buildIccWithTable({entries, entries, entries});
+    const KdeCompositor::Choice theirs{state.path() / "their own.icc", 1};
+    std::ofstream(theirs.first, std::ios::binary) << std::string(profile.begin(), profile.end());
+    compositor.choose("DP-1", theirs);
+    const std::string base = control({"read"}).standardOutput;
+    const std::vector<std::string> apply{"apply", "--curve", "[1,0,0.5]"};
+    EXPECT_EQ(control(apply).exitStatus, 0);
+    const HardwareRamp once = compositor.ramp("DP-1");
+    for (const bool isHeard : {false, true, true}) {
+        EXPECT_EQ(control({"restore"}).exitStatus, 0);
+        EXPECT_EQ(compositor.choice("DP-1"), theirs);
+        compositor.stopAtChange();
+        const auto killed = BackgroundProcess::start(request(apply)).value();
+        ASSERT_TRUE(comesTrue([&] { return compositor.isStopped(); }));
+        killed->kill();
+        compositor.goOn(isHeard);
+        EXPECT_EQ(compositor.choice("DP-1") != theirs, isHeard);
+        EXPECT_EQ(control({"read"}).standardOutput, base);
+        EXPECT_EQ(control(apply).exitStatus, 0);
+        EXPECT_EQ(compositor.ramp("DP-1"), once);
+    }
+    ProcessRequest elsewhere = request({"read"});
+    elsewhere.environment["XDG_STATE_HOME"] = state.path() / "another";
+    EXPECT_EQ(run(elsewhere).value().standardOutput, base);
+    std::filesystem::remove_all(state.path() / "tonquil");
+    EXPECT_EQ(control(apply).exitStatus, 0) << "without the note, from a straight line";
+    const HardwareRamp plain = compositor.ramp("DP-1");
+    EXPECT_EQ(control({"restore"}).exitStatus, 0);
+    EXPECT_EQ(compositor.choice("DP-1"), KdeCompositor::Choice("", 0));
+
+    compositor.choose("DP-1", theirs);
+    const auto holder =
+        BackgroundProcess::start(request({"apply", "--hold", "--curve", apply[2]})).value();
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == once; }));
+    compositor.choose("DP-1", {"", 0});
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == plain; }));
+    holder->send(SIGTERM);
+    EXPECT_TRUE(holder->wait(20s));
+    EXPECT_EQ(compositor.choice("DP-1"), KdeCompositor::Choice("", 0));
 }
 
 }  // namespace

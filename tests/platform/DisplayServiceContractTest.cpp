@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/kde/KdeDisplayService.h"
 #include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/simulated/SimulatedDisplayService.h"
 #include "platform/wayland/WlrDisplayService.h"
@@ -13,6 +14,7 @@
 #include "tests/support/EdidBuilder.h"
 #include "tests/support/GammaCompositor.h"
 #include "tests/support/IccBuilder.h"
+#include "tests/support/KdeCompositor.h"
 #include "tests/support/RampReader.h"
 #include "tests/support/Succeeded.h"
 #include "tests/support/XServer.h"
@@ -36,6 +38,14 @@ class ServiceBench {
     /// Publishes a colour profile whose calibration is this ramp.
     virtual void publishProfile(int /*display*/, const HardwareRamp& /*ramp*/) {}
 };
+
+Ramp plain(const HardwareRamp& ramp) {
+    const auto channel = [&](std::size_t index) {
+        const auto entries = ramp.channel(index);
+        return std::vector<std::uint16_t>(entries.begin(), entries.end());
+    };
+    return {.red = channel(0), .green = channel(1), .blue = channel(2)};
+}
 
 class SimulatedBench : public ServiceBench {
  public:
@@ -90,14 +100,6 @@ class X11Bench : public ServiceBench {
     void plugSecond() override { mustSucceed(_server->plug("DUMMY1", "1280x1024")); }
 
  private:
-    static Ramp plain(const HardwareRamp& ramp) {
-        const auto channel = [&](std::size_t index) {
-            const auto entries = ramp.channel(index);
-            return std::vector<std::uint16_t>(entries.begin(), entries.end());
-        };
-        return {.red = channel(0), .green = channel(1), .blue = channel(2)};
-    }
-
     const std::vector<std::string> connectors{"DUMMY0", "DUMMY1"};
     std::unique_ptr<XServer> _server = XServer::start().value();
     RampReader _reader = RampReader::connect(_server->display()).value();
@@ -133,6 +135,36 @@ class WlrBench : public ServiceBench {
     GammaCompositor _compositor;
 };
 
+class KdeBench : public ServiceBench {
+ public:
+    KdeBench() {
+        KdeBench::plugSecond();
+        _compositor.plug("DP-1", 0, 1);
+    }
+
+    std::unique_ptr<DisplayService> openService(Log log) override {
+        return KdeDisplayService::open(_compositor.socket().c_str(),
+                                       {.state = _folder.path() / "state", .log = std::move(log)})
+            .value();
+    }
+    HardwareRamp hardwareRamp(int display) override {
+        return _compositor.ramp("DP-" + std::to_string(display + 1));
+    }
+    void publishProfile(int display, const HardwareRamp& ramp) override {
+        const std::string path = _folder.path() / ("their " + std::to_string(++_profiles));
+        const auto profile = buildIccWithTable(plain(ramp));
+        std::ofstream(path, std::ios::binary) << std::string(profile.begin(), profile.end());
+        _compositor.choose("DP-" + std::to_string(display + 1), {path, 1});
+    }
+    void unplugSecond() override { _compositor.unplug("DP-2"); }
+    void plugSecond() override { _compositor.plug("DP-2", 1920, 2); }
+
+ private:
+    ScratchFolder _folder;
+    int _profiles = 0;
+    KdeCompositor _compositor;
+};
+
 /// What every display service owes.
 class DisplayServiceContract : public testing::TestWithParam<std::unique_ptr<ServiceBench> (*)()> {
  protected:
@@ -153,7 +185,10 @@ class DisplayServiceContract : public testing::TestWithParam<std::unique_ptr<Ser
     std::unique_ptr<DisplayService> service = open();
 };
 
-/// What those owe besides whose displays other programs can set at any time.
+/// What those owe besides where a correction outlives its program.
+class LastingTablesContract : public DisplayServiceContract {};
+
+/// And those whose displays other programs can set at any time.
 class SharedTablesContract : public DisplayServiceContract {};
 
 /// A table of whole 16-bit entries, so that it comes back as it was.
@@ -218,7 +253,7 @@ TEST_P(SharedTablesContract, TakesAForeignRampForTheSystemsOnlyWhileItHoldsNoCor
     EXPECT_EQ(bench->hardwareRamp(0), rampOf(tableOf(4))) << "found at a start";
 }
 
-TEST_P(SharedTablesContract, RecognisesACorrectionHoweverManyOthersSetSince) {
+TEST_P(LastingTablesContract, RecognisesACorrectionHoweverManyOthersSetSince) {
     const GammaTable system = read(0);
     const auto other = open();
     for (const int count : {1, 1, 300, 1}) {
@@ -233,7 +268,7 @@ TEST_P(SharedTablesContract, RecognisesACorrectionHoweverManyOthersSetSince) {
     }
 }
 
-TEST_P(SharedTablesContract, TheProfilesCalibrationIsTheSystemsWhereThereIsOne) {
+TEST_P(LastingTablesContract, TheProfilesCalibrationIsTheSystemsWhereThereIsOne) {
     service->setTransferTable(display(0), tableOf(1));
     service->setTransferTable(display(1), tableOf(1));
     for (const int seed : {3, 4}) {
@@ -296,10 +331,14 @@ std::unique_ptr<ServiceBench> make() {
     return std::make_unique<Bench>();
 }
 constexpr auto nameOf = [](const auto& each) {
-    return std::vector{"Simulated", "X11", "Wlr"}.at(each.index);
+    return std::vector{"Simulated", "X11", "Kde", "Wlr"}.at(each.index);
 };
 INSTANTIATE_TEST_SUITE_P(Services, DisplayServiceContract,
-                         testing::Values(make<SimulatedBench>, make<X11Bench>, make<WlrBench>),
+                         testing::Values(make<SimulatedBench>, make<X11Bench>, make<KdeBench>,
+                                         make<WlrBench>),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(Services, LastingTablesContract,
+                         testing::Values(make<SimulatedBench>, make<X11Bench>, make<KdeBench>),
                          nameOf);
 INSTANTIATE_TEST_SUITE_P(Services, SharedTablesContract,
                          testing::Values(make<SimulatedBench>, make<X11Bench>), nameOf);

@@ -3,63 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/platform/KeptDisplays.h"
 #include "tests/support/GammaCompositor.h"
-#include "tests/support/ManualRunLoop.h"
 
 namespace tonquil {
 namespace {
 
 using namespace std::chrono_literals;
 
-/// A program that keeps a table on every display.
-class WlrDisplays : public testing::Test {
- protected:
-    WlrDisplays() { table.levels.fill(0.25F); }
-    void open() {
-        service = WlrDisplayService::open(
-                      compositor.socket().c_str(),
-                      {.runLoop = &loop,
-                       .log = [this](std::string_view line) { log.emplace_back(line); },
-                       .lost = [this] { ++losses; }})
-                      .value();
-        subscription =
-            service->registerReconfigurationCallback([this](DisplayID, ReconfigurationFlags flags) {
-                if (flags != beginConfiguration) {
-                    correct();
-                }
-            });
-        correct();
-    }
-    void correct() {
-        const DisplayBatch batch(*service);
-        for (const DisplayID display : service->onlineDisplays(25)) {
-            service->setTransferTable(display, table);
-        }
-    }
-    /// Lets events come and the quiet time pass until it is so.
-    bool comesTrue(const std::function<bool()>& isSo) {
-        for (int turn = 0; turn < 2500 && !isSo(); ++turn) {
-            if (loop.pollReadable(2ms) == 0) {
-                loop.advance(WlrDisplayService::quietTime);
-            }
-        }
-        return isSo();
-    }
-    bool isCorrected(const std::string& name) {
-        HardwareRamp ramp(compositor.ramp(name).size());
-        ramp.setTable(table);
-        return compositor.ramp(name) == ramp && ramp.size() >= 2;
-    }
-    bool isObstructed() { return !service->description(0).obstacle.empty(); }
-
-    ManualRunLoop loop;
-    std::vector<std::string> log;
-    GammaTable table;
-    int losses = 0;
-    GammaCompositor compositor;
-    std::unique_ptr<WlrDisplayService> service;
-    std::unique_ptr<DisplayService::Subscription> subscription;
-};
+using WlrDisplays = KeptDisplays<WlrDisplayService, GammaCompositor>;
 
 TEST_F(WlrDisplays, TellsADisplayThatCannotBeCorrectedAndCorrectsItWhenTheCauseGoes) {
     struct Row {
