@@ -133,6 +133,7 @@ bool TQController::checkForConflict() {
 
 void TQController::_initDefaults() {
     _with.preferences.registerDefaults(registeredDefaults());
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
 }
 
 void TQController::_adoptDefaultCurves() {
@@ -167,7 +168,11 @@ void TQController::observeSurroundings() {
     });
     _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
         [this](DisplayID, ReconfigurationFlags flags) {
-            _reconfigurations.displayReconfigured(flags);
+            if (flags == calibrationChanged) {
+                sessionEvent(SessionEvent::ColourSpaceChanged);
+            } else {
+                _reconfigurations.displayReconfigured(flags);
+            }
         });
 }
 
@@ -205,6 +210,7 @@ void TQController::_changedDefaults() {
 // It is only followed, never written back: that would undo a change that another program made
 // since.
 void TQController::_applyDefaultsToPanel() {
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
     if (applyCorrection() != _correction.isActive()) {
         _correction.switchTo(applyCorrection());
     }
