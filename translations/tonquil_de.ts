@@ -428,6 +428,10 @@
         <source>Remote</source>
         <translation>Fernsteuerung</translation>
     </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Nachtlicht beibehalten</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -702,6 +706,18 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Ein anderes Programm, etwa ein Nachtmodus, hält die Gammatabelle dieses Bildschirms, oder er hat keine.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Ein anderes Programm kalibriert diesen Bildschirm gerade.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>Der Compositor lässt nicht zu, dass dieser Bildschirm korrigiert wird.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Der Sitzungsbus antwortet nicht.</translation>
     </message>
 </context>
 <context>

@@ -428,6 +428,10 @@
         <source>Remote</source>
         <translation>Control remoto</translation>
     </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Conservar la luz nocturna</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -702,6 +706,18 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Otro programa, como una luz nocturna, tiene la tabla de gamma de esta pantalla, o esta no tiene ninguna.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Otro programa está calibrando esta pantalla.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>El compositor no permite corregir esta pantalla.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>El bus de sesión no responde.</translation>
     </message>
 </context>
 <context>

@@ -428,6 +428,10 @@
         <source>Remote</source>
         <translation>À distance</translation>
     </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Conserver l’éclairage nocturne</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -702,6 +706,18 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Un autre programme, par exemple un mode nuit, tient la table gamma de cet écran, ou celui-ci n’en a pas.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Un autre programme étalonne cet écran.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>Le compositeur refuse que cet écran soit corrigé.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Le bus de session ne répond pas.</translation>
     </message>
 </context>
 <context>

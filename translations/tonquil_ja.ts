@@ -428,6 +428,10 @@
         <source>Remote</source>
         <translation>リモート</translation>
     </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>夜間モードの色を保つ</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -702,6 +706,18 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>夜間モードなど別のプログラムがこのディスプレイのガンマテーブルを使用しているか、このディスプレイにはガンマテーブルがありません。</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>別のプログラムがこのディスプレイをキャリブレーション中です。</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>コンポジタがこのディスプレイの補正を拒否しています。</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>セッションバスが応答しません。</translation>
     </message>
 </context>
 <context>
