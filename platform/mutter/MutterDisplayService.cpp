@@ -272,20 +272,22 @@ bool MutterDisplayService::endBatch() {
     }
     if (_isStarting && !sent.empty()) {
         // Without a run loop nobody will be here to hear later that a ramp was refused.
-        _allReached = wait([this] { return _gamma->isIdle(); },
-                           _with.runLoop == nullptr ? _with.longestAnswer : longestFirstRamps) &&
-                      _allReached;
+        static_cast<void>(wait([this] { return _gamma->isIdle(); },
+                               _with.runLoop == nullptr ? _with.longestAnswer : longestFirstRamps));
         if (!_isObserved) {
             _listing.begin(layout());
         }
     }
+    if (_isLost) {
+        return false;
+    }
     for (const DisplayID display : sent) {
         _allReached = isReached(display) && _allReached;
     }
-    return _allReached && !_isLost;
+    return _allReached;
 }
 
-// While the run loop runs only what is known already counts.
+// With a run loop only what is known already counts: the rest is still on its way.
 bool MutterDisplayService::isReached(DisplayID display) {
     const MutterDisplay* const found = _displays.find(display);
     if (found == nullptr) {
@@ -293,7 +295,7 @@ bool MutterDisplayService::isReached(DisplayID display) {
     }
     const std::string& connector = found->listed.connector;
     const auto state = _gamma->state(connector);
-    if (state.obstacle.empty() && (state.isReached || !_isStarting)) {
+    if (state.obstacle.empty() && (state.isReached || _with.runLoop != nullptr)) {
         return true;
     }
     if (!found->table && !state.hasRamp) {

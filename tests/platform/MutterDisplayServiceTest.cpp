@@ -154,6 +154,7 @@ TEST_P(CalibratedMutterDisplays, KeepTheNightLightsColourUnlessTold) {
 
 TEST_P(OlderMutterDisplays, TryAgainWithTheNewSerialOnlyOnce) {
     desk.tell("desk.plug('DP-1', 0, 1024)");
+    desk.tell("desk.set_night(True, 3000)");
     open();
     EXPECT_TRUE(isCorrected("DP-1"));
     desk.tell("setattr(desk, 'serial', 99)");
@@ -171,7 +172,6 @@ TEST_P(OlderMutterDisplays, TryAgainWithTheNewSerialOnlyOnce) {
     EXPECT_FALSE(isCorrected("DP-1"));
     correct();
     EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
-    desk.tell("desk.set_night(True, 3000)");
     service->restoreSystemCalibration();
     const auto blue = [&] { return desk.ramp("DP-1").channel(2)[1023]; };
     EXPECT_TRUE(comesTrue([&] { return blue() < 30'000; })) << "the night light as it was";

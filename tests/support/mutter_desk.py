@@ -90,7 +90,7 @@ class Desk(dbus.service.FallbackObject):
 
     def change(self):
         self.serial += 1
-        self.MonitorsChanged(rel="gnome/Mutter/DisplayConfig")
+        self.MonitorsChanged(rel="org/gnome/Mutter/DisplayConfig")
 
     def refuse(self, name, refusal, times=-1):
         self.monitors[name].refusal, self.monitors[name].refusals = refusal, times
@@ -116,19 +116,19 @@ class Desk(dbus.service.FallbackObject):
 
     # Signals; `rel` is the object that sends them.
     @dbus.service.signal(CONFIG, "", rel_path_keyword="rel")
-    def MonitorsChanged(self, rel):
+    def MonitorsChanged(self, rel=""):
         pass
 
     @dbus.service.signal(CALIBRATION, "", rel_path_keyword="rel")
-    def Stopped(self, rel):
+    def Stopped(self, rel=""):
         pass
 
     @dbus.service.signal(COLORD, "o", rel_path_keyword="rel")
-    def DeviceChanged(self, device, rel):
+    def DeviceChanged(self, device, rel=""):
         pass
 
     @dbus.service.signal(PROPERTIES, "sa{sv}as", rel_path_keyword="rel")
-    def PropertiesChanged(self, interface, changed, gone, rel):
+    def PropertiesChanged(self, interface, changed, gone, rel=""):
         pass
 
     # The compositor.
