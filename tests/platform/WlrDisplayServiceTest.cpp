@@ -3,8 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "tests/support/GammaCompositor.h"
+#include "tests/support/IccBuilder.h"
 #include "tests/support/ManualRunLoop.h"
+#include "tests/support/MutterDesk.h"
 
 namespace tonquil {
 namespace {
@@ -20,7 +24,8 @@ class WlrDisplays : public testing::Test {
                       compositor.socket().c_str(),
                       {.runLoop = &loop,
                        .log = [this](std::string_view line) { log.emplace_back(line); },
-                       .lost = [this] { ++losses; }})
+                       .lost = [this] { ++losses; },
+                       .systemBus = systemBus})
                       .value();
         subscription =
             service->registerReconfigurationCallback([this](DisplayID, ReconfigurationFlags flags) {
@@ -56,6 +61,7 @@ class WlrDisplays : public testing::Test {
     std::vector<std::string> log;
     GammaTable table;
     int losses = 0;
+    std::string systemBus;
     GammaCompositor compositor;
     std::unique_ptr<WlrDisplayService> service;
     std::unique_ptr<DisplayService::Subscription> subscription;
@@ -128,6 +134,27 @@ TEST_F(WlrDisplays, LeavesADisplayToOthersWhileItIsNotCorrected) {
     EXPECT_TRUE(comesTrue([&] { return !compositor.isHeld("DP-1"); }));
     correct();
     EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+}
+
+TEST_F(WlrDisplays, HasTheCalibrationOfTheProfileThatTheColourServiceNames) {
+    MutterDesk desk(false);
+    ScratchFolder folder;
+    const auto profile = buildIccWithFormula({{{.max = 0.5}, {.max = 0.5}, {.max = 0.5}}});
+    std::ofstream(folder.path() / "profile", std::ios::binary)
+        << std::string(profile.begin(), profile.end());
+    desk.tell("desk.plug('DP-1', 0)");
+    compositor.plug("DP-1", 0, 1024);
+    systemBus = desk.address();
+    open();
+    GammaTable base;
+    const auto brightest = [&] {
+        EXPECT_EQ(service->getTransferTable(0, base), 256U);
+        return base.channel(1)[255];
+    };
+    EXPECT_EQ(brightest(), 1.0F) << "nothing is waited for";
+    desk.tell("desk.set_profile('DP-1', '" + (folder.path() / "profile").native() + "')");
+    EXPECT_TRUE(comesTrue([&] { return brightest() < 0.51F; }));
+    EXPECT_NEAR(brightest(), 0.5F, 1e-4F);
 }
 
 TEST_F(WlrDisplays, EndsInOrderWhenTheCompositorDies) {

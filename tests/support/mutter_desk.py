@@ -10,6 +10,7 @@ import sys
 
 import dbus
 import dbus.bus
+import dbus.lowlevel
 import dbus.mainloop.glib
 import dbus.service
 from gi.repository import GLib
@@ -75,6 +76,11 @@ class Desk(dbus.service.FallbackObject):
             raise dbus.DBusException(STALE, name="org.freedesktop.DBus.Error.AccessDenied")
         return list(self.monitors.values())[crtc]
 
+    def say(self, path, interface, name, signature="", *arguments):
+        signal = dbus.lowlevel.SignalMessage(path, interface, name)
+        signal.append(signature=signature, *arguments)
+        connection.send_message(signal)
+
     # What the tests do.
     @dbus.service.method("org.example.Test", "s", "s")
     def Do(self, line):
@@ -90,46 +96,27 @@ class Desk(dbus.service.FallbackObject):
 
     def change(self):
         self.serial += 1
-        self.MonitorsChanged(rel="org/gnome/Mutter/DisplayConfig")
+        self.say("/org/gnome/Mutter/DisplayConfig", CONFIG, "MonitorsChanged")
 
     def refuse(self, name, refusal, times=-1):
         self.monitors[name].refusal, self.monitors[name].refusals = refusal, times
 
-    def resize(self, name, size):
-        self.monitors[name].size = size
-
     def stop_sessions(self):
         for monitor in self.monitors.values():
-            self.Stopped(rel=monitor.session[1:])
+            self.say(monitor.session, CALIBRATION, "Stopped")
             monitor.release()
 
     def set_profile(self, name, file):
         self.monitors[name].profile = file
-        self.DeviceChanged("/", rel="colord")
+        self.say("/colord", COLORD, "DeviceChanged", "o", "/")
 
     def set_night(self, is_active, kelvin):
         self.night.update({"Temperature": dbus.UInt32(kelvin), "NightLightActive": is_active})
-        self.PropertiesChanged(NIGHT, self.night, [], rel="org/gnome/SettingsDaemon/Color")
+        self.say("/org/gnome/SettingsDaemon/Color", PROPERTIES, "PropertiesChanged", "sa{sv}as",
+                 NIGHT, self.night, [])
 
     def ramp(self, name):
         return self.monitors[name].ramp.hex()
-
-    # Signals; `rel` is the object that sends them.
-    @dbus.service.signal(CONFIG, "", rel_path_keyword="rel")
-    def MonitorsChanged(self, rel=""):
-        pass
-
-    @dbus.service.signal(CALIBRATION, "", rel_path_keyword="rel")
-    def Stopped(self, rel=""):
-        pass
-
-    @dbus.service.signal(COLORD, "o", rel_path_keyword="rel")
-    def DeviceChanged(self, device, rel=""):
-        pass
-
-    @dbus.service.signal(PROPERTIES, "sa{sv}as", rel_path_keyword="rel")
-    def PropertiesChanged(self, interface, changed, gone, rel=""):
-        pass
 
     # The compositor.
     @dbus.service.method(CONFIG, "", "ua((ssss)a(siiddada{sv})a{sv})a(iiduba(ssss)a{sv})a{sv}")
