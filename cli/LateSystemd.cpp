@@ -40,9 +40,9 @@ extern "C" {
 
 int sd_bus_add_match_async(sd_bus* bus, sd_bus_slot** slot, const char* match,
                            sd_bus_message_handler_t callback,
-                           sd_bus_message_handler_t installCallback, void* userdata) {
+                           sd_bus_message_handler_t install_callback, void* userdata) {
     return late<&sd_bus_add_match_async>("sd_bus_add_match_async", bus, slot, match, callback,
-                                         installCallback, userdata);
+                                         install_callback, userdata);
 }
 int sd_bus_call_async(sd_bus* bus, sd_bus_slot** slot, sd_bus_message* message,
                       sd_bus_message_handler_t callback, void* userdata, uint64_t usec) {
@@ -58,8 +58,8 @@ int sd_bus_get_events(sd_bus* bus) {
 int sd_bus_get_fd(sd_bus* bus) {
     return late<&sd_bus_get_fd>("sd_bus_get_fd", bus);
 }
-int sd_bus_get_timeout(sd_bus* bus, uint64_t* timeoutUsec) {
-    return late<&sd_bus_get_timeout>("sd_bus_get_timeout", bus, timeoutUsec);
+int sd_bus_get_timeout(sd_bus* bus, uint64_t* timeout_usec) {
+    return late<&sd_bus_get_timeout>("sd_bus_get_timeout", bus, timeout_usec);
 }
 int sd_bus_is_open(sd_bus* bus) {
     return late<&sd_bus_is_open>("sd_bus_is_open", bus);
@@ -71,8 +71,8 @@ int sd_bus_message_append_array(sd_bus_message* message, char type, const void* 
     return late<&sd_bus_message_append_array>("sd_bus_message_append_array", message, type, ptr,
                                               size);
 }
-int sd_bus_message_append_basic(sd_bus_message* message, char type, const void* value) {
-    return late<&sd_bus_message_append_basic>("sd_bus_message_append_basic", message, type, value);
+int sd_bus_message_append_basic(sd_bus_message* message, char type, const void* p) {
+    return late<&sd_bus_message_append_basic>("sd_bus_message_append_basic", message, type, p);
 }
 int sd_bus_message_at_end(sd_bus_message* message, int complete) {
     return late<&sd_bus_message_at_end>("sd_bus_message_at_end", message, complete);
@@ -111,8 +111,8 @@ int sd_bus_message_peek_type(sd_bus_message* message, char* type, const char** c
 int sd_bus_message_read_array(sd_bus_message* message, char type, const void** ptr, size_t* size) {
     return late<&sd_bus_message_read_array>("sd_bus_message_read_array", message, type, ptr, size);
 }
-int sd_bus_message_read_basic(sd_bus_message* message, char type, void* value) {
-    return late<&sd_bus_message_read_basic>("sd_bus_message_read_basic", message, type, value);
+int sd_bus_message_read_basic(sd_bus_message* message, char type, void* p) {
+    return late<&sd_bus_message_read_basic>("sd_bus_message_read_basic", message, type, p);
 }
 int sd_bus_message_skip(sd_bus_message* message, const char* types) {
     return late<&sd_bus_message_skip>("sd_bus_message_skip", message, types);
@@ -138,8 +138,8 @@ int sd_bus_set_bus_client(sd_bus* bus, int b) {
 int sd_bus_start(sd_bus* bus) {
     return late<&sd_bus_start>("sd_bus_start", bus);
 }
-int sd_bus_wait(sd_bus* bus, uint64_t timeoutUsec) {
-    return late<&sd_bus_wait>("sd_bus_wait", bus, timeoutUsec);
+int sd_bus_wait(sd_bus* bus, uint64_t timeout_usec) {
+    return late<&sd_bus_wait>("sd_bus_wait", bus, timeout_usec);
 }
 
 }  // extern "C"

@@ -52,6 +52,8 @@ MutterDisplayService::MutterDisplayService(Surroundings with)
 
 // What other programs are to find on the hardware must have left.
 MutterDisplayService::~MutterDisplayService() {
+    // Nobody is told any more.
+    _isLost = true;
     if (_gamma && _generation == Generation::Crtc) {
         static_cast<void>(wait([this] { return _gamma->isIdle(); }, longestFirstRamps));
     }
