@@ -29,16 +29,12 @@ class Monitor:
     def __init__(self, x, size):
         self.x, self.size = x, size
         self.refusal, self.refusals = "", 0
-        self.profile = ""
-        # Who has the session, and where it is.
-        self.holder, self.session = "", ""
-        self.sets = 0
+        self.profile, self.sets = "", 0
         self.release()
 
     def release(self):
-        """The compositor's own colour management takes over; the tests read an empty ramp so."""
         self.holder = self.session = ""
-        self.ramp = b""
+        self.ramp = b""  # The compositor's own.
 
     def refuse(self):
         if self.refusals != 0:
@@ -49,7 +45,7 @@ class Monitor:
         if any(len(channel) != self.size for channel in channels):
             raise dbus.DBusException("wrong length")
         self.sets += 1
-        self.ramp = b"".join(struct.pack(f"<{len(each)}H", *each) for each in channels)
+        self.ramp = b"".join(struct.pack(f">{len(each)}H", *each) for each in channels)
 
 
 class Desk(dbus.service.FallbackObject):
@@ -114,9 +110,6 @@ class Desk(dbus.service.FallbackObject):
         self.night.update({"Temperature": dbus.UInt32(kelvin), "NightLightActive": is_active})
         self.say("/org/gnome/SettingsDaemon/Color", PROPERTIES, "PropertiesChanged", "sa{sv}as",
                  NIGHT, self.night, [])
-
-    def ramp(self, name):
-        return self.monitors[name].ramp.hex()
 
     # The compositor.
     @dbus.service.method(CONFIG, "", "ua((ssss)a(siiddada{sv})a{sv})a(iiduba(ssss)a{sv})a{sv}")
