@@ -98,7 +98,7 @@ TEST_P(CalibratedMutterDisplays, TellWhyTheyCannotBeCorrectedUntilTheCauseGoes) 
         }
         log.clear();
         open();
-        EXPECT_TRUE(isObstructed()) << "waited for before the loop runs";
+        EXPECT_TRUE(comesTrue([&] { return isObstructed(); }));
         EXPECT_EQ(desk.tell("desk.monitors['DP-1'].holder"), "") << "left to the compositor";
         EXPECT_EQ(log.size(), 1U);
         desk.tell("desk.refuse('DP-1', '', 0)");
@@ -135,6 +135,7 @@ TEST_P(CalibratedMutterDisplays, KeepTheNightLightsColourUnlessTold) {
     open();
     const auto white = blackBodyWhite(4000);
     const auto entry = [&](std::size_t channel) { return desk.ramp("DP-1").channel(channel)[200]; };
+    ASSERT_TRUE(comesTrue([&] { return desk.ramp("DP-1").size() != 0; }));
     EXPECT_EQ(entry(0), 16'384);
     EXPECT_NEAR(entry(1), 16'384 * white[1], 1) << "from the first ramp on";
     EXPECT_NEAR(entry(2), 16'384 * white[2], 1);
@@ -156,7 +157,7 @@ TEST_P(OlderMutterDisplays, TryAgainOnceWithTheNewSerialAndGiveTheNightLightBack
     desk.tell("desk.plug('DP-1', 0, 1024)");
     desk.tell("desk.set_night(True, 3000)");
     open();
-    EXPECT_TRUE(isCorrected("DP-1"));
+    EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
     desk.tell("setattr(desk, 'serial', 99)");
     table.levels.fill(0.5F);
     correct();
