@@ -133,6 +133,7 @@ bool TQController::checkForConflict() {
 
 void TQController::_initDefaults() {
     _with.preferences.registerDefaults(registeredDefaults());
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
 }
 
 void TQController::_adoptDefaultCurves() {
@@ -169,7 +170,11 @@ void TQController::observeSurroundings() {
         [this](DisplayID, ReconfigurationFlags flags) {
             _mayCalibrationHaveChanged =
                 _mayCalibrationHaveChanged || (flags & calibrationChanged) != 0;
-            _reconfigurations.displayReconfigured(flags);
+            if (flags == calibrationChanged) {
+                _reapplication.request();
+            } else {
+                _reconfigurations.displayReconfigured(flags);
+            }
         });
 }
 
@@ -207,6 +212,7 @@ void TQController::_changedDefaults() {
 // It is only followed, never written back: that would undo a change that another program made
 // since.
 void TQController::_applyDefaultsToPanel() {
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
     if (applyCorrection() != _correction.isActive()) {
         _correction.switchTo(applyCorrection());
     }

@@ -93,7 +93,9 @@ void Program::makeWindows() {
                                                    .windowSystem = *_windowSystem,
                                                    .program = programFile(),
                                                    .home = environment("HOME"),
-                                                   .log = logLine},
+                                                   .log = logLine,
+                                                   .suspendsNightLight =
+                                                       _displays.suspendsNightLight()},
                                    .service = _displays,
                                    .bundle = {.path = programFile(),
                                               .name = "Tonquil",

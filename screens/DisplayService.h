@@ -22,7 +22,8 @@ namespace tonquil {
 using ReconfigurationFlags = std::uint32_t;
 inline constexpr ReconfigurationFlags beginConfiguration = 1;
 inline constexpr ReconfigurationFlags endConfiguration = 2;
-/// Beside `endConfiguration`: the table that is read may be another one now.
+/// Beside `endConfiguration`, or alone when nothing else about the display has changed: its system
+/// calibration, and so the table that is read, is another one.
 inline constexpr ReconfigurationFlags calibrationChanged = 4;
 
 /// The attached displays and their transfer tables.
@@ -42,7 +43,7 @@ class DisplayService : public SystemCalibration {
  public:
     /// Called on the main thread for each affected display: first for all of them with
     /// `beginConfiguration`, then for all with another flag. A service that only learns of changes
-    /// afterwards makes both calls then.
+    /// afterwards makes both calls then. `calibrationChanged` may also come alone.
     using ReconfigurationCallback = std::function<void(DisplayID, ReconfigurationFlags)>;
 
     /// The destructor removes the callback.
@@ -85,6 +86,11 @@ class DisplayService : public SystemCalibration {
     /// Whether others can replace a table without the service's hearing of it. Where they cannot,
     /// there is nothing to put right again and again.
     [[nodiscard]] virtual bool canBeDisturbed() const { return true; }
+    /// Whether a correction takes the desktop's night light off its display.
+    [[nodiscard]] virtual bool suspendsNightLight() const { return false; }
+    /// Where it does: whether corrections have the night light's colour in them, as they do at
+    /// first.
+    virtual void setNightLightKept(bool /*isKept*/) {}
     /// Moves the pointer to a point of the top-down desktop space.
     virtual void warpPointer(const Point& point) = 0;
 

@@ -428,6 +428,10 @@
         <source>Remote</source>
         <translation>Fernsteuerung</translation>
     </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Nachtlicht beibehalten</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -722,6 +726,18 @@
     <message>
         <source>The compositor takes no colour profile for this display.</source>
         <translation>Der Compositor nimmt für diesen Bildschirm kein Farbprofil an.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Ein anderes Programm kalibriert diesen Bildschirm gerade.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>Der Compositor lässt nicht zu, dass dieser Bildschirm korrigiert wird.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Der Sitzungsbus antwortet nicht.</translation>
     </message>
 </context>
 <context>

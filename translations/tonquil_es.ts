@@ -428,6 +428,10 @@
         <source>Remote</source>
         <translation>Control remoto</translation>
     </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Conservar la luz nocturna</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -722,6 +726,18 @@
     <message>
         <source>The compositor takes no colour profile for this display.</source>
         <translation>El compositor no acepta ningún perfil de color para esta pantalla.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Otro programa está calibrando esta pantalla.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>El compositor no permite corregir esta pantalla.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>El bus de sesión no responde.</translation>
     </message>
 </context>
 <context>

@@ -428,6 +428,10 @@
         <source>Remote</source>
         <translation>À distance</translation>
     </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Conserver l’éclairage nocturne</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -722,6 +726,18 @@
     <message>
         <source>The compositor takes no colour profile for this display.</source>
         <translation>Le compositeur n’accepte pas de profil de couleur pour cet écran.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Un autre programme étalonne cet écran.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>Le compositeur refuse que cet écran soit corrigé.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Le bus de session ne répond pas.</translation>
     </message>
 </context>
 <context>

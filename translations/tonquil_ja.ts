@@ -428,6 +428,10 @@
         <source>Remote</source>
         <translation>リモート</translation>
     </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>夜間モードの色を保つ</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -722,6 +726,18 @@
     <message>
         <source>The compositor takes no colour profile for this display.</source>
         <translation>コンポジタはこのディスプレイのカラープロファイルを受け付けません。</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>別のプログラムがこのディスプレイをキャリブレーション中です。</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>コンポジタがこのディスプレイの補正を拒否しています。</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>セッションバスが応答しません。</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,7 @@
 #include "tests/support/GammaCompositor.h"
 #include "tests/support/IccBuilder.h"
 #include "tests/support/KdeCompositor.h"
+#include "tests/support/MutterDesk.h"
 #include "values/BoundedJson.h"
 
 namespace tonquil {
@@ -59,6 +60,24 @@ TEST_F(ProgramOnWayland, SaysWhatADesktopThatOnlyLendsItsTablesCannotDo) {
         EXPECT_EQ(result.standardError.find('\n'), result.standardError.size() - 1);
     }
     EXPECT_NE(control({"read"}).standardOutput.find("\n255\t1\t1\t1\n"), std::string::npos);
+}
+
+TEST_F(ProgramOnWayland, TakesCalibrationSessionsBeforeGammaControlsBeforeRampsForAnybody) {
+    compositor.plug("wlr", 0);
+    for (const bool lendsSessions : {true, false}) {
+        MutterDesk desk(lendsSessions);
+        desk.tell("desk.plug('mutter', 0)");
+        ProcessRequest list = request({"displays"});
+        list.environment["DBUS_SESSION_BUS_ADDRESS"] = desk.address();
+        EXPECT_NE(run(list)->standardOutput.find(lendsSessions ? "\tmutter\t" : "\twlr\t"),
+                  std::string::npos);
+        list.environment["WAYLAND_DISPLAY"] = "none";
+        EXPECT_NE(run(list)->standardOutput.find("\tmutter\t"), std::string::npos);
+        list.unset.emplace_back("WAYLAND_DISPLAY");
+        list.environment.erase("WAYLAND_DISPLAY");
+        EXPECT_EQ(run(list)->standardOutput, "") << "an X11 session of GNOME";
+        EXPECT_EQ(desk.tell("desk.count"), "0") << "listing touches nothing";
+    }
 }
 
 TEST_F(ProgramOnWayland, HoldsACorrectionUntilItIsEnded) {

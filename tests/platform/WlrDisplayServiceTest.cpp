@@ -3,8 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "tests/platform/KeptDisplays.h"
 #include "tests/support/GammaCompositor.h"
+#include "tests/support/IccBuilder.h"
+#include "tests/support/MutterDesk.h"
 
 namespace tonquil {
 namespace {
@@ -80,6 +84,26 @@ TEST_F(WlrDisplays, LeavesADisplayToOthersWhileItIsNotCorrected) {
     EXPECT_TRUE(comesTrue([&] { return !compositor.isHeld("DP-1"); }));
     correct();
     EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+}
+
+TEST_F(WlrDisplays, HasTheCalibrationOfTheProfileThatTheColourServiceNames) {
+    MutterDesk desk(false);
+    ScratchFolder folder;
+    const auto profile = buildIccWithFormula({{{.max = 0.5}, {.max = 0.5}, {.max = 0.5}}});
+    std::ofstream(folder.path() / "profile", std::ios::binary)
+        << std::string(profile.begin(), profile.end());
+    desk.tell("desk.plug('DP-1', 0)");
+    compositor.plug("DP-1", 0, 1024);
+    open({.systemBus = desk.address()});
+    GammaTable base;
+    const auto brightest = [&] {
+        EXPECT_EQ(service->getTransferTable(0, base), 256U);
+        return base.channel(1)[255];
+    };
+    EXPECT_EQ(brightest(), 1.0F) << "nothing is waited for";
+    desk.tell("desk.set_profile('DP-1', '" + (folder.path() / "profile").native() + "')");
+    EXPECT_TRUE(comesTrue([&] { return brightest() < 0.51F; }));
+    EXPECT_NEAR(brightest(), 0.5F, 1e-4F);
 }
 
 TEST_F(WlrDisplays, EndsInOrderWhenTheCompositorDies) {

@@ -101,6 +101,7 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
       rememberWhenQuitting(
           new FlatCheckBox(Texts::tr("Correct the displays as soon as Tonquil starts"))),
       ContinuouslyApply(new FlatCheckBox(Texts::tr("Apply the curves again every few seconds"))),
+      keepNightLight(new FlatCheckBox(Texts::tr("Keep night light"))),
       advancedPanel(new FlatCheckBox(Texts::tr("Show sliders for the single channels"))),
       channelStrip(new FlatCheckBox(Texts::tr("Show the channel strip"))),
       showTargetHints(new FlatCheckBox(Texts::tr("Show hints under targets"))),
@@ -177,6 +178,7 @@ void PreferencesWindow::nameControls() {
         {openAtLoginCheckbox, "openAtLoginCheckbox"},
         {rememberWhenQuitting, "rememberWhenQuitting"},
         {ContinuouslyApply, "ContinuouslyApply"},
+        {keepNightLight, "keepNightLight"},
         {advancedPanel, "advancedPanel"},
         {channelStrip, "channelStrip"},
         {showTargetHints, "showTargetHints"},
@@ -201,6 +203,7 @@ void PreferencesWindow::nameControls() {
 void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
     addHeading(column, Texts::tr("General"));
     addChecks(column, {showAtLaunch, openAtLoginCheckbox, rememberWhenQuitting, ContinuouslyApply});
+    addNightLight(column);
     column.addSpacing(groupSpacing);
     addChecks(column, {advancedPanel, channelStrip, showTargetHints, darkTheme});
     column.addSpacing(groupSpacing);
@@ -208,6 +211,20 @@ void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
     addChoice(choices, new QLabel(Texts::tr("Edits change:")), affectAllScreens);
     addChoice(choices, new QLabel(Texts::tr("Starting Tonquil again:")), toggleApply);
     addChoice(choices, showStatusLabel, showStatusItem);
+}
+
+// The space above the box goes with it.
+void PreferencesWindow::addNightLight(QVBoxLayout& column) const {
+    auto* line = new QWidget;
+    auto* lineColumn = new QVBoxLayout(line);
+    lineColumn->setContentsMargins(0, spacing, 0, 0);
+    lineColumn->addWidget(keepNightLight);
+    column.addWidget(line);
+    line->hide();
+}
+
+void PreferencesWindow::showNightLight(bool isShown) {
+    keepNightLight->parentWidget()->setVisible(isShown);
 }
 
 void PreferencesWindow::addHotKeys(QVBoxLayout& column) const {

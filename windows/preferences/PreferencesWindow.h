@@ -30,6 +30,8 @@ class PreferencesWindow : public QWidget {
     }
     /// Called after it has closed.
     void setClosed(std::function<void()> closed) { _closed = std::move(closed); }
+    /// Whether there is a night light to keep; at first there is none.
+    void showNightLight(bool isShown);
     /// Takes the focus away from the control that has it.
     void clearFirstResponder();
 
@@ -38,6 +40,7 @@ class PreferencesWindow : public QWidget {
     QCheckBox* openAtLoginCheckbox;
     QCheckBox* rememberWhenQuitting;
     QCheckBox* ContinuouslyApply;
+    QCheckBox* keepNightLight;
     QCheckBox* advancedPanel;
     QCheckBox* channelStrip;
     QCheckBox* showTargetHints;
@@ -69,6 +72,7 @@ class PreferencesWindow : public QWidget {
     /// Resizes to fit the controls; they scroll if the screen is not high enough.
     void fit();
     void addGeneral(QVBoxLayout& column) const;
+    void addNightLight(QVBoxLayout& column) const;
     void addHotKeys(QVBoxLayout& column) const;
     void addRemote(QVBoxLayout& column) const;
 

@@ -44,6 +44,7 @@ void TQPrefController::windowDidLoad() {
     _window->showStatusItem->setVisible(version >= firstWithStatusItems);
     _window->showStatusLabel->setVisible(version >= firstWithStatusItems);
     _window->darkTheme->setVisible(version >= firstWithDarkTheme);
+    _window->showNightLight(_surroundings.suspendsNightLight);
     bindSettings();
     followTheme();
     _themeSubscription = _preferences.subscribe([this] { followTheme(); });
@@ -57,6 +58,7 @@ void TQPrefController::bindSettings() {
     };
     bind(_window->darkTheme, settingsKey::darkTheme);
     bind(_window->allowRemote, settingsKey::allowRemote);
+    bind(_window->keepNightLight, settingsKey::keepNightLight);
     bind(_window->channelStrip, settingsKey::channelStrip);
     bind(_window->showTargetHints, settingsKey::showsTargetHints);
 }

@@ -40,6 +40,8 @@ struct PreferencesSurroundings {
     Log log;
     /// A toolkit below 1138 has no status items, one below 1343 no dark theme.
     int toolkitVersion = 1343;
+    /// Whether corrections take the desktop's night light away.
+    bool suspendsNightLight = false;
 };
 
 /// Runs the preferences window: each control writes its setting at once, and interested code sees
