@@ -134,6 +134,7 @@ bool TQController::checkForConflict() {
 
 void TQController::_initDefaults() {
     _with.preferences.registerDefaults(registeredDefaults());
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
 }
 
 void TQController::_adoptDefaultCurves() {
@@ -168,7 +169,13 @@ void TQController::observeSurroundings() {
     });
     _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
         [this](DisplayID, ReconfigurationFlags flags) {
-            _reconfigurations.displayReconfigured(flags);
+            _mayCalibrationHaveChanged =
+                _mayCalibrationHaveChanged || (flags & calibrationChanged) != 0;
+            if (flags == calibrationChanged) {
+                _reapplication.request();
+            } else {
+                _reconfigurations.displayReconfigured(flags);
+            }
         });
 }
 
@@ -206,6 +213,7 @@ void TQController::_changedDefaults() {
 // It is only followed, never written back: that would undo a change that another program made
 // since.
 void TQController::_applyDefaultsToPanel() {
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
     if (applyCorrection() != _correction.isActive()) {
         _correction.switchTo(applyCorrection());
     }
@@ -239,6 +247,9 @@ void TQController::updateScreens() {
                 screen->retriveExtendedGammaCurve();
                 screen->adoptGammaCurveDictionary(_storage.storedCurves(), nullptr);
             }
+        }
+        if (std::exchange(_mayCalibrationHaveChanged, false)) {
+            adoptCalibration();
         }
         _correction.activateScreens();
     }

@@ -92,12 +92,20 @@ Result<void> hold(const Curves& curves, const Arguments& arguments, DisplayServi
                   ScreenRegistry& registry, const CommandEnvironment& environment) {
     RunLoop& loop = environment.remote.runLoop;
     bool isApplicationDue = false;
+    bool areBasesOld = false;
     // One change is told once per display, and ends for all of them at once.
     const auto subscription =
         service.registerReconfigurationCallback([&](DisplayID, ReconfigurationFlags flags) {
+            areBasesOld = areBasesOld || (flags & calibrationChanged) != 0;
             if (flags != beginConfiguration && !std::exchange(isApplicationDue, true)) {
                 loop.post([&] {
                     isApplicationDue = false;
+                    if (std::exchange(areBasesOld, false)) {
+                        registry.updateScreenList();
+                        for (const auto& screen : registry.screens()) {
+                            screen->readBaseGamma();
+                        }
+                    }
                     // With nothing to correct for the moment, the next change may bring it.
                     static_cast<void>(applyOnce(curves, arguments, service, registry, environment));
                 });

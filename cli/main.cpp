@@ -9,6 +9,7 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "platform/choice/DisplayServiceChoice.h"
+#include "platform/folders/XdgFolders.h"
 #include "platform/posix/InstanceName.h"
 #include "platform/posix/InstanceSocket.h"
 #include "platform/posix/PollRunLoop.h"
@@ -16,7 +17,6 @@
 #include "platform/posix/StandardStreams.h"
 #include "platform/posix/TerminationSignals.h"
 #include "platform/posix/UdpSocket.h"
-#include "platform/xdg/XdgFolders.h"
 
 // No iostreams here: their locale setup takes longer than everything else a command does.
 

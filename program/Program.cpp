@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "platform/folders/Folder.h"
 #include "platform/missing/MissingHotKeyService.h"
 #include "platform/missing/MissingKeyboardLayout.h"
 #include "platform/missing/MissingWindowSystem.h"
@@ -16,7 +17,6 @@
 #include "platform/posix/UdpSocket.h"
 #include "platform/x11/desktop/X11WindowSystem.h"
 #include "platform/x11/keys/X11HotKeyService.h"
-#include "platform/xdg/Folder.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 #include "program/ProgramEnvironment.h"
 #include "windows/panel/DevicePixels.h"
@@ -101,6 +101,7 @@ void Program::makeWindows() {
                         .home = environment("HOME"),
                         .log = logLine,
                         .canBeDisturbed = _displays.canBeDisturbed(),
+                        .suspendsNightLight = _displays.suspendsNightLight(),
                         .changeHotKeys = [this] { _portalHotKeys->changeKeys(); }},
         .service = _displays,
         .bundle = {.path = programFile(),

@@ -448,6 +448,10 @@
         <source>No keys given yet</source>
         <translation>Noch keine Tasten vergeben</translation>
     </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Nachtlicht beibehalten</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -726,6 +730,38 @@
     <message>
         <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
         <translation>Schalten Sie das Nachtlicht des Desktops aus, oder beenden Sie, was diesen Bildschirm sonst korrigiert. Tonquil übernimmt ihn dann innerhalb von Sekunden.</translation>
+    </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>Das Farbprofil mit der Korrektur lässt sich nicht sichern.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>Der Compositor nimmt für diesen Bildschirm kein Farbprofil an, solange HDR eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>Der Compositor lehnt das Farbprofil für diesen Bildschirm ab.</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>Das ist kein KDE-Plasma-Desktop.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>Der Compositor nimmt für diesen Bildschirm kein Farbprofil an.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Ein anderes Programm kalibriert diesen Bildschirm gerade.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>Der Compositor lässt nicht zu, dass dieser Bildschirm korrigiert wird.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Der Sitzungsbus antwortet nicht.</translation>
     </message>
 </context>
 <context>

@@ -448,6 +448,10 @@
         <source>No keys given yet</source>
         <translation>キーは未割り当て</translation>
     </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>夜間モードの色を保つ</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -726,6 +730,38 @@
     <message>
         <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
         <translation>デスクトップの夜間モードをオフにするか、このディスプレイを補正している別のプログラムを終了してください。数秒以内に Tonquil が引き継ぎます。</translation>
+    </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>補正を入れたカラープロファイルを保存できません。</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>HDR がオンの間、コンポジタはこのディスプレイのカラープロファイルを受け付けません。</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>コンポジタがこのディスプレイのカラープロファイルを拒否しました。</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>これは KDE Plasma デスクトップではありません。</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>コンポジタはこのディスプレイのカラープロファイルを受け付けません。</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>別のプログラムがこのディスプレイをキャリブレーション中です。</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>コンポジタがこのディスプレイの補正を拒否しています。</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>セッションバスが応答しません。</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,10 @@ class Appender {
         basic(SD_BUS_TYPE_OBJECT_PATH, object.path.c_str());
     }
     void operator()(std::uint32_t number) { basic(SD_BUS_TYPE_UINT32, &number); }
+    void operator()(std::span<const std::uint16_t> entries) {
+        note(sd_bus_message_append_array(_message, SD_BUS_TYPE_UINT16, entries.data(),
+                                         entries.size_bytes()));
+    }
     void operator()(const std::vector<std::string>& texts) {
         inside(SD_BUS_TYPE_ARRAY, "s", [&] {
             for (const std::string& text : texts) {

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <map>
+#include <span>
 #include <string>
 #include <utility>
 #include <variant>
@@ -23,7 +24,8 @@ using BusNamedDictionaries = std::vector<std::pair<std::string, BusDictionary>>;
 
 /// An argument of a method call.
 using BusArgument = std::variant<std::string, std::uint32_t, std::vector<std::string>,
-                                 BusObjectPath, BusDictionary, BusNamedDictionaries>;
+                                 std::span<const std::uint16_t>, BusObjectPath, BusDictionary,
+                                 BusNamedDictionaries>;
 
 /// Appends an argument to a message; negative if it has no valid form, such as a text that is not
 /// UTF-8.

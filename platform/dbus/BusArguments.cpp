@@ -30,6 +30,22 @@ std::optional<bool> BusArguments::boolean() {
     return value != 0;
 }
 
+std::optional<std::int32_t> BusArguments::integer() {
+    std::int32_t value = 0;
+    if (sd_bus_message_read_basic(_message, SD_BUS_TYPE_INT32, &value) <= 0) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::optional<double> BusArguments::real() {
+    double value = 0;
+    if (sd_bus_message_read_basic(_message, SD_BUS_TYPE_DOUBLE, &value) <= 0) {
+        return std::nullopt;
+    }
+    return value;
+}
+
 std::string BusArguments::text() {
     char type = 0;
     const char* text = nullptr;
@@ -43,15 +59,29 @@ std::string BusArguments::text() {
 
 std::vector<std::string> BusArguments::texts() {
     std::vector<std::string> all;
-    if (sd_bus_message_enter_container(_message, SD_BUS_TYPE_ARRAY, "s") > 0) {
+    const char* contents = nullptr;
+    if (sd_bus_message_peek_type(_message, nullptr, &contents) <= 0 || contents == nullptr) {
+        return all;
+    }
+    const std::string type(contents);
+    if ((type == "s" || type == "o") &&
+        sd_bus_message_enter_container(_message, SD_BUS_TYPE_ARRAY, type.c_str()) > 0) {
         const char* text = nullptr;
-        while (sd_bus_message_read_basic(_message, SD_BUS_TYPE_STRING, static_cast<void*>(&text)) >
-               0) {
+        while (sd_bus_message_read_basic(_message, type[0], static_cast<void*>(&text)) > 0) {
             all.emplace_back(text);
         }
         sd_bus_message_exit_container(_message);
     }
     return all;
+}
+
+std::optional<std::size_t> BusArguments::entryCount() {
+    const void* entries = nullptr;
+    std::size_t bytes = 0;
+    if (sd_bus_message_read_array(_message, SD_BUS_TYPE_UINT16, &entries, &bytes) <= 0) {
+        return std::nullopt;
+    }
+    return bytes / sizeof(std::uint16_t);
 }
 
 BusArguments::Value BusArguments::value() {
@@ -69,6 +99,8 @@ BusArguments::Value BusArguments::value() {
         value = boolean().value_or(false);
     } else if (type == "s") {
         value = text();
+    } else if (type == "as" || type == "ao") {
+        value = texts();
     } else if (type == "u" &&
                sd_bus_message_read_basic(_message, SD_BUS_TYPE_UINT32, &number) > 0) {
         value = number;
@@ -96,13 +128,21 @@ void BusArguments::eachStructure(const std::function<void()>& read) {
     if (sd_bus_message_enter_container(_message, SD_BUS_TYPE_ARRAY, nullptr) <= 0) {
         return;
     }
-    while (sd_bus_message_enter_container(_message, SD_BUS_TYPE_STRUCT, nullptr) > 0) {
-        read();
-        if (!leave()) {
-            return;
-        }
+    while (readStructure(read)) {
     }
     sd_bus_message_exit_container(_message);
+}
+
+void BusArguments::structure(const std::function<void()>& read) {
+    readStructure(read);
+}
+
+bool BusArguments::readStructure(const std::function<void()>& read) {
+    if (sd_bus_message_enter_container(_message, SD_BUS_TYPE_STRUCT, nullptr) <= 0) {
+        return false;
+    }
+    read();
+    return leave();
 }
 
 void BusArguments::insideVariant(const std::function<void()>& read) {
@@ -119,6 +159,10 @@ bool BusArguments::leave() {
         }
     }
     return sd_bus_message_exit_container(_message) >= 0;
+}
+
+void BusArguments::skip() {
+    sd_bus_message_skip(_message, nullptr);
 }
 
 }  // namespace tonquil

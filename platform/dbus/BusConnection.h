@@ -6,6 +6,7 @@
 #include <functional>
 #include <list>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,7 @@ namespace tonquil {
 ///
 /// Messages are handled for at most `longestTurn` at a time and stay in the socket until then, so a
 /// flood of them neither blocks the run loop nor fills the memory. No callback may destroy the
-/// connection.
+/// connection. Without a run loop, things happen only in `waitUntil`.
 class BusConnection {
  public:
     static constexpr std::chrono::seconds connectingTime{5};
@@ -54,7 +55,9 @@ class BusConnection {
     };
 
     /// The run loop must outlive the connection.
-    explicit BusConnection(RunLoop& runLoop) : _runLoop(runLoop) {}
+    explicit BusConnection(RunLoop& runLoop) : BusConnection(&runLoop) {}
+    /// Null is a program without one.
+    explicit BusConnection(RunLoop* runLoop) : _runLoop(runLoop) {}
     BusConnection(const BusConnection&) = delete;
     BusConnection& operator=(const BusConnection&) = delete;
 
@@ -66,17 +69,28 @@ class BusConnection {
     /// Calls back with the arguments of each such signal from now on. Only after the connection is
     /// open.
     void watch(const Signal& signal, Call call);
-    /// Calls a method, then `answered` with what it returns, or `failed` on an error or after 25 s.
-    /// Neither is called once the connection is lost.
+    /// Calls a method, then `answered` with what it returns, or `failed` on an error or after 25 s;
+    /// at once where the service has given a path that is none. Neither is called once the
+    /// connection is lost.
     void ask(
         const Method& method, const std::vector<Argument>& arguments, Call answered,
         std::function<void()> failed = [] {});
+    /// The same, told the reason as the other side gave it.
+    void ask(const Method& method, const std::vector<Argument>& arguments, Call answered,
+             std::function<void(const std::string& reason)> failed);
+
+    /// Handles messages until `isDone`, the connection is closed, or `limit` is over; whether it is
+    /// done. Waits for nothing when called from a callback.
+    [[nodiscard]] bool waitUntil(const std::function<bool()>& isDone,
+                                 std::chrono::milliseconds limit);
+    /// Neither lost nor unreachable; perhaps not open yet.
+    [[nodiscard]] bool isConnected() const { return _bus != nullptr; }
 
  private:
     struct Question {
         BusConnection& connection;
         Call answered;
-        std::function<void()> failed;
+        std::function<void(const std::string& reason)> failed;
     };
 
     static int takeSignal(sd_bus_message* message, void* call, sd_bus_error* error);
@@ -86,9 +100,10 @@ class BusConnection {
     void waitForMore();
     void close(const std::string& reason);
 
-    RunLoop& _runLoop;
+    RunLoop* _runLoop;
     Handler _handler;
     bool _isOpen = false;
+    bool _isProcessing = false;
     std::list<Call> _watches;
     std::list<Question> _questions;
     /// Declared to be destroyed before the calls that it refers to.

@@ -1,29 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/icc/CalibrationRamp.h"
 
-#include <lcms2.h>
-
 #include <cmath>
-#include <limits>
-#include <memory>
+
+#include "platform/icc/ProfileHandle.h"
 
 namespace tonquil {
 
-namespace {
-
-struct CloseProfile {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-
-}  // namespace
-
 std::optional<HardwareRamp> calibrationRamp(std::span<const std::uint8_t> profile,
                                             std::uint32_t size) {
-    if (size < 2 || profile.size() > std::numeric_limits<cmsUInt32Number>::max()) {
-        return std::nullopt;
-    }
-    const std::unique_ptr<void, CloseProfile> opened(
-        cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
+    const ProfileHandle opened = size < 2 ? nullptr : openProfile(profile);
     if (!opened) {
         return std::nullopt;
     }

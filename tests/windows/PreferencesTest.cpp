@@ -86,7 +86,8 @@ TEST_F(Preferences, ShowTheTagOfAChoiceThatIsStoredAsABooleanOrANumber) {
 TEST_F(Preferences, FollowExternalChangesOnlyWhereBound) {
     PreferencesWindow& window = open();
     EXPECT_TRUE(effectiveAppearance(window).isDark);
-    for (const std::string key : {"DarkTheme", "ShowAtLaunch", "ShowTargetHints"}) {
+    for (const std::string key :
+         {"DarkTheme", "ShowAtLaunch", "ShowTargetHints", "KeepNightLight"}) {
         store.stored[key] = false;
     }
     store.stored["AllowRemote"] = true;
@@ -94,6 +95,8 @@ TEST_F(Preferences, FollowExternalChangesOnlyWhereBound) {
     EXPECT_FALSE(window.darkTheme->isChecked());
     EXPECT_FALSE(effectiveAppearance(window).isDark);
     EXPECT_FALSE(window.showTargetHints->isChecked());
+    EXPECT_FALSE(window.keepNightLight->isChecked());
+    EXPECT_FALSE(window.keepNightLight->isVisible()) << "nothing takes it away";
     EXPECT_TRUE(window.allowRemote->isChecked());
     EXPECT_TRUE(window.showAtLaunch->isChecked());
     EXPECT_THAT(store.written, IsEmpty());

@@ -28,6 +28,8 @@ struct PreferencesSurroundings {
     int toolkitVersion = 1343;
     /// Whether a correction can be lost unnoticed, so that applying it again makes sense.
     bool canBeDisturbed = true;
+    /// Whether corrections take the desktop's night light away.
+    bool suspendsNightLight = false;
     /// Lets the user choose the keys of the hot keys, where the desktop gives them.
     std::function<void()> changeHotKeys = [] {};
 };

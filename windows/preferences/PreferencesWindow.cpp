@@ -112,6 +112,7 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
       ContinuouslyApply(new FlatCheckBox(Texts::tr("Apply the curves again every few seconds"))),
       continuouslyApplyNote(
           new QLabel(Texts::tr("Not needed here: no correction is lost unnoticed."))),
+      keepNightLight(new FlatCheckBox(Texts::tr("Keep night light"))),
       advancedPanel(new FlatCheckBox(Texts::tr("Show sliders for the single channels"))),
       channelStrip(new FlatCheckBox(Texts::tr("Show the channel strip"))),
       showTargetHints(new FlatCheckBox(Texts::tr("Show hints under targets"))),
@@ -194,6 +195,7 @@ void PreferencesWindow::nameControls() {
         {rememberWhenQuitting, "rememberWhenQuitting"},
         {ContinuouslyApply, "ContinuouslyApply"},
         {continuouslyApplyNote, "continuouslyApplyNote"},
+        {keepNightLight, "keepNightLight"},
         {advancedPanel, "advancedPanel"},
         {channelStrip, "channelStrip"},
         {showTargetHints, "showTargetHints"},
@@ -224,6 +226,7 @@ void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
     addChecks(column, {showAtLaunch, openAtLoginCheckbox, rememberWhenQuitting, ContinuouslyApply});
     prepareProblem(*continuouslyApplyNote, *ContinuouslyApply);
     column.addWidget(continuouslyApplyNote);
+    addNightLight(column);
     column.addSpacing(groupSpacing);
     addChecks(column, {advancedPanel, channelStrip, showTargetHints, darkTheme});
     column.addSpacing(groupSpacing);
@@ -231,6 +234,20 @@ void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
     addChoice(choices, new QLabel(Texts::tr("Edits change:")), affectAllScreens);
     addChoice(choices, new QLabel(Texts::tr("Starting Tonquil again:")), toggleApply);
     addChoice(choices, showStatusLabel, showStatusItem);
+}
+
+// The space above the box goes with it.
+void PreferencesWindow::addNightLight(QVBoxLayout& column) const {
+    auto* line = new QWidget;
+    auto* lineColumn = new QVBoxLayout(line);
+    lineColumn->setContentsMargins(0, spacing, 0, 0);
+    lineColumn->addWidget(keepNightLight);
+    column.addWidget(line);
+    line->hide();
+}
+
+void PreferencesWindow::showNightLight(bool isShown) {
+    keepNightLight->parentWidget()->setVisible(isShown);
 }
 
 void PreferencesWindow::addHotKeys(QVBoxLayout& column) const {

@@ -34,6 +34,8 @@ class PreferencesWindow : public QWidget {
     void setClosed(std::function<void()> closed) { _closed = std::move(closed); }
     /// Shows the controls with which the user gives hot keys their keys.
     void showHotKeyChooser(HotKeyChooser chooser);
+    /// Whether there is a night light to keep; at first there is none.
+    void showNightLight(bool isShown);
     /// Takes the focus away from the control that has it.
     void clearFirstResponder();
 
@@ -44,6 +46,7 @@ class PreferencesWindow : public QWidget {
     QCheckBox* ContinuouslyApply;
     /// Why that cannot be chosen; hidden where it can.
     QLabel* continuouslyApplyNote;
+    QCheckBox* keepNightLight;
     QCheckBox* advancedPanel;
     QCheckBox* channelStrip;
     QCheckBox* showTargetHints;
@@ -82,6 +85,7 @@ class PreferencesWindow : public QWidget {
     /// Resizes to fit the controls; they scroll if the screen is not high enough.
     void fit();
     void addGeneral(QVBoxLayout& column) const;
+    void addNightLight(QVBoxLayout& column) const;
     void addHotKeys(QVBoxLayout& column) const;
     void addRemote(QVBoxLayout& column) const;
 

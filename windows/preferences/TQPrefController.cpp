@@ -47,6 +47,7 @@ void TQPrefController::windowDidLoad() {
     _window->darkTheme->setVisible(version >= firstWithDarkTheme);
     _window->ContinuouslyApply->setEnabled(_surroundings.canBeDisturbed);
     _window->continuouslyApplyNote->setVisible(!_surroundings.canBeDisturbed);
+    _window->showNightLight(_surroundings.suspendsNightLight);
     bindSettings();
     followTheme();
     _themeSubscription = _preferences.subscribe([this] { followTheme(); });
@@ -60,6 +61,7 @@ void TQPrefController::bindSettings() {
     };
     bind(_window->darkTheme, settingsKey::darkTheme);
     bind(_window->allowRemote, settingsKey::allowRemote);
+    bind(_window->keepNightLight, settingsKey::keepNightLight);
     bind(_window->channelStrip, settingsKey::channelStrip);
     bind(_window->showTargetHints, settingsKey::showsTargetHints);
 }
