@@ -190,6 +190,9 @@ std::string textFromRequests(const std::vector<Request>& requests) {
             text += target->option.substr(2);
             text += ' ';
             text += escaped(request.referenceID);
+        } else if (request.kind == Request::Kind::Curves) {
+            text += handedCurvesWord;
+            text += textFromHandedCurves(request.curves);
         } else {
             const auto* name =
                 std::find_if(requestNames.begin(), requestNames.end(),
@@ -210,6 +213,12 @@ Result<std::vector<Request>> requestsFromText(std::string_view text) {
         } else if (word.starts_with(presetWord)) {
             requests.push_back({.kind = Request::Kind::Preset,
                                 .preset = unescaped(word.substr(presetWord.size()))});
+        } else if (word.starts_with(handedCurvesWord)) {
+            auto curves = handedCurvesFromText(word.substr(handedCurvesWord.size()));
+            if (!curves) {
+                return tl::unexpected(std::move(curves.error()));
+            }
+            requests.push_back({.kind = Request::Kind::Curves, .curves = std::move(*curves)});
         } else if (const TargetWord* target = findTarget(word.substr(0, word.find(' ')), 2)) {
             requests.push_back({.kind = Request::Kind::Targets,
                                 .target = target->kind,
@@ -229,7 +238,8 @@ bool wantsEnd(const std::vector<Request>& requests) {
     return std::ranges::find(requests, Request{.kind = Request::Kind::Quit}) != requests.end();
 }
 
-void carryOut(const std::vector<Request>& requests, TQController& controller) {
+std::string carryOut(const std::vector<Request>& requests, TQController& controller) {
+    std::string undone;
     for (const Request& request : requests) {
         switch (request.kind) {
             case Request::Kind::Reopen:
@@ -259,11 +269,17 @@ void carryOut(const std::vector<Request>& requests, TQController& controller) {
             case Request::Kind::Targets:
                 controller.showTarget(request.target, request.referenceID);
                 break;
+            case Request::Kind::Curves:
+                if (const auto taken = controller.takeCurves(request.curves); !taken) {
+                    undone = taken.error().sentence;
+                }
+                break;
             case Request::Kind::Quit:
                 controller.quit();
                 break;
         }
     }
+    return undone;
 }
 
 }  // namespace tonquil

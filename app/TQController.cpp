@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/TQController.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -138,6 +139,7 @@ bool TQController::checkForConflict() {
 
 void TQController::_initDefaults() {
     _with.preferences.registerDefaults(registeredDefaults());
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
 }
 
 void TQController::_adoptDefaultCurves() {
@@ -172,7 +174,13 @@ void TQController::observeSurroundings() {
     });
     _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
         [this](DisplayID, ReconfigurationFlags flags) {
-            _reconfigurations.displayReconfigured(flags);
+            _mayCalibrationHaveChanged =
+                _mayCalibrationHaveChanged || (flags & calibrationChanged) != 0;
+            if (flags == calibrationChanged) {
+                _reapplication.request();
+            } else {
+                _reconfigurations.displayReconfigured(flags);
+            }
         });
 }
 
@@ -210,6 +218,7 @@ void TQController::_changedDefaults() {
 // It is only followed, never written back: that would undo a change that another program made
 // since.
 void TQController::_applyDefaultsToPanel() {
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
     if (applyCorrection() != _correction.isActive()) {
         _correction.switchTo(applyCorrection());
     }
@@ -244,6 +253,9 @@ void TQController::updateScreens() {
                 screen->adoptGammaCurveDictionary(_storage.storedCurves(), nullptr);
             }
         }
+        if (std::exchange(_mayCalibrationHaveChanged, false)) {
+            adoptCalibration();
+        }
         _correction.activateScreens();
     }
     _panelFrame.bringBack();
@@ -256,6 +268,30 @@ void TQController::showPanel() {
         _panelFrame.bringBack();
     }
     _with.panel.makeKeyAndOrderFront();
+}
+
+// A neutral curve shows what a display shows while the correction is off, so it needs no switch.
+Result<void> TQController::takeCurves(const HandedCurves& curves) {
+    const auto neutral = TQExtendedGammaCurve().gammaCurveCompactArray();
+    const bool areNeutral = std::ranges::all_of(
+        curves, [&](const auto& each) { return each.second->gammaCurveCompactArray() == neutral; });
+    {
+        const DisplayBatch batch(_with.service);
+        auto taken = _editing.takeCurves(curves);
+        if (!taken) {
+            return taken;
+        }
+        if (!areNeutral && !applyCorrection()) {
+            setApplyCorrection(true);
+        }
+    }
+    for (const auto& screen : _with.registry.screens()) {
+        const auto description = _with.service.description(screen->directDisplayID());
+        if (curves.contains(description.connector) && !description.obstacle.empty()) {
+            return problem(description.connector + ": " + description.obstacle);
+        }
+    }
+    return {};
 }
 
 void TQController::showTarget(std::optional<TargetKind> kind, const std::string& referenceID) {

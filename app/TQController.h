@@ -20,6 +20,7 @@
 #include "app/panel/PanelFrame.h"
 #include "app/panel/PanelUnderMouse.h"
 #include "app/remote/RemoteConfiguration.h"
+#include "screens/HandedCurves.h"
 
 namespace tonquil {
 
@@ -44,6 +45,10 @@ class TQController final : public PanelActions {
     void toggleApplyCorrection() { setApplyCorrection(!applyCorrection()); }
     void _applyCurvesToScreen() { _correction._applyCurvesToScreen(); }
     void showPanel();
+    /// Adopts curves from another program, as an edit, and switches the correction on if they need
+    /// it. A problem if a display is not attached, and then nothing is changed, or if it cannot
+    /// show its curve for the moment.
+    Result<void> takeCurves(const HandedCurves& curves);
     /// Shows a target in the floating window or, given a display's reference ID, covering that
     /// display.
     void showTarget(std::optional<TargetKind> kind, const std::string& referenceID);

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "cli/Arguments.h"
@@ -28,6 +29,9 @@ struct CommandEnvironment {
     /// Opens the display service for a command that stays: on the run loop of `remote`, which it
     /// stops when the displays are lost.
     std::function<Result<std::unique_ptr<DisplayService>>()> openDisplaysToHold = {};
+    /// Hands a request to the Tonquil that runs on this desktop; nothing where none does.
+    std::function<std::optional<Result<void>>(const std::string& request)> handOver =
+        [](const std::string&) { return std::nullopt; };
     /// The user's presets.
     PresetFolder presets = PresetFolder({});
     /// Whether the displays were lost meanwhile.

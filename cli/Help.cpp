@@ -17,7 +17,8 @@ const std::string_view helpText =
       middle and white, then black, middle and white of red, green and blue
   tonquilctl apply --hold ...
       stays and keeps the correction on the displays until it is ended by a signal,
-      for desktops on which a correction ends with the program that set it
+      for desktops on which a correction ends with the program that set it; without
+      --hold, apply and restore are handed there to the tonquil that runs
   tonquilctl restore [--display REFERENCE-ID]...
       goes back to the system's own calibration
   tonquilctl read [--display REFERENCE-ID] [--hardware]

@@ -3,12 +3,16 @@
 #include <cctype>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "platform/choice/DisplayServiceChoice.h"
+#include "platform/folders/XdgFolders.h"
+#include "platform/posix/InstanceName.h"
+#include "platform/posix/InstanceSocket.h"
 #include "platform/posix/PollRunLoop.h"
 #include "platform/posix/PosixLocalHost.h"
 #include "platform/posix/StandardStreams.h"
@@ -52,6 +56,21 @@ tonquil::RemoteAccess remoteAccess(tonquil::PollRunLoop& loop) {
             .printNow = [](const std::string& text) { return print(text, stdout); }};
 }
 
+/// Where a program can have no folders, none of ours runs either.
+std::optional<tonquil::Result<void>> handOver(const std::string& request) {
+    const auto folders = tonquil::XdgFolders::fromEnvironment();
+    const auto answer = folders ? tonquil::InstanceSocket::handOverIfListening(
+                                      folders->runtime() / tonquil::instanceName(), request)
+                                : std::nullopt;
+    if (!answer) {
+        return std::nullopt;
+    }
+    if (!*answer) {
+        return tl::unexpected(answer->error());
+    }
+    return (*answer)->empty() ? tonquil::Result<void>() : tonquil::problem(**answer);
+}
+
 /// What a command writes, and what it is told while it stays.
 struct Session {
     tonquil::PollRunLoop loop;
@@ -78,16 +97,23 @@ struct Session {
             loop.stop();
         };
         return tonquil::runCommand(
-            arguments,
-            {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
-             .logged = logged,
-             .out = out,
-             .remote = remote,
-             .notes = notes,
-             .openDisplaysToHold = [&] { return tonquil::chooseDisplayService(&loop, log, lost); },
-             .presets =
-                 tonquil::PresetFolder::ofUser(variable("XDG_CONFIG_HOME"), variable("HOME")),
-             .areDisplaysLost = [this] { return areDisplaysLost; }});
+            arguments, {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
+                        .logged = logged,
+                        .out = out,
+                        .remote = remote,
+                        .notes = notes,
+                        .openDisplaysToHold =
+                            [&] {
+                                auto service = tonquil::chooseDisplayService(&loop, log, lost);
+                                if (service) {
+                                    (*service)->setWhenLost(lost);
+                                }
+                                return service;
+                            },
+                        .handOver = handOver,
+                        .presets = tonquil::PresetFolder::ofUser(variable("XDG_CONFIG_HOME"),
+                                                                 variable("HOME")),
+                        .areDisplaysLost = [this] { return areDisplaysLost; }});
     }
 };
 

@@ -6,6 +6,7 @@
 #include "colourfiles/IccReader.h"
 #include "colourfiles/IccWriter.h"
 #include "platform/icc/CalibrationRamp.h"
+#include "platform/icc/CorrectionProfile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tonquil;
@@ -15,6 +16,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(ramp.has_value() == read.has_value());
         require(!ramp || ramp->size() == entries);
     }
+    // Whatever else it is made from, a correction is what it was told to be.
+    const auto straight = HardwareRamp::straight(256);
+    const auto correction = correctionProfile({data, size}, straight);
+    require(!correction ||
+            (isCorrectionProfile(*correction) && calibrationRamp(*correction, 256) == straight));
     if (!read) {
         require(!read.error().sentence.empty());
         return 0;

@@ -11,6 +11,7 @@
 #include "app/TQController.h"
 #include "platform/dbus/BusSessionEvents.h"
 #include "platform/dbus/DesktopAppearance.h"
+#include "platform/portal/PortalHotKeyService.h"
 #include "platform/qt/ScreenEventLimit.h"
 #include "platform/x11/desktop/X11DesktopEvents.h"
 #include "platform/xdg/AutostartLoginItem.h"
@@ -46,6 +47,8 @@ class Program {
     void displaysLost();
     void openWindowSystem();
     void openKeyboard();
+    [[nodiscard]] std::unique_ptr<HotKeyService> makePortalHotKeys();
+    void showHotKeyAssignment();
     void makeWindows();
     void makeController();
     void end();
@@ -71,6 +74,8 @@ class Program {
     ModalAlerts _alerts{[this] { return _panel ? effectiveAppearance(*_panel) : Appearance{}; }};
     std::unique_ptr<WindowSystem> _windowSystem;
     std::unique_ptr<HotKeyService> _hotKeyService;
+    /// The same, where the desktop gives the keys; else null.
+    PortalHotKeyService* _portalHotKeys = nullptr;
     std::unique_ptr<KeyboardLayout> _keyboardLayout;
     std::unique_ptr<X11DesktopEvents> _desktopEvents;
     ReconfigurationCounter _reconfigurations;

@@ -41,6 +41,7 @@ declare -A arrows=(
     [windows/about]="foundation app/panel ui ui/theme windows/alerts windows/front windows/panel"
     [windows/preferences]="foundation hotkeys hotkeys/field app/desktop app/panel app/preferences ui ui/theme windows/alerts windows/front windows/panel"
     [windows/desktop]="foundation screens app app/desktop app/panel app/preferences ui ui/theme windows/about windows/alerts windows/panel windows/preferences"
+    [platform/folders]="foundation"
     [platform/ramp]="model"
     [platform/edid]="model"
     [platform/icc]="colourfiles platform/ramp"
@@ -50,13 +51,17 @@ declare -A arrows=(
     [platform/x11/displays]="foundation model screens platform/x11 platform/ramp platform/edid platform/icc"
     [platform/x11/desktop]="foundation app/correction app/panel platform/x11"
     [platform/x11/keys]="foundation hotkeys platform/x11"
-    [platform/wayland]="foundation model screens platform/ramp platform/edid platform/listing"
+    [platform/colord]="foundation files platform/ramp platform/icc platform/dbus"
+    [platform/wayland]="foundation model screens platform/ramp platform/edid platform/listing platform/colord"
+    [platform/kde]="foundation values files plist model screens platform/edid platform/folders platform/icc platform/listing platform/ramp platform/wayland"
+    [platform/mutter]="foundation model screens platform/ramp platform/edid platform/listing platform/dbus platform/colord"
     [platform/qt]="foundation"
     [platform/posix]="foundation files remote"
     [platform/dbus]="foundation app/correction"
-    [platform/xdg]="foundation values files plist app/curves app/desktop app/preferences"
-    [platform/choice]="foundation files screens platform/simulated platform/wayland platform/x11/displays"
+    [platform/xdg]="foundation values files plist app/curves app/desktop app/preferences platform/folders"
+    [platform/choice]="foundation files screens platform/dbus platform/folders platform/kde platform/mutter platform/simulated platform/wayland platform/x11/displays"
     [platform/xkb]="foundation hotkeys"
+    [platform/portal]="foundation hotkeys platform/dbus platform/xkb"
     [platform/missing]="foundation screens hotkeys app/panel"
     [launcher]=""
     [cli]="foundation values files model colourfiles screens settings remote"
@@ -92,7 +97,7 @@ check() {
         if [[ $composers != *" $1 "* ]]; then
             breach "$place" "\"$included\": only where a program is composed may platform/choice be included"
         fi
-    elif [[ $1 == cli/main.cpp && $target == platform/posix ]]; then
+    elif [[ $1 == cli/main.cpp && $target =~ ^platform/(posix|folders)$ ]]; then
         return
     elif [[ $target != "$folder" && " ${arrows[$folder]} " != *" $target "* ]]; then
         breach "$place" "\"$included\": $folder may include ${arrows[$folder]:-only itself}"

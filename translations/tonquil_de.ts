@@ -464,6 +464,30 @@
         <source>Remote</source>
         <translation>Fernsteuerung</translation>
     </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>Bedienfeld anzeigen</translation>
+    </message>
+    <message>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>Hier nicht nötig: Keine Korrektur geht unbemerkt verloren.</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>Im Desktop ändern…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>Dieser Desktop überlässt Tastenkürzel seinen eigenen Einstellungen. Legen Sie dort diese Befehle auf Tasten:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>Noch keine Tasten vergeben</translation>
+    </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Nachtlicht beibehalten</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -794,6 +818,42 @@
     <message>
         <source>The folder of presets could not be made.</source>
         <translation>Der Ordner für Vorlagen konnte nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>Schalten Sie das Nachtlicht des Desktops aus, oder beenden Sie, was diesen Bildschirm sonst korrigiert. Tonquil übernimmt ihn dann innerhalb von Sekunden.</translation>
+    </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>Das Farbprofil mit der Korrektur lässt sich nicht sichern.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>Der Compositor nimmt für diesen Bildschirm kein Farbprofil an, solange HDR eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>Der Compositor lehnt das Farbprofil für diesen Bildschirm ab.</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>Das ist kein KDE-Plasma-Desktop.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>Der Compositor nimmt für diesen Bildschirm kein Farbprofil an.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Ein anderes Programm kalibriert diesen Bildschirm gerade.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>Der Compositor lässt nicht zu, dass dieser Bildschirm korrigiert wird.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Der Sitzungsbus antwortet nicht.</translation>
     </message>
 </context>
 <context>

@@ -464,6 +464,30 @@
         <source>Remote</source>
         <translation>Control remoto</translation>
     </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>Mostrar el panel</translation>
+    </message>
+    <message>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>Aquí no hace falta: ninguna corrección se pierde sin que se note.</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>Cambiar en el escritorio…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>Este escritorio deja los atajos a sus propios ajustes. Asigne allí teclas a estas órdenes:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>Aún sin teclas</translation>
+    </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Conservar la luz nocturna</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -794,6 +818,42 @@
     <message>
         <source>The folder of presets could not be made.</source>
         <translation>No se ha podido crear la carpeta de preajustes.</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>Desactive la luz nocturna del escritorio o cierre lo que corrija esta pantalla. Tonquil se hará cargo de ella en unos segundos.</translation>
+    </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>El perfil de color con la corrección no se puede guardar.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>El compositor no acepta ningún perfil de color para esta pantalla mientras HDR está activado.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>El compositor rechaza el perfil de color para esta pantalla.</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>Este no es un escritorio de KDE Plasma.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>El compositor no acepta ningún perfil de color para esta pantalla.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Otro programa está calibrando esta pantalla.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>El compositor no permite corregir esta pantalla.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>El bus de sesión no responde.</translation>
     </message>
 </context>
 <context>

@@ -464,6 +464,30 @@
         <source>Remote</source>
         <translation>À distance</translation>
     </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>Afficher le panneau</translation>
+    </message>
+    <message>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>Inutile ici&#xa0;: aucune correction ne se perd inaperçue.</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>Modifier dans le bureau…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>Ce bureau laisse les raccourcis à ses propres réglages. Associez-y des touches à ces commandes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>Pas encore de touches</translation>
+    </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Conserver l’éclairage nocturne</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -794,6 +818,42 @@
     <message>
         <source>The folder of presets could not be made.</source>
         <translation>Le dossier des préréglages n’a pas pu être créé.</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>Désactivez l’éclairage nocturne du bureau ou fermez ce qui corrige cet écran. Tonquil le prendra alors en charge en quelques secondes.</translation>
+    </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>Le profil de couleur avec la correction ne peut pas être enregistré.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>Le compositeur n’accepte pas de profil de couleur pour cet écran tant que le HDR est activé.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>Le compositeur refuse le profil de couleur pour cet écran.</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>Ce bureau n’est pas KDE Plasma.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>Le compositeur n’accepte pas de profil de couleur pour cet écran.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Un autre programme étalonne cet écran.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>Le compositeur refuse que cet écran soit corrigé.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Le bus de session ne répond pas.</translation>
     </message>
 </context>
 <context>

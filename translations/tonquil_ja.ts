@@ -464,6 +464,30 @@
         <source>Remote</source>
         <translation>リモート</translation>
     </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>パネルを表示</translation>
+    </message>
+    <message>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>ここでは不要です。気付かないうちに補正が失われることはありません。</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>デスクトップで変更…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>このデスクトップではショートカットはデスクトップ側で設定します。次のコマンドをキーに割り当ててください:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>キーは未割り当て</translation>
+    </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>夜間モードの色を保つ</translation>
+    </message>
 </context>
 <context>
     <name>Problem</name>
@@ -794,6 +818,42 @@
     <message>
         <source>The folder of presets could not be made.</source>
         <translation>プリセットのフォルダを作成できませんでした。</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>デスクトップの夜間モードをオフにするか、このディスプレイを補正している別のプログラムを終了してください。数秒以内に Tonquil が引き継ぎます。</translation>
+    </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>補正を入れたカラープロファイルを保存できません。</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>HDR がオンの間、コンポジタはこのディスプレイのカラープロファイルを受け付けません。</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>コンポジタがこのディスプレイのカラープロファイルを拒否しました。</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>これは KDE Plasma デスクトップではありません。</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>コンポジタはこのディスプレイのカラープロファイルを受け付けません。</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>別のプログラムがこのディスプレイをキャリブレーション中です。</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>コンポジタがこのディスプレイの補正を拒否しています。</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>セッションバスが応答しません。</translation>
     </message>
 </context>
 <context>

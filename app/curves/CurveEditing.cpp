@@ -75,6 +75,27 @@ void CurveEditing::adoptCurve(const KVGammaCurve& curve) {
     _with.view._updateCurveInPanel();
 }
 
+Result<void> CurveEditing::takeCurves(const HandedCurves& curves) {
+    ScreenRegistry::Screens screens;
+    for (const auto& [connector, curve] : curves) {
+        const auto& attached = _with.registry.screens();
+        const auto found = std::ranges::find_if(
+            attached, [&name = connector](const auto& screen) { return screen->isNamed(name); });
+        if (found == attached.end()) {
+            return problem("Tonquil sees no display at " + connector + ".");
+        }
+        screens.push_back(*found);
+    }
+    willEdit(screens, editSubject::openedFile);
+    auto screen = screens.begin();
+    for (const auto& [connector, curve] : curves) {
+        (*screen++)->setGammaCurve(curve);
+    }
+    curvesWereEdited();
+    _with.view._updateCurveInPanel();
+    return {};
+}
+
 // A table is put on the displays and then immediately replaced by the curve read back from them;
 // what remains is the undo step.
 void CurveEditing::adoptTable(const std::shared_ptr<KVGammaCurve>& table) {

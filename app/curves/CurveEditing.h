@@ -9,6 +9,7 @@
 #include "app/curves/PanelView.h"
 #include "foundation/RunLoop.h"
 #include "model/KVTableGammaCurve.h"
+#include "screens/HandedCurves.h"
 
 namespace tonquil {
 
@@ -52,6 +53,9 @@ class CurveEditing {
     /// Replaces the tables of the current displays by the curves that come closest to them. Returns
     /// by how much a level is off at most; nothing if no display has a table.
     std::optional<float> makeEditable();
+    /// Assigns curves to displays, as one undo step. A problem, with nothing changed, if one of the
+    /// displays is not attached.
+    Result<void> takeCurves(const HandedCurves& curves);
 
     /// Call it before other code replaces curves: starts a new undo step.
     void willEdit(const ScreenRegistry::Screens& screens, int subject);

@@ -84,6 +84,12 @@ std::optional<Edid> parseEdid(std::span<const std::uint8_t> bytes) {
         const std::string text = descriptorText(block, serialTextTag);
         edid.serialNumber = text.empty() ? 0 : numberOf(text);
     }
+    // One of the two alone is a ratio.
+    constexpr double millimetresPerCentimetre = 10;
+    if (block[21] != 0 && block[22] != 0) {
+        edid.widthInMillimetres = block[21] * millimetresPerCentimetre;
+        edid.heightInMillimetres = block[22] * millimetresPerCentimetre;
+    }
     edid.productName = descriptorText(block, productNameTag);
     edid.primaries = primariesIn(block);
     return edid;

@@ -21,6 +21,9 @@ struct Edid {
     /// The 32-bit serial number; if that is 0 or a filler, a hash of the serial number text; 0 if
     /// there is neither.
     std::uint32_t serialNumber = 0;
+    /// In whole centimetres, as the kernel has it too; 0 where the monitor does not say.
+    double widthInMillimetres = 0;
+    double heightInMillimetres = 0;
     /// May be empty; printable ASCII.
     std::string productName;
     /// Nothing if the block has none that could be a display's.

@@ -200,5 +200,20 @@ TEST_F(ProgramOnXServer, ExportsWhatRestorePutsBackFromPublishedProfile) {
     }
 }
 
+TEST_F(ProgramOnXServer, EndsItsHoldWhenTheServerDies) {
+    const auto holder =
+        BackgroundProcess::start(
+            tonquilctlRequest(server->display(), {"apply", "--hold", "--curve", "[0,0,1.5]"}))
+            .value();
+    while (ramp(1) == startRamp && holder->isRunning()) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    server->kill();
+    const auto ended = holder->wait(std::chrono::seconds(20));
+    ASSERT_TRUE(ended);
+    EXPECT_EQ(ended->exitStatus, 1);
+    EXPECT_EQ(ended->standardError, "tonquilctl: The display server has gone.\n");
+}
+
 }  // namespace
 }  // namespace tonquil

@@ -16,6 +16,7 @@
 #include "ui/theme/Drawing.h"
 #include "ui/theme/Theme.h"
 #include "windows/panel/PanelIcons.h"
+#include "windows/panel/ProblemText.h"
 
 namespace tonquil {
 
@@ -112,10 +113,9 @@ void TitleStrip::showSubject(const PanelSubject& subject) {
     _title = QCoreApplication::translate("PanelSubject", subject.title.c_str());
     (subject.isAllDisplays ? _allDisplays : _thisDisplay)->setChecked(true);
     // The compact form has no other place to show the reason.
-    const QString hint =
-        subject.obstacle.empty()
-            ? QCoreApplication::translate("Panel", "Choose which displays are edited")
-            : QCoreApplication::translate("Problem", subject.obstacle.c_str());
+    const QString hint = subject.obstacle.empty() ? QCoreApplication::translate(
+                                                        "Panel", "Choose which displays are edited")
+                                                  : obstacleText(subject);
     _subjectButton->setToolTip(hint);
     _subjectButton->setAccessibleDescription(hint);
     updateTitle();

@@ -138,4 +138,18 @@ std::vector<X11Display> readX11Layout(const X11Connection& connection) {
     return displays;
 }
 
+std::vector<xcb_randr_crtc_t> crtcsLeft(std::span<const X11Display> before,
+                                        std::span<const X11Display> now) {
+    std::vector<xcb_randr_crtc_t> left;
+    for (const X11Display& display : before) {
+        const bool isStillThere = std::ranges::any_of(now, [&](const X11Display& each) {
+            return each.output == display.output && each.crtc == display.crtc;
+        });
+        if (!isStillThere) {
+            left.push_back(display.crtc);
+        }
+    }
+    return left;
+}
+
 }  // namespace tonquil

@@ -4,6 +4,7 @@
 #include <xcb/randr.h>
 
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -37,5 +38,9 @@ struct X11Display {
 ///
 /// Never makes the server probe its connectors. Empty if the connection is lost.
 [[nodiscard]] std::vector<X11Display> readX11Layout(const X11Connection& connection);
+
+/// The CRTCs that a display of `before` has left: another display may be driven by them now.
+[[nodiscard]] std::vector<xcb_randr_crtc_t> crtcsLeft(std::span<const X11Display> before,
+                                                      std::span<const X11Display> now);
 
 }  // namespace tonquil
