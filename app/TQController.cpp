@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/TQController.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -43,6 +44,11 @@ TQController::TQController(ControllerSurroundings surroundings)
               .storage = _storage,
               .view = _view,
               .log = _with.log}),
+      _presets({.folder = PresetFolder(_with.presetFolder),
+                .preferences = _with.preferences,
+                .dialogs = _with.dialogs,
+                .files = _files,
+                .log = _with.log}),
       _panelFrame(_with.service, _with.preferences, _with.panel),
       _periodicUpdate(_with.runLoop, _with.preferences, _with.service,
                       [this] { _applyCurvesToScreen(); }),
@@ -134,6 +140,7 @@ bool TQController::checkForConflict() {
 
 void TQController::_initDefaults() {
     _with.preferences.registerDefaults(registeredDefaults());
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
 }
 
 void TQController::_adoptDefaultCurves() {
@@ -168,7 +175,13 @@ void TQController::observeSurroundings() {
     });
     _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
         [this](DisplayID, ReconfigurationFlags flags) {
-            _reconfigurations.displayReconfigured(flags);
+            _mayCalibrationHaveChanged =
+                _mayCalibrationHaveChanged || (flags & calibrationChanged) != 0;
+            if (flags == calibrationChanged) {
+                _reapplication.request();
+            } else {
+                _reconfigurations.displayReconfigured(flags);
+            }
         });
 }
 
@@ -206,6 +219,7 @@ void TQController::_changedDefaults() {
 // It is only followed, never written back: that would undo a change that another program made
 // since.
 void TQController::_applyDefaultsToPanel() {
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
     if (applyCorrection() != _correction.isActive()) {
         _correction.switchTo(applyCorrection());
     }
@@ -241,6 +255,9 @@ void TQController::updateScreens() {
                 screen->adoptGammaCurveDictionary(_storage.storedCurves(), nullptr);
             }
         }
+        if (std::exchange(_mayCalibrationHaveChanged, false)) {
+            adoptCalibration();
+        }
         _correction.activateScreens();
     }
     _panelFrame.bringBack();
@@ -264,6 +281,30 @@ void TQController::togglePanel() {
     }
 }
 
+// A neutral curve shows what a display shows while the correction is off, so it needs no switch.
+Result<void> TQController::takeCurves(const HandedCurves& curves) {
+    const auto neutral = TQExtendedGammaCurve().gammaCurveCompactArray();
+    const bool areNeutral = std::ranges::all_of(
+        curves, [&](const auto& each) { return each.second->gammaCurveCompactArray() == neutral; });
+    {
+        const DisplayBatch batch(_with.service);
+        auto taken = _editing.takeCurves(curves);
+        if (!taken) {
+            return taken;
+        }
+        if (!areNeutral && !applyCorrection()) {
+            setApplyCorrection(true);
+        }
+    }
+    for (const auto& screen : _with.registry.screens()) {
+        const auto description = _with.service.description(screen->directDisplayID());
+        if (curves.contains(description.connector) && !description.obstacle.empty()) {
+            return problem(description.connector + ": " + description.obstacle);
+        }
+    }
+    return {};
+}
+
 void TQController::showTarget(std::optional<TargetKind> kind, const std::string& referenceID) {
     if (referenceID.empty()) {
         _restorableWindows.openTargetWindow(kind);
@@ -278,6 +319,19 @@ void TQController::showTarget(std::optional<TargetKind> kind, const std::string&
                                      "No display with the reference ID %@ is attached. "
                                      "tonquilctl displays lists them."),
                         {referenceID});
+}
+
+std::vector<PresetEntry> TQController::presets() const {
+    std::vector<PresetEntry> entries;
+    for (const Preset& preset : _presets.presets()) {
+        PresetEntry& entry = entries.emplace_back();
+        entry.name = preset.name;
+        if (preset.problem) {
+            entry.problemKey = preset.problem->key();
+            entry.problemArguments = preset.problem->arguments;
+        }
+    }
+    return entries;
 }
 
 int TQController::storedTab() const {

@@ -31,6 +31,15 @@ struct PanelDisplay {
     bool isUnderPanel = false;
 };
 
+/// A preset in the menus.
+struct PresetEntry {
+    std::string name;
+    /// Why it cannot be chosen; the fields of a `Problem` that are needed to translate it. Empty if
+    /// it can.
+    std::string problemKey;
+    std::vector<std::string> problemArguments;
+};
+
 /// User actions in the panel and in the tray.
 class PanelActions {
  public:
@@ -77,6 +86,14 @@ class PanelActions {
     virtual void openFile(const std::filesystem::path& file) = 0;
     /// The settings files for the menu, newest first.
     [[nodiscard]] virtual std::vector<std::filesystem::path> recentFiles() const = 0;
+    /// In order of name; reads their files.
+    [[nodiscard]] virtual std::vector<PresetEntry> presets() const = 0;
+    virtual void openPreset(const std::string& name) = 0;
+    virtual void savePreset() = 0;
+    /// Whether a display that the panel edits has a table, on which the sliders cannot work.
+    [[nodiscard]] virtual bool canMakeEditable() = 0;
+    /// Replaces such tables by the curves that come closest to them.
+    virtual void makeEditable() = 0;
     virtual void quit() = 0;
 };
 

@@ -26,6 +26,9 @@ std::optional<DisplayID> PanelFrame::displayWithGrip(const Rectangle& frame) con
 }
 
 void PanelFrame::restore() {
+    if (_panel.isPlacedByDesktop()) {
+        return;
+    }
     const auto saved = windowFrameFrom(_preferences.stringForKey(settingsKey::controlWindowFrame));
     const auto display = saved ? displayWithGrip(*saved) : std::nullopt;
     if (display) {
@@ -71,7 +74,7 @@ void PanelFrame::moveTo(DisplayID display) {
 }
 
 bool PanelFrame::isWithinReach() const {
-    return displayWithGrip(_panel.frame()).has_value();
+    return _panel.isPlacedByDesktop() || displayWithGrip(_panel.frame()).has_value();
 }
 
 void PanelFrame::bringBack() {

@@ -12,7 +12,8 @@ namespace tonquil {
 /// Moves `frame` inside `screen`; if it does not fit, the upper left corner stays visible.
 [[nodiscard]] Rectangle keptInside(Rectangle frame, const Rectangle& screen);
 
-/// Remembers the panel's position, and keeps it within reach.
+/// Remembers the panel's position, and keeps it within reach; does nothing where the desktop places
+/// the panel.
 class PanelFrame {
  public:
     PanelFrame(DisplayService& service, PreferencesStore& preferences, PanelWindow& panel)

@@ -22,8 +22,11 @@ class PanelWindow {
  public:
     virtual ~PanelWindow() = default;
 
+    /// Whether the desktop alone decides where the panel is.
+    [[nodiscard]] virtual bool isPlacedByDesktop() const { return false; }
+    /// Where the desktop places the panel, only the display that it is on is right, and the size.
     [[nodiscard]] virtual Rectangle frame() const = 0;
-    /// Moves the panel; its size depends on its form.
+    /// Moves the panel, unless the desktop places it; its size depends on its form.
     virtual void setFrameOrigin(const Point& origin) = 0;
     /// Shows the panel in front, with keyboard focus.
     virtual void makeKeyAndOrderFront() = 0;

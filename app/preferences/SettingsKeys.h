@@ -27,6 +27,9 @@ inline constexpr std::string_view rememberSettings = "RememberSettings";
 inline constexpr std::string_view applyCorrection = "ApplyCorrection";
 /// Boolean, false: edits go to every display instead of only the one under the panel.
 inline constexpr std::string_view affectAllScreens = "AffectAllScreens";
+/// Boolean, true: where corrections take the desktop's night light off the displays, they have its
+/// colour in them.
+inline constexpr std::string_view keepNightLight = "KeepNightLight";
 /// Integer, 1: the panel's tab; 0 black, 1 middle, 2 white.
 inline constexpr std::string_view selectedTab = "SelectedTab";
 /// Dictionary, empty: the curves by reference ID of their display.

@@ -89,11 +89,15 @@ class ScriptedDialogs final : public FileDialogs {
         whileUp();
         chosen(file, format.value_or(proposed));
     }
+    void choosePresetName(const std::vector<std::string>& /*names*/, NameChosen chosen) override {
+        chosen(presetName);
+    }
     void alert(const std::string& title, const std::string& /*message*/,
                const std::vector<std::string>& /*arguments*/) override {
         alerts.push_back(title);
     }
 
+    std::string presetName;
     std::filesystem::path file;
     std::optional<SettingsFormat> format;
     /// Runs before the user has chosen where to save.
@@ -225,6 +229,7 @@ class ControllerBench {
     ScriptedHotKeys hotKeys;
     Wire network;
     std::vector<std::string> log;
+    std::filesystem::path presetFolder;
     bool hasEnded = false;
 
  private:

@@ -57,6 +57,11 @@ class RecordedActions final : public PanelActions {
     void saveGamma() override {}
     void openFile(const std::filesystem::path& /*file*/) override {}
     [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const override { return {}; }
+    [[nodiscard]] std::vector<PresetEntry> presets() const override { return {}; }
+    void openPreset(const std::string& /*name*/) override {}
+    void savePreset() override {}
+    [[nodiscard]] bool canMakeEditable() override { return false; }
+    void makeEditable() override {}
     void quit() override {}
 
     std::vector<std::string> calls;

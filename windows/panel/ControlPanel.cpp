@@ -23,6 +23,7 @@
 #include "windows/panel/DevicePixels.h"
 #include "windows/panel/FormChevron.h"
 #include "windows/panel/PanelIcons.h"
+#include "windows/panel/ProblemText.h"
 #include "windows/panel/TitleStrip.h"
 
 namespace tonquil {
@@ -187,7 +188,7 @@ void ControlPanel::showCorrection(bool isOn) {
 
 void ControlPanel::showSubject(const PanelSubject& subject) {
     _contents->titleStrip->showSubject(subject);
-    _contents->plot->setMessage(QCoreApplication::translate("Problem", subject.obstacle.c_str()));
+    _contents->plot->setMessage(obstacleText(subject));
 }
 
 void ControlPanel::updatePlot() {

@@ -53,6 +53,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void updatePlot() override;
     void showUndo(bool canUndo, bool canRedo) override;
 
+    [[nodiscard]] bool isPlacedByDesktop() const override;
     [[nodiscard]] Rectangle frame() const override;
     void setFrameOrigin(const Point& origin) override;
     void makeKeyAndOrderFront() override;
@@ -93,6 +94,8 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void makeFirstResponder(QWidget& control);
     void firstResponderChanged(QWidget* control);
     [[nodiscard]] bool isCutOff(const QWidget& control) const;
+    void tellMoved();
+    void followScreen();
     void takeKeyboard();
     void setAcceptsKeyboard(bool accepts);
     void updateAcceptsKeyboard();
@@ -115,6 +118,9 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     std::int32_t _blendingMode = KVBlendingModeBaseTable;
     bool _observesFirstResponder = false;
     QPointer<QWidget> _firstResponder;
+    /// The window and the screen whose changes are followed where the desktop places windows.
+    QPointer<QWindow> _followedWindow;
+    QMetaObject::Connection _screenConnection;
     bool _isFieldUnderMouse = false;
     /// The control that had the focus before the controls were disabled; the panel itself has it
     /// meanwhile.

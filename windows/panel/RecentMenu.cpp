@@ -5,6 +5,7 @@
 #include <QFile>
 
 #include "app/panel/PanelActions.h"
+#include "windows/panel/CommonEntries.h"
 
 namespace tonquil {
 
@@ -22,9 +23,8 @@ void RecentMenu::setActions(PanelActions& actions) {
 void RecentMenu::fill(PanelActions& actions) {
     clear();
     for (const std::filesystem::path& file : actions.recentFiles()) {
-        // An unescaped ampersand would underline the next character.
-        QString name = QFile::decodeName(file.filename().c_str());
-        QAction* action = addAction(name.replace(QLatin1Char('&'), QStringLiteral("&&")));
+        QAction* action =
+            addAction(CommonEntries::entryText(QFile::decodeName(file.filename().c_str())));
         action->setToolTip(QFile::decodeName(file.c_str()));
         QObject::connect(action, &QAction::triggered, this,
                          [&actions, file] { actions.openFile(file); });

@@ -15,6 +15,7 @@
 #include "ui/theme/Drawing.h"
 #include "ui/theme/Theme.h"
 #include "windows/panel/PanelIcons.h"
+#include "windows/panel/ProblemText.h"
 
 namespace tonquil {
 
@@ -95,7 +96,7 @@ void TitleStrip::showSubject(const PanelSubject& subject) {
     _subjectMenu->setAllDisplays(subject.isAllDisplays);
     // The compact form has no other place to show the reason.
     const QString hint =
-        !subject.obstacle.empty() ? QCoreApplication::translate("Problem", subject.obstacle.c_str())
+        !subject.obstacle.empty() ? obstacleText(subject)
         : subject.isAllDisplays
             ? QCoreApplication::translate("Panel", "An edit replaces the curve of each display")
             : QCoreApplication::translate("Panel", "Choose which displays are edited");

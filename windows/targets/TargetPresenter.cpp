@@ -47,7 +47,8 @@ void TargetPresenter::makeFloatingWindow() {
     controller.window().setWindowIcon(programIcon());
     _aspect = std::make_unique<AspectKeeper>(controller.window(), _windowSystem);
     const auto frame = windowFrameFrom(_preferences.stringForKey(settingsKey::targetsFrame));
-    if (frame && !_service.displaysWithPoint(frame->centre(), 1).empty()) {
+    if (frame &&
+        (areWindowsPlacedByDesktop() || !_service.displaysWithPoint(frame->centre(), 1).empty())) {
         controller.setFrame(pointsFrom(*frame));
     }
     controller.setKind(
@@ -178,11 +179,18 @@ void TargetPresenter::identify(const std::vector<NamedDisplay>& displays) {
 }
 
 void TargetPresenter::saveFrame() {
-    if (_targetWindowController) {
-        _preferences.setValue(
-            settingsKey::targetsFrame,
-            textFromWindowFrame(devicePixelsFrom(_targetWindowController->frame())));
+    if (!_targetWindowController) {
+        return;
     }
+    Rectangle frame = devicePixelsFrom(_targetWindowController->frame());
+    if (areWindowsPlacedByDesktop()) {
+        // Only the size is known; another desktop may want the place.
+        const auto stored = windowFrameFrom(_preferences.stringForKey(settingsKey::targetsFrame));
+        const Point centre = stored ? stored->centre() : _service.bounds(0).centre();
+        frame.x = centre.x - frame.width / 2;
+        frame.y = centre.y - frame.height / 2;
+    }
+    _preferences.setValue(settingsKey::targetsFrame, textFromWindowFrame(frame));
 }
 
 }  // namespace tonquil
