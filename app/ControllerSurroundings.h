@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -48,6 +49,7 @@ struct ControllerSurroundings {
     RemoteConfiguration::ServerOpener openServer;
     /// Sources of session events; may be empty.
     std::vector<SessionEvents*> sessionEvents;
+    std::filesystem::path presetFolder;
     /// Why there will never be any displays; empty if there may be.
     std::string whyNoDisplays;
     /// Quits the event loop; call `applicationWillTerminate` after that.

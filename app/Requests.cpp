@@ -28,6 +28,8 @@ constexpr std::array<RequestName, 7> requestNames{{
 }};
 /// Followed by a file name.
 constexpr std::string_view openWord = "open ";
+/// Followed by the name of a preset.
+constexpr std::string_view presetWord = "preset ";
 /// Followed by a display's reference ID, or nothing.
 struct TargetWord {
     std::optional<TargetKind> kind;
@@ -122,6 +124,9 @@ Result<CommandLine> readCommandLine(std::span<const char* const> arguments) {
                    !line.requests.empty() && line.requests.back().kind == Request::Kind::Targets) {
             ++index;
             line.requests.back().referenceID = arguments[index];
+        } else if (argument == "--preset" && index + 1 < arguments.size()) {
+            ++index;
+            line.requests.push_back({.kind = Request::Kind::Preset, .preset = arguments[index]});
         } else if (argument == "-session") {
             // A session manager adds this option, with its own client ID, when it starts a program.
             ++index;
@@ -159,6 +164,7 @@ std::string commandLineHelp() {
     }
     addOption("--targets", "show test patterns; --targets=color or =grayscale chooses them,");
     addOption("", "--display REFERENCE-ID after it covers that display with them");
+    addOption("--preset NAME", "apply one of the presets");
     addOption("--", "what follows are files, whatever they begin with");
     addOption("--help", "show this text");
     addOption("--version", "show the version");
@@ -174,6 +180,9 @@ std::string textFromRequests(const std::vector<Request>& requests) {
         if (request.kind == Request::Kind::Open) {
             text += openWord;
             text += escaped(request.file.native());
+        } else if (request.kind == Request::Kind::Preset) {
+            text += presetWord;
+            text += escaped(request.preset);
         } else if (request.kind == Request::Kind::Targets) {
             const auto* target = std::find_if(
                 targetWords.begin(), targetWords.end(),
@@ -181,6 +190,9 @@ std::string textFromRequests(const std::vector<Request>& requests) {
             text += target->option.substr(2);
             text += ' ';
             text += escaped(request.referenceID);
+        } else if (request.kind == Request::Kind::Curves) {
+            text += handedCurvesWord;
+            text += textFromHandedCurves(request.curves);
         } else {
             const auto* name =
                 std::find_if(requestNames.begin(), requestNames.end(),
@@ -198,6 +210,15 @@ Result<std::vector<Request>> requestsFromText(std::string_view text) {
         const std::string_view word = text.substr(0, text.find('\n'));
         if (word.starts_with(openWord)) {
             requests.push_back(openRequest(unescaped(word.substr(openWord.size()))));
+        } else if (word.starts_with(presetWord)) {
+            requests.push_back({.kind = Request::Kind::Preset,
+                                .preset = unescaped(word.substr(presetWord.size()))});
+        } else if (word.starts_with(handedCurvesWord)) {
+            auto curves = handedCurvesFromText(word.substr(handedCurvesWord.size()));
+            if (!curves) {
+                return tl::unexpected(std::move(curves.error()));
+            }
+            requests.push_back({.kind = Request::Kind::Curves, .curves = std::move(*curves)});
         } else if (const TargetWord* target = findTarget(word.substr(0, word.find(' ')), 2)) {
             requests.push_back({.kind = Request::Kind::Targets,
                                 .target = target->kind,
@@ -217,7 +238,8 @@ bool wantsEnd(const std::vector<Request>& requests) {
     return std::ranges::find(requests, Request{.kind = Request::Kind::Quit}) != requests.end();
 }
 
-void carryOut(const std::vector<Request>& requests, TQController& controller) {
+std::string carryOut(const std::vector<Request>& requests, TQController& controller) {
+    std::string undone;
     for (const Request& request : requests) {
         switch (request.kind) {
             case Request::Kind::Reopen:
@@ -241,14 +263,23 @@ void carryOut(const std::vector<Request>& requests, TQController& controller) {
             case Request::Kind::Open:
                 controller.openFile(request.file);
                 break;
+            case Request::Kind::Preset:
+                controller.openPreset(request.preset);
+                break;
             case Request::Kind::Targets:
                 controller.showTarget(request.target, request.referenceID);
+                break;
+            case Request::Kind::Curves:
+                if (const auto taken = controller.takeCurves(request.curves); !taken) {
+                    undone = taken.error().sentence;
+                }
                 break;
             case Request::Kind::Quit:
                 controller.quit();
                 break;
         }
     }
+    return undone;
 }
 
 }  // namespace tonquil

@@ -11,6 +11,7 @@
 
 #include "app/desktop/TargetWindows.h"
 #include "foundation/Problem.h"
+#include "screens/HandedCurves.h"
 
 namespace tonquil {
 
@@ -26,7 +27,9 @@ struct Request {
         ShowPanel,
         Preferences,
         Open,     ///< A settings file.
+        Preset,   ///< A settings file of the folder of presets.
         Targets,  ///< Floating, or covering a display.
+        Curves,   ///< For displays by their connectors, from tonquilctl.
         Quit,
     };
 
@@ -38,6 +41,10 @@ struct Request {
     /// window.
     std::optional<TargetKind> target = {};
     std::string referenceID = {};
+    /// Only for `Preset`.
+    std::string preset = {};
+    /// Only for `Curves`.
+    HandedCurves curves = {};
 
     bool operator==(const Request&) const = default;
 };
@@ -62,7 +69,7 @@ struct CommandLine {
 
 /// Whether the program is to quit.
 [[nodiscard]] bool wantsEnd(const std::vector<Request>& requests);
-/// Carries out the requests.
-void carryOut(const std::vector<Request>& requests, TQController& controller);
+/// Carries out the requests; returns what could not be done, a sentence, or nothing.
+std::string carryOut(const std::vector<Request>& requests, TQController& controller);
 
 }  // namespace tonquil

@@ -14,6 +14,7 @@ void applyStoredCurves(ScreenRegistry& registry, DisplayService& service,
         ConflictCheck::rivalToWarnOf(preferences, programs)) {
         return;
     }
+    service.setNightLightKept(preferences.boolForKey(settingsKey::keepNightLight));
     PropertyValue curves = preferences.dictionaryForKey(settingsKey::screens);
     curves.update(recovery.leftCurves());
     const DisplayBatch batch(service);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/TQController.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -43,6 +44,11 @@ TQController::TQController(ControllerSurroundings surroundings)
               .storage = _storage,
               .view = _view,
               .log = _with.log}),
+      _presets({.folder = PresetFolder(_with.presetFolder),
+                .preferences = _with.preferences,
+                .dialogs = _with.dialogs,
+                .files = _files,
+                .log = _with.log}),
       _panelFrame(_with.service, _with.preferences, _with.panel),
       _periodicUpdate(_with.runLoop, _with.preferences, _with.service,
                       [this] { _applyCurvesToScreen(); }),
@@ -110,6 +116,7 @@ void TQController::applicationWillTerminate() {
         return;
     }
     _reconfigurationSubscription.reset();
+    compare(false);
     _periodicUpdate._stopPeriodicUpdate();
     _panelFrame.save();
     _with.targets.saveFrame();
@@ -133,6 +140,7 @@ bool TQController::checkForConflict() {
 
 void TQController::_initDefaults() {
     _with.preferences.registerDefaults(registeredDefaults());
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
 }
 
 void TQController::_adoptDefaultCurves() {
@@ -167,7 +175,13 @@ void TQController::observeSurroundings() {
     });
     _reconfigurationSubscription = _with.service.registerReconfigurationCallback(
         [this](DisplayID, ReconfigurationFlags flags) {
-            _reconfigurations.displayReconfigured(flags);
+            _mayCalibrationHaveChanged =
+                _mayCalibrationHaveChanged || (flags & calibrationChanged) != 0;
+            if (flags == calibrationChanged) {
+                _reapplication.request();
+            } else {
+                _reconfigurations.displayReconfigured(flags);
+            }
         });
 }
 
@@ -205,6 +219,7 @@ void TQController::_changedDefaults() {
 // It is only followed, never written back: that would undo a change that another program made
 // since.
 void TQController::_applyDefaultsToPanel() {
+    _with.service.setNightLightKept(_with.preferences.boolForKey(settingsKey::keepNightLight));
     if (applyCorrection() != _correction.isActive()) {
         _correction.switchTo(applyCorrection());
     }
@@ -223,6 +238,7 @@ void TQController::applyAppearance() {
     _with.panel._setAdvancedPanel(preferences.boolForKey(settingsKey::advancedPanel));
     _with.panel._setDarkTheme(preferences.boolForKey(settingsKey::darkTheme));
     _with.panel.showChannelStrip(preferences.boolForKey(settingsKey::channelStrip));
+    _with.panel.showFirstHint(!preferences.boolForKey(settingsKey::hasEdited));
     _with.targets.setHintsShown(preferences.boolForKey(settingsKey::showsTargetHints));
 }
 
@@ -239,6 +255,9 @@ void TQController::updateScreens() {
                 screen->adoptGammaCurveDictionary(_storage.storedCurves(), nullptr);
             }
         }
+        if (std::exchange(_mayCalibrationHaveChanged, false)) {
+            adoptCalibration();
+        }
         _correction.activateScreens();
     }
     _panelFrame.bringBack();
@@ -251,6 +270,39 @@ void TQController::showPanel() {
         _panelFrame.bringBack();
     }
     _with.panel.makeKeyAndOrderFront();
+}
+
+void TQController::togglePanel() {
+    if (_with.panel.isOrderedIn() && _with.panel.isOnActiveWorkspace()) {
+        endEdit();
+        _with.panel.orderOut();
+    } else {
+        showPanel();
+    }
+}
+
+// A neutral curve shows what a display shows while the correction is off, so it needs no switch.
+Result<void> TQController::takeCurves(const HandedCurves& curves) {
+    const auto neutral = TQExtendedGammaCurve().gammaCurveCompactArray();
+    const bool areNeutral = std::ranges::all_of(
+        curves, [&](const auto& each) { return each.second->gammaCurveCompactArray() == neutral; });
+    {
+        const DisplayBatch batch(_with.service);
+        auto taken = _editing.takeCurves(curves);
+        if (!taken) {
+            return taken;
+        }
+        if (!areNeutral && !applyCorrection()) {
+            setApplyCorrection(true);
+        }
+    }
+    for (const auto& screen : _with.registry.screens()) {
+        const auto description = _with.service.description(screen->directDisplayID());
+        if (curves.contains(description.connector) && !description.obstacle.empty()) {
+            return problem(description.connector + ": " + description.obstacle);
+        }
+    }
+    return {};
 }
 
 void TQController::showTarget(std::optional<TargetKind> kind, const std::string& referenceID) {
@@ -269,10 +321,31 @@ void TQController::showTarget(std::optional<TargetKind> kind, const std::string&
                         {referenceID});
 }
 
+std::vector<PresetEntry> TQController::presets() const {
+    std::vector<PresetEntry> entries;
+    for (const Preset& preset : _presets.presets()) {
+        PresetEntry& entry = entries.emplace_back();
+        entry.name = preset.name;
+        if (preset.problem) {
+            entry.problemKey = preset.problem->key();
+            entry.problemArguments = preset.problem->arguments;
+        }
+    }
+    return entries;
+}
+
 int TQController::storedTab() const {
     constexpr int middleTab = 1;
     const std::int64_t stored = _with.preferences.integerForKey(settingsKey::selectedTab);
     return stored >= 0 && stored <= 2 ? static_cast<int>(stored) : middleTab;
+}
+
+// The hint goes only now: what is below it must not move under the pointer during the first drag.
+void TQController::endEdit() {
+    _history.endStep();
+    if (_history.canUndo() && !_with.preferences.boolForKey(settingsKey::hasEdited)) {
+        _with.preferences.setValue(settingsKey::hasEdited, true);
+    }
 }
 
 void TQController::setSelectedTab(int index) {
@@ -284,6 +357,19 @@ void TQController::setSelectedTab(int index) {
 void TQController::setAffectsAllScreens(bool affectsAll) {
     _with.preferences.setValue(settingsKey::affectAllScreens, affectsAll);
     _view._changeScreen();
+}
+
+void TQController::editDisplay(DisplayID display) {
+    _panelFrame.moveTo(display);
+    setAffectsAllScreens(false);
+}
+
+void TQController::identifyDisplays() {
+    std::vector<NamedDisplay> named;
+    for (const PanelDisplay& display : displays()) {
+        named.push_back({.display = display.display, .name = display.title});
+    }
+    _with.targets.identify(named);
 }
 
 void TQController::setAdvancedPanel(bool advanced) {

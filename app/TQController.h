@@ -13,12 +13,14 @@
 #include "app/curves/CurveEditing.h"
 #include "app/desktop/RestorableWindows.h"
 #include "app/desktop/StatusItem.h"
+#include "app/files/PresetFiles.h"
 #include "app/files/SettingsFiles.h"
 #include "app/panel/ControllerHotKeys.h"
 #include "app/panel/PanelActions.h"
 #include "app/panel/PanelFrame.h"
 #include "app/panel/PanelUnderMouse.h"
 #include "app/remote/RemoteConfiguration.h"
+#include "screens/HandedCurves.h"
 
 namespace tonquil {
 
@@ -40,9 +42,13 @@ class TQController final : public PanelActions {
 
     [[nodiscard]] bool applyCorrection() const { return _correction.applyCorrection(); }
     void setApplyCorrection(bool isOn) { _correction.setApplyCorrection(isOn); }
-    void toggleApplyCorrection() { setApplyCorrection(!applyCorrection()); }
+    void toggleApplyCorrection() override { setApplyCorrection(!applyCorrection()); }
     void _applyCurvesToScreen() { _correction._applyCurvesToScreen(); }
     void showPanel();
+    /// Adopts curves from another program, as an edit, and switches the correction on if they need
+    /// it. A problem if a display is not attached, and then nothing is changed, or if it cannot
+    /// show its curve for the moment.
+    Result<void> takeCurves(const HandedCurves& curves);
     /// Shows a target in the floating window or, given a display's reference ID, covering that
     /// display.
     void showTarget(std::optional<TargetKind> kind, const std::string& referenceID);
@@ -50,17 +56,24 @@ class TQController final : public PanelActions {
     void applyGamma(PanelSlider sender, bool isLinked) override {
         _editing.applyGamma(sender, isLinked);
     }
-    void endEdit() override { _history.endStep(); }
+    void endEdit() override;
     void changeBlendingMode() override { _editing.changeBlendingMode(); }
     void changeApplyCorrection(bool isOn) override { setApplyCorrection(isOn); }
+    void compare(bool isHeld) override { _correction.setCompared(isHeld); }
     void resetGamma() override { _editing.resetGamma(); }
     void setSelectedTab(int index) override;
     void setAffectsAllScreens(bool affectsAll) override;
+    [[nodiscard]] std::vector<PanelDisplay> displays() override {
+        return _currentScreens.displays();
+    }
+    void editDisplay(DisplayID display) override;
+    void identifyDisplays() override;
     void setAdvancedPanel(bool advanced) override;
     void setDarkTheme(bool dark) override;
     void setChannelStrip(bool isShown) override;
     void undo() override { _editing.undo(); }
     void redo() override { _editing.redo(); }
+    void togglePanel() override;
     void panelMoved() override { _view.panelMoved(); }
     [[nodiscard]] std::optional<PlottedCurves> plottedCurves() override {
         return _view.plottedCurves();
@@ -76,6 +89,11 @@ class TQController final : public PanelActions {
     [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const override {
         return _files.recentFiles();
     }
+    [[nodiscard]] std::vector<PresetEntry> presets() const override;
+    void openPreset(const std::string& name) override { _presets.open(name); }
+    void savePreset() override { _presets.saveAs(); }
+    [[nodiscard]] bool canMakeEditable() override { return _editing.hasTable(); }
+    void makeEditable() override { _files.makeEditable(); }
     void quit() override { _with.endProgram(); }
 
     /// Disables hot keys while the user records a combination, so that one of them can be recorded.
@@ -127,6 +145,7 @@ class TQController final : public PanelActions {
     PanelView _view;
     CurveEditing _editing;
     SettingsFiles _files;
+    PresetFiles _presets;
     PanelFrame _panelFrame;
     PeriodicUpdate _periodicUpdate;
     Reapplication _reapplication;

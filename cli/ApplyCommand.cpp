@@ -1,28 +1,27 @@
 // SPDX-License-Identifier: MIT
+#include <memory>
+#include <optional>
+#include <string>
 #include <utility>
-#include <vector>
 
 #include "cli/Commands.h"
 #include "cli/CurveSource.h"
+#include "cli/HandOver.h"
 #include "cli/ScreenSelection.h"
-#include "model/TQExtendedGammaCurve.h"
+#include "model/StoredCurve.h"
 
 namespace tonquil {
 
 namespace {
 
-using Assignment = std::pair<ScreenRegistry::ScreenPointer, KVScreen::CurvePointer>;
-
 /// Assigns each screen its curve: the entry under the first of its keys that exists.
-Result<std::vector<Assignment>> assign(const CurvesByDisplay& curves,
-                                       const ScreenRegistry::Screens& screens) {
-    std::vector<Assignment> assignments;
+Result<Assignments> assign(const CurvesByDisplay& curves, const ScreenRegistry::Screens& screens) {
+    Assignments assignments;
     for (const auto& screen : screens) {
         for (const std::string& key : screen->keys()) {
             const PropertyValue* dictionary = entry(curves.screens, key);
             if (dictionary != nullptr && dictionary->is_object()) {
-                assignments.emplace_back(
-                    screen, TQExtendedGammaCurve::gammaCurveWithDictionary(*dictionary));
+                assignments.emplace_back(screen, curveWithDictionary(*dictionary));
                 break;
             }
         }
@@ -35,9 +34,8 @@ Result<std::vector<Assignment>> assign(const CurvesByDisplay& curves,
     return assignments;
 }
 
-Result<std::vector<Assignment>> assign(const OneCurve& curve,
-                                       const ScreenRegistry::Screens& screens) {
-    std::vector<Assignment> assignments;
+Result<Assignments> assign(const OneCurve& curve, const ScreenRegistry::Screens& screens) {
+    Assignments assignments;
     for (const auto& screen : screens) {
         assignments.emplace_back(screen, curve);
     }
@@ -46,22 +44,35 @@ Result<std::vector<Assignment>> assign(const OneCurve& curve,
 
 using Curves = std::variant<OneCurve, CurvesByDisplay>;
 
-/// Puts the curves on the displays that are meant and that are there.
-Result<void> applyOnce(const Curves& curves, const Arguments& arguments, DisplayService& service,
-                       ScreenRegistry& registry, const CommandEnvironment& environment) {
+Result<Assignments> assignAny(const Curves& curves, const ScreenRegistry::Screens& screens) {
+    return std::visit([&](const auto& source) { return assign(source, screens); }, curves);
+}
+
+/// Puts the curves on the displays that are meant and that are there. Where a correction ends with
+/// its program, and is not to be held, it sets nothing and gives the request for the Tonquil that
+/// runs.
+Result<std::optional<std::string>> applyOnce(const Curves& curves, const Arguments& arguments,
+                                             DisplayService& service, ScreenRegistry& registry,
+                                             const CommandEnvironment& environment) {
     DisplayBatch batch(service);
     registry.updateScreenList();
+    const auto meant = meantScreens(registry, arguments.displays);
+    if (!meant) {
+        return tl::unexpected(meant.error());
+    }
+    if (!arguments.hold && endsWithItsProgram(*meant, service)) {
+        // The running Tonquil holds these displays, so what is in our way is not in its.
+        return assignAny(curves, *meant).and_then([&](const Assignments& assignments) {
+            return requestFor(assignments, service).map([](std::string request) {
+                return std::optional(std::move(request));
+            });
+        });
+    }
     const auto screens = selectScreens(registry, service, arguments.displays, environment.notes);
     if (!screens) {
         return tl::unexpected(screens.error());
     }
-    if (const auto ending = endingWithItsProgram(*screens, service); ending && !arguments.hold) {
-        return problem(*ending +
-                       ": here a correction ends with the program that set it; use \"tonquilctl "
-                       "apply --hold\", which stays, or tonquil.");
-    }
-    const auto assignments =
-        std::visit([&](const auto& source) { return assign(source, *screens); }, curves);
+    const auto assignments = assignAny(curves, *screens);
     if (!assignments) {
         return tl::unexpected(assignments.error());
     }
@@ -72,7 +83,7 @@ Result<void> applyOnce(const Curves& curves, const Arguments& arguments, Display
     if (!batch.finish()) {
         return problem("Not every display took the correction.", environment.logged);
     }
-    return {};
+    return std::nullopt;
 }
 
 /// Keeps the curves on the displays, whichever come and go, until the run loop is stopped.
@@ -80,12 +91,20 @@ Result<void> hold(const Curves& curves, const Arguments& arguments, DisplayServi
                   ScreenRegistry& registry, const CommandEnvironment& environment) {
     RunLoop& loop = environment.remote.runLoop;
     bool isApplicationDue = false;
+    bool areBasesOld = false;
     // One change is told once per display, and ends for all of them at once.
     const auto subscription =
         service.registerReconfigurationCallback([&](DisplayID, ReconfigurationFlags flags) {
+            areBasesOld = areBasesOld || (flags & calibrationChanged) != 0;
             if (flags != beginConfiguration && !std::exchange(isApplicationDue, true)) {
                 loop.post([&] {
                     isApplicationDue = false;
+                    if (std::exchange(areBasesOld, false)) {
+                        registry.updateScreenList();
+                        for (const auto& screen : registry.screens()) {
+                            screen->readBaseGamma();
+                        }
+                    }
                     // With nothing to correct for the moment, the next change may bring it.
                     static_cast<void>(applyOnce(curves, arguments, service, registry, environment));
                 });
@@ -116,15 +135,22 @@ Result<void> runApply(const Arguments& arguments, const CommandEnvironment& envi
     if (!curves) {
         return tl::unexpected(curves.error());
     }
-    const auto service =
-        arguments.hold ? environment.openDisplaysToHold() : environment.openDisplays();
+    auto service = arguments.hold ? environment.openDisplaysToHold() : environment.openDisplays();
     if (!service) {
         return tl::unexpected(service.error());
     }
-    ScreenRegistry registry(**service);
-    auto applied = applyOnce(*curves, arguments, **service, registry, environment);
-    return applied && arguments.hold ? hold(*curves, arguments, **service, registry, environment)
-                                     : applied;
+    auto registry = std::make_unique<ScreenRegistry>(**service);
+    const auto applied = applyOnce(*curves, arguments, **service, *registry, environment);
+    if (!applied) {
+        return tl::unexpected(applied.error());
+    }
+    if (arguments.hold) {
+        return hold(*curves, arguments, **service, *registry, environment);
+    }
+    // To look at a display may have taken it from the one who is to set it.
+    registry.reset();
+    service->reset();
+    return *applied ? handOver(**applied, environment) : Result<void>();
 }
 
 }  // namespace tonquil

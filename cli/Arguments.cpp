@@ -26,23 +26,26 @@ struct CommandForm {
     Arguments::Command command;
     /// The letters of the accepted options; see `options`.
     std::string_view options;
-    /// Positional arguments in order: h host, i reference ID, f file. Upper case means optional.
+    /// Positional arguments in order: h host, i reference ID, f file. Upper case means optional; an
+    /// F is a file with a curve, which can be given in other ways too.
     std::string_view operands;
 };
 
 constexpr std::array commandForms{
     CommandForm{"displays", Arguments::Command::displays, "j", ""},
-    CommandForm{"apply", Arguments::Command::apply, "dco", "F"},
+    CommandForm{"apply", Arguments::Command::apply, "dcop", "F"},
     CommandForm{"restore", Arguments::Command::restore, "d", ""},
     CommandForm{"read", Arguments::Command::read, "dw", ""},
     CommandForm{"table", Arguments::Command::table, "dcnb", "F"},
+    CommandForm{"export", Arguments::Command::exportTable, "df", "f"},
+    CommandForm{"fit", Arguments::Command::fit, "d", "f"},
     CommandForm{"remote scan", Arguments::Command::remoteScan, "jta", ""},
     CommandForm{"remote get", Arguments::Command::remoteGet, "", "hI"},
     CommandForm{"remote set", Arguments::Command::remoteSet, "ck", "hiF"},
     CommandForm{"remote watch", Arguments::Command::remoteWatch, "", "h"},
 };
 
-constexpr std::array<option, 14> options{{{"json", no_argument, nullptr, 'j'},
+constexpr std::array<option, 16> options{{{"json", no_argument, nullptr, 'j'},
                                           {"display", required_argument, nullptr, 'd'},
                                           {"curve", required_argument, nullptr, 'c'},
                                           {"hardware", no_argument, nullptr, 'w'},
@@ -52,6 +55,8 @@ constexpr std::array<option, 14> options{{{"json", no_argument, nullptr, 'j'},
                                           {"timeout", required_argument, nullptr, 't'},
                                           {"address", required_argument, nullptr, 'a'},
                                           {"content", required_argument, nullptr, 'k'},
+                                          {"preset", required_argument, nullptr, 'p'},
+                                          {"format", required_argument, nullptr, 'f'},
                                           {"help", no_argument, nullptr, 'h'},
                                           {"version", no_argument, nullptr, 'V'},
                                           {nullptr, 0, nullptr, 0}}};
@@ -80,6 +85,17 @@ Result<std::chrono::milliseconds> timeoutFrom(std::string_view text) {
 
 bool isContent(std::string_view text) {
     return text == "colorTargets" || text == "grayscaleTargets" || text == "transparent";
+}
+
+Result<ExportFormat> formatFrom(std::string_view text) {
+    constexpr std::array<std::pair<std::string_view, ExportFormat>, 3> formats{
+        {{"icc", ExportFormat::Icc}, {"cal", ExportFormat::Cal}, {"table", ExportFormat::Table}}};
+    const auto* const found =
+        std::ranges::find(formats, text, [](const auto& each) { return each.first; });
+    if (found == formats.end()) {
+        return problem("--format is icc, cal or table, not " + inQuotes(text) + ".");
+    }
+    return found->second;
 }
 
 /// Parses one option of the remote commands.
@@ -140,6 +156,17 @@ std::optional<Problem> take(int letter, const CommandForm& form, Arguments& argu
             arguments.samples = *count;
             break;
         }
+        case 'p':
+            arguments.preset = optarg;
+            break;
+        case 'f': {
+            const auto format = formatFrom(optarg);
+            if (!format) {
+                return format.error();
+            }
+            arguments.format = *format;
+            break;
+        }
         case 'a':
         case 'k':
         case 't':
@@ -158,16 +185,17 @@ std::optional<Problem> takeOperands(const CommandForm& form, int argc, char* con
                                     Arguments& arguments) {
     for (const char operand : form.operands) {
         if (optind >= argc) {
-            if (operand == 'h' || operand == 'i') {
-                return Problem{inQuotes(form.name) +
-                                   (operand == 'h' ? " needs a host." : " needs a reference ID."),
-                               {}};
+            if (operand == 'F' || operand == 'I') {
+                break;
             }
-            break;
+            return Problem{inQuotes(form.name) + (operand == 'h'   ? " needs a host."
+                                                  : operand == 'f' ? " needs a file."
+                                                                   : " needs a reference ID."),
+                           {}};
         }
-        auto& taken = operand == 'h'   ? arguments.host
-                      : operand == 'F' ? arguments.file
-                                       : arguments.referenceID;
+        auto& taken = operand == 'h'                     ? arguments.host
+                      : operand == 'f' || operand == 'F' ? arguments.file
+                                                         : arguments.referenceID;
         taken = argv[optind++];
     }
     if (optind < argc) {
@@ -183,12 +211,14 @@ std::optional<Problem> checkCurve(const CommandForm& form, const Arguments& argu
     }
     const bool mayHaveNone =
         form.command == Arguments::Command::remoteSet && arguments.content.has_value();
-    if (arguments.file && arguments.curve) {
-        return Problem{inQuotes(form.name) + " takes either a file or --curve.", {}};
+    const int given =
+        (arguments.file ? 1 : 0) + (arguments.curve ? 1 : 0) + (arguments.preset ? 1 : 0);
+    if (given == 0 && form.command == Arguments::Command::remoteSet && !mayHaveNone) {
+        return Problem{inQuotes(form.name) + " needs a file, --curve or --content.", {}};
     }
-    if (!arguments.file && !arguments.curve && !mayHaveNone) {
-        return Problem{inQuotes(form.name) + (form.command == Arguments::Command::remoteSet
-                                                  ? " needs a file, --curve or --content."
+    if (given > 1 || (given == 0 && !mayHaveNone)) {
+        return Problem{inQuotes(form.name) + (form.command == Arguments::Command::apply
+                                                  ? " takes either a file, --curve or --preset."
                                                   : " takes either a file or --curve."),
                        {}};
     }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "colourfiles/ExportedTable.h"
 #include "foundation/Problem.h"
 
 namespace tonquil {
@@ -21,6 +22,8 @@ struct Arguments {
         restore,
         read,
         table,
+        exportTable,
+        fit,
         remoteScan,
         remoteGet,
         remoteSet,
@@ -37,6 +40,10 @@ struct Arguments {
     std::optional<std::string> curve = {};
     std::optional<std::string> file = {};
     std::optional<std::string> base = {};
+    /// The name of a settings file in the folder of presets.
+    std::optional<std::string> preset = {};
+    /// Without a value the file's extension decides.
+    std::optional<ExportFormat> format = {};
     std::uint32_t samples = 256;
     /// The host for a remote command; for a scan, none means the whole network.
     std::optional<std::string> host = {};

@@ -1,11 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 
+#include <utility>
+
 #include "cli/Help.h"
 
 namespace tonquil {
 
+namespace {
+
+/// A preset is a file like any other once its place is known.
+Result<void> runWithPreset(const Arguments& arguments, const CommandEnvironment& environment) {
+    auto file = environment.presets.fileNamed(*arguments.preset);
+    if (!file) {
+        return tl::unexpected(std::move(file.error()));
+    }
+    Arguments found = arguments;
+    found.preset.reset();
+    found.file = file->string();
+    return runCommand(found, environment);
+}
+
+}  // namespace
+
 Result<void> runCommand(const Arguments& arguments, const CommandEnvironment& environment) {
+    if (arguments.preset) {
+        return runWithPreset(arguments, environment);
+    }
     switch (arguments.command) {
         case Arguments::Command::version:
             environment.out +=
@@ -22,6 +43,10 @@ Result<void> runCommand(const Arguments& arguments, const CommandEnvironment& en
             return runRead(arguments, environment);
         case Arguments::Command::table:
             return runTable(arguments, environment);
+        case Arguments::Command::exportTable:
+            return runExport(arguments, environment);
+        case Arguments::Command::fit:
+            return runFit(arguments, environment);
         case Arguments::Command::remoteScan:
             return runRemoteScan(arguments, environment);
         case Arguments::Command::remoteGet:

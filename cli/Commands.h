@@ -3,12 +3,14 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "cli/Arguments.h"
 #include "cli/RemoteAccess.h"
 #include "foundation/Problem.h"
 #include "screens/DisplayService.h"
+#include "settings/PresetFolder.h"
 
 namespace tonquil {
 
@@ -27,6 +29,11 @@ struct CommandEnvironment {
     /// Opens the display service for a command that stays: on the run loop of `remote`, which it
     /// stops when the displays are lost.
     std::function<Result<std::unique_ptr<DisplayService>>()> openDisplaysToHold = {};
+    /// Hands a request to the Tonquil that runs on this desktop; nothing where none does.
+    std::function<std::optional<Result<void>>(const std::string& request)> handOver =
+        [](const std::string&) { return std::nullopt; };
+    /// The user's presets.
+    PresetFolder presets = PresetFolder({});
     /// Whether the displays were lost meanwhile.
     std::function<bool()> areDisplaysLost = {};
     /// The names of the display services that are built in.
@@ -47,6 +54,10 @@ struct CommandEnvironment {
                                    const CommandEnvironment& environment);
 [[nodiscard]] Result<void> runTable(const Arguments& arguments,
                                     const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runExport(const Arguments& arguments,
+                                     const CommandEnvironment& environment);
+[[nodiscard]] Result<void> runFit(const Arguments& arguments,
+                                  const CommandEnvironment& environment);
 [[nodiscard]] Result<void> runRemoteScan(const Arguments& arguments,
                                          const CommandEnvironment& environment);
 [[nodiscard]] Result<void> runRemoteGet(const Arguments& arguments,

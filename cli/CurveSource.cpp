@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "model/KVTableGammaCurve.h"
+#include "model/StoredCurve.h"
 #include "model/TQExtendedGammaCurve.h"
 #include "settings/Settings.h"
 #include "values/BoundedJson.h"
@@ -36,7 +37,9 @@ Result<Curves> curveFromText(const std::string& text) {
 Result<Curves> curvesFromRawTable(const RawTableSettings& raw, const std::string& file) {
     auto curve = KVTableGammaCurve::tableGammaCurveWithData(raw.bytes);
     if (!curve) {
-        return problem(file + " is neither a settings file nor a raw table, which has 768 bytes.");
+        return problem(file +
+                       " is neither a settings file, nor an ICC profile or .cal file, nor a raw "
+                       "table, which has 768 bytes.");
     }
     return OneCurve(std::move(curve));
 }
@@ -47,7 +50,10 @@ Result<Curves> curvesFromFile(const std::string& file) {
         return tl::unexpected(std::move(settings.error()));
     }
     if (const auto* single = std::get_if<SingleDisplaySettings>(&*settings)) {
-        return OneCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(single->curve));
+        return curveWithDictionary(single->curve);
+    }
+    if (const auto* calibration = std::get_if<CalibrationSettings>(&*settings)) {
+        return OneCurve(std::make_shared<KVTableGammaCurve>(calibration->table));
     }
     if (auto* multi = std::get_if<MultiDisplaySettings>(&*settings)) {
         if (!multi->screens.is_object() || multi->screens.empty()) {
@@ -62,6 +68,30 @@ Result<Curves> curvesFromFile(const std::string& file) {
 
 Result<Curves> readCurves(const Arguments& arguments) {
     return arguments.curve ? curveFromText(*arguments.curve) : curvesFromFile(*arguments.file);
+}
+
+Result<OneCurve> readOneCurve(const Arguments& arguments) {
+    auto curves = readCurves(arguments);
+    if (!curves) {
+        return tl::unexpected(std::move(curves.error()));
+    }
+    if (auto* curve = std::get_if<OneCurve>(&*curves)) {
+        if (!arguments.displays.empty()) {
+            return problem("There is one curve only, so --display has nothing to choose from.");
+        }
+        return std::move(*curve);
+    }
+    const PropertyValue& screens = std::get<CurvesByDisplay>(*curves).screens;
+    const bool isOnlyOne = arguments.displays.empty() && screens.size() == 1;
+    if (!isOnlyOne && arguments.displays.size() != 1) {
+        return problem(*arguments.file + " is for several displays; say which one by --display.");
+    }
+    const std::string& display = isOnlyOne ? screens.begin().key() : arguments.displays.front();
+    const PropertyValue* dictionary = entry(screens, display);
+    if (dictionary == nullptr || !dictionary->is_object()) {
+        return problem(*arguments.file + " has no curve for " + display + ".");
+    }
+    return curveWithDictionary(*dictionary);
 }
 
 }  // namespace tonquil

@@ -26,4 +26,7 @@ struct CurvesByDisplay {
 [[nodiscard]] Result<std::variant<OneCurve, CurvesByDisplay>> readCurves(
     const Arguments& arguments);
 
+/// The same where only one curve is wanted: of a file for several displays, --display says which.
+[[nodiscard]] Result<OneCurve> readOneCurve(const Arguments& arguments);
+
 }  // namespace tonquil

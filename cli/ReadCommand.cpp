@@ -13,18 +13,11 @@ Result<void> runRead(const Arguments& arguments, const CommandEnvironment& envir
     const DisplayBatch batch(**service);
     ScreenRegistry registry(**service);
     registry.updateScreenList();
-    const auto& screens = registry.screens();
-    if (screens.empty()) {
-        return problem("No display is attached.");
+    const auto chosen = screenOrMain(registry, arguments.displays);
+    if (!chosen) {
+        return tl::unexpected(chosen.error());
     }
-    auto screen = screens.front();
-    if (!arguments.displays.empty()) {
-        const auto named = screenNamed(registry, arguments.displays.back());
-        if (!named) {
-            return tl::unexpected(named.error());
-        }
-        screen = *named;
-    }
+    const KVScreen* const screen = chosen->get();
     const DisplayDescription description = (*service)->description(screen->directDisplayID());
     if (arguments.hardware && !description.isReadable) {
         return problem(description.connector +

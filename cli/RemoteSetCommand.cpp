@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include <cmath>
+#include <memory>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "cli/Commands.h"
 #include "cli/CurveSource.h"
 #include "cli/RemoteClient.h"
+#include "cli/TableText.h"
+#include "model/CurveFit.h"
+#include "model/KVTableGammaCurve.h"
+#include "model/StoredCurve.h"
 #include "model/TQExtendedGammaCurve.h"
 
 namespace tonquil {
@@ -18,10 +25,15 @@ struct Wanted {
     std::optional<std::string> content;
 };
 
-Result<std::vector<float>> numbersOf(const KVGammaCurve& curve) {
-    const auto* const extended = dynamic_cast<const TQExtendedGammaCurve*>(&curve);
-    if (extended == nullptr) {
-        return problem("A raw table cannot be sent: only curves of 13 numbers travel.");
+/// Only curves of 13 numbers travel: of a table, the one that comes closest to it.
+Result<std::vector<float>> numbersOf(const OneCurve& curve, std::string& notes) {
+    auto extended = std::dynamic_pointer_cast<TQExtendedGammaCurve>(curve);
+    if (const auto table = std::dynamic_pointer_cast<KVTableGammaCurve>(curve)) {
+        CurveFit fit = fitCurve(table->table());
+        notes +=
+            "tonquilctl: A table cannot be sent; what was sent is the closest curve, which is " +
+            levelText(fit.largestDifference) + " off at most.\n";
+        extended = std::move(fit.curve);
     }
     std::vector<float> numbers;
     for (const PropertyValue& element : extended->gammaCurveCompactArray()) {
@@ -33,20 +45,20 @@ Result<std::vector<float>> numbersOf(const KVGammaCurve& curve) {
     return numbers;
 }
 
-Result<std::vector<float>> givenCurve(const Arguments& arguments) {
+Result<std::vector<float>> givenCurve(const Arguments& arguments, std::string& notes) {
     const auto curves = readCurves(arguments);
     if (!curves) {
         return tl::unexpected(curves.error());
     }
     if (const auto* const one = std::get_if<OneCurve>(&*curves)) {
-        return numbersOf(**one);
+        return numbersOf(*one, notes);
     }
     const PropertyValue* const dictionary =
         entry(std::get<CurvesByDisplay>(*curves).screens, *arguments.referenceID);
     if (dictionary == nullptr || !dictionary->is_object()) {
         return problem("The file has no curve for the display " + *arguments.referenceID + ".");
     }
-    return numbersOf(*TQExtendedGammaCurve::gammaCurveWithDictionary(*dictionary));
+    return numbersOf(curveWithDictionary(*dictionary), notes);
 }
 
 std::string stateUpdate(const std::string& referenceID, const Wanted& wanted) {
@@ -83,7 +95,7 @@ Result<void> runRemoteSet(const Arguments& arguments, const CommandEnvironment& 
     Wanted wanted{.gamma = {}, .content = arguments.content};
     const bool hasCurve = arguments.curve || arguments.file;
     if (hasCurve) {
-        auto curve = givenCurve(arguments);
+        auto curve = givenCurve(arguments, environment.notes);
         if (!curve) {
             return tl::unexpected(std::move(curve.error()));
         }

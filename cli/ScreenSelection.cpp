@@ -5,24 +5,31 @@
 
 namespace tonquil {
 
-Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry, DisplayService& service,
-                                              const std::vector<std::string>& names,
-                                              std::string& notes) {
-    const auto isMeant = [&](const KVScreen& screen) {
-        return names.empty() || std::ranges::any_of(names, [&](const std::string& name) {
-                   return screen.isNamed(name);
-               });
-    };
+Result<ScreenRegistry::Screens> meantScreens(ScreenRegistry& registry,
+                                             const std::vector<std::string>& names) {
     for (const std::string& name : names) {
         if (const auto named = screenNamed(registry, name); !named) {
             return tl::unexpected(named.error());
         }
     }
+    ScreenRegistry::Screens meant = registry.screens();
+    std::erase_if(meant, [&](const auto& screen) {
+        return !names.empty() && std::ranges::none_of(names, [&](const std::string& name) {
+            return screen->isNamed(name);
+        });
+    });
+    return meant;
+}
+
+Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry, DisplayService& service,
+                                              const std::vector<std::string>& names,
+                                              std::string& notes) {
+    const auto meant = meantScreens(registry, names);
+    if (!meant) {
+        return meant;
+    }
     ScreenRegistry::Screens selected;
-    for (const auto& screen : registry.screens()) {
-        if (!isMeant(*screen)) {
-            continue;
-        }
+    for (const auto& screen : *meant) {
         const DisplayDescription description = service.description(screen->directDisplayID());
         if (description.obstacle.empty()) {
             selected.push_back(screen);
@@ -41,15 +48,10 @@ Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry, DisplayS
     return selected;
 }
 
-std::optional<std::string> endingWithItsProgram(const ScreenRegistry::Screens& screens,
-                                                DisplayService& service) {
-    for (const auto& screen : screens) {
-        const DisplayDescription description = service.description(screen->directDisplayID());
-        if (!description.outlivesProgram) {
-            return description.connector;
-        }
-    }
-    return std::nullopt;
+bool endsWithItsProgram(const ScreenRegistry::Screens& screens, DisplayService& service) {
+    return std::ranges::any_of(screens, [&](const auto& screen) {
+        return !service.description(screen->directDisplayID()).outlivesProgram;
+    });
 }
 
 Result<ScreenRegistry::ScreenPointer> screenNamed(ScreenRegistry& registry,
@@ -62,6 +64,17 @@ Result<ScreenRegistry::ScreenPointer> screenNamed(ScreenRegistry& registry,
                        "; see \"tonquilctl displays\".");
     }
     return *found;
+}
+
+Result<ScreenRegistry::ScreenPointer> screenOrMain(ScreenRegistry& registry,
+                                                   const std::vector<std::string>& names) {
+    if (!names.empty()) {
+        return screenNamed(registry, names.back());
+    }
+    if (registry.screens().empty()) {
+        return problem("No display is attached.");
+    }
+    return registry.screens().front();
 }
 
 }  // namespace tonquil

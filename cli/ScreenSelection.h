@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +8,11 @@
 #include "screens/ScreenRegistry.h"
 
 namespace tonquil {
+
+/// The screens with the given reference IDs or connectors, or all if none are given. A problem if a
+/// name matches no attached display.
+[[nodiscard]] Result<ScreenRegistry::Screens> meantScreens(ScreenRegistry& registry,
+                                                           const std::vector<std::string>& names);
 
 /// The screens with the given reference IDs or connectors, or all if none are given, except those
 /// that cannot be corrected.
@@ -20,13 +24,16 @@ namespace tonquil {
                                                             const std::vector<std::string>& names,
                                                             std::string& notes);
 
-/// The connector of the first of these screens on which a correction ends with the program that set
-/// it; nothing where all corrections stay.
-[[nodiscard]] std::optional<std::string> endingWithItsProgram(
-    const ScreenRegistry::Screens& screens, DisplayService& service);
+/// Whether a correction on one of these screens ends with the program that set it.
+[[nodiscard]] bool endsWithItsProgram(const ScreenRegistry::Screens& screens,
+                                      DisplayService& service);
 
 /// The first listed screen with this reference ID or connector; a problem if there is none.
 [[nodiscard]] Result<ScreenRegistry::ScreenPointer> screenNamed(ScreenRegistry& registry,
                                                                 const std::string& name);
+
+/// The screen with the last of these names or, without any, the main display's.
+[[nodiscard]] Result<ScreenRegistry::ScreenPointer> screenOrMain(
+    ScreenRegistry& registry, const std::vector<std::string>& names);
 
 }  // namespace tonquil

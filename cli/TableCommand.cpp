@@ -5,7 +5,6 @@
 #include "files/BoundedFile.h"
 #include "model/ComputedTable.h"
 #include "model/CurveScreen.h"
-#include "model/TQExtendedGammaCurve.h"
 
 namespace tonquil {
 
@@ -57,34 +56,10 @@ Result<BaseGamma> baseFor(const Arguments& arguments) {
     return readTable(std::string(bytes->begin(), bytes->end()), arguments.samples);
 }
 
-Result<OneCurve> theCurve(const Arguments& arguments) {
-    auto curves = readCurves(arguments);
-    if (!curves) {
-        return tl::unexpected(std::move(curves.error()));
-    }
-    if (auto* curve = std::get_if<OneCurve>(&*curves)) {
-        if (!arguments.displays.empty()) {
-            return problem("There is one curve only, so --display has nothing to choose from.");
-        }
-        return std::move(*curve);
-    }
-    const PropertyValue& screens = std::get<CurvesByDisplay>(*curves).screens;
-    const bool isOnlyOne = arguments.displays.empty() && screens.size() == 1;
-    if (!isOnlyOne && arguments.displays.size() != 1) {
-        return problem(*arguments.file + " is for several displays; say which one by --display.");
-    }
-    const std::string& display = isOnlyOne ? screens.begin().key() : arguments.displays.front();
-    const PropertyValue* dictionary = entry(screens, display);
-    if (dictionary == nullptr || !dictionary->is_object()) {
-        return problem(*arguments.file + " has no curve for " + display + ".");
-    }
-    return OneCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(*dictionary));
-}
-
 }  // namespace
 
 Result<void> runTable(const Arguments& arguments, const CommandEnvironment& environment) {
-    const auto curve = theCurve(arguments);
+    const auto curve = readOneCurve(arguments);
     if (!curve) {
         return tl::unexpected(curve.error());
     }

@@ -52,6 +52,12 @@ void printTable(const GammaTable& table, std::uint32_t sampleCount, std::string&
     }
 }
 
+std::string levelText(float level) {
+    std::array<char, 64> text{};
+    const int length = std::snprintf(text.data(), text.size(), "%.6f", static_cast<double>(level));
+    return {text.data(), static_cast<std::size_t>(length)};
+}
+
 Result<BaseGamma> readTable(std::string_view text, std::uint32_t sampleCount) {
     BaseGamma base{.table = {}, .sampleCount = sampleCount};
     std::uint32_t count = 0;

@@ -2,12 +2,17 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <cstdlib>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "platform/choice/DisplayServiceChoice.h"
+#include "platform/folders/XdgFolders.h"
+#include "platform/posix/InstanceName.h"
+#include "platform/posix/InstanceSocket.h"
 #include "platform/posix/PollRunLoop.h"
 #include "platform/posix/PosixLocalHost.h"
 #include "platform/posix/StandardStreams.h"
@@ -34,6 +39,12 @@ void say(std::string line) {
     static_cast<void>(print("tonquilctl: " + line + "\n", stderr));
 }
 
+/// A variable of the environment; empty where it is not set.
+std::string_view variable(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? std::string_view() : value;
+}
+
 tonquil::RemoteAccess remoteAccess(tonquil::PollRunLoop& loop) {
     return {.runLoop = loop,
             .run = [&loop] { loop.run(); },
@@ -43,6 +54,21 @@ tonquil::RemoteAccess remoteAccess(tonquil::PollRunLoop& loop) {
             },
             .lookUpHost = tonquil::lookUpHost,
             .printNow = [](const std::string& text) { return print(text, stdout); }};
+}
+
+/// Where a program can have no folders, none of ours runs either.
+std::optional<tonquil::Result<void>> handOver(const std::string& request) {
+    const auto folders = tonquil::XdgFolders::fromEnvironment();
+    const auto answer = folders ? tonquil::InstanceSocket::handOverIfListening(
+                                      folders->runtime() / tonquil::instanceName(), request)
+                                : std::nullopt;
+    if (!answer) {
+        return std::nullopt;
+    }
+    if (!*answer) {
+        return tl::unexpected(answer->error());
+    }
+    return (*answer)->empty() ? tonquil::Result<void>() : tonquil::problem(**answer);
 }
 
 /// What a command writes, and what it is told while it stays.
@@ -71,15 +97,24 @@ struct Session {
             loop.stop();
         };
         return tonquil::runCommand(
-            arguments,
-            {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
-             .logged = logged,
-             .out = out,
-             .remote = remote,
-             .notes = notes,
-             .openDisplaysToHold = [&] { return tonquil::chooseDisplayService(&loop, log, lost); },
-             .areDisplaysLost = [this] { return areDisplaysLost; },
-             .displayServices = tonquil::builtInDisplayServices()});
+            arguments, {.openDisplays = [&] { return tonquil::chooseDisplayService(nullptr, log); },
+                        .logged = logged,
+                        .out = out,
+                        .remote = remote,
+                        .notes = notes,
+                        .openDisplaysToHold =
+                            [&] {
+                                auto service = tonquil::chooseDisplayService(&loop, log, lost);
+                                if (service) {
+                                    (*service)->setWhenLost(lost);
+                                }
+                                return service;
+                            },
+                        .handOver = handOver,
+                        .presets = tonquil::PresetFolder::ofUser(variable("XDG_CONFIG_HOME"),
+                                                                 variable("HOME")),
+                        .areDisplaysLost = [this] { return areDisplaysLost; },
+                        .displayServices = tonquil::builtInDisplayServices()});
     }
 };
 

@@ -25,6 +25,18 @@ _tonquilctl_files() {
     compopt -o filenames 2> /dev/null
 }
 
+# The names of the presets that begin as the word does, which may have blanks.
+_tonquilctl_presets() {
+    local file name
+    for file in "${XDG_CONFIG_HOME:-$HOME/.config}"/tonquil/presets/"$1"*; do
+        name=${file##*/}
+        if [[ -f $file ]]; then
+            COMPREPLY+=("${name%.*}")
+        fi
+    done
+    compopt -o filenames 2> /dev/null
+}
+
 _tonquilctl_words() {
     local word
     while IFS= read -r word; do
@@ -65,7 +77,8 @@ _tonquilctl_has_curve() {
     for ((i = 2; i < COMP_CWORD; ++i)); do
         case ${COMP_WORDS[i]} in
             --curve | --curve=*) return 0 ;;
-            --display | --samples | --base)
+            --preset | --preset=*) return 0 ;;
+            --display | --samples | --base | --format)
                 # A value may follow its option as a word of its own or, as bash splits words,
                 # behind a word "=".
                 if [[ ${COMP_WORDS[i + 1]} == = ]]; then
@@ -84,7 +97,7 @@ _tonquilctl() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} options
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        _tonquilctl_words "$word" "displays apply restore read table remote --help --version"
+        _tonquilctl_words "$word" "displays apply restore read table export fit remote --help --version"
         return
     fi
     # Bash makes a word of its own of the "=" in --display=ID.
@@ -99,10 +112,12 @@ _tonquilctl() {
     fi
     case ${COMP_WORDS[1]} in
         displays) options="--json" ;;
-        apply) options="--display --curve --hold" ;;
+        apply) options="--display --curve --preset --hold" ;;
         restore) options="--display" ;;
         read) options="--display --hardware" ;;
         table) options="--display --curve --samples --base" ;;
+        export) options="--display --format" ;;
+        fit) options="--display" ;;
         *) return ;;
     esac
     case $before in
@@ -114,11 +129,19 @@ _tonquilctl() {
             _tonquilctl_files "$word"
             return
             ;;
+        --preset)
+            _tonquilctl_presets "$word"
+            return
+            ;;
+        --format)
+            _tonquilctl_words "$word" "icc cal table"
+            return
+            ;;
         --curve | --samples) return ;;
     esac
     if [[ $word == -* ]]; then
         _tonquilctl_words "$word" "$options --help"
-    elif [[ ${COMP_WORDS[1]} == @(apply|table) ]] && ! _tonquilctl_has_curve; then
+    elif [[ ${COMP_WORDS[1]} == @(apply|table|export|fit) ]] && ! _tonquilctl_has_curve; then
         _tonquilctl_files "$word"
     fi
 }

@@ -36,6 +36,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (const auto& screen : multi->screens) {
             use(screen);
         }
+    } else if (const auto* calibration = std::get_if<CalibrationSettings>(&*settings)) {
+        const auto stored = KVTableGammaCurve(calibration->table).gammaCurveDictionary();
+        require(haveSameBits(KVTableGammaCurve::tableGammaCurveWithDictionary(stored)->table(),
+                             calibration->table));
     } else {
         const auto& raw = std::get<RawTableSettings>(*settings);
         require(raw.bytes.size() == size);

@@ -94,8 +94,9 @@ bool DDHotKeyCenter::refuseDuplicate(std::uint16_t keyCode, ModifierFlags modifi
 }
 
 bool DDHotKeyCenter::_registerHotKey(const std::shared_ptr<DDHotKey>& hotKey) {
-    const auto handle = _service.registerHotKey(
-        hotKey->keyCode(), hotKeyServiceMask(hotKey->modifierFlags()), _nextHotKeyID);
+    const auto handle =
+        _service.registerHotKey(hotKey->keyCode(), hotKeyServiceMask(hotKey->modifierFlags()),
+                                _nextHotKeyID, hotKey->actionString());
     if (!handle) {
         _lastRefusal = handle.error();
         return false;

@@ -55,6 +55,8 @@ class DDHotKeyCenter {
     /// The same with a target and its actions.
     [[nodiscard]] bool registerHotKeyWithKeyCode(std::uint16_t keyCode, ModifierFlags modifierFlags,
                                                  HotKeyReceiver receiver);
+    /// Whether the user gives actions their keys in the desktop; see `HotKeyService`.
+    [[nodiscard]] bool areKeysChosenByDesktop() const { return _service.areKeysChosenByDesktop(); }
     /// Why the last registration failed, as a sentence for the user; nothing if it succeeded.
     [[nodiscard]] const std::optional<Problem>& lastRefusal() const { return _lastRefusal; }
 

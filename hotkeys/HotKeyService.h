@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <string>
 
 #include "foundation/Problem.h"
 #include "hotkeys/ModifierFlags.h"
@@ -38,14 +39,18 @@ class HotKeyService {
 
     virtual ~HotKeyService() = default;
 
+    /// Whether the user chooses the keys in the desktop, by action. A combination is then a
+    /// proposal and may be one that no keyboard has.
+    [[nodiscard]] virtual bool areKeysChosenByDesktop() const { return false; }
     /// Replaces the previous handlers; empty ones are not called.
     virtual void setHandlers(Handler pressed, Handler released) = 0;
-    /// Registers a combination of a virtual key code and modifiers under the caller's ID. Fails,
-    /// without side effects, if any program already holds the combination or the keyboard does not
-    /// have the key.
+    /// Registers a combination of a virtual key code and modifiers under the caller's ID. `action`
+    /// names what it does, the same in every run. Fails, without side effects, if any program
+    /// already holds the combination or the keyboard does not have the key.
     [[nodiscard]] virtual Result<HotKeyHandle> registerHotKey(std::uint16_t keyCode,
                                                               HotKeyServiceMask modifiers,
-                                                              std::uint32_t id) = 0;
+                                                              std::uint32_t id,
+                                                              const std::string& action) = 0;
     /// Releases a combination. Ignores unknown handles.
     virtual void unregisterHotKey(HotKeyHandle handle) = 0;
 };

@@ -22,8 +22,15 @@ class KVTableGammaCurve : public KVGammaCurve {
     [[nodiscard]] static std::shared_ptr<KVTableGammaCurve> tableGammaCurveWithData(
         std::span<const std::uint8_t> data);
 
+    /// Reads the form that `gammaCurveDictionary` writes; null if `dictionary` holds no table.
+    [[nodiscard]] static std::shared_ptr<KVTableGammaCurve> tableGammaCurveWithDictionary(
+        const nlohmann::json& dictionary);
+
     [[nodiscard]] const GammaTable& table() const { return _array; }
 
+    /// The plain form, of the unused points, and the table under "Table": 768 entries of 16 bits,
+    /// high byte first.
+    [[nodiscard]] nlohmann::json gammaCurveDictionary() const override;
     void applyToScreen(CurveScreen& screen) const override;
     /// Reads the display's current table; slots that the display does not fill stay unchanged.
     void retriveFromScreen(CurveScreen& screen) override;

@@ -6,6 +6,7 @@
 #include "app/StoredCorrection.h"
 #include "platform/choice/DisplayServiceChoice.h"
 #include "platform/missing/MissingDisplayService.h"
+#include "platform/posix/InstanceName.h"
 #include "program/ProgramEnvironment.h"
 
 namespace tonquil {

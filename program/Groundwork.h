@@ -7,11 +7,11 @@
 #include <utility>
 
 #include "foundation/RunLoop.h"
+#include "platform/folders/XdgFolders.h"
 #include "platform/posix/DiskThread.h"
 #include "platform/xdg/CurveRecoveryFile.h"
 #include "platform/xdg/DesktopEntries.h"
 #include "platform/xdg/PropertyListPreferences.h"
-#include "platform/xdg/XdgFolders.h"
 #include "program/SaveProblems.h"
 #include "screens/ScreenRegistry.h"
 

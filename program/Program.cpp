@@ -7,17 +7,19 @@
 #include <cstdlib>
 #include <utility>
 
+#include "platform/folders/Folder.h"
 #include "platform/missing/MissingHotKeyService.h"
 #include "platform/missing/MissingKeyboardLayout.h"
 #include "platform/missing/MissingWindowSystem.h"
+#include "platform/posix/InstanceName.h"
 #include "platform/posix/PosixLocalHost.h"
 #include "platform/posix/TerminationSignals.h"
 #include "platform/posix/UdpSocket.h"
 #include "platform/x11/desktop/X11WindowSystem.h"
 #include "platform/x11/keys/X11HotKeyService.h"
-#include "platform/xdg/Folder.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 #include "program/ProgramEnvironment.h"
+#include "windows/panel/DevicePixels.h"
 
 namespace tonquil {
 
@@ -60,6 +62,7 @@ Program::Program(Groundwork& groundwork, BusSessionEvents::Addresses buses)
       _displays(groundwork.displays()),
       _registry(groundwork.registry()),
       _installedPrograms(groundwork.installedPrograms()),
+      _presetFolder(groundwork.folders().config() / "presets"),
       _whyNoDisplays(groundwork.whyNoDisplays()),
       _sessionBus(buses.session),
       _busEvents(_runLoop, std::move(buses), logLine),
@@ -73,6 +76,10 @@ Program::Program(Groundwork& groundwork, BusSessionEvents::Addresses buses)
     _hotKeys = std::make_unique<DDHotKeyCenter>(*_hotKeyService, logLine);
     DDHotKeyCenter::setSharedHotKeyCenter(_hotKeys.get());
     makeController();
+    showHotKeyAssignment();
+    if (_portalHotKeys != nullptr) {
+        _portalHotKeys->start(_sessionBus);
+    }
 }
 
 void Program::makeWindows() {
@@ -84,27 +91,30 @@ void Program::makeWindows() {
     const auto windowMade = [this](QWidget& window) { _presence->watch(window); };
     _targets =
         std::make_unique<TargetPresenter>(_displays, _preferences, *_windowSystem, windowMade);
-    _windows = std::make_unique<OtherWindows>(
-        OtherWindows::Surroundings{.preferences = {.preferences = _preferences,
-                                                   .loginItem = _loginItem,
-                                                   .alerts = _alerts,
-                                                   .layout = *_keyboardLayout,
-                                                   .windowSystem = *_windowSystem,
-                                                   .program = programFile(),
-                                                   .home = environment("HOME"),
-                                                   .log = logLine},
-                                   .service = _displays,
-                                   .bundle = {.path = programFile(),
-                                              .name = "Tonquil",
-                                              .shortVersion = TONQUIL_VERSION,
-                                              .build = TONQUIL_VERSION,
-                                              .copyright = TONQUIL_COPYRIGHT},
-                                   .windowMade = windowMade,
-                                   .suspendHotKeys = [this](bool areSuspended) {
-                                       if (_controller) {
-                                           _controller->setHotKeysSuspended(areSuspended);
-                                       }
-                                   }});
+    _windows = std::make_unique<OtherWindows>(OtherWindows::Surroundings{
+        .preferences = {.preferences = _preferences,
+                        .loginItem = _loginItem,
+                        .alerts = _alerts,
+                        .layout = *_keyboardLayout,
+                        .windowSystem = *_windowSystem,
+                        .program = programFile(),
+                        .home = environment("HOME"),
+                        .log = logLine,
+                        .canBeDisturbed = _displays.canBeDisturbed(),
+                        .suspendsNightLight = _displays.suspendsNightLight(),
+                        .changeHotKeys = [this] { _portalHotKeys->changeKeys(); }},
+        .service = _displays,
+        .bundle = {.path = programFile(),
+                   .name = "Tonquil",
+                   .shortVersion = TONQUIL_VERSION,
+                   .build = TONQUIL_VERSION,
+                   .copyright = TONQUIL_COPYRIGHT},
+        .windowMade = windowMade,
+        .suspendHotKeys = [this](bool areSuspended) {
+            if (_controller) {
+                _controller->setHotKeysSuspended(areSuspended);
+            }
+        }});
 }
 
 // Nothing may call what goes before it.
@@ -118,7 +128,7 @@ Program::~Program() {
 int Program::run(const std::vector<Request>& requests) {
     controllerToSave = _controller.get();
     std::atexit(saveAtExit);
-    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+    if (areWindowsPlacedByDesktop()) {
         qInstallMessageHandler(saveWhenWaylandIsLost);
     }
     QObject::connect(qApp, &QCoreApplication::aboutToQuit,
@@ -159,11 +169,9 @@ std::string Program::answer(const std::string& text) {
     // A question that the start asks may wait for its answer for long; until then there are
     // neither defaults nor curves.
     if (_isLaunched || wantsEnd(*requests)) {
-        carryOut(*requests, *_controller);
-    } else {
-        _requestsBeforeLaunch.insert(_requestsBeforeLaunch.end(), requests->begin(),
-                                     requests->end());
+        return carryOut(*requests, *_controller);
     }
+    _requestsBeforeLaunch.insert(_requestsBeforeLaunch.end(), requests->begin(), requests->end());
     return {};
 }
 
@@ -201,6 +209,7 @@ void Program::makeController() {
                                .hotKeys = *_hotKeys,
                                .openServer = [this](Log log) { return openServer(std::move(log)); },
                                .sessionEvents = std::move(events),
+                               .presetFolder = _presetFolder,
                                .whyNoDisplays = _whyNoDisplays,
                                .endProgram = [this] { end(); },
                                .log = logLine});
@@ -245,7 +254,7 @@ void Program::displaysLost() {
 }
 
 void Program::openWindowSystem() {
-    _windowSystem = std::make_unique<MissingWindowSystem>();
+    _windowSystem = std::make_unique<MissingWindowSystem>(areWindowsPlacedByDesktop());
     if (QGuiApplication::platformName() != QStringLiteral("xcb")) {
         return;
     }
@@ -266,6 +275,10 @@ void Program::openWindowSystem() {
 void Program::openKeyboard() {
     _hotKeyService = std::make_unique<MissingHotKeyService>();
     _keyboardLayout = std::make_unique<MissingKeyboardLayout>();
+    if (areWindowsPlacedByDesktop()) {
+        _hotKeyService = makePortalHotKeys();
+        return;
+    }
     if (QGuiApplication::platformName() != QStringLiteral("xcb")) {
         return;
     }
@@ -279,6 +292,33 @@ void Program::openKeyboard() {
     } else {
         report(opened.error());
     }
+}
+
+std::unique_ptr<HotKeyService> Program::makePortalHotKeys() {
+    const auto describe = [](const char* text) {
+        return QCoreApplication::translate("Preferences", text).toStdString();
+    };
+    auto service = std::make_unique<PortalHotKeyService>(PortalHotKeyService::Surroundings{
+        .runLoop = _runLoop,
+        .descriptions = {{hotKeyAction(HotKeyRole::ToggleCorrection),
+                          describe("Switch the correction on or off")},
+                         {hotKeyAction(HotKeyRole::ShowPanel), describe("Show the panel")}},
+        .changed = [this] { showHotKeyAssignment(); },
+        .log = logLine});
+    _portalHotKeys = service.get();
+    return service;
+}
+
+void Program::showHotKeyAssignment() {
+    HotKeyAssignment assignment;
+    if (_portalHotKeys != nullptr) {
+        assignment.chooser =
+            _portalHotKeys->isOffered() ? HotKeyChooser::Desktop : HotKeyChooser::Nobody;
+        for (const HotKeyRole role : {HotKeyRole::ToggleCorrection, HotKeyRole::ShowPanel}) {
+            assignment.triggers[role] = _portalHotKeys->trigger(hotKeyAction(role));
+        }
+    }
+    _windows->showHotKeyAssignment(std::move(assignment));
 }
 
 }  // namespace tonquil

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -10,6 +11,7 @@
 #include "app/TQController.h"
 #include "platform/dbus/BusSessionEvents.h"
 #include "platform/dbus/DesktopAppearance.h"
+#include "platform/portal/PortalHotKeyService.h"
 #include "platform/qt/ScreenEventLimit.h"
 #include "platform/x11/desktop/X11DesktopEvents.h"
 #include "platform/xdg/AutostartLoginItem.h"
@@ -45,6 +47,8 @@ class Program {
     void displaysLost();
     void openWindowSystem();
     void openKeyboard();
+    [[nodiscard]] std::unique_ptr<HotKeyService> makePortalHotKeys();
+    void showHotKeyAssignment();
     void makeWindows();
     void makeController();
     void end();
@@ -59,6 +63,7 @@ class Program {
     DisplayService& _displays;
     ScreenRegistry& _registry;
     DesktopEntries& _installedPrograms;
+    std::filesystem::path _presetFolder;
     std::string _whyNoDisplays;
     std::string _sessionBus;
     BusSessionEvents _busEvents;
@@ -69,6 +74,8 @@ class Program {
     ModalAlerts _alerts{[this] { return _panel ? effectiveAppearance(*_panel) : Appearance{}; }};
     std::unique_ptr<WindowSystem> _windowSystem;
     std::unique_ptr<HotKeyService> _hotKeyService;
+    /// The same, where the desktop gives the keys; else null.
+    PortalHotKeyService* _portalHotKeys = nullptr;
     std::unique_ptr<KeyboardLayout> _keyboardLayout;
     std::unique_ptr<X11DesktopEvents> _desktopEvents;
     ReconfigurationCounter _reconfigurations;

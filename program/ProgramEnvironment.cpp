@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "program/ProgramEnvironment.h"
 
-#include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <system_error>
@@ -23,17 +21,6 @@ void report(const Problem& problem) {
 std::string environment(const char* name) {
     const char* value = std::getenv(name);
     return value == nullptr ? std::string() : value;
-}
-
-std::string instanceName() {
-    std::string name = "instance-";
-    std::string display = environment("DISPLAY");
-    // The screen behind the point is another face of the same display.
-    display.erase(std::min(display.find('.', display.rfind(':')), display.size()));
-    for (const char c : display.empty() ? environment("WAYLAND_DISPLAY") : display) {
-        name += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
-    }
-    return name;
 }
 
 std::filesystem::path programFile() {

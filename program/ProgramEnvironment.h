@@ -15,8 +15,6 @@ void logLine(std::string_view line);
 void report(const Problem& problem);
 /// An environment variable; empty where it is not set.
 [[nodiscard]] std::string environment(const char* name);
-/// One instance runs for each desktop of a person: its name, fit for a file.
-[[nodiscard]] std::string instanceName();
 /// The program's own file.
 [[nodiscard]] std::filesystem::path programFile();
 /// What the desktop starts at login, whether there or not: beside the program, as it is built, or

@@ -15,6 +15,7 @@
 
 #include "platform/choice/DisplayServiceChoice.h"
 #include "platform/dbus/BusAddresses.h"
+#include "platform/posix/InstanceName.h"
 #include "platform/posix/InstanceSocket.h"
 #include "platform/posix/StandardStreams.h"
 #include "platform/qt/QtRunLoop.h"

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+
+#include "model/Primaries.h"
 
 namespace tonquil {
 
@@ -37,6 +40,13 @@ struct DisplayDescription {
     bool outlivesProgram = true;
     /// Whether it can be told what is on the hardware now.
     bool isReadable = true;
+    /// Nothing where the display does not report plausible ones.
+    std::optional<Primaries> primaries = {};
+
+    /// Connector and model name, as far as they are known.
+    [[nodiscard]] std::string name() const {
+        return productName.empty() ? connector : connector + " " + productName;
+    }
 };
 
 }  // namespace tonquil

@@ -22,6 +22,9 @@ namespace tonquil {
 using ReconfigurationFlags = std::uint32_t;
 inline constexpr ReconfigurationFlags beginConfiguration = 1;
 inline constexpr ReconfigurationFlags endConfiguration = 2;
+/// Beside `endConfiguration`, or alone when nothing else about the display has changed: its system
+/// calibration, and so the table that is read, is another one.
+inline constexpr ReconfigurationFlags calibrationChanged = 4;
 
 /// The attached displays and their transfer tables.
 ///
@@ -40,7 +43,7 @@ class DisplayService : public SystemCalibration {
  public:
     /// Called on the main thread for each affected display: first for all of them with
     /// `beginConfiguration`, then for all with another flag. A service that only learns of changes
-    /// afterwards makes both calls then.
+    /// afterwards makes both calls then. `calibrationChanged` may also come alone.
     using ReconfigurationCallback = std::function<void(DisplayID, ReconfigurationFlags)>;
 
     /// The destructor removes the callback.
@@ -83,6 +86,14 @@ class DisplayService : public SystemCalibration {
     /// Whether others can replace a table without the service's hearing of it. Where they cannot,
     /// there is nothing to put right again and again.
     [[nodiscard]] virtual bool canBeDisturbed() const { return true; }
+    /// `lost` is called once, from the run loop, when the displays are out of reach for good. A
+    /// service that was opened with such a callback may ignore this one.
+    virtual void setWhenLost(const std::function<void()>& /*lost*/) {}
+    /// Whether a correction takes the desktop's night light off its display.
+    [[nodiscard]] virtual bool suspendsNightLight() const { return false; }
+    /// Where it does: whether corrections have the night light's colour in them, as they do at
+    /// first.
+    virtual void setNightLightKept(bool /*isKept*/) {}
     /// Moves the pointer to a point of the top-down desktop space.
     virtual void warpPointer(const Point& point) = 0;
 

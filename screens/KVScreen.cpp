@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "model/StoredCurve.h"
 #include "model/TQExtendedGammaCurve.h"
 #include "values/PropertyValue.h"
 
@@ -86,13 +87,13 @@ void KVScreen::retriveExtendedGammaCurve() {
 void KVScreen::adoptGammaCurveDictionary(const PropertyValue& dictionary,
                                          CurvePointer initialCurve) {
     if (const PropertyValue* own = entry(dictionary, twinReferenceID())) {
-        setGammaCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(*own));
+        setGammaCurve(curveWithDictionary(*own));
         return;
     }
     if (dictionary.is_object()) {
         for (const auto& [key, value] : dictionary.items()) {
             if (key == referenceID() || key == oldReferenceID()) {
-                setGammaCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(value));
+                setGammaCurve(curveWithDictionary(value));
                 return;
             }
         }

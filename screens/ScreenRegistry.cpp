@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "model/TQExtendedGammaCurve.h"
+#include "model/StoredCurve.h"
 #include "values/PropertyValue.h"
 
 namespace tonquil {
@@ -156,7 +156,7 @@ void ScreenRegistry::adoptGammaCurveDictionary(const PropertyValue& dictionary,
             stored = entry(dictionary, screen->referenceID());
         }
         if (stored != nullptr) {
-            screen->setGammaCurve(TQExtendedGammaCurve::gammaCurveWithDictionary(*stored));
+            screen->setGammaCurve(curveWithDictionary(*stored));
         } else if (initialCurve) {
             screen->setGammaCurve(initialCurve);
         }

@@ -26,7 +26,7 @@ packages_to_check=(
     x11-utils x11-xkb-utils
     git xvfb libgtest-dev libgmock-dev libbenchmark-dev libxcb-xtest0-dev
     clang clang-format clang-tidy libclang-rt-14-dev python3 procps shellcheck
-    dbus at-spi2-core python3-pyatspi iproute2 trayer
+    dbus python3-dbus python3-gi at-spi2-core python3-pyatspi iproute2 trayer
 )
 
 # What looks at installed files.

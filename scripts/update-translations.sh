@@ -22,5 +22,5 @@ for lupdate in "$(command -v lupdate-qt6)" /usr/lib/qt6/bin/lupdate /usr/lib/qt6
         break
     fi
 done
-"$lupdate" "${options[@]}" -I . app files foundation hotkeys model platform plist program remote \
+"$lupdate" "${options[@]}" -I . app colourfiles files foundation hotkeys model platform plist program remote \
     screens settings targets ui windows -ts "$folder"/tonquil_*.ts

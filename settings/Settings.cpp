@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "colourfiles/CalReader.h"
+#include "colourfiles/IccReader.h"
 #include "files/BoundedFile.h"
 #include "foundation/TranslatableText.h"
 #include "plist/PropertyListReader.h"
@@ -19,9 +21,21 @@ bool isMultiDisplay(const PropertyValue& root) {
     return format != nullptr && isNumber(*format) && integerValue(*format) == 1;
 }
 
+Result<Settings> settingsFrom(Result<Calibration> calibration) {
+    return std::move(calibration).map([](const Calibration& read) -> Settings {
+        return CalibrationSettings{.table = tableOf(read)};
+    });
+}
+
 }  // namespace
 
 Result<Settings> readSettings(std::vector<std::uint8_t> bytes) {
+    if (beginsLikeIcc(bytes)) {
+        return settingsFrom(readIcc(bytes));
+    }
+    if (beginsLikeCal(bytes)) {
+        return settingsFrom(readCal(bytes));
+    }
     if (!beginsLikePropertyList(bytes)) {
         return RawTableSettings{.bytes = std::move(bytes)};
     }
@@ -54,7 +68,12 @@ Result<Settings> readSettingsFile(const std::filesystem::path& path) {
     if (!file) {
         return tl::unexpected(std::move(file.error()));
     }
-    if (!file->isWhole && beginsLikePropertyList(file->bytes)) {
+    if (!file->isWhole && beginsLikeIcc(file->bytes)) {
+        return readBoundedFile(path, mostIccBytes).and_then([](const auto& profile) {
+            return settingsFrom(readIcc(profile));
+        });
+    }
+    if (!file->isWhole && (beginsLikePropertyList(file->bytes) || beginsLikeCal(file->bytes))) {
         return fileTooLarge(path, mostBytes);
     }
     return readSettings(std::move(file->bytes));

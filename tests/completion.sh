@@ -51,6 +51,12 @@ expect "evening curve" apply eve
 expect "evening curve" apply --display "${ids[0]}" eve
 expect "other" table --curve "[]" --base oth
 expect "" apply --curve "[]" eve
+expect "evening curve" fit eve
+expect "cal" export --format c
+mkdir -p tonquil/presets
+touch tonquil/presets/"night desk.tonquil"
+XDG_CONFIG_HOME=$folder expect "night desk" apply --preset n
+expect "" apply --preset "night desk" eve
 expect "" apply other eve
 expect "" read eve
 # The remote commands; a file only after the host and the display.

@@ -42,6 +42,22 @@
         <source>Output at input 0, 0.5 and 1.</source>
         <translation>Ausgabe bei Eingabe 0, 0.5 und 1.</translation>
     </message>
+    <message>
+        <source>In</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -58,10 +74,6 @@
         <translation>Einstellungen öffnen</translation>
     </message>
     <message>
-        <source>Settings and tables (*.tonquil *.tonquil-screens *.amp)</source>
-        <translation>Einstellungen und Tabellen (*.tonquil *.tonquil-screens *.amp)</translation>
-    </message>
-    <message>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
     </message>
@@ -72,6 +84,34 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>ICC profile of one display (*.icc)</source>
+        <translation>ICC-Profil eines Bildschirms (*.icc)</translation>
+    </message>
+    <message>
+        <source>Calibration of one display (*.cal)</source>
+        <translation>Kalibrierung eines Bildschirms (*.cal)</translation>
+    </message>
+    <message>
+        <source>Settings, profiles and tables (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</source>
+        <translation>Einstellungen, Profile und Tabellen (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>Als Vorlage speichern</translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Name der Vorlage:</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
     </message>
 </context>
 <context>
@@ -283,10 +323,6 @@
         <translation>%1, Punkt %2</translation>
     </message>
     <message>
-        <source>Double-click sets the neutral value. With Shift the other colours follow.</source>
-        <translation>Ein Doppelklick stellt den neutralen Wert ein. Mit der Umschalttaste folgen die anderen Farben.</translation>
-    </message>
-    <message>
         <source>Close the panel</source>
         <translation>Bedienfeld schließen</translation>
     </message>
@@ -299,14 +335,6 @@
         <translation>Menü</translation>
     </message>
     <message>
-        <source>This display</source>
-        <translation>Dieser Bildschirm</translation>
-    </message>
-    <message>
-        <source>All displays</source>
-        <translation>Alle Bildschirme</translation>
-    </message>
-    <message>
         <source>Choose which displays are edited</source>
         <translation>Wählen, welche Bildschirme bearbeitet werden</translation>
     </message>
@@ -317,6 +345,62 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>Änderungen werden zurzeit nicht gespeichert. Tonquil versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>All displays: an edit replaces the curve of each</source>
+        <translation>Alle Bildschirme: Eine Änderung ersetzt die Kurve von jedem</translation>
+    </message>
+    <message>
+        <source>Identify displays</source>
+        <translation>Bildschirme kennzeichnen</translation>
+    </message>
+    <message>
+        <source>Hide the sliders of the colours</source>
+        <translation>Die Regler der Farben ausblenden</translation>
+    </message>
+    <message>
+        <source>Show the sliders of the colours</source>
+        <translation>Die Regler der Farben anzeigen</translation>
+    </message>
+    <message>
+        <source>Hold to compare with the uncorrected display</source>
+        <translation>Gedrückt halten, um mit dem unkorrigierten Bildschirm zu vergleichen</translation>
+    </message>
+    <message>
+        <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
+        <translation>Korrigiert diesen Bildschirm. Testbilder anzeigen und den Regler bewegen, bis Streifen glatt aussehen.</translation>
+    </message>
+    <message>
+        <source>Drag it, or turn the wheel over it or its number.</source>
+        <translation>Ziehen, oder das Rad über dem Regler oder seiner Zahl drehen.</translation>
+    </message>
+    <message>
+        <source>With Ctrl a drag is four times as fine.</source>
+        <translation>Mit Strg ist das Ziehen viermal so fein.</translation>
+    </message>
+    <message>
+        <source>With Shift the other colours follow.</source>
+        <translation>Mit der Umschalttaste folgen die anderen Farben.</translation>
+    </message>
+    <message>
+        <source>A double-click makes it neutral.</source>
+        <translation>Ein Doppelklick stellt den neutralen Wert ein.</translation>
+    </message>
+    <message>
+        <source>An edit replaces the curve of each display</source>
+        <translation>Eine Änderung ersetzt die Kurve jedes Bildschirms</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Vorlagen</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>Als Vorlage speichern&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Make editable</source>
+        <translation>Bearbeitbar machen</translation>
     </message>
 </context>
 <context>
@@ -427,6 +511,30 @@
     <message>
         <source>Remote</source>
         <translation>Fernsteuerung</translation>
+    </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>Bedienfeld anzeigen</translation>
+    </message>
+    <message>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>Hier nicht nötig: Keine Korrektur geht unbemerkt verloren.</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>Im Desktop ändern…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>Dieser Desktop überlässt Tastenkürzel seinen eigenen Einstellungen. Legen Sie dort diese Befehle auf Tasten:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>Noch keine Tasten vergeben</translation>
+    </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Nachtlicht beibehalten</translation>
     </message>
 </context>
 <context>
@@ -702,6 +810,98 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Ein anderes Programm, etwa ein Nachtmodus, hält die Gammatabelle dieses Bildschirms, oder er hat keine.</translation>
+    </message>
+    <message>
+        <source>The table can be edited now</source>
+        <translation>Die Tabelle kann jetzt bearbeitet werden</translation>
+    </message>
+    <message>
+        <source>A curve has taken its place that differs from it by %@ % of full level at most. Undo brings the table back.</source>
+        <translation>An ihre Stelle ist eine Kurve getreten, die höchstens %@ % des vollen Pegels von ihr abweicht. „Rückgängig“ bringt die Tabelle zurück.</translation>
+    </message>
+    <message>
+        <source>The calibration is not for a display.</source>
+        <translation>Die Kalibrierung ist nicht für einen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>The calibration file is damaged.</source>
+        <translation>Die Kalibrierungsdatei ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>There is no display whose table could be saved.</source>
+        <translation>Es gibt keinen Bildschirm, dessen Tabelle gespeichert werden könnte.</translation>
+    </message>
+    <message>
+        <source>The profile&apos;s calibration is damaged.</source>
+        <translation>Die Kalibrierung des Profils ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The profile is too large.</source>
+        <translation>Das Profil ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The colour profile is damaged.</source>
+        <translation>Das Farbprofil ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The colour profile holds no calibration that could be put on a display.</source>
+        <translation>Das Farbprofil enthält keine Kalibrierung, die ein Bildschirm bekommen könnte.</translation>
+    </message>
+    <message>
+        <source>The colour profile could not be made.</source>
+        <translation>Das Farbprofil konnte nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>It holds no settings.</source>
+        <translation>Sie enthält keine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>There is no preset called &quot;%@&quot;.</source>
+        <translation>Es gibt keine Vorlage namens „%@“.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>Der Name einer Vorlage hat bis zu 100 Zeichen, keinen Schrägstrich und keinen Punkt am Anfang. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The folder of presets could not be made.</source>
+        <translation>Der Ordner für Vorlagen konnte nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>Schalten Sie das Nachtlicht des Desktops aus, oder beenden Sie, was diesen Bildschirm sonst korrigiert. Tonquil übernimmt ihn dann innerhalb von Sekunden.</translation>
+    </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>Das Farbprofil mit der Korrektur lässt sich nicht sichern.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>Der Compositor nimmt für diesen Bildschirm kein Farbprofil an, solange HDR eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>Der Compositor lehnt das Farbprofil für diesen Bildschirm ab.</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>Das ist kein KDE-Plasma-Desktop.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>Der Compositor nimmt für diesen Bildschirm kein Farbprofil an.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Ein anderes Programm kalibriert diesen Bildschirm gerade.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>Der Compositor lässt nicht zu, dass dieser Bildschirm korrigiert wird.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Der Sitzungsbus antwortet nicht.</translation>
     </message>
 </context>
 <context>

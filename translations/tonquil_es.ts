@@ -42,6 +42,22 @@
         <source>Output at input 0, 0.5 and 1.</source>
         <translation>Salida para las entradas 0, 0.5 y 1.</translation>
     </message>
+    <message>
+        <source>In</source>
+        <translation>Ent</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>V</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>A</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -58,10 +74,6 @@
         <translation>Abrir ajustes</translation>
     </message>
     <message>
-        <source>Settings and tables (*.tonquil *.tonquil-screens *.amp)</source>
-        <translation>Ajustes y tablas (*.tonquil *.tonquil-screens *.amp)</translation>
-    </message>
-    <message>
         <source>All files (*)</source>
         <translation>Todos los archivos (*)</translation>
     </message>
@@ -72,6 +84,34 @@
     <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>ICC profile of one display (*.icc)</source>
+        <translation>Perfil ICC de una pantalla (*.icc)</translation>
+    </message>
+    <message>
+        <source>Calibration of one display (*.cal)</source>
+        <translation>Calibración de una pantalla (*.cal)</translation>
+    </message>
+    <message>
+        <source>Settings, profiles and tables (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</source>
+        <translation>Ajustes, perfiles y tablas (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>Guardar como preajuste</translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Nombre del preajuste:</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
     </message>
 </context>
 <context>
@@ -283,10 +323,6 @@
         <translation>%1, punto %2</translation>
     </message>
     <message>
-        <source>Double-click sets the neutral value. With Shift the other colours follow.</source>
-        <translation>Un doble clic fija el valor neutro. Con Mayús, los demás colores lo siguen.</translation>
-    </message>
-    <message>
         <source>Close the panel</source>
         <translation>Cerrar el panel</translation>
     </message>
@@ -299,14 +335,6 @@
         <translation>Menú</translation>
     </message>
     <message>
-        <source>This display</source>
-        <translation>Esta pantalla</translation>
-    </message>
-    <message>
-        <source>All displays</source>
-        <translation>Todas las pantallas</translation>
-    </message>
-    <message>
         <source>Choose which displays are edited</source>
         <translation>Elegir qué pantallas se editan</translation>
     </message>
@@ -317,6 +345,62 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>Los cambios no se guardan por el momento. Tonquil lo sigue intentando.</translation>
+    </message>
+    <message>
+        <source>All displays: an edit replaces the curve of each</source>
+        <translation>Todas las pantallas: un cambio sustituye la curva de cada una</translation>
+    </message>
+    <message>
+        <source>Identify displays</source>
+        <translation>Identificar las pantallas</translation>
+    </message>
+    <message>
+        <source>Hide the sliders of the colours</source>
+        <translation>Ocultar los deslizadores de los colores</translation>
+    </message>
+    <message>
+        <source>Show the sliders of the colours</source>
+        <translation>Mostrar los deslizadores de los colores</translation>
+    </message>
+    <message>
+        <source>Hold to compare with the uncorrected display</source>
+        <translation>Mantener pulsado para comparar con la pantalla sin corregir</translation>
+    </message>
+    <message>
+        <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
+        <translation>Corrige esta pantalla. Muestre los patrones y mueva el deslizador hasta que las rayas parezcan lisas.</translation>
+    </message>
+    <message>
+        <source>Drag it, or turn the wheel over it or its number.</source>
+        <translation>Arrastrar, o girar la rueda sobre el deslizador o su número.</translation>
+    </message>
+    <message>
+        <source>With Ctrl a drag is four times as fine.</source>
+        <translation>Con Ctrl, el arrastre es cuatro veces más fino.</translation>
+    </message>
+    <message>
+        <source>With Shift the other colours follow.</source>
+        <translation>Con Mayús, los demás colores lo siguen.</translation>
+    </message>
+    <message>
+        <source>A double-click makes it neutral.</source>
+        <translation>Un doble clic fija el valor neutro.</translation>
+    </message>
+    <message>
+        <source>An edit replaces the curve of each display</source>
+        <translation>Un cambio sustituye la curva de cada pantalla</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Preajustes</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>Guardar como preajuste…</translation>
+    </message>
+    <message>
+        <source>Make editable</source>
+        <translation>Hacer editable</translation>
     </message>
 </context>
 <context>
@@ -427,6 +511,30 @@
     <message>
         <source>Remote</source>
         <translation>Control remoto</translation>
+    </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>Mostrar el panel</translation>
+    </message>
+    <message>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>Aquí no hace falta: ninguna corrección se pierde sin que se note.</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>Cambiar en el escritorio…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>Este escritorio deja los atajos a sus propios ajustes. Asigne allí teclas a estas órdenes:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>Aún sin teclas</translation>
+    </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Conservar la luz nocturna</translation>
     </message>
 </context>
 <context>
@@ -702,6 +810,98 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Otro programa, como una luz nocturna, tiene la tabla de gamma de esta pantalla, o esta no tiene ninguna.</translation>
+    </message>
+    <message>
+        <source>The table can be edited now</source>
+        <translation>Ahora se puede editar la tabla</translation>
+    </message>
+    <message>
+        <source>A curve has taken its place that differs from it by %@ % of full level at most. Undo brings the table back.</source>
+        <translation>La ha sustituido una curva que difiere de ella en un %@ % del nivel máximo como mucho. «Deshacer» recupera la tabla.</translation>
+    </message>
+    <message>
+        <source>The calibration is not for a display.</source>
+        <translation>La calibración no es para una pantalla.</translation>
+    </message>
+    <message>
+        <source>The calibration file is damaged.</source>
+        <translation>El archivo de calibración está dañado.</translation>
+    </message>
+    <message>
+        <source>There is no display whose table could be saved.</source>
+        <translation>No hay ninguna pantalla cuya tabla se pueda guardar.</translation>
+    </message>
+    <message>
+        <source>The profile&apos;s calibration is damaged.</source>
+        <translation>La calibración del perfil está dañada.</translation>
+    </message>
+    <message>
+        <source>The profile is too large.</source>
+        <translation>El perfil es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>The colour profile is damaged.</source>
+        <translation>El perfil de color está dañado.</translation>
+    </message>
+    <message>
+        <source>The colour profile holds no calibration that could be put on a display.</source>
+        <translation>El perfil de color no contiene ninguna calibración que se pueda aplicar a una pantalla.</translation>
+    </message>
+    <message>
+        <source>The colour profile could not be made.</source>
+        <translation>No se ha podido crear el perfil de color.</translation>
+    </message>
+    <message>
+        <source>It holds no settings.</source>
+        <translation>No contiene ajustes.</translation>
+    </message>
+    <message>
+        <source>There is no preset called &quot;%@&quot;.</source>
+        <translation>No hay ningún preajuste llamado «%@».</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>El nombre de un preajuste tiene hasta 100 caracteres, ninguna barra y ningún punto al principio. No se ha guardado nada.</translation>
+    </message>
+    <message>
+        <source>The folder of presets could not be made.</source>
+        <translation>No se ha podido crear la carpeta de preajustes.</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>Desactive la luz nocturna del escritorio o cierre lo que corrija esta pantalla. Tonquil se hará cargo de ella en unos segundos.</translation>
+    </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>El perfil de color con la corrección no se puede guardar.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>El compositor no acepta ningún perfil de color para esta pantalla mientras HDR está activado.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>El compositor rechaza el perfil de color para esta pantalla.</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>Este no es un escritorio de KDE Plasma.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>El compositor no acepta ningún perfil de color para esta pantalla.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Otro programa está calibrando esta pantalla.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>El compositor no permite corregir esta pantalla.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>El bus de sesión no responde.</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,22 @@
         <source>Output at input 0, 0.5 and 1.</source>
         <translation>Sortie pour les entrées 0, 0.5 et 1.</translation>
     </message>
+    <message>
+        <source>In</source>
+        <translation>Entr.</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>V</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -58,10 +74,6 @@
         <translation>Ouvrir des réglages</translation>
     </message>
     <message>
-        <source>Settings and tables (*.tonquil *.tonquil-screens *.amp)</source>
-        <translation>Réglages et tables (*.tonquil *.tonquil-screens *.amp)</translation>
-    </message>
-    <message>
         <source>All files (*)</source>
         <translation>Tous les fichiers (*)</translation>
     </message>
@@ -72,6 +84,34 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>ICC profile of one display (*.icc)</source>
+        <translation>Profil ICC d’un écran (*.icc)</translation>
+    </message>
+    <message>
+        <source>Calibration of one display (*.cal)</source>
+        <translation>Étalonnage d’un écran (*.cal)</translation>
+    </message>
+    <message>
+        <source>Settings, profiles and tables (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</source>
+        <translation>Réglages, profils et tables (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>Enregistrer comme préréglage</translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Nom du préréglage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
     </message>
 </context>
 <context>
@@ -283,10 +323,6 @@
         <translation>%1, point %2</translation>
     </message>
     <message>
-        <source>Double-click sets the neutral value. With Shift the other colours follow.</source>
-        <translation>Un double-clic rétablit la valeur neutre. Avec Maj, les autres couleurs suivent.</translation>
-    </message>
-    <message>
         <source>Close the panel</source>
         <translation>Fermer le panneau</translation>
     </message>
@@ -299,14 +335,6 @@
         <translation>Menu</translation>
     </message>
     <message>
-        <source>This display</source>
-        <translation>Cet écran</translation>
-    </message>
-    <message>
-        <source>All displays</source>
-        <translation>Tous les écrans</translation>
-    </message>
-    <message>
         <source>Choose which displays are edited</source>
         <translation>Choisir les écrans à modifier</translation>
     </message>
@@ -317,6 +345,62 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>Les modifications ne sont pas enregistrées pour le moment. Tonquil continue d’essayer.</translation>
+    </message>
+    <message>
+        <source>All displays: an edit replaces the curve of each</source>
+        <translation>Tous les écrans : une modification remplace la courbe de chacun</translation>
+    </message>
+    <message>
+        <source>Identify displays</source>
+        <translation>Identifier les écrans</translation>
+    </message>
+    <message>
+        <source>Hide the sliders of the colours</source>
+        <translation>Masquer les curseurs des couleurs</translation>
+    </message>
+    <message>
+        <source>Show the sliders of the colours</source>
+        <translation>Afficher les curseurs des couleurs</translation>
+    </message>
+    <message>
+        <source>Hold to compare with the uncorrected display</source>
+        <translation>Maintenir enfoncé pour comparer avec l’écran non corrigé</translation>
+    </message>
+    <message>
+        <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
+        <translation>Corrige cet écran. Affichez les mires et déplacez le curseur jusqu’à ce que les rayures paraissent unies.</translation>
+    </message>
+    <message>
+        <source>Drag it, or turn the wheel over it or its number.</source>
+        <translation>Faire glisser, ou tourner la molette sur le curseur ou son nombre.</translation>
+    </message>
+    <message>
+        <source>With Ctrl a drag is four times as fine.</source>
+        <translation>Avec Ctrl, le glissement est quatre fois plus fin.</translation>
+    </message>
+    <message>
+        <source>With Shift the other colours follow.</source>
+        <translation>Avec Maj, les autres couleurs suivent.</translation>
+    </message>
+    <message>
+        <source>A double-click makes it neutral.</source>
+        <translation>Un double-clic rétablit la valeur neutre.</translation>
+    </message>
+    <message>
+        <source>An edit replaces the curve of each display</source>
+        <translation>Une modification remplace la courbe de chaque écran</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>Enregistrer comme préréglage…</translation>
+    </message>
+    <message>
+        <source>Make editable</source>
+        <translation>Rendre modifiable</translation>
     </message>
 </context>
 <context>
@@ -427,6 +511,30 @@
     <message>
         <source>Remote</source>
         <translation>À distance</translation>
+    </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>Afficher le panneau</translation>
+    </message>
+    <message>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>Inutile ici&#xa0;: aucune correction ne se perd inaperçue.</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>Modifier dans le bureau…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>Ce bureau laisse les raccourcis à ses propres réglages. Associez-y des touches à ces commandes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>Pas encore de touches</translation>
+    </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>Conserver l’éclairage nocturne</translation>
     </message>
 </context>
 <context>
@@ -702,6 +810,98 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>Un autre programme, par exemple un mode nuit, tient la table gamma de cet écran, ou celui-ci n’en a pas.</translation>
+    </message>
+    <message>
+        <source>The table can be edited now</source>
+        <translation>La table peut maintenant être modifiée</translation>
+    </message>
+    <message>
+        <source>A curve has taken its place that differs from it by %@ % of full level at most. Undo brings the table back.</source>
+        <translation>Une courbe l’a remplacée, qui s’en écarte d’au plus %@ % du niveau maximal. «&#xa0;Annuler&#xa0;» rétablit la table.</translation>
+    </message>
+    <message>
+        <source>The calibration is not for a display.</source>
+        <translation>L’étalonnage n’est pas destiné à un écran.</translation>
+    </message>
+    <message>
+        <source>The calibration file is damaged.</source>
+        <translation>Le fichier d’étalonnage est endommagé.</translation>
+    </message>
+    <message>
+        <source>There is no display whose table could be saved.</source>
+        <translation>Il n’y a aucun écran dont la table puisse être enregistrée.</translation>
+    </message>
+    <message>
+        <source>The profile&apos;s calibration is damaged.</source>
+        <translation>L’étalonnage du profil est endommagé.</translation>
+    </message>
+    <message>
+        <source>The profile is too large.</source>
+        <translation>Le profil est trop volumineux.</translation>
+    </message>
+    <message>
+        <source>The colour profile is damaged.</source>
+        <translation>Le profil de couleur est endommagé.</translation>
+    </message>
+    <message>
+        <source>The colour profile holds no calibration that could be put on a display.</source>
+        <translation>Le profil de couleur ne contient aucun étalonnage applicable à un écran.</translation>
+    </message>
+    <message>
+        <source>The colour profile could not be made.</source>
+        <translation>Le profil de couleur n’a pas pu être créé.</translation>
+    </message>
+    <message>
+        <source>It holds no settings.</source>
+        <translation>Il ne contient aucun réglage.</translation>
+    </message>
+    <message>
+        <source>There is no preset called &quot;%@&quot;.</source>
+        <translation>Il n’y a aucun préréglage nommé «&#xa0;%@&#xa0;».</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>Le nom d’un préréglage a 100 caractères au plus, sans barre oblique et sans point au début. Rien n’a été enregistré.</translation>
+    </message>
+    <message>
+        <source>The folder of presets could not be made.</source>
+        <translation>Le dossier des préréglages n’a pas pu être créé.</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>Désactivez l’éclairage nocturne du bureau ou fermez ce qui corrige cet écran. Tonquil le prendra alors en charge en quelques secondes.</translation>
+    </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>Le profil de couleur avec la correction ne peut pas être enregistré.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>Le compositeur n’accepte pas de profil de couleur pour cet écran tant que le HDR est activé.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>Le compositeur refuse le profil de couleur pour cet écran.</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>Ce bureau n’est pas KDE Plasma.</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>Le compositeur n’accepte pas de profil de couleur pour cet écran.</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>Un autre programme étalonne cet écran.</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>Le compositeur refuse que cet écran soit corrigé.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Le bus de session ne répond pas.</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,22 @@
         <source>Output at input 0, 0.5 and 1.</source>
         <translation>入力0、0.5、1に対する出力。</translation>
     </message>
+    <message>
+        <source>In</source>
+        <translation>入</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
 </context>
 <context>
     <name>Files</name>
@@ -58,10 +74,6 @@
         <translation>設定を開く</translation>
     </message>
     <message>
-        <source>Settings and tables (*.tonquil *.tonquil-screens *.amp)</source>
-        <translation>設定とテーブル (*.tonquil *.tonquil-screens *.amp)</translation>
-    </message>
-    <message>
         <source>All files (*)</source>
         <translation>すべてのファイル (*)</translation>
     </message>
@@ -72,6 +84,34 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>ICC profile of one display (*.icc)</source>
+        <translation>1台のディスプレイのICCプロファイル (*.icc)</translation>
+    </message>
+    <message>
+        <source>Calibration of one display (*.cal)</source>
+        <translation>1台のディスプレイのキャリブレーション (*.cal)</translation>
+    </message>
+    <message>
+        <source>Settings, profiles and tables (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</source>
+        <translation>設定、プロファイル、テーブル (*.tonquil *.tonquil-screens *.icc *.icm *.cal *.amp)</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>プリセットとして保存</translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>プリセットの名前:</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
     </message>
 </context>
 <context>
@@ -283,10 +323,6 @@
         <translation>%1、%2ポイント</translation>
     </message>
     <message>
-        <source>Double-click sets the neutral value. With Shift the other colours follow.</source>
-        <translation>ダブルクリックでニュートラルな値になります。Shiftキーを押すと他の色も連動します。</translation>
-    </message>
-    <message>
         <source>Close the panel</source>
         <translation>パネルを閉じる</translation>
     </message>
@@ -299,14 +335,6 @@
         <translation>メニュー</translation>
     </message>
     <message>
-        <source>This display</source>
-        <translation>このディスプレイ</translation>
-    </message>
-    <message>
-        <source>All displays</source>
-        <translation>すべてのディスプレイ</translation>
-    </message>
-    <message>
         <source>Choose which displays are edited</source>
         <translation>編集するディスプレイを選択</translation>
     </message>
@@ -317,6 +345,62 @@
     <message>
         <source>Changes are not saved at the moment. Tonquil keeps trying.</source>
         <translation>現在、変更は保存されていません。Tonquil は保存を試み続けます。</translation>
+    </message>
+    <message>
+        <source>All displays: an edit replaces the curve of each</source>
+        <translation>すべてのディスプレイ：編集すると各ディスプレイのカーブが置き換わります</translation>
+    </message>
+    <message>
+        <source>Identify displays</source>
+        <translation>ディスプレイを識別</translation>
+    </message>
+    <message>
+        <source>Hide the sliders of the colours</source>
+        <translation>各色のスライダを隠す</translation>
+    </message>
+    <message>
+        <source>Show the sliders of the colours</source>
+        <translation>各色のスライダを表示</translation>
+    </message>
+    <message>
+        <source>Hold to compare with the uncorrected display</source>
+        <translation>押している間、補正前のディスプレイと比較</translation>
+    </message>
+    <message>
+        <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
+        <translation>このディスプレイを補正します。テストパターンを表示し、縞が無地に見えるまでスライダを動かしてください。</translation>
+    </message>
+    <message>
+        <source>Drag it, or turn the wheel over it or its number.</source>
+        <translation>ドラッグするか、スライダまたは数値の上でホイールを回します。</translation>
+    </message>
+    <message>
+        <source>With Ctrl a drag is four times as fine.</source>
+        <translation>Ctrlキーを押すと4倍細かくドラッグできます。</translation>
+    </message>
+    <message>
+        <source>With Shift the other colours follow.</source>
+        <translation>Shiftキーを押すと他の色も連動します。</translation>
+    </message>
+    <message>
+        <source>A double-click makes it neutral.</source>
+        <translation>ダブルクリックでニュートラルな値になります。</translation>
+    </message>
+    <message>
+        <source>An edit replaces the curve of each display</source>
+        <translation>編集すると各ディスプレイのカーブが置き換わります</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Save as preset…</source>
+        <translation>プリセットとして保存…</translation>
+    </message>
+    <message>
+        <source>Make editable</source>
+        <translation>編集可能にする</translation>
     </message>
 </context>
 <context>
@@ -427,6 +511,30 @@
     <message>
         <source>Remote</source>
         <translation>リモート</translation>
+    </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>パネルを表示</translation>
+    </message>
+    <message>
+        <source>Not needed here: no correction is lost unnoticed.</source>
+        <translation>ここでは不要です。気付かないうちに補正が失われることはありません。</translation>
+    </message>
+    <message>
+        <source>Change in desktop…</source>
+        <translation>デスクトップで変更…</translation>
+    </message>
+    <message>
+        <source>This desktop leaves hot keys to its own settings. Bind these commands to keys there:</source>
+        <translation>このデスクトップではショートカットはデスクトップ側で設定します。次のコマンドをキーに割り当ててください:</translation>
+    </message>
+    <message>
+        <source>No keys given yet</source>
+        <translation>キーは未割り当て</translation>
+    </message>
+    <message>
+        <source>Keep night light</source>
+        <translation>夜間モードの色を保つ</translation>
     </message>
 </context>
 <context>
@@ -702,6 +810,98 @@
     <message>
         <source>Another program, such as a night light, holds this display&apos;s gamma ramp, or it has none.</source>
         <translation>夜間モードなど別のプログラムがこのディスプレイのガンマテーブルを使用しているか、このディスプレイにはガンマテーブルがありません。</translation>
+    </message>
+    <message>
+        <source>The table can be edited now</source>
+        <translation>テーブルを編集できるようになりました</translation>
+    </message>
+    <message>
+        <source>A curve has taken its place that differs from it by %@ % of full level at most. Undo brings the table back.</source>
+        <translation>テーブルは曲線に置き換えられました。差は最大でフルレベルの %@ % です。「取り消す」でテーブルに戻せます。</translation>
+    </message>
+    <message>
+        <source>The calibration is not for a display.</source>
+        <translation>このキャリブレーションはディスプレイ用ではありません。</translation>
+    </message>
+    <message>
+        <source>The calibration file is damaged.</source>
+        <translation>キャリブレーションファイルが壊れています。</translation>
+    </message>
+    <message>
+        <source>There is no display whose table could be saved.</source>
+        <translation>テーブルを保存できるディスプレイがありません。</translation>
+    </message>
+    <message>
+        <source>The profile&apos;s calibration is damaged.</source>
+        <translation>プロファイルのキャリブレーションが壊れています。</translation>
+    </message>
+    <message>
+        <source>The profile is too large.</source>
+        <translation>プロファイルが大きすぎます。</translation>
+    </message>
+    <message>
+        <source>The colour profile is damaged.</source>
+        <translation>カラープロファイルが壊れています。</translation>
+    </message>
+    <message>
+        <source>The colour profile holds no calibration that could be put on a display.</source>
+        <translation>カラープロファイルには、ディスプレイに適用できるキャリブレーションがありません。</translation>
+    </message>
+    <message>
+        <source>The colour profile could not be made.</source>
+        <translation>カラープロファイルを作成できませんでした。</translation>
+    </message>
+    <message>
+        <source>It holds no settings.</source>
+        <translation>設定が入っていません。</translation>
+    </message>
+    <message>
+        <source>There is no preset called &quot;%@&quot;.</source>
+        <translation>「%@」という名前のプリセットはありません。</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>プリセットの名前は100文字以内で、スラッシュを含めず、ドットで始めないでください。何も保存されていません。</translation>
+    </message>
+    <message>
+        <source>The folder of presets could not be made.</source>
+        <translation>プリセットのフォルダを作成できませんでした。</translation>
+    </message>
+    <message>
+        <source>Switch off the desktop&apos;s night light, or end whatever else corrects this display. Tonquil then takes it over within seconds.</source>
+        <translation>デスクトップの夜間モードをオフにするか、このディスプレイを補正している別のプログラムを終了してください。数秒以内に Tonquil が引き継ぎます。</translation>
+    </message>
+    <message>
+        <source>The colour profile with the correction cannot be saved.</source>
+        <translation>補正を入れたカラープロファイルを保存できません。</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display while HDR is on.</source>
+        <translation>HDR がオンの間、コンポジタはこのディスプレイのカラープロファイルを受け付けません。</translation>
+    </message>
+    <message>
+        <source>The compositor refuses the colour profile for this display.</source>
+        <translation>コンポジタがこのディスプレイのカラープロファイルを拒否しました。</translation>
+    </message>
+    <message>
+        <source>This is not a KDE Plasma desktop.</source>
+        <translation>これは KDE Plasma デスクトップではありません。</translation>
+    </message>
+    <message>
+        <source>The compositor takes no colour profile for this display.</source>
+        <translation>コンポジタはこのディスプレイのカラープロファイルを受け付けません。</translation>
+    </message>
+    <message>
+        <source>Another program is calibrating this display.</source>
+        <translation>別のプログラムがこのディスプレイをキャリブレーション中です。</translation>
+    </message>
+    <message>
+        <source>The compositor refuses to have this display corrected.</source>
+        <translation>コンポジタがこのディスプレイの補正を拒否しています。</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>セッションバスが応答しません。</translation>
     </message>
 </context>
 <context>

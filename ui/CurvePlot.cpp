@@ -2,7 +2,6 @@
 #include "ui/CurvePlot.h"
 
 #include <QCoreApplication>
-#include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -30,19 +29,6 @@ constexpr int preferredHeight = 232;
 constexpr int leastExtent = 120;
 
 constexpr double baseOpacity = 0.55;
-constexpr double plateOpacity = 0.85;
-
-double inputOf(CurvePlot::CurvePoint point) {
-    switch (point) {
-        case CurvePlot::CurvePoint::Black:
-            return 0;
-        case CurvePlot::CurvePoint::Middle:
-            return 0.5;
-        case CurvePlot::CurvePoint::White:
-            break;
-    }
-    return 1;
-}
 
 // The level at `input`, linearly interpolated between samples.
 double levelAt(const std::vector<float>& levels, double input) {
@@ -60,7 +46,6 @@ QString twoDecimals(double value) {
 
 CurvePlot::CurvePlot(QWidget* parent) : QWidget(parent) {
     installAccessibleInterfaces();
-    setMouseTracking(true);
 }
 
 QSize CurvePlot::sizeHint() const {
@@ -108,19 +93,6 @@ void CurvePlot::setMessage(const QString& message) {
     }
 }
 
-QString CurvePlot::readoutAt(double input) const {
-    QString readout = twoDecimals(input);
-    readout += QStringLiteral(" →");
-    for (const auto& levels : _curves) {
-        if (levels.size() < 2) {
-            return {};
-        }
-        readout += u' ';
-        readout += twoDecimals(levelAt(levels, std::clamp(input, 0.0, 1.0)));
-    }
-    return readout;
-}
-
 QString CurvePlot::spokenDescription() const {
     if (!_message.isEmpty()) {
         return _message;
@@ -155,6 +127,27 @@ QRectF CurvePlot::graphRect() const {
     const double bottom = plotPadding / 2 + metrics.height() + labelGap / 2;
     const double top = std::max<double>(plotPadding, metrics.height() / 2.0);
     return QRectF(rect()).adjusted(left, std::ceil(top), -plotPadding - markRadius, -bottom);
+}
+
+double CurvePlot::inputOf(CurvePoint point) {
+    switch (point) {
+        case CurvePoint::Black:
+            return 0;
+        case CurvePoint::Middle:
+            return 0.5;
+        case CurvePoint::White:
+            break;
+    }
+    return 1;
+}
+
+bool CurvePlot::showsCurves() const {
+    return _message.isEmpty() &&
+           std::ranges::all_of(_curves, [](const auto& levels) { return levels.size() >= 2; });
+}
+
+std::array<double, 3> CurvePlot::outputsAt(double input) const {
+    return {levelAt(_curves[0], input), levelAt(_curves[1], input), levelAt(_curves[2], input)};
 }
 
 QPointF CurvePlot::pointAt(std::size_t channel, double input) const {
@@ -258,9 +251,6 @@ void CurvePlot::paintEvent(QPaintEvent* /*event*/) {
     painter.drawImage(QPointF(0, 0), _background);
     painter.drawImage(QPointF(0, 0), _curvePicture);
     drawMark(painter);
-    if (isEnabled()) {
-        drawReadout(painter);
-    }
 }
 
 void CurvePlot::drawMessage(QPainter& painter) const {
@@ -290,52 +280,6 @@ void CurvePlot::drawMark(QPainter& painter) const {
         }
     }
     painter.restore();
-}
-
-void CurvePlot::drawReadout(QPainter& painter) const {
-    if (!_hoveredInput) {
-        return;
-    }
-    const QStringList words = readoutAt(*_hoveredInput).split(u' ');
-    if (words.size() < 2) {
-        return;
-    }
-    const Theme& theme = themeOf(*this);
-    const QRectF graph = graphRect();
-    drawHairline(painter, graph.left() + *_hoveredInput * graph.width(), graph.top(),
-                 graph.height(), Qt::Vertical, theme.secondaryText);
-    painter.setFont(labelFont());
-    const QFontMetrics metrics(painter.font());
-    const double height = metrics.height();
-    const double space = metrics.horizontalAdvance(u' ');
-    const double width = metrics.horizontalAdvance(words.join(u' ')) + space;
-    QColor plate = theme.field;
-    plate.setAlphaF(static_cast<float>(plateOpacity));
-    // Curves rise from the lower left, so the upper left is free.
-    double x = graph.left() + labelGap;
-    const double y = graph.top() + labelGap;
-    painter.fillRect(QRectF(x, y, width + 2 * labelGap, height), plate);
-    x += labelGap;
-    for (qsizetype word = 0; word < words.size(); ++word) {
-        painter.setPen(word < 2
-                           ? theme.text
-                           : theme.channelText(channels.at(static_cast<std::size_t>(word - 2))));
-        painter.drawText(QPointF(x, y + metrics.ascent()), words.at(word));
-        x += metrics.horizontalAdvance(words.at(word)) + space;
-    }
-}
-
-void CurvePlot::mouseMoveEvent(QMouseEvent* event) {
-    const QRectF graph = graphRect();
-    const double input = (event->position().x() - graph.left()) / graph.width();
-    _hoveredInput = input >= 0 && input <= 1 ? std::optional(input) : std::nullopt;
-    update();
-}
-
-void CurvePlot::leaveEvent(QEvent* event) {
-    _hoveredInput.reset();
-    update();
-    QWidget::leaveEvent(event);
 }
 
 }  // namespace tonquil

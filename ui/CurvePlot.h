@@ -19,8 +19,8 @@ namespace tonquil {
 /// calibration, which is dotted. Where curves coincide they are white (dark theme) or black
 /// (light).
 ///
-/// Hovering reads out a value. The drawing is cached: a repaint without a change of curves, size or
-/// appearance only copies two images.
+/// The drawing is cached: a repaint without a change of curves, size or appearance only copies two
+/// images.
 class CurvePlot : public QWidget {
  public:
     /// Output levels of red, green and blue at evenly spaced inputs from 0 to 1.
@@ -47,9 +47,6 @@ class CurvePlot : public QWidget {
     void setMessage(const QString& message);
     [[nodiscard]] const QString& message() const { return _message; }
 
-    /// The read-out at an input (0 to 1): "0.50 → 0.47 0.48 0.50". Empty unless there are three
-    /// curves.
-    [[nodiscard]] QString readoutAt(double input) const;
     /// Describes the curves or the message in words, for screen readers.
     [[nodiscard]] QString spokenDescription() const;
 
@@ -58,8 +55,15 @@ class CurvePlot : public QWidget {
 
  protected:
     void paintEvent(QPaintEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void leaveEvent(QEvent* event) override;
+
+    /// Whether there are three curves and no message is in their place.
+    [[nodiscard]] bool showsCurves() const;
+    /// Where the curves are drawn, in points.
+    [[nodiscard]] QRectF graphRect() const;
+    [[nodiscard]] QFont labelFont() const;
+    [[nodiscard]] static double inputOf(CurvePoint point);
+    /// What red, green and blue are at an input (0 to 1); only while there are curves.
+    [[nodiscard]] std::array<double, 3> outputsAt(double input) const;
 
  private:
     using Curves = std::array<std::vector<float>, 3>;
@@ -73,8 +77,6 @@ class CurvePlot : public QWidget {
         friend bool operator==(const PictureKey&, const PictureKey&) = default;
     };
 
-    [[nodiscard]] QRectF graphRect() const;
-    [[nodiscard]] QFont labelFont() const;
     [[nodiscard]] QPointF pointAt(std::size_t channel, double input) const;
     [[nodiscard]] CurveLines linesOf(const Curves& curves) const;
     [[nodiscard]] QImage emptyPicture() const;
@@ -85,14 +87,11 @@ class CurvePlot : public QWidget {
     void drawLabels(QPainter& painter, const QRectF& graph) const;
     void drawMessage(QPainter& painter) const;
     void drawMark(QPainter& painter) const;
-    void drawReadout(QPainter& painter) const;
 
     Curves _curves;
     Curves _base;
     std::optional<MarkedPoint> _markedPoint;
     QString _message;
-    /// The input under the pointer.
-    std::optional<double> _hoveredInput;
 
     PictureKey _key;
     QImage _background;

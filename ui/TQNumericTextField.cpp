@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -178,6 +179,15 @@ void TQNumericTextField::mouseReleaseEvent(QMouseEvent* event) {
     if (std::exchange(_isFirstClick, false) && !hasSelectedText()) {
         selectAll();
     }
+}
+
+void TQNumericTextField::wheelEvent(QWheelEvent* event) {
+    if (target() == nullptr) {
+        QLineEdit::wheelEvent(event);
+        return;
+    }
+    commit();
+    event->setAccepted(target()->scrollWheel(*event));
 }
 
 void TQNumericTextField::keyPressEvent(QKeyEvent* event) {

@@ -14,8 +14,8 @@ class TQSlider;
 ///
 /// The decimal separator is shown as a point; a comma is accepted too. Return or losing the focus
 /// commits what was typed, Escape reverts it. The click that focuses the field selects all, ready
-/// to be typed over. Committing text that is no number reverts it. Set the number with
-/// `setFloatValue`, not with `setText`.
+/// to be typed over. The wheel steps the target, from what was typed. Committing text that is no
+/// number reverts it. Set the number with `setFloatValue`, not with `setText`.
 class TQNumericTextField : public QLineEdit {
  public:
     explicit TQNumericTextField(QWidget* parent = nullptr);
@@ -53,6 +53,7 @@ class TQNumericTextField : public QLineEdit {
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;

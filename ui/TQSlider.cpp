@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
-#include <utility>
 
 #include "ui/Accessibility.h"
 #include "ui/theme/Drawing.h"
@@ -23,6 +22,8 @@ constexpr int preferredSliderWidth = 160;
 constexpr int leastWidth = 48;
 /// How far from the fill's end, in points, a press still grabs the end.
 constexpr double endReach = 3;
+/// How far from the notch, in points, a drag still means the neutral value.
+constexpr double snapReach = 2;
 
 constexpr double stepPerLine = 0.01;
 constexpr double stepPerPixel = 0.005;
@@ -171,9 +172,16 @@ void TQSlider::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
-void TQSlider::takeValueAt(double x) {
-    const double fraction =
-        TQSliderCell::fractionAt(x, TQSliderCell::trackInside(rect()), isRightToLeft());
+// A fine drag does not snap: it is for the values next to the notch as well.
+void TQSlider::takeValueAt(double x, bool isFine) {
+    const QRectF track = TQSliderCell::trackInside(rect());
+    const double notch =
+        TQSliderCell::positionOf(fractionOf(_neutralValue), track, isRightToLeft());
+    if (!isFine && std::abs(x - notch) <= snapReach) {
+        takeNeutralValue();
+        return;
+    }
+    const double fraction = TQSliderCell::fractionAt(x, track, isRightToLeft());
     const double length = static_cast<double>(_maximum) - _minimum;
     setFloatValue(static_cast<float>(_minimum + fraction * length));
     sendAction();
@@ -202,19 +210,17 @@ void TQSlider::mousePressEvent(QMouseEvent* event) {
     const double x = event->position().x();
     const double end = TQSliderCell::positionOf(fractionOf(_value),
                                                 TQSliderCell::trackInside(rect()), isRightToLeft());
-    // Grabbing the fill's end does not move it yet.
-    const bool isOnEnd = std::abs(x - end) <= endReach;
-    _grip = isOnEnd ? x - end : 0;
-    _gripX = x;
-    if (!isOnEnd) {
-        takeValueAt(x);
+    // Grabbing the fill's end does not move it yet, and a fine drag starts at the value there is.
+    const bool isGrabbed = std::abs(x - end) <= endReach || FineDrag::isFine(event->modifiers());
+    _drag.begin(x, isGrabbed ? end : x);
+    if (!isGrabbed) {
+        takeValueAt(x, false);
     }
 }
 
 void TQSlider::mouseMoveEvent(QMouseEvent* event) {
-    const double x = event->position().x();
-    if (_followsPointer && x != std::exchange(_gripX, x)) {
-        takeValueAt(x - _grip);
+    if (_followsPointer && _drag.follow(event->position().x(), event->modifiers())) {
+        takeValueAt(_drag.position(), FineDrag::isFine(event->modifiers()));
     }
 }
 
@@ -233,17 +239,20 @@ void TQSlider::mouseDoubleClickEvent(QMouseEvent* event) {
     takeNeutralValue();
 }
 
-void TQSlider::wheelEvent(QWheelEvent* event) {
-    if (event->angleDelta().y() == 0 && event->pixelDelta().y() == 0) {
+bool TQSlider::scrollWheel(const QWheelEvent& event) {
+    if (event.angleDelta().y() == 0 && event.pixelDelta().y() == 0) {
         // A sideways scroll, or just the start or end of a gesture.
-        event->ignore();
-        return;
+        return false;
     }
-    event->accept();
-    if (const auto step = stepOf(*event)) {
+    if (const auto step = stepOf(event)) {
         setFloatValue(_value + *step);
         sendAction();
     }
+    return true;
+}
+
+void TQSlider::wheelEvent(QWheelEvent* event) {
+    event->setAccepted(scrollWheel(*event));
 }
 
 void TQSlider::keyPressEvent(QKeyEvent* event) {

@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "ui/FineDrag.h"
 #include "ui/TQNumericTextField.h"
 #include "ui/TQSliderCell.h"
 #include "ui/theme/Channel.h"
@@ -17,6 +18,9 @@ namespace tonquil {
 /// The value always lies within the range. Setting it from code does not call the action; user
 /// input, here or in the auxiliary, does. Each repaint shows the value in the auxiliary, unless the
 /// user is typing there.
+///
+/// A drag near the neutral value snaps to it. With Ctrl a drag starts at the present value, goes at
+/// a quarter of the pointer's speed and does not snap.
 class TQSlider : public QWidget {
  public:
     using Action = std::function<void(TQSlider& sender)>;
@@ -71,6 +75,8 @@ class TQSlider : public QWidget {
     /// the next repaint shows the clamped value in the field.
     void incrementValueOf(TQNumericTextField& sender);
     void decrementValueOf(TQNumericTextField& sender);
+    /// Steps the value and calls the action; false for an event that turns nothing.
+    bool scrollWheel(const QWheelEvent& event);
     /// Takes the value entered in the auxiliary, writes it back clamped to the range, and calls the
     /// action. Ignores any other sender.
     void _updateToAuxiliaryValue(TQNumericTextField& sender);
@@ -93,7 +99,7 @@ class TQSlider : public QWidget {
  private:
     [[nodiscard]] double fractionOf(float value) const;
     void stepBy(double step, TQNumericTextField& sender);
-    void takeValueAt(double x);
+    void takeValueAt(double x, bool isFine);
     void setInteracting(bool isInteracting);
 
     TQSliderCell _cell;
@@ -107,10 +113,8 @@ class TQSlider : public QWidget {
     Action _interactionChanged;
     bool _isInteracting = false;
     bool _followsPointer = false;
-    /// Where the pointer grabbed the fill, in points to the right of its end, and the last
-    /// position.
-    double _grip = 0;
-    double _gripX = 0;
+    /// Where the fill's end is dragged to, in points from the left.
+    FineDrag _drag;
     bool _showsFocusRing = false;
 };
 

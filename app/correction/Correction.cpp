@@ -18,25 +18,35 @@ void Correction::setApplyCorrection(bool isOn) {
 }
 
 void Correction::switchTo(bool isOn) {
-    if (isOn && std::exchange(_wasSwitchedOff, false)) {
+    _isActive = isOn;
+    update();
+    if (show) {
+        show(isOn);
+    }
+}
+
+void Correction::setCompared(bool isCompared) {
+    if (isCompared != std::exchange(_isCompared, isCompared) && _isActive) {
+        update();
+    }
+}
+
+void Correction::update() {
+    if (isOnDisplays() && std::exchange(_wasSwitchedOff, false)) {
         // A ramp set by others in the meantime belongs to the system.
         readBases();
     }
-    _isActive = isOn;
-    _wasSwitchedOff = !isOn;
+    _wasSwitchedOff = !isOnDisplays();
     activateScreens();
-    if (!isOn) {
+    if (!isOnDisplays()) {
         restoreAllGammaCurves();
-    }
-    if (show) {
-        show(isOn);
     }
 }
 
 void Correction::activateScreens() {
     const DisplayBatch batch(_service);
     for (const auto& screen : _registry.screens()) {
-        screen->setAutoApplyGamma(_isActive);
+        screen->setAutoApplyGamma(isOnDisplays());
     }
 }
 
@@ -52,7 +62,7 @@ bool Correction::readBases() {
 }
 
 void Correction::_applyCurvesToScreen() {
-    if (!applyCorrection()) {
+    if (!applyCorrection() || _isCompared) {
         return;
     }
     const DisplayBatch batch(_service);

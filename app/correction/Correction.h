@@ -23,7 +23,11 @@ class Correction {
     void setApplyCorrection(bool isOn);
     /// The same without storing, for when the preferences already have the state.
     void switchTo(bool isOn);
-    /// Applies every display's curve, whatever is on the hardware now; does nothing while off.
+    /// While compared, the displays show the system calibration although the correction is on.
+    /// Nothing of it is stored, so a program that is killed meanwhile corrects at its next start.
+    void setCompared(bool isCompared);
+    /// Applies every display's curve, whatever is on the hardware now; does nothing while off or
+    /// compared.
     void _applyCurvesToScreen();
     /// Reads the current system calibration of every display as its base; returns whether one
     /// changed. Does not re-apply the curves.
@@ -40,10 +44,15 @@ class Correction {
     std::function<void(bool)> show;
 
  private:
+    [[nodiscard]] bool isOnDisplays() const { return _isActive && !_isCompared; }
+    /// Brings the displays in line with the state.
+    void update();
+
     DisplayService& _service;
     ScreenRegistry& _registry;
     PreferencesStore& _preferences;
     bool _isActive = false;
+    bool _isCompared = false;
     bool _wasSwitchedOff = false;
 };
 

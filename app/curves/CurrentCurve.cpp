@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "model/KVTableGammaCurve.h"
+
 namespace tonquil {
 
 struct CurrentCurve::ColourSlider {
@@ -57,7 +59,9 @@ PanelValues CurrentCurve::valuesOf(const KVGammaCurve& curve) {
         white.greenValue(),
         white.blueValue(),
     };
-    values.blendingMode = curve.blendingMode();
+    // A table takes the calibration's place, whatever its unused mode says.
+    const bool isTable = dynamic_cast<const KVTableGammaCurve*>(&curve) != nullptr;
+    values.blendingMode = isTable ? KVBlendingModeAbsolute : curve.blendingMode();
     return values;
 }
 

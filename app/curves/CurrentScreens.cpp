@@ -17,6 +17,11 @@ double commonArea(const Rectangle& a, const Rectangle& b) {
     return std::max(width, 0.0) * std::max(height, 0.0);
 }
 
+std::string titleOf(const DisplayDescription& display) {
+    return display.productName.empty() ? display.connector
+                                       : display.connector + " \u00B7 " + display.productName;
+}
+
 }  // namespace
 
 std::optional<DisplayID> CurrentScreens::displayUnderPanel() {
@@ -40,6 +45,17 @@ ScreenRegistry::Screens CurrentScreens::_currentScreens() {
     const auto display = displayUnderPanel();
     return _registry.screensWithRect(display ? PlatformScreen(_service, *display).frame()
                                              : Rectangle{});
+}
+
+std::vector<PanelDisplay> CurrentScreens::displays() {
+    const auto underPanel = displayUnderPanel();
+    std::vector<PanelDisplay> displays;
+    for (const DisplayID display : _service.onlineDisplays(ScreenRegistry::mostScreens)) {
+        displays.push_back({.display = display,
+                            .title = titleOf(_service.description(display)),
+                            .isUnderPanel = display == underPanel});
+    }
+    return displays;
 }
 
 PanelSubject CurrentScreens::subject() {
@@ -66,11 +82,7 @@ PanelSubject CurrentScreens::subject() {
     if (subject.isAllDisplays) {
         subject.title = TONQUIL_TEXT("PanelSubject", "All displays");
     } else {
-        subject.title = first.connector;
-        if (!first.productName.empty()) {
-            subject.title += " \u00B7 ";
-            subject.title += first.productName;
-        }
+        subject.title = titleOf(first);
     }
     // Of several displays, one that can be corrected is enough.
     const bool areAllBarred = std::all_of(screens.begin(), screens.end(), [&](const auto& screen) {
@@ -78,6 +90,14 @@ PanelSubject CurrentScreens::subject() {
     });
     if (areAllBarred) {
         subject.obstacle = first.obstacle;
+        // A ramp that is there, but whose size nobody tells us, is in somebody else's hands.
+        if (!first.outlivesProgram && first.rampSize == 0 &&
+            screens.front()->baseGamma().sampleCount > 0) {
+            subject.remedy = TONQUIL_TEXT("Problem",
+                                          "Switch off the desktop's night light, or end whatever "
+                                          "else corrects this display. Tonquil then takes it over "
+                                          "within seconds.");
+        }
     }
     return subject;
 }

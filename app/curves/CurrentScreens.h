@@ -5,7 +5,9 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "app/panel/PanelActions.h"
 #include "app/panel/PanelControls.h"
 #include "app/panel/PanelWindow.h"
 #include "app/preferences/PreferencesStore.h"
@@ -30,6 +32,8 @@ class CurrentScreens {
     [[nodiscard]] ScreenRegistry::Screens _currentScreens();
     /// The display that shows most of the panel; nothing if it is on none.
     [[nodiscard]] std::optional<DisplayID> displayUnderPanel();
+    /// All that the panel could edit, in the display service's order.
+    [[nodiscard]] std::vector<PanelDisplay> displays();
     /// What the panel says about these displays.
     [[nodiscard]] PanelSubject subject();
 

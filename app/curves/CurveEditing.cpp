@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "model/CurveFit.h"
+
 namespace tonquil {
 
 namespace {
@@ -11,10 +13,16 @@ constexpr std::chrono::milliseconds resetPause{500};
 // Separates two slider drags of a companion, which does not report the end of a drag.
 constexpr std::chrono::seconds pauseFromAfar{1};
 
-/// Whether each of the screens already has a curve with these values.
+/// The table that a screen has instead of a curve; null if it has a curve.
+std::shared_ptr<KVTableGammaCurve> tableOn(const KVScreen& screen) {
+    return std::dynamic_pointer_cast<KVTableGammaCurve>(screen.gammaCurve());
+}
+
+/// Whether each of the screens already has a curve with these values. A table has none, whatever
+/// its unused points say.
 bool haveCurve(const ScreenRegistry::Screens& screens, const KVGammaCurve& curve) {
     return std::ranges::all_of(screens, [&curve](const auto& screen) {
-        return screen->gammaCurve() &&
+        return screen->gammaCurve() && !tableOn(*screen) &&
                CurrentCurve::valuesOf(*screen->gammaCurve()) == CurrentCurve::valuesOf(curve);
     });
 }
@@ -67,6 +75,27 @@ void CurveEditing::adoptCurve(const KVGammaCurve& curve) {
     _with.view._updateCurveInPanel();
 }
 
+Result<void> CurveEditing::takeCurves(const HandedCurves& curves) {
+    ScreenRegistry::Screens screens;
+    for (const auto& [connector, curve] : curves) {
+        const auto& attached = _with.registry.screens();
+        const auto found = std::ranges::find_if(
+            attached, [&name = connector](const auto& screen) { return screen->isNamed(name); });
+        if (found == attached.end()) {
+            return problem("Tonquil sees no display at " + connector + ".");
+        }
+        screens.push_back(*found);
+    }
+    willEdit(screens, editSubject::openedFile);
+    auto screen = screens.begin();
+    for (const auto& [connector, curve] : curves) {
+        (*screen++)->setGammaCurve(curve);
+    }
+    curvesWereEdited();
+    _with.view._updateCurveInPanel();
+    return {};
+}
+
 // A table is put on the displays and then immediately replaced by the curve read back from them;
 // what remains is the undo step.
 void CurveEditing::adoptTable(const std::shared_ptr<KVGammaCurve>& table) {
@@ -77,6 +106,50 @@ void CurveEditing::adoptTable(const std::shared_ptr<KVGammaCurve>& table) {
     }
     _adoptCurrentCurves();
     curvesWereEdited();
+}
+
+void CurveEditing::keepTable(const std::shared_ptr<KVTableGammaCurve>& table) {
+    const DisplayBatch batch(_with.service);
+    const auto screens = _with.currentScreens._currentScreens();
+    const bool isEdit = !std::ranges::all_of(screens, [&table](const auto& screen) {
+        const auto present = tableOn(*screen);
+        return present && haveSameBits(present->table(), table->table());
+    });
+    if (isEdit) {
+        willEdit(screens, editSubject::openedFile);
+    }
+    for (const auto& screen : screens) {
+        screen->setGammaCurve(table);
+    }
+    if (isEdit) {
+        curvesWereEdited();
+    }
+    _with.view._updateCurveInPanel();
+}
+
+bool CurveEditing::hasTable() {
+    return std::ranges::any_of(_with.currentScreens._currentScreens(),
+                               [](const auto& screen) { return tableOn(*screen) != nullptr; });
+}
+
+std::optional<float> CurveEditing::makeEditable() {
+    if (!hasTable()) {
+        return std::nullopt;
+    }
+    const DisplayBatch batch(_with.service);
+    const auto screens = _with.currentScreens._currentScreens();
+    willEdit(screens, editSubject::madeEditable);
+    float largest = 0;
+    for (const auto& screen : screens) {
+        if (const auto table = tableOn(*screen)) {
+            const CurveFit fit = fitCurve(table->table());
+            screen->setGammaCurve(fit.curve);
+            largest = std::max(largest, fit.largestDifference);
+        }
+    }
+    curvesWereEdited();
+    _with.view._updateCurveInPanel();
+    return largest;
 }
 
 // The pause gives the system time to restore its calibration before it is read as the new base.

@@ -2,11 +2,14 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "app/correction/Correction.h"
 #include "app/curves/CurveStorage.h"
 #include "app/curves/PanelView.h"
 #include "foundation/RunLoop.h"
+#include "model/KVTableGammaCurve.h"
+#include "screens/HandedCurves.h"
 
 namespace tonquil {
 
@@ -41,6 +44,18 @@ class CurveEditing {
     void adoptCurve(const KVGammaCurve& curve);
     /// Puts a table on the current displays, then derives every display's curve from its tables.
     void adoptTable(const std::shared_ptr<KVGammaCurve>& table);
+
+    /// Puts a table on the current displays, where it stays until their curve is replaced. On
+    /// displays that have it already it makes no undo step.
+    void keepTable(const std::shared_ptr<KVTableGammaCurve>& table);
+    /// Whether a current display has a table instead of a curve that can be edited.
+    [[nodiscard]] bool hasTable();
+    /// Replaces the tables of the current displays by the curves that come closest to them. Returns
+    /// by how much a level is off at most; nothing if no display has a table.
+    std::optional<float> makeEditable();
+    /// Assigns curves to displays, as one undo step. A problem, with nothing changed, if one of the
+    /// displays is not attached.
+    Result<void> takeCurves(const HandedCurves& curves);
 
     /// Call it before other code replaces curves: starts a new undo step.
     void willEdit(const ScreenRegistry::Screens& screens, int subject);

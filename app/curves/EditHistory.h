@@ -16,6 +16,7 @@ inline constexpr int blendingMode = 100;
 inline constexpr int reset = 101;
 inline constexpr int openedFile = 102;
 inline constexpr int remote = 103;
+inline constexpr int madeEditable = 104;
 }  // namespace editSubject
 
 /// Undo and redo of curve edits.

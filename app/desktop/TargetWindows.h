@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "screens/DisplayIdentity.h"
 
@@ -12,7 +14,13 @@ namespace tonquil {
 /// The kinds of calibration target.
 enum class TargetKind : std::int32_t { Color = 0, Grayscale = 1 };
 
-/// The windows that show calibration targets.
+struct NamedDisplay {
+    DisplayID display = 0;
+    std::string name;
+};
+
+/// The windows that cover displays, or parts of them: calibration targets, and what tells displays
+/// apart.
 class TargetWindows {
  public:
     virtual ~TargetWindows() = default;
@@ -35,6 +43,9 @@ class TargetWindows {
     [[nodiscard]] virtual TargetKind coverKind(DisplayID display) const = 0;
     /// Call it after displays were added, removed or moved: covers follow their displays.
     virtual void displaysChanged() = 0;
+    /// Shows on each of these displays, for two seconds, its position in the list (from 1) and its
+    /// name.
+    virtual void identify(const std::vector<NamedDisplay>& displays) = 0;
     /// Shows or hides the sentence below the patterns of the floating window.
     virtual void setHintsShown(bool areShown) = 0;
     /// Saves the floating window's position for the next run.

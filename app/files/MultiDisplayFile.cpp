@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "app/files/FileDialogs.h"
+#include "model/StoredCurve.h"
 #include "plist/Unicode.h"
 
 namespace tonquil {
@@ -16,7 +17,7 @@ MultiDisplayFile::MultiDisplayFile(const PropertyValue& screens) {
         // A key with control characters could not be saved, and would block saving everything else
         // too.
         if (value.is_object() && isPropertyListText(key)) {
-            _curves[key] = TQExtendedGammaCurve::gammaCurveWithDictionary(value);
+            _curves[key] = curveWithDictionary(value);
         }
     }
 }

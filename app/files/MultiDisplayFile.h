@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "model/TQExtendedGammaCurve.h"
+#include "model/KVGammaCurve.h"
 #include "screens/ScreenRegistry.h"
 #include "values/PropertyValue.h"
 
@@ -32,7 +32,7 @@ class MultiDisplayFile {
     [[nodiscard]] static PropertyValue contentsFor(ScreenRegistry& registry);
 
  private:
-    std::map<std::string, std::shared_ptr<TQExtendedGammaCurve>> _curves;
+    std::map<std::string, std::shared_ptr<KVGammaCurve>> _curves;
 };
 
 }  // namespace tonquil

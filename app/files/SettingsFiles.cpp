@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "app/files/SettingsFiles.h"
 
+#include <array>
+#include <cstdio>
+#include <ctime>
+#include <memory>
 #include <system_error>
 
 #include "app/files/MultiDisplayFile.h"
 #include "app/preferences/SettingsKeys.h"
+#include "colourfiles/ExportedTable.h"
 #include "files/AtomicFile.h"
 #include "foundation/TranslatableText.h"
 #include "model/KVTableGammaCurve.h"
-#include "model/TQExtendedGammaCurve.h"
+#include "model/StoredCurve.h"
 #include "plist/PropertyListWriter.h"
 #include "values/PropertyValue.h"
 
@@ -34,6 +39,14 @@ void SettingsFiles::loadGamma() {
 
 // Deferred to after the event, so that the caller returns first.
 void SettingsFiles::openFile(const std::filesystem::path& file) {
+    _with.runLoop.post([this, file] {
+        if (_openFile(file)) {
+            _recentFiles.add(file);
+        }
+    });
+}
+
+void SettingsFiles::openPreset(const std::filesystem::path& file) {
     _with.runLoop.post([this, file] { static_cast<void>(_openFile(file)); });
 }
 
@@ -43,12 +56,7 @@ bool SettingsFiles::_openFile(const std::filesystem::path& file) {
         return refuseFile(settings.error());
     }
     const DisplayBatch batch(_with.service);
-    const bool isOpened =
-        std::visit([this](const auto& contents) { return openSettings(contents); }, *settings);
-    if (isOpened) {
-        _recentFiles.add(file);
-    }
-    return isOpened;
+    return std::visit([this](const auto& contents) { return openSettings(contents); }, *settings);
 }
 
 bool SettingsFiles::refuseFile(const Problem& problem) {
@@ -59,7 +67,17 @@ bool SettingsFiles::refuseFile(const Problem& problem) {
 }
 
 bool SettingsFiles::openSettings(const SingleDisplaySettings& settings) {
-    _with.editing.adoptCurve(*TQExtendedGammaCurve::gammaCurveWithDictionary(settings.curve));
+    const auto curve = curveWithDictionary(settings.curve);
+    if (const auto table = std::dynamic_pointer_cast<KVTableGammaCurve>(curve)) {
+        _with.editing.keepTable(table);
+    } else {
+        _with.editing.adoptCurve(*curve);
+    }
+    return true;
+}
+
+bool SettingsFiles::openSettings(const CalibrationSettings& settings) {
+    _with.editing.keepTable(std::make_shared<KVTableGammaCurve>(settings.table));
     return true;
 }
 
@@ -106,10 +124,10 @@ bool SettingsFiles::openSettings(const RawTableSettings& settings) {
 }
 
 void SettingsFiles::saveGamma() {
-    const bool isMultiDisplay = _with.preferences.integerForKey(settingsKey::saveFormat) ==
-                                static_cast<std::int64_t>(SettingsFormat::MultiDisplay);
+    const std::int64_t stored = _with.preferences.integerForKey(settingsKey::saveFormat);
+    const bool isKnown = stored >= 0 && stored <= static_cast<std::int64_t>(SettingsFormat::Cal);
     _with.dialogs.chooseFileToSave(
-        isMultiDisplay ? SettingsFormat::MultiDisplay : SettingsFormat::SingleDisplay,
+        isKnown ? static_cast<SettingsFormat>(stored) : SettingsFormat::SingleDisplay,
         [this](const std::filesystem::path& file, SettingsFormat format) {
             savePanelDidEnd(file, format);
         });
@@ -118,10 +136,9 @@ void SettingsFiles::saveGamma() {
 // A failed save over an existing file shows no alert: the old file is unchanged.
 void SettingsFiles::savePanelDidEnd(const std::filesystem::path& file, SettingsFormat format) {
     _with.preferences.setValue(settingsKey::saveFormat, static_cast<std::int64_t>(format));
-    const Result<void> saved =
-        format == SettingsFormat::MultiDisplay
-            ? writeSettings(MultiDisplayFile::contentsFor(_with.registry), file)
-            : saveCurrentCurve(file);
+    const bool isSettings =
+        format == SettingsFormat::SingleDisplay || format == SettingsFormat::MultiDisplay;
+    const Result<void> saved = isSettings ? saveSettings(file, format) : exportTable(file, format);
     if (saved) {
         _recentFiles.add(file);
         return;
@@ -133,6 +150,47 @@ void SettingsFiles::savePanelDidEnd(const std::filesystem::path& file, SettingsF
                             TONQUIL_TEXT("Problem", "Could not save settings at this location."),
                             {});
     }
+}
+
+Result<void> SettingsFiles::saveSettings(const std::filesystem::path& file, SettingsFormat format) {
+    return format == SettingsFormat::MultiDisplay
+               ? writeSettings(MultiDisplayFile::contentsFor(_with.registry), file)
+               : saveCurrentCurve(file);
+}
+
+// The table as the plot shows it: what the display has while the correction is on.
+Result<void> SettingsFiles::exportTable(const std::filesystem::path& file, SettingsFormat format) {
+    const auto screens = _with.currentScreens._currentScreens();
+    const auto curves = _with.view.plottedCurves();
+    if (screens.empty() || !curves) {
+        return problem("There is no display whose table could be saved.");
+    }
+    const DisplayDescription description =
+        _with.service.description(screens.front()->directDisplayID());
+    return exportedTable(format == SettingsFormat::Icc ? ExportFormat::Icc : ExportFormat::Cal,
+                         curves->result, curves->sampleCount,
+                         {.name = description.name(),
+                          .primaries = description.primaries.value_or(Primaries{}),
+                          .time = std::time(nullptr)})
+        .and_then([&](const auto& bytes) {
+            return writeFileAtomically(file, bytes, AtomicFileOptions::document());
+        });
+}
+
+void SettingsFiles::makeEditable() {
+    const auto largest = _with.editing.makeEditable();
+    if (!largest) {
+        return;
+    }
+    std::array<char, 32> percent{};
+    static_cast<void>(
+        std::snprintf(percent.data(), percent.size(), "%.2f", static_cast<double>(*largest) * 100));
+    _with.dialogs.alert(
+        TONQUIL_TEXT("Problem", "The table can be edited now"),
+        TONQUIL_TEXT("Problem",
+                     "A curve has taken its place that differs from it by %@ % of full level at "
+                     "most. Undo brings the table back."),
+        {percent.data()});
 }
 
 Result<void> SettingsFiles::saveCurrentCurve(const std::filesystem::path& file) {

@@ -37,6 +37,13 @@ class SettingsFiles {
     void saveGamma();
     /// Opens a file after the current event.
     void openFile(const std::filesystem::path& file);
+    /// The same for a file that the recent ones need not name.
+    void openPreset(const std::filesystem::path& file);
+    /// The curve of the first current display, or those of all displays, as a settings file.
+    [[nodiscard]] Result<void> saveSettings(const std::filesystem::path& file,
+                                            SettingsFormat format);
+    /// Turns tables on the current displays into curves, and says how close those come.
+    void makeEditable();
     /// Newest first.
     [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const {
         return _recentFiles.files();
@@ -48,9 +55,12 @@ class SettingsFiles {
     bool openSettings(const SingleDisplaySettings& settings);
     bool openSettings(const MultiDisplaySettings& settings);
     bool openSettings(const RawTableSettings& settings);
+    bool openSettings(const CalibrationSettings& settings);
     bool refuseFile(const Problem& problem);
     void savePanelDidEnd(const std::filesystem::path& file, SettingsFormat format);
     [[nodiscard]] Result<void> saveCurrentCurve(const std::filesystem::path& file);
+    [[nodiscard]] Result<void> exportTable(const std::filesystem::path& file,
+                                           SettingsFormat format);
 
     Surroundings _with;
     RecentFiles _recentFiles;

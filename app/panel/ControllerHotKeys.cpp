@@ -1,14 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "app/panel/ControllerHotKeys.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
 namespace tonquil {
 
 void ControllerHotKeys::want(std::vector<Wanted>& wanted, HotKeyRole role) const {
+    if (!_preferences.boolForKey(hotKeySettings(role).isUsed)) {
+        return;
+    }
     const auto hotKey = storedHotKey(_preferences, role);
-    if (_preferences.boolForKey(hotKeySettings(role).isUsed) && hotKey) {
+    const bool isFree = hotKey && std::ranges::none_of(wanted, [&](const Wanted& each) {
+                            return each.keyCode == hotKey->keyCode() &&
+                                   each.modifierFlags == hotKey->modifierFlags();
+                        });
+    if (_center.areKeysChosenByDesktop() && !isFree) {
+        // No keyboard has such keys: nothing is proposed to the desktop.
+        constexpr std::uint16_t beyondAllKeys = 0xFFF0;
+        wanted.push_back(
+            {role, static_cast<std::uint16_t>(beyondAllKeys + static_cast<std::uint16_t>(role)),
+             0});
+    } else if (hotKey) {
         wanted.push_back({role, hotKey->keyCode(), hotKey->modifierFlags()});
     }
 }
@@ -50,7 +64,7 @@ bool ControllerHotKeys::registerHotKey(const Wanted& wanted) {
 HotKeyReceiver ControllerHotKeys::receiverFor(HotKeyRole role) const {
     if (role == HotKeyRole::ToggleCorrection) {
         return {.target = this,
-                .action = {.name = "toggleApplyCorrection",
+                .action = {.name = hotKeyAction(role),
                            .call = [toggle = _actions.toggleApplyCorrection](
                                        const HotKeyEvent&, const std::any&) { toggle(); }}};
     }
@@ -60,10 +74,9 @@ HotKeyReceiver ControllerHotKeys::receiverFor(HotKeyRole role) const {
             .name = std::move(name),
             .call = [call](const HotKeyEvent& event, const std::any&) { call(event.timestamp); }};
     };
-    return {
-        .target = this,
-        .action = action("showPanelAndCenterMouseRelease", _actions.showPanelAndCenterMouseRelease),
-        .pressedAction = action("showPanelAndCenterMouse", _actions.showPanelAndCenterMouse)};
+    return {.target = this,
+            .action = action(hotKeyAction(role), _actions.showPanelAndCenterMouseRelease),
+            .pressedAction = action("showPanelAndCenterMouse", _actions.showPanelAndCenterMouse)};
 }
 
 void ControllerHotKeys::setSuspended(bool isSuspended) {

@@ -15,6 +15,8 @@ struct PanelSubject {
     /// Why nothing can be edited, as a sentence and key of the context "Problem"; empty if editing
     /// is possible.
     std::string obstacle;
+    /// What the user can do about that, likewise; may be empty.
+    std::string remedy = {};
 
     bool operator==(const PanelSubject&) const = default;
 };

@@ -26,6 +26,9 @@ std::optional<DisplayID> PanelFrame::displayWithGrip(const Rectangle& frame) con
 }
 
 void PanelFrame::restore() {
+    if (_panel.isPlacedByDesktop()) {
+        return;
+    }
     const auto saved = windowFrameFrom(_preferences.stringForKey(settingsKey::controlWindowFrame));
     const auto display = saved ? displayWithGrip(*saved) : std::nullopt;
     if (display) {
@@ -55,8 +58,23 @@ void PanelFrame::keepWhole() {
     }
 }
 
+void PanelFrame::moveTo(DisplayID display) {
+    const Rectangle bounds = _service.bounds(display);
+    if (bounds.isEmpty()) {
+        return;
+    }
+    Rectangle frame = _panel.frame();
+    const auto from = displayWithGrip(frame);
+    const Rectangle before = from ? _service.bounds(*from) : bounds;
+    frame.x += bounds.x - before.x;
+    frame.y += bounds.y - before.y;
+    frame = keptInside(frame, bounds);
+    _display = display;
+    _panel.setFrameOrigin({frame.x, frame.y});
+}
+
 bool PanelFrame::isWithinReach() const {
-    return displayWithGrip(_panel.frame()).has_value();
+    return _panel.isPlacedByDesktop() || displayWithGrip(_panel.frame()).has_value();
 }
 
 void PanelFrame::bringBack() {

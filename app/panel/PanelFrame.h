@@ -12,7 +12,8 @@ namespace tonquil {
 /// Moves `frame` inside `screen`; if it does not fit, the upper left corner stays visible.
 [[nodiscard]] Rectangle keptInside(Rectangle frame, const Rectangle& screen);
 
-/// Remembers the panel's position, and keeps it within reach.
+/// Remembers the panel's position, and keeps it within reach; does nothing where the desktop places
+/// the panel.
 class PanelFrame {
  public:
     PanelFrame(DisplayService& service, PreferencesStore& preferences, PanelWindow& panel)
@@ -24,6 +25,8 @@ class PanelFrame {
     /// Moves the whole panel onto its display: its size depends on its form and the desktop, and
     /// may differ from when its position was saved.
     void keepWhole();
+    /// Moves the panel to the same place on another display, or as near as it fits.
+    void moveTo(DisplayID display);
     /// Whether the middle of the panel's upper edge, the grip for moving it, is on a display.
     [[nodiscard]] bool isWithinReach() const;
     /// Restores a panel that is out of reach or was never placed, and moves all of it onto its

@@ -42,22 +42,28 @@ void PanelUnderMouse::showPanelAndCenterMouse(milliseconds time) {
         return;
     }
     const auto pointer = _.windowSystem.pointerLocation();
-    if (!pointer) {
-        _.showPanel();
-        return;
+    if (pointer) {
+        _.showCurveAt(*pointer);
     }
-    _.showCurveAt(*pointer);
     _press = Press{.initialTimeForPanelHotKey = time,
-                   .initialMouseLocationForPanelHotKey = *pointer,
+                   .initialMouseLocationForPanelHotKey = pointer,
                    .modifiedMouseLocationForPanelHotKey = {},
                    .initialControlWindowRect = _.panel.frame(),
                    .initialControlWindowVisibility = _.panel.isOrderedIn()};
+    if (pointer) {
+        showAt(*pointer);
+    } else {
+        _.showPanel();
+    }
+}
+
+void PanelUnderMouse::showAt(const Point& pointer) {
     const Point knob = knobCentre(_.panel.masterSliderOfSelectedTab());
     Rectangle frame = _.panel.frame();
-    const Point origin = rounded({pointer->x - knob.x, pointer->y - knob.y});
+    const Point origin = rounded({pointer.x - knob.x, pointer.y - knob.y});
     frame.x = origin.x;
     frame.y = origin.y;
-    frame = constrained(frame, *pointer);
+    frame = constrained(frame, pointer);
     _.panel.setFrameOrigin({frame.x, frame.y});
     _.showPanel();
     // The window manager may have moved the panel; the pointer goes to the knob's actual position.
@@ -78,13 +84,17 @@ void PanelUnderMouse::showPanelAndCenterMouseRelease(milliseconds time) {
 
 void PanelUnderMouse::putBack(const Press& press) {
     // If the user has moved the pointer, leave it there.
-    if (_.windowSystem.pointerLocation() == press.modifiedMouseLocationForPanelHotKey) {
-        _.service.warpPointer(press.initialMouseLocationForPanelHotKey);
+    const auto& pointer = press.initialMouseLocationForPanelHotKey;
+    if (pointer && _.windowSystem.pointerLocation() == press.modifiedMouseLocationForPanelHotKey) {
+        _.service.warpPointer(*pointer);
     }
     if (!press.initialControlWindowVisibility) {
         _.panel.orderOut();
     }
-    _.panel.setFrameOrigin({press.initialControlWindowRect.x, press.initialControlWindowRect.y});
+    if (pointer) {
+        _.panel.setFrameOrigin(
+            {press.initialControlWindowRect.x, press.initialControlWindowRect.y});
+    }
 }
 
 }  // namespace tonquil

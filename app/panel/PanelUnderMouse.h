@@ -12,7 +12,8 @@
 namespace tonquil {
 
 /// Shows the panel at the pointer while a hot key is held or, after a short tap, until it is
-/// closed. The knob of the shown tab's master slider is then under the pointer.
+/// closed. The knob of the shown tab's master slider is then under the pointer. Where the pointer
+/// cannot be located, the panel appears where it is, and the pointer stays where it is.
 ///
 /// Everything is in pixels of top-down desktop space.
 class PanelUnderMouse {
@@ -47,13 +48,14 @@ class PanelUnderMouse {
     /// The state found at a key press, and where the pointer was moved.
     struct Press {
         std::chrono::milliseconds initialTimeForPanelHotKey;
-        Point initialMouseLocationForPanelHotKey;
+        std::optional<Point> initialMouseLocationForPanelHotKey;
         std::optional<Point> modifiedMouseLocationForPanelHotKey;
         Rectangle initialControlWindowRect;
         bool initialControlWindowVisibility = false;
     };
 
     [[nodiscard]] Rectangle constrained(const Rectangle& frame, const Point& pointer) const;
+    void showAt(const Point& pointer);
     void putBack(const Press& press);
 
     Surroundings _;

@@ -22,8 +22,11 @@ class PanelWindow {
  public:
     virtual ~PanelWindow() = default;
 
+    /// Whether the desktop alone decides where the panel is.
+    [[nodiscard]] virtual bool isPlacedByDesktop() const { return false; }
+    /// Where the desktop places the panel, only the display that it is on is right, and the size.
     [[nodiscard]] virtual Rectangle frame() const = 0;
-    /// Moves the panel; its size depends on its form.
+    /// Moves the panel, unless the desktop places it; its size depends on its form.
     virtual void setFrameOrigin(const Point& origin) = 0;
     /// Shows the panel in front, with keyboard focus.
     virtual void makeKeyAndOrderFront() = 0;
@@ -37,6 +40,8 @@ class PanelWindow {
     virtual void _setAdvancedPanel(bool advanced) = 0;
     virtual void _setDarkTheme(bool dark) = 0;
     virtual void showChannelStrip(bool isShown) = 0;
+    /// What the program does and what to do first, for people who have not edited yet.
+    virtual void showFirstHint(bool isShown) = 0;
     /// Shows a tab, 0 to 2, everywhere that tabs are shown. Triggers no callback.
     virtual void showTab(int index) = 0;
     /// Shows that companions on the network may change the displays.

@@ -13,7 +13,7 @@ PropertyValue registeredDefaults() {
     for (const std::string_view key :
          {settingsKey::advancedPanel, settingsKey::darkTheme, settingsKey::continuouslyApply,
           settingsKey::showAtLaunch, settingsKey::rememberSettings, settingsKey::applyCorrection,
-          settingsKey::showsTargetHints}) {
+          settingsKey::keepNightLight, settingsKey::showsTargetHints}) {
         set(key, true);
     }
     set(settingsKey::affectAllScreens, false);

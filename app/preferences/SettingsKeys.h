@@ -27,6 +27,9 @@ inline constexpr std::string_view rememberSettings = "RememberSettings";
 inline constexpr std::string_view applyCorrection = "ApplyCorrection";
 /// Boolean, false: edits go to every display instead of only the one under the panel.
 inline constexpr std::string_view affectAllScreens = "AffectAllScreens";
+/// Boolean, true: where corrections take the desktop's night light off the displays, they have its
+/// colour in them.
+inline constexpr std::string_view keepNightLight = "KeepNightLight";
 /// Integer, 1: the panel's tab; 0 black, 1 middle, 2 white.
 inline constexpr std::string_view selectedTab = "SelectedTab";
 /// Dictionary, empty: the curves by reference ID of their display.
@@ -52,6 +55,9 @@ inline constexpr std::string_view saveFormat = "SaveFormat";
 inline constexpr std::string_view recentFiles = "RecentFiles";
 /// Boolean: the warning of a rival program was shown.
 inline constexpr std::string_view conflictWarned = "KVFluxWarned";
+/// Boolean: a curve was edited in the panel, which from then on does without the hint of the first
+/// start.
+inline constexpr std::string_view hasEdited = "HasEdited";
 /// Boolean: the panel shows the strip with the slider of the focused channel.
 inline constexpr std::string_view channelStrip = "ChannelStrip";
 /// Boolean, true: target windows explain below the pattern what to look for.

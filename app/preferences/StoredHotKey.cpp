@@ -14,6 +14,11 @@ HotKeySettings hotKeySettings(HotKeyRole role) {
             settingsKey::panelHotKeyModifiers};
 }
 
+std::string hotKeyAction(HotKeyRole role) {
+    return role == HotKeyRole::ToggleCorrection ? "toggleApplyCorrection"
+                                                : "showPanelAndCenterMouseRelease";
+}
+
 std::shared_ptr<DDHotKey> storedHotKey(const PreferencesStore& preferences, HotKeyRole role) {
     const HotKeySettings keys = hotKeySettings(role);
     const auto code = static_cast<std::uint16_t>(preferences.integerForKey(keys.code));

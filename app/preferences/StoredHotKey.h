@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "app/preferences/PreferencesStore.h"
@@ -20,6 +21,8 @@ struct HotKeySettings {
     std::string_view modifiers;
 };
 [[nodiscard]] HotKeySettings hotKeySettings(HotKeyRole role);
+/// The name of a hot key's action. Desktops that give out keys remember them by it.
+[[nodiscard]] std::string hotKeyAction(HotKeyRole role);
 
 /// The stored hot key of a role, without a task; null for none. It stays stored while switched off.
 [[nodiscard]] std::shared_ptr<DDHotKey> storedHotKey(const PreferencesStore& preferences,

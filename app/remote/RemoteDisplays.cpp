@@ -5,6 +5,8 @@
 #include <cmath>
 #include <string_view>
 
+#include "model/CurveFit.h"
+#include "model/KVTableGammaCurve.h"
 #include "model/TQExtendedGammaCurve.h"
 
 namespace tonquil {
@@ -34,8 +36,16 @@ bool isUsable(const TQExtendedGammaCurve& curve) {
            isPointInReach(curve.middlePoint()) && isPointInReach(curve.whitePoint());
 }
 
-/// The display's curve in network format.
+std::shared_ptr<KVTableGammaCurve> tableOf(const KVScreen& screen) {
+    return std::dynamic_pointer_cast<KVTableGammaCurve>(screen.gammaCurve());
+}
+
+/// The display's curve in network format; of a table, which has no such format, the curve that
+/// comes closest to it.
 PropertyValue compactArrayOf(const KVScreen& screen) {
+    if (const auto table = tableOf(screen)) {
+        return fitCurve(table->table()).curve->gammaCurveCompactArray();
+    }
     const auto curve = std::dynamic_pointer_cast<TQExtendedGammaCurve>(screen.gammaCurve());
     return curve ? curve->gammaCurveCompactArray() : PropertyValue();
 }
@@ -155,7 +165,7 @@ void RemoteDisplays::setCurve(KVScreen& screen,
                               const std::shared_ptr<TQExtendedGammaCurve>& curve) const {
     // Companions resend, because nothing confirms delivery. A repeat is not an edit, but the ramp
     // may have been replaced in the meantime.
-    if (compactArrayOf(screen) == curve->gammaCurveCompactArray()) {
+    if (!tableOf(screen) && compactArrayOf(screen) == curve->gammaCurveCompactArray()) {
         screen.setGammaCurve(curve);
         return;
     }

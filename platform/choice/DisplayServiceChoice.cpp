@@ -3,12 +3,18 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdlib>
+#include <optional>
 #include <string_view>
 #include <utility>
 
 #include "files/BoundedFile.h"
 #include "foundation/TranslatableText.h"
+#include "platform/dbus/BusAddresses.h"
+#include "platform/folders/XdgFolders.h"
+#include "platform/kde/KdeDisplayService.h"
+#include "platform/mutter/MutterDisplayService.h"
 #include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/simulated/SimulatedDisplayService.h"
 #include "platform/wayland/WlrDisplayService.h"
@@ -19,7 +25,8 @@ namespace tonquil {
 namespace {
 
 /// In the order in which they are tried; the last one only when asked for.
-constexpr std::array<std::string_view, 3> serviceNames{"wlr", "x11", "simulated"};
+constexpr std::array<std::string_view, 6> serviceNames{
+    "mutter-calibration", "kde", "wlr", "mutter", "x11", "simulated"};
 
 std::string_view environment(const char* name) {
     const char* value = std::getenv(name);
@@ -62,13 +69,71 @@ Result<std::unique_ptr<DisplayService>> openX11(RunLoop* runLoop, const Log& log
     return std::move(*service);
 }
 
-Result<std::unique_ptr<DisplayService>> openWlr(RunLoop* runLoop, const Log& log,
+Result<std::unique_ptr<DisplayService>> openKde(RunLoop* runLoop, const Log& log,
                                                 const std::function<void()>& lost) {
-    auto service = WlrDisplayService::open(nullptr, {.runLoop = runLoop, .log = log, .lost = lost});
+    const auto folders = XdgFolders::fromEnvironment();
+    if (!folders) {
+        return tl::unexpected(folders.error());
+    }
+    auto service = KdeDisplayService::open(
+        nullptr, {.state = folders->state(), .runLoop = runLoop, .log = log, .lost = lost});
     if (!service) {
         return tl::unexpected(std::move(service.error()));
     }
     return std::move(*service);
+}
+
+Result<std::unique_ptr<DisplayService>> openWlr(RunLoop* runLoop, const Log& log,
+                                                const std::function<void()>& lost) {
+    auto service = WlrDisplayService::open(
+        nullptr, {.runLoop = runLoop, .log = log, .lost = lost, .systemBus = systemBusAddress()});
+    if (!service) {
+        return tl::unexpected(std::move(service.error()));
+    }
+    return std::move(*service);
+}
+
+// A bus that hangs must hold up nothing that works without it.
+constexpr std::chrono::milliseconds shortGreeting{40};
+constexpr std::chrono::milliseconds longGreeting{1000};
+
+using MutterGeneration = MutterDisplayService::Generation;
+
+Result<std::unique_ptr<DisplayService>> openMutter(std::optional<MutterGeneration> wanted,
+                                                   std::chrono::milliseconds longestGreeting,
+                                                   RunLoop* runLoop, const Log& log,
+                                                   const std::function<void()>& lost) {
+    auto service = MutterDisplayService::open(wanted, {.runLoop = runLoop,
+                                                       .log = log,
+                                                       .lost = lost,
+                                                       .sessionBus = sessionBusAddress(),
+                                                       .systemBus = systemBusAddress(),
+                                                       .longestGreeting = longestGreeting});
+    if (!service) {
+        return tl::unexpected(std::move(service.error()));
+    }
+    return std::move(*service);
+}
+
+/// The first of those that this Wayland session offers. The bus is waited for at length only where
+/// nothing else is there.
+Result<std::unique_ptr<DisplayService>> openWayland(RunLoop* runLoop, const Log& log,
+                                                    const std::function<void()>& lost) {
+    auto service = openMutter(MutterGeneration::Calibration, shortGreeting, runLoop, log, lost);
+    if (!service) {
+        service = openKde(runLoop, log, lost);
+    }
+    if (!service) {
+        service = openWlr(runLoop, log, lost);
+    }
+    if (!service) {
+        const Problem refused = service.error();
+        service = openMutter(std::nullopt, longGreeting, runLoop, log, lost);
+        if (!service) {
+            return tl::unexpected(refused);
+        }
+    }
+    return service;
 }
 
 }  // namespace
@@ -83,7 +148,9 @@ std::string builtInDisplayServices() {
 }
 
 bool isWaylandServed() {
-    return WlrDisplayService::isOffered();
+    return !environment("WAYLAND_DISPLAY").empty() &&
+           (KdeDisplayService::isOffered() || WlrDisplayService::isOffered() ||
+            MutterDisplayService::isOffered(sessionBusAddress(), longGreeting));
 }
 
 Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop, const Log& log,
@@ -96,11 +163,23 @@ Result<std::unique_ptr<DisplayService>> chooseDisplayService(RunLoop* runLoop, c
         return problem("TONQUIL_DISPLAY_SERVICE is \"" + std::string(wanted) +
                        "\"; it can be one of " + builtInDisplayServices() + ".");
     }
-    if (wanted == "wlr" || (wanted.empty() && !environment("WAYLAND_DISPLAY").empty())) {
-        auto service = openWlr(runLoop, log, lost);
+    if (wanted == "mutter-calibration") {
+        return openMutter(MutterGeneration::Calibration, longGreeting, runLoop, log, lost);
+    }
+    if (wanted == "kde") {
+        return openKde(runLoop, log, lost);
+    }
+    if (wanted == "wlr") {
+        return openWlr(runLoop, log, lost);
+    }
+    if (wanted == "mutter") {
+        return openMutter(MutterGeneration::Crtc, longGreeting, runLoop, log, lost);
+    }
+    if (wanted.empty() && !environment("WAYLAND_DISPLAY").empty()) {
+        auto service = openWayland(runLoop, log, lost);
         // An X server inside a Wayland session says itself whether it can correct anything: it may
         // be a private one with displays of its own.
-        if (service || wanted == "wlr" || environment("DISPLAY").empty()) {
+        if (service || environment("DISPLAY").empty()) {
             return service;
         }
     }

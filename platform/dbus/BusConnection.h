@@ -6,11 +6,12 @@
 #include <functional>
 #include <list>
 #include <memory>
+#include <span>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "foundation/RunLoop.h"
+#include "platform/dbus/BusArgument.h"
 #include "platform/dbus/BusArguments.h"
 
 namespace tonquil {
@@ -20,14 +21,14 @@ namespace tonquil {
 ///
 /// Messages are handled for at most `longestTurn` at a time and stay in the socket until then, so a
 /// flood of them neither blocks the run loop nor fills the memory. No callback may destroy the
-/// connection.
+/// connection. Without a run loop, things happen only in `waitUntil`.
 class BusConnection {
  public:
     static constexpr std::chrono::seconds connectingTime{5};
     static constexpr std::chrono::milliseconds longestTurn{2};
 
     using Call = std::function<void(BusArguments& arguments)>;
-    using Argument = std::variant<std::string, std::uint32_t, std::vector<std::string>>;
+    using Argument = BusArgument;
 
     /// A signal by interface and name, from any sender.
     struct Signal {
@@ -54,27 +55,42 @@ class BusConnection {
     };
 
     /// The run loop must outlive the connection.
-    explicit BusConnection(RunLoop& runLoop) : _runLoop(runLoop) {}
+    explicit BusConnection(RunLoop& runLoop) : BusConnection(&runLoop) {}
+    /// Null is a program without one.
+    explicit BusConnection(RunLoop* runLoop) : _runLoop(runLoop) {}
     BusConnection(const BusConnection&) = delete;
     BusConnection& operator=(const BusConnection&) = delete;
 
     /// Starts connecting; does nothing for an empty address, which stands for no bus. Call once.
     void open(const std::string& address, Handler handler);
 
+    /// The name that the bus has given the connection, such as ":1.42"; empty before it is open.
+    [[nodiscard]] std::string uniqueName() const;
     /// Calls back with the arguments of each such signal from now on. Only after the connection is
     /// open.
     void watch(const Signal& signal, Call call);
-    /// Calls a method, then `answered` with what it returns, or `failed` on an error or after 25 s.
-    /// Neither is called once the connection is lost.
+    /// Calls a method, then `answered` with what it returns, or `failed` on an error or after 25 s;
+    /// at once where the service has given a path that is none. Neither is called once the
+    /// connection is lost.
     void ask(
         const Method& method, const std::vector<Argument>& arguments, Call answered,
         std::function<void()> failed = [] {});
+    /// The same, told the reason as the other side gave it.
+    void ask(const Method& method, const std::vector<Argument>& arguments, Call answered,
+             std::function<void(const std::string& reason)> failed);
+
+    /// Handles messages until `isDone`, the connection is closed, or `limit` is over; whether it is
+    /// done. Waits for nothing when called from a callback.
+    [[nodiscard]] bool waitUntil(const std::function<bool()>& isDone,
+                                 std::chrono::milliseconds limit);
+    /// Neither lost nor unreachable; perhaps not open yet.
+    [[nodiscard]] bool isConnected() const { return _bus != nullptr; }
 
  private:
     struct Question {
         BusConnection& connection;
         Call answered;
-        std::function<void()> failed;
+        std::function<void(const std::string& reason)> failed;
     };
 
     static int takeSignal(sd_bus_message* message, void* call, sd_bus_error* error);
@@ -84,9 +100,10 @@ class BusConnection {
     void waitForMore();
     void close(const std::string& reason);
 
-    RunLoop& _runLoop;
+    RunLoop* _runLoop;
     Handler _handler;
     bool _isOpen = false;
+    bool _isProcessing = false;
     std::list<Call> _watches;
     std::list<Question> _questions;
     /// Declared to be destroyed before the calls that it refers to.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace tonquil {
 
@@ -44,6 +45,25 @@ std::string descriptorText(std::span<const std::uint8_t> block, std::uint8_t tag
     return {};
 }
 
+/// Ten bits each: the upper eight in a byte of their own, the lower two four to a byte.
+std::optional<Primaries> primariesIn(std::span<const std::uint8_t> block) {
+    constexpr std::size_t lowBitsAt = 25;
+    constexpr std::size_t highBitsAt = 27;
+    std::array<double, 8> numbers{};
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const unsigned low = (block[lowBitsAt + i / 4] >> (6 - 2 * (i % 4))) & 3U;
+        numbers.at(i) = ((unsigned{block[highBitsAt + i]} << 2U) | low) / 1024.0;
+    }
+    const auto& [rx, ry, gx, gy, bx, by, wx, wy] = numbers;
+    // Some monitors fill in zeros or one colour for all; the triangle of sRGB has an area of 0.11.
+    constexpr double leastArea = 0.02;
+    const double area = std::abs((gx - rx) * (by - ry) - (bx - rx) * (gy - ry)) / 2;
+    if (area < leastArea || wx < 0.1 || wy < 0.1) {
+        return std::nullopt;
+    }
+    return Primaries{.red = {rx, ry}, .green = {gx, gy}, .blue = {bx, by}, .white = {wx, wy}};
+}
+
 bool isFiller(std::uint32_t serial) {
     return serial == 0 || serial == 0x01010101U || serial == 0xFFFFFFFFU;
 }
@@ -64,7 +84,14 @@ std::optional<Edid> parseEdid(std::span<const std::uint8_t> bytes) {
         const std::string text = descriptorText(block, serialTextTag);
         edid.serialNumber = text.empty() ? 0 : numberOf(text);
     }
+    // One of the two alone is a ratio.
+    constexpr double millimetresPerCentimetre = 10;
+    if (block[21] != 0 && block[22] != 0) {
+        edid.widthInMillimetres = block[21] * millimetresPerCentimetre;
+        edid.heightInMillimetres = block[22] * millimetresPerCentimetre;
+    }
     edid.productName = descriptorText(block, productNameTag);
+    edid.primaries = primariesIn(block);
     return edid;
 }
 

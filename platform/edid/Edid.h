@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "model/Primaries.h"
+
 namespace tonquil {
 
 /// What the first 128 bytes of a monitor's EDID say about it (VESA Enhanced EDID Standard, release
@@ -19,8 +21,13 @@ struct Edid {
     /// The 32-bit serial number; if that is 0 or a filler, a hash of the serial number text; 0 if
     /// there is neither.
     std::uint32_t serialNumber = 0;
+    /// In whole centimetres, as the kernel has it too; 0 where the monitor does not say.
+    double widthInMillimetres = 0;
+    double heightInMillimetres = 0;
     /// May be empty; printable ASCII.
     std::string productName;
+    /// Nothing if the block has none that could be a display's.
+    std::optional<Primaries> primaries = {};
 };
 
 /// Returns nothing unless the bytes start with a complete base block. Does not verify the checksum:

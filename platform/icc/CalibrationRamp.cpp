@@ -1,45 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "platform/icc/CalibrationRamp.h"
 
-#include <lcms2.h>
-
-#include <cmath>
-#include <limits>
-#include <memory>
+#include "colourfiles/IccReader.h"
 
 namespace tonquil {
 
-namespace {
-
-struct CloseProfile {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-
-}  // namespace
-
 std::optional<HardwareRamp> calibrationRamp(std::span<const std::uint8_t> profile,
                                             std::uint32_t size) {
-    if (size < 2 || profile.size() > std::numeric_limits<cmsUInt32Number>::max()) {
-        return std::nullopt;
-    }
-    const std::unique_ptr<void, CloseProfile> opened(
-        cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
-    if (!opened) {
-        return std::nullopt;
-    }
-    // Owned by the profile: three curves.
-    const auto* curves =
-        static_cast<const cmsToneCurve* const*>(cmsReadTag(opened.get(), cmsSigVcgtTag));
-    if (curves == nullptr) {
+    const auto calibration = size < 2 ? tl::make_unexpected(Problem{}) : readIcc(profile);
+    if (!calibration) {
         return std::nullopt;
     }
     HardwareRamp ramp(size);
-    for (std::size_t c = 0; c < GammaTable::channelCount; ++c) {
+    for (std::size_t c = 0; c < calibration->size(); ++c) {
         for (std::uint32_t i = 0; i < size; ++i) {
-            const float input = static_cast<float>(i) / static_cast<float>(size - 1);
-            const float level = cmsEvalToneCurveFloat(curves[c], input);
-            const float held = level > 0.0F ? std::fmin(level, 1.0F) : 0.0F;
-            ramp.channel(c)[i] = static_cast<std::uint16_t>(std::lround(held * 65535.0F));
+            const double input = static_cast<double>(i) / static_cast<double>(size - 1);
+            ramp.channel(c)[i] = entryOf(calibration->at(c).level(input));
         }
     }
     return ramp;

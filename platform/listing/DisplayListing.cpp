@@ -34,10 +34,18 @@ void DisplayListing::announce(std::vector<ListedDisplay> displays) {
     };
     addChanged(before, _announced);
     addChanged(_announced, before);
-    for (const ReconfigurationFlags flags : {beginConfiguration, endConfiguration}) {
-        for (const DisplayID display : affected) {
-            _callbacks.call(display, flags);
-        }
+    const auto calibrationIn = [](const auto& those, DisplayID display) {
+        const auto found = std::ranges::find(those, display, &ListedDisplay::id);
+        return found == those.end() ? 0 : found->calibration;
+    };
+    for (const DisplayID display : affected) {
+        _callbacks.call(display, beginConfiguration);
+    }
+    for (const DisplayID display : affected) {
+        const bool isRecalibrated =
+            calibrationIn(before, display) != calibrationIn(_announced, display);
+        _callbacks.call(display,
+                        isRecalibrated ? endConfiguration | calibrationChanged : endConfiguration);
     }
 }
 

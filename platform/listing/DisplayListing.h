@@ -34,6 +34,11 @@ class DisplayListing {
     /// Calls them for each display that came, went or differs.
     void announce(std::vector<ListedDisplay> displays);
 
+    /// Tells them that the display's system calibration is another one.
+    void announceCalibration(DisplayID display) const {
+        _callbacks.call(display, calibrationChanged);
+    }
+
     /// Logs once for each display, until `forget`.
     void report(DisplayID display, const std::string& text);
     void reportGone(DisplayID display);

@@ -10,6 +10,7 @@ void identify(ListedDisplay& display, const std::optional<Edid>& edid) {
         display.identity.modelNumber = edid->modelNumber;
         display.identity.vendorNumber = edid->vendorNumber;
         display.productName = edid->productName;
+        display.primaries = edid->primaries;
     } else {
         display.identity.modelNumber = numberOf(display.connector);
     }

@@ -17,10 +17,13 @@ struct ListedDisplay {
     DisplayIdentity identity;
     std::string connector;
     std::string productName;
+    std::optional<Primaries> primaries;
     /// Top-down.
     Rectangle bounds;
     std::uint32_t rampSize = 0;
     std::string obstacle;
+    /// Differs when the display's own calibration does, where its changes are told in this way.
+    std::uint64_t calibration = 0;
 
     bool operator==(const ListedDisplay&) const = default;
 };

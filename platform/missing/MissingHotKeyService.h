@@ -12,7 +12,8 @@ class MissingHotKeyService final : public HotKeyService {
     void setHandlers(Handler /*pressed*/, Handler /*released*/) override {}
     [[nodiscard]] Result<HotKeyHandle> registerHotKey(std::uint16_t /*keyCode*/,
                                                       HotKeyServiceMask /*modifiers*/,
-                                                      std::uint32_t /*id*/) override {
+                                                      std::uint32_t /*id*/,
+                                                      const std::string& /*action*/) override {
         return problem(TONQUIL_TEXT(
             "Problem", "Key combinations for all programs are not available on this desktop."));
     }

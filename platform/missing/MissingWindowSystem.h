@@ -8,6 +8,9 @@ namespace tonquil {
 /// Used where the window system offers nothing beyond what Qt does.
 class MissingWindowSystem final : public WindowSystem {
  public:
+    /// A Wayland compositor always blends windows, and moves them.
+    explicit MissingWindowSystem(bool isWayland = false) : _isWayland(isWayland) {}
+
     void keepOnAllWorkspaces(WindowID /*window*/) override {}
     void bringToActiveWorkspace(WindowID /*window*/) override {}
     void activate(WindowID /*window*/) override {}
@@ -16,8 +19,11 @@ class MissingWindowSystem final : public WindowSystem {
                          std::uint32_t /*height*/) override {}
     [[nodiscard]] bool isOnActiveWorkspace(WindowID /*window*/) const override { return true; }
     [[nodiscard]] std::optional<Point> pointerLocation() const override { return std::nullopt; }
-    [[nodiscard]] bool isCompositing() const override { return false; }
-    [[nodiscard]] bool hasWindowManager() const override { return false; }
+    [[nodiscard]] bool isCompositing() const override { return _isWayland; }
+    [[nodiscard]] bool hasWindowManager() const override { return _isWayland; }
+
+ private:
+    bool _isWayland;
 };
 
 }  // namespace tonquil

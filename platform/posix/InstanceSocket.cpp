@@ -71,23 +71,25 @@ class Conversation {
  public:
     explicit Conversation(milliseconds limit) : _end(Clock::now() + limit) {}
 
-    [[nodiscard]] bool connect(const sockaddr_un& address) {
-        while (Clock::now() < _end) {
-            _socket = FileHandle(socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
-            const auto* const generic = reinterpret_cast<const sockaddr*>(&address);
-            if (::connect(_socket.get(), generic, sizeof address) == 0) {
-                return true;
-            }
-            // The first instance may be between taking the lock and creating the socket, or have
-            // others waiting.
-            if (errno != ENOENT && errno != ECONNREFUSED && errno != EAGAIN && errno != EINTR) {
-                return false;
-            }
+    /// Leaves the reason in `errno`.
+    [[nodiscard]] bool tryToConnect(const sockaddr_un& address) {
+        _socket = FileHandle(socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
+        const auto* const generic = reinterpret_cast<const sockaddr*>(&address);
+        _isConnected = ::connect(_socket.get(), generic, sizeof address) == 0;
+        return _isConnected;
+    }
+
+    // The first instance may be between taking the lock and creating the socket, or have others
+    // waiting.
+    void connect(const sockaddr_un& address) {
+        while (Clock::now() < _end && !tryToConnect(address) &&
+               (errno == ENOENT || errno == ECONNREFUSED || errno == EAGAIN || errno == EINTR)) {
             poll(nullptr, 0, 20);
         }
-        return false;
     }
+
+    [[nodiscard]] bool isConnected() const { return _isConnected; }
 
     [[nodiscard]] bool send(std::string_view bytes) {
         while (!bytes.empty() && isReady(POLLOUT)) {
@@ -132,7 +134,28 @@ class Conversation {
 
     Clock::time_point _end;
     FileHandle _socket;
+    bool _isConnected = false;
 };
+
+/// What the first instance answers over a connection.
+Result<std::string> answerTo(std::string_view request, Conversation& conversation) {
+    if (request.size() > InstanceSocket::mostBytes ||
+        request.find('\0') != std::string_view::npos) {
+        return problem("That cannot be handed over to the instance that is running.");
+    }
+    std::string bytes(InstanceService::requestStart);
+    bytes.append(request).push_back('\0');
+    if (conversation.isConnected() && conversation.send(bytes)) {
+        if (auto line = conversation.receiveLine()) {
+            return std::move(*line);
+        }
+    }
+    if (conversation.isOver()) {
+        return problem(
+            "Tonquil is already running but does not answer; end that program and start again.");
+    }
+    return problem("Tonquil is already running but did not take what was asked of it.");
+}
 
 }  // namespace
 
@@ -168,11 +191,18 @@ Result<std::unique_ptr<InstanceListener>> InstanceSocket::claim(const std::files
         std::move(handler), std::move(log));
 }
 
+std::optional<Result<std::string>> InstanceSocket::handOverIfListening(
+    const std::filesystem::path& path, std::string_view request, milliseconds limit) {
+    Conversation conversation(limit);
+    const auto address = addressOf(path);
+    if (!address || obstacleIn(path.parent_path()) || !conversation.tryToConnect(*address)) {
+        return std::nullopt;
+    }
+    return answerTo(request, conversation);
+}
+
 Result<std::string> InstanceSocket::handOver(const std::filesystem::path& path,
                                              std::string_view request, milliseconds limit) {
-    if (request.size() > mostBytes || request.find('\0') != std::string_view::npos) {
-        return problem("That cannot be handed over to the instance that is running.");
-    }
     const auto address = addressOf(path);
     if (!address) {
         return tl::unexpected(address.error());
@@ -180,19 +210,9 @@ Result<std::string> InstanceSocket::handOver(const std::filesystem::path& path,
     if (auto obstacle = obstacleIn(path.parent_path())) {
         return tl::unexpected(std::move(*obstacle));
     }
-    std::string bytes(InstanceService::requestStart);
-    bytes.append(request).push_back('\0');
     Conversation conversation(limit);
-    if (conversation.connect(*address) && conversation.send(bytes)) {
-        if (auto line = conversation.receiveLine()) {
-            return std::move(*line);
-        }
-    }
-    if (conversation.isOver()) {
-        return problem(
-            "Tonquil is already running but does not answer; end that program and start again.");
-    }
-    return problem("Tonquil is already running but did not take what was asked of it.");
+    conversation.connect(*address);
+    return answerTo(request, conversation);
 }
 
 }  // namespace tonquil

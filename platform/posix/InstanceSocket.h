@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -57,6 +58,10 @@ class InstanceSocket {
     [[nodiscard]] static Result<std::string> handOver(const std::filesystem::path& path,
                                                       std::string_view request,
                                                       std::chrono::milliseconds limit = answerTime);
+    /// The same, but nothing, without waiting, if no instance is listening.
+    [[nodiscard]] static std::optional<Result<std::string>> handOverIfListening(
+        const std::filesystem::path& path, std::string_view request,
+        std::chrono::milliseconds limit = answerTime);
 };
 
 }  // namespace tonquil

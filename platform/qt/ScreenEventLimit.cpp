@@ -37,7 +37,8 @@ std::pair<int, std::uint32_t> kindOf(const xcb_generic_event_t& event, bool isNo
 
 ScreenEventLimit::ScreenEventLimit(RunLoop& runLoop) : _runLoop(runLoop) {
     auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr) {
+    // Without windows at all, the toolkit offers the interface but no server.
+    if (x11 == nullptr || x11->connection() == nullptr) {
         return;
     }
     _connection = x11->connection();

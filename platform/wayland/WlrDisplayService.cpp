@@ -42,6 +42,7 @@ Result<std::unique_ptr<WlrDisplayService>> WlrDisplayService::open(const char* d
             [&] { return service->_outputs->areAnswered(); }, longestGammaAnswer));
     }
     service->_listing.begin(service->layout());
+    service->askForProfiles();
     service->_quiet.reset();
     service->retryLater();
     return service;
@@ -58,6 +59,9 @@ WlrDisplayService::WlrDisplayService(std::unique_ptr<WaylandConnection> connecti
     : _connection(std::move(connection)),
       _with(std::move(with)),
       _listing(_with.log),
+      _profiles({.runLoop = _with.runLoop,
+                 .systemBus = _with.systemBus,
+                 .changed = [this] { calibrationsChanged(); }}),
       _outputs(std::make_unique<WlrOutputs>(*_connection, [this] { outputsChanged(); })) {
     if (_with.runLoop != nullptr) {
         _watch = _with.runLoop->watchReadable(_connection->descriptor(), [this] { takeEvents(); });
@@ -146,6 +150,9 @@ std::vector<DisplayID> WlrDisplayService::onlineDisplays(std::size_t most) {
         static_cast<void>(
             _connection->waitUntil([this] { return _outputs->areAnswered(); }, longestGammaAnswer));
     }
+    if (_with.runLoop == nullptr) {
+        askForProfiles();
+    }
     std::vector<DisplayID> online;
     for (const WlrOutput* output : outputs()) {
         if (online.size() < most) {
@@ -175,7 +182,8 @@ DisplayDescription WlrDisplayService::description(DisplayID display) {
             .rampSize = output->gamma.size(),
             .obstacle = output->gamma.obstacle(),
             .outlivesProgram = false,
-            .isReadable = false};
+            .isReadable = false,
+            .primaries = output->display.primaries};
 }
 
 Rectangle WlrDisplayService::bounds(DisplayID display) {
@@ -208,10 +216,12 @@ std::uint32_t WlrDisplayService::getTransferTable(DisplayID display, GammaTable&
                         output->wayland.properties().name + ": " + output->gamma.obstacle());
         return 0;
     }
-    // Of a display that another program holds the size is not known; a straight line is one of any
-    // length.
+    // Of a display that another program holds the size is not known, and hardly ever below a
+    // table's.
     const std::uint32_t size = output->gamma.size();
-    return HardwareRamp::straight(size == 0 ? GammaTable::capacity : size).getTable(table);
+    const std::uint32_t count = size == 0 ? GammaTable::capacity : size;
+    return _profiles.calibration(output->display.connector, std::min(count, GammaTable::capacity))
+        .getTable(table);
 }
 
 void WlrDisplayService::restoreSystemCalibration(std::span<const DisplayID> displays) {
@@ -302,6 +312,7 @@ void WlrDisplayService::connectionLost() {
     _watch.reset();
     _quiet.reset();
     _retry.reset();
+    _news.reset();
     if (_with.lost) {
         _with.lost();
     }
@@ -324,8 +335,28 @@ void WlrDisplayService::outputsChanged() {
     }
 }
 
+void WlrDisplayService::askForProfiles() {
+    std::vector<std::string> connectors;
+    for (const WlrOutput* output : outputs()) {
+        connectors.push_back(output->display.connector);
+    }
+    _profiles.ask(std::move(connectors));
+}
+
+void WlrDisplayService::calibrationsChanged() {
+    if (_with.runLoop != nullptr && !_isLostKnown) {
+        _news = _with.runLoop->callOnce(0ms, [this] {
+            _news.reset();
+            for (const ListedDisplay& display : layout()) {
+                _listing.announceCalibration(display.id);
+            }
+        });
+    }
+}
+
 void WlrDisplayService::displaysChanged() {
     _listing.announce(layout());
+    askForProfiles();
     // With the correction off nothing was set, and another program may have the display.
     for (WlrOutput* output : outputs()) {
         if (output->gamma.state() == WlrGammaControl::State::Held && !output->gamma.isInUse() &&

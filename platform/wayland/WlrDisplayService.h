@@ -9,6 +9,7 @@
 #include "foundation/Log.h"
 #include "foundation/Problem.h"
 #include "foundation/RunLoop.h"
+#include "platform/colord/ProfileFiles.h"
 #include "platform/listing/DisplayListing.h"
 #include "platform/listing/KernelEdid.h"
 #include "platform/wayland/WaylandConnection.h"
@@ -20,9 +21,10 @@ namespace tonquil {
 /// The displays of a Wayland compositor that lends their gamma tables by wlr-gamma-control.
 ///
 /// A correction stays as long as the service lives, and nobody can overwrite it or read it back.
-/// So the system's table is always a straight line, and nothing is kept about earlier corrections.
-/// A display that another program holds is listed with that reason and asked for again every
-/// `retryInterval`, given a run loop.
+/// So the system's table is the calibration in the profile that the colour management service
+/// names, or a straight line, and nothing is kept about earlier corrections. A display that another
+/// program holds is listed with that reason and asked for again every `retryInterval`, given a run
+/// loop.
 class WlrDisplayService final : public DisplayService {
  public:
     /// How long the compositor must have been silent for a change to be over.
@@ -36,6 +38,8 @@ class WlrDisplayService final : public DisplayService {
         /// Called once when the compositor has gone.
         std::function<void()> lost = {};
         std::filesystem::path connectors = kernelConnectors;
+        /// The address of the bus that the colour management service is on.
+        std::string systemBus = {};
     };
 
     /// Connects to the compositor named as in WAYLAND_DISPLAY (null takes the environment's). A
@@ -83,6 +87,8 @@ class WlrDisplayService final : public DisplayService {
     /// the log says once why not.
     [[nodiscard]] WlrOutput* correctable(DisplayID display);
     [[nodiscard]] std::vector<ListedDisplay> layout();
+    void askForProfiles();
+    void calibrationsChanged();
     void takeEvents();
     void outputsChanged();
     void displaysChanged();
@@ -94,12 +100,14 @@ class WlrDisplayService final : public DisplayService {
     std::unique_ptr<WaylandConnection> _connection;
     Surroundings _with;
     DisplayListing _listing;
+    ProfileFiles _profiles;
     std::unique_ptr<WlrOutputs> _outputs;
     /// The answer to the ramps sent last; while it is awaited no more are sent.
     std::unique_ptr<wl_callback, DestroyWaylandProxy> _sent;
     std::unique_ptr<RunLoop::Handle> _watch;
     std::unique_ptr<RunLoop::Handle> _quiet;
     std::unique_ptr<RunLoop::Handle> _retry;
+    std::unique_ptr<RunLoop::Handle> _news;
     bool _allReached = true;
     bool _isLostKnown = false;
 };

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "files/AtomicFile.h"
+#include "platform/folders/Folder.h"
 #include "platform/xdg/DesktopEntry.h"
-#include "platform/xdg/Folder.h"
 
 namespace tonquil {
 

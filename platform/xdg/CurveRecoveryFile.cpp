@@ -7,7 +7,7 @@
 #include <system_error>
 #include <utility>
 
-#include "platform/xdg/Folder.h"
+#include "platform/folders/Folder.h"
 
 namespace tonquil {
 

@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "files/FileHandle.h"
-#include "platform/xdg/Folder.h"
+#include "platform/folders/Folder.h"
 
 namespace tonquil {
 

@@ -5,7 +5,7 @@
 #include <exception>
 #include <utility>
 
-#include "platform/xdg/Folder.h"
+#include "platform/folders/Folder.h"
 #include "plist/PropertyListWriter.h"
 
 namespace tonquil {

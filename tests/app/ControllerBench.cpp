@@ -54,9 +54,9 @@ void ControllerBench::launch() {
     const auto say = [this](std::string_view line) { log.emplace_back(line); };
     const std::vector<SessionEvents*> events{&desktop};
     const ControllerSurroundings surroundings{
-        service, registry, counter, preferences, desktop, loop,    panel,
-        panel,   dialogs,  targets, desktop,     alerts,  desktop, desktop,
-        desktop, center,   serve,   events,      "",      end,     say};
+        service, registry, counter,      preferences, desktop, loop,    panel,   panel,
+        dialogs, targets,  desktop,      alerts,      desktop, desktop, desktop, center,
+        serve,   events,   presetFolder, "",          end,     say};
     program.controller = std::make_unique<TQController>(surroundings);
     program.controller->applicationDidFinishLaunching();
 }

@@ -62,6 +62,7 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
     }
     void _setDarkTheme(bool dark) override { _journal.emplace_back(dark ? "dark" : "light"); }
     void showChannelStrip(bool /*isShown*/) override {}
+    void showFirstHint(bool isHintShown) override { hasHint = isHintShown; }
     void showTab(int index) override { _journal.push_back("tab " + std::to_string(index)); }
     void focusMasterOfSelectedTab() override { _journal.emplace_back("master focused"); }
     void observeFirstResponder() override { _journal.emplace_back("focus observed"); }
@@ -70,6 +71,7 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
     bool enabled = true;
     bool correction = false;
     bool canUndo = false;
+    bool hasHint = false;
     PanelSubject subject;
     Rectangle place{100, 100, 320, 470};
     bool isShown = false;
@@ -87,11 +89,15 @@ class ScriptedDialogs final : public FileDialogs {
         whileUp();
         chosen(file, format.value_or(proposed));
     }
+    void choosePresetName(const std::vector<std::string>& /*names*/, NameChosen chosen) override {
+        chosen(presetName);
+    }
     void alert(const std::string& title, const std::string& /*message*/,
                const std::vector<std::string>& /*arguments*/) override {
         alerts.push_back(title);
     }
 
+    std::string presetName;
     std::filesystem::path file;
     std::optional<SettingsFormat> format;
     /// Runs before the user has chosen where to save.
@@ -134,6 +140,11 @@ class RecordedTargets final : public TargetWindows {
     [[nodiscard]] std::optional<TargetKind> floatingTarget() const override { return floating; }
     void setHintsShown(bool /*areShown*/) override {}
     void displaysChanged() override {}
+    void identify(const std::vector<NamedDisplay>& displays) override {
+        for (const NamedDisplay& each : displays) {
+            shown.push_back(each.name);
+        }
+    }
     void saveFrame() override {}
 
     std::optional<TargetKind> floating;
@@ -218,6 +229,7 @@ class ControllerBench {
     ScriptedHotKeys hotKeys;
     Wire network;
     std::vector<std::string> log;
+    std::filesystem::path presetFolder;
     bool hasEnded = false;
 
  private:

@@ -97,13 +97,15 @@ class RecordedDesktop final : public DesktopPresence,
 /// Hot keys that a test presses.
 class ScriptedHotKeys final : public HotKeyService {
  public:
+    [[nodiscard]] bool areKeysChosenByDesktop() const override { return isDesktop; }
     void setHandlers(Handler pressed, Handler released) override {
         _pressed = std::move(pressed);
         _released = std::move(released);
     }
     [[nodiscard]] Result<HotKeyHandle> registerHotKey(std::uint16_t keyCode,
                                                       HotKeyServiceMask /*modifiers*/,
-                                                      std::uint32_t id) override {
+                                                      std::uint32_t id,
+                                                      const std::string& /*action*/) override {
         ++registrations;
         if (refused.contains(keyCode)) {
             return tl::unexpected(Problem{.sentence = "Another program holds it.", .detail = {}});
@@ -120,6 +122,7 @@ class ScriptedHotKeys final : public HotKeyService {
     /// By key code.
     std::map<std::uint16_t, std::uint32_t> ids;
     std::set<std::uint16_t> refused;
+    bool isDesktop = false;
     int registrations = 0;
     /// The key events' timestamp, independent of the run loop's clock.
     std::chrono::milliseconds time{0};

@@ -84,6 +84,15 @@ TEST_F(Desktop, TapKeepsPanelAndHoldRestoresEverything) {
         EXPECT_EQ(bench.panel.place, before);
         EXPECT_EQ(bench.desktop.pointer, isMoved ? (Point{11, 22}) : (Point{5, 5}));
     }
+    // Where nothing tells the pointer's place, the panel comes and goes where it is.
+    bench.desktop.pointer.reset();
+    bench.hotKeys.press(panelKey);
+    EXPECT_TRUE(bench.panel.isShown);
+    bench.hotKeys.time += milliseconds(401);
+    bench.hotKeys.release(panelKey);
+    EXPECT_FALSE(bench.panel.isShown);
+    EXPECT_EQ(bench.panel.place, before);
+    EXPECT_EQ(bench.desktop.pointer, std::nullopt);
 }
 
 TEST_F(Desktop, WarnsOfRivalFirstUntilUserContinues) {
@@ -129,6 +138,13 @@ TEST(CommandLine, ParsesAndSerialisesRequests) {
         EXPECT_FALSE(readCommandLine(std::vector{refused, "101-0-0"})) << refused;
     }
     EXPECT_FALSE(requestsFromText("on\n\n"));
+}
+
+TEST_F(Desktop, AsksForKeysThatWereNeverRecordedWhereDesktopGivesThem) {
+    bench.hotKeys.isDesktop = true;
+    bench.preferences.stored = {{"UseHotKey", true}, {"PanelHotKey", true}};
+    bench.launchAndSettle();
+    EXPECT_EQ(bench.hotKeys.ids.size(), 2U);
 }
 
 TEST(Requests, RunInOrder) {

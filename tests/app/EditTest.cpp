@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
+#include "app/panel/PlottedPoint.h"
 #include "tests/app/ControllerBench.h"
 
 namespace tonquil {
@@ -68,10 +70,48 @@ TEST_F(Edit, MovesLinkedColoursByTheSameDistance) {
     EXPECT_EQ(bench.panel.shown.sliders, expected.sliders);
 }
 
+// The table itself shows where a dragged point has ended up, as in the plot.
+TEST_F(Edit, PutsPlottedCurveThroughDraggedPoint) {
+    bench.desk.find(left)->profileRamp = HardwareRamp(256);
+    for (std::size_t entry = 0; entry < 256; ++entry) {
+        const double level = std::pow(static_cast<double>(entry) / 255, 1.3);
+        for (std::size_t channel = 0; channel < 3; ++channel) {
+            bench.desk.find(left)->profileRamp->channel(channel)[entry] =
+                static_cast<std::uint16_t>(65535 * level);
+        }
+    }
+    bench.launchAndSettle();
+    // Each point's entry in the table, and where it is dragged to.
+    const std::map<int, std::pair<std::size_t, double>> points{
+        {0, {0, 0.2}}, {1, {127, 0.4}}, {2, {255, 0.7}}};
+    for (const std::int32_t mode : {KVBlendingModeBaseTable, KVBlendingModeAbsolute}) {
+        for (std::size_t index = 0; index < panelSliderCount; ++index) {
+            SCOPED_TRACE(mode * 100 + static_cast<int>(index));
+            bench.panel.shown = {.sliders = {0.1F, 1.2F, 0.9F, 0, 0.1F, 0, 1, 1.1F, 1, 1, 0.9F, 1},
+                                 .blendingMode = mode};
+            const auto slider = static_cast<PanelSlider>(index);
+            bench.edit(slider, bench.panel.shown[slider]);
+            const bool isMaster = index < 3;
+            const auto& [entry, level] =
+                points.at(static_cast<int>(isMaster ? index : index / 3 - 1));
+            const std::size_t channel = isMaster ? 1 : index % 3;
+            const auto value = valueThrough(level, slider, channel, bench.panel.shown,
+                                            *bench.controller().plottedCurves());
+            ASSERT_TRUE(value);
+            bench.edit(slider, *value);
+            const auto curves = bench.controller().plottedCurves();
+            EXPECT_NEAR(curves->result.channel(channel)[entry], level, 0.01);
+        }
+    }
+}
+
 TEST_F(Edit, UndoesAndRedoesPerDragAndControl) {
     bench.edit(PanelSlider::BlackRed, 0.25F);
     bench.edit(PanelSlider::BlackRed, 0.5F);
+    EXPECT_TRUE(bench.panel.hasHint);
     bench.controller().endEdit();
+    bench.loop.runPosted();
+    EXPECT_FALSE(bench.panel.hasHint) << "It is for people who have not edited yet.";
     const int first = bench.firstEntry(left);
     bench.edit(PanelSlider::BlackRed, 0.75F);
     bench.edit(PanelSlider::BlackGreen, 0.25F);
@@ -169,6 +209,25 @@ TEST_F(Correction, UsesForeignRampSetWhileOffAndChangedProfileAsBase) {
     bench.loop.advance(Reapplication::pause);
     bench.desktop.tell(SessionEvent::ColourSpaceChanged);
     EXPECT_EQ(bench.firstEntry(left), 6000);
+}
+
+TEST_F(Correction, ShowsUncorrectedDisplaysOnlyWhileCompared) {
+    bench.edit(PanelSlider::BlackRed, 0.25F);
+    const int edited = bench.firstEntry(left);
+    bench.controller().compare(true);
+    bench.loop.advance(std::chrono::seconds(10));
+    bench.desktop.tell(SessionEvent::Woke);
+    EXPECT_EQ(bench.firstEntry(left), neutral);
+    bench.controller().compare(false);
+    EXPECT_EQ(bench.firstEntry(left), edited);
+    bench.controller().compare(true);
+    bench.controller().toggleApplyCorrection();
+    bench.controller().compare(false);
+    EXPECT_EQ(bench.firstEntry(left), neutral) << "It was switched off meanwhile.";
+    bench.controller().toggleApplyCorrection();
+    bench.controller().compare(true);
+    bench.controller().applicationWillTerminate();
+    EXPECT_EQ(bench.firstEntry(left), edited) << "An end leaves the correction.";
 }
 
 TEST_F(Correction, StaysOffForDisplayUnpluggedDuringSwitch) {

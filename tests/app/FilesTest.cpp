@@ -4,6 +4,8 @@
 
 #include <fstream>
 
+#include "app/Requests.h"
+#include "colourfiles/ExportedTable.h"
 #include "plist/PropertyListWriter.h"
 #include "settings/Settings.h"
 #include "tests/app/ControllerBench.h"
@@ -171,6 +173,76 @@ TEST_F(Files, ReportFailedSaveUnlessOldFileRemains) {
         EXPECT_EQ(bench.log.size(), 1U);
         EXPECT_THAT(bench.controller().recentFiles(), IsEmpty());
     }
+}
+
+TEST_F(Files, WithCalibrationStayOnDisplayUntilMadeEditable) {
+    // An absolute curve with black at a quarter, and a step that no curve has.
+    GammaTable table;
+    const TQExtendedGammaCurve quarter({.black = 0.25F}, nullptr, nullptr, nullptr, 0);
+    quarter.flatGammaCurve()->_applyGammaValues(table, 256);
+    table.channel(2)[255] = 0;
+    const auto text = exportedTable(ExportFormat::Cal, table, 256, {.name = "", .time = 0}).value();
+    const int entry = 16384;
+    open(fileWith(std::string(text.begin(), text.end())));
+    EXPECT_EQ(bench.firstEntry(left), entry);
+    EXPECT_EQ(bench.firstEntry(right), 0);
+    EXPECT_TRUE(bench.controller().canMakeEditable());
+    bench.loop.advance(std::chrono::milliseconds(500));
+    bench.launchAndSettle();  // The previous run crashed.
+    EXPECT_EQ(bench.firstEntry(left), entry);
+    bench.dialogs.format = SettingsFormat::Cal;
+    bench.dialogs.file = folder.path() / "again.cal";
+    bench.controller().saveGamma();
+    EXPECT_TRUE(haveSameBits(
+        std::get<CalibrationSettings>(readSettingsFile(bench.dialogs.file).value()).table,
+        std::get<CalibrationSettings>(readSettings(text).value()).table));
+
+    bench.controller().makeEditable();
+    EXPECT_THAT(bench.dialogs.alerts, ElementsAre("The table can be edited now"));
+    EXPECT_NEAR(bench.panel.shown[PanelSlider::MasterBlack], 0.25F, 0.02F);
+    EXPECT_FALSE(bench.controller().canMakeEditable());
+    bench.controller().undo();
+    EXPECT_TRUE(bench.controller().canMakeEditable());
+    // The unused points of a table look like the neutral curve, but replacing it is an edit.
+    bench.edit(PanelSlider::BlackRed, 0);
+    EXPECT_EQ(bench.firstEntry(left), 0);
+    bench.controller().undo();
+    EXPECT_EQ(bench.firstEntry(left), entry);
+}
+
+TEST_F(Files, InFolderOfPresetsAreChosenByName) {
+    bench.presetFolder = folder.path() / "presets";
+    bench.launchAndSettle();
+    bench.edit(PanelSlider::BlackRed, 0.25F);
+    bench.dialogs.presetName = "night & day";
+    bench.controller().savePreset();
+    bench.edit(PanelSlider::BlackRed, 0.5F);
+    bench.dialogs.presetName = "Evening";
+    bench.controller().savePreset();
+    std::ofstream(bench.presetFolder / "broken.icc") << std::string(100, 'x');
+    bench.dialogs.presetName = "../outside";
+    bench.controller().savePreset();
+    EXPECT_THAT(bench.dialogs.alerts, ElementsAre("Saving failed"));
+    const auto presets = bench.controller().presets();
+    ASSERT_EQ(presets.size(), 3U);
+    EXPECT_EQ(presets[0].name, "broken");
+    EXPECT_NE(presets[0].problemKey, "");
+    EXPECT_EQ(presets[1].name, "Evening");
+    EXPECT_EQ(presets[2].name, "night & day");
+    EXPECT_EQ(presets[2].problemKey, "");
+    const std::vector<Request> request{{.kind = Request::Kind::Preset, .preset = "night & day"}};
+    carryOut(requestsFromText(textFromRequests(request)).value(), bench.controller());
+    bench.loop.runPosted();
+    EXPECT_EQ(bench.red(left), 0.25F);
+    EXPECT_THAT(bench.controller().recentFiles(), IsEmpty());
+    // Replacing one leaves no second file of that name behind.
+    bench.set("AffectAllScreens", true);
+    bench.controller().savePreset();
+    bench.dialogs.presetName = "Evening";
+    bench.controller().savePreset();
+    EXPECT_EQ(bench.controller().presets().size(), 3U);
+    bench.controller().openPreset("Morning");
+    EXPECT_EQ(bench.dialogs.alerts.back(), "The file was not opened");
 }
 
 /// Two displays that only differ in their connectors.

@@ -57,7 +57,8 @@ TEST(Arguments, RefuseInvalidCombinations) {
         "remote scan --timeout nan;remote scan --timeout 3601;remote get;"
         "remote get host 1-2-3 more;remote set host --curve [0];remote set host 1-2-3;"
         "remote set host 1-2-3 file --curve [0];remote set host 1-2-3 --content color;"
-        "remote watch;remote watch host --json");
+        "remote watch;remote watch host --json;export;export --format png file;fit;"
+        "apply file --preset name;table --preset name");
     for (std::string line; std::getline(lines, line, ';');) {
         EXPECT_FALSE(parsed(line)) << line;
     }

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <thread>
 
 #include "tests/cli/ControlProgram.h"
 #include "tests/support/GammaCompositor.h"
+#include "tests/support/IccBuilder.h"
+#include "tests/support/KdeCompositor.h"
+#include "tests/support/MutterDesk.h"
 #include "values/BoundedJson.h"
 
 namespace tonquil {
@@ -22,20 +26,25 @@ bool comesTrue(Question isSo) {
     return isSo();
 }
 
-class ProgramOnWayland : public testing::Test {
+template <typename Compositor>
+class ProgramOn : public testing::Test {
  protected:
     ProcessRequest request(const std::vector<std::string>& arguments) {
         ProcessRequest request = tonquilctlRequest("", arguments);
         std::erase(request.unset, "WAYLAND_DISPLAY");
         request.environment["WAYLAND_DISPLAY"] = compositor.socket();
+        request.environment["XDG_STATE_HOME"] = state.path();
         return request;
     }
     ProcessResult control(const std::vector<std::string>& arguments) {
         return run(request(arguments)).value();
     }
 
-    GammaCompositor compositor;
+    ScratchFolder state;
+    Compositor compositor;
 };
+using ProgramOnWayland = ProgramOn<GammaCompositor>;
+using ProgramOnKde = ProgramOn<KdeCompositor>;
 
 TEST_F(ProgramOnWayland, SaysWhatADesktopThatOnlyLendsItsTablesCannotDo) {
     compositor.plug("DP-1", 0, 1024);
@@ -51,6 +60,24 @@ TEST_F(ProgramOnWayland, SaysWhatADesktopThatOnlyLendsItsTablesCannotDo) {
         EXPECT_EQ(result.standardError.find('\n'), result.standardError.size() - 1);
     }
     EXPECT_NE(control({"read"}).standardOutput.find("\n255\t1\t1\t1\n"), std::string::npos);
+}
+
+TEST_F(ProgramOnWayland, TakesCalibrationSessionsBeforeGammaControlsBeforeRampsForAnybody) {
+    compositor.plug("wlr", 0);
+    for (const bool lendsSessions : {true, false}) {
+        MutterDesk desk(lendsSessions);
+        desk.tell("desk.plug('mutter', 0)");
+        ProcessRequest list = request({"displays"});
+        list.environment["DBUS_SESSION_BUS_ADDRESS"] = desk.address();
+        EXPECT_NE(run(list)->standardOutput.find(lendsSessions ? "\tmutter\t" : "\twlr\t"),
+                  std::string::npos);
+        list.environment["WAYLAND_DISPLAY"] = "none";
+        EXPECT_NE(run(list)->standardOutput.find("\tmutter\t"), std::string::npos);
+        list.unset.emplace_back("WAYLAND_DISPLAY");
+        list.environment.erase("WAYLAND_DISPLAY");
+        EXPECT_EQ(run(list)->standardOutput, "") << "an X11 session of GNOME";
+        EXPECT_EQ(desk.tell("desk.count"), "0") << "listing touches nothing";
+    }
 }
 
 TEST_F(ProgramOnWayland, HoldsACorrectionUntilItIsEnded) {
@@ -79,6 +106,90 @@ TEST_F(ProgramOnWayland, HoldsACorrectionUntilItIsEnded) {
     ASSERT_TRUE(alone);
     EXPECT_EQ(alone->exitStatus, 1);
     EXPECT_EQ(alone->standardError, "tonquilctl: The display server has gone.\n");
+}
+
+TEST_F(ProgramOnWayland, HandsCurvesToTheTonquilThatRuns) {
+    const ScratchFolder home;
+    compositor.plug("DP-1", 0);
+    compositor.plug("DP-2", 1920);
+    const auto inSession = [&](ProcessRequest request) {
+        for (const char* const folder : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME",
+                                         "XDG_RUNTIME_DIR", "DBUS_SESSION_BUS_ADDRESS"}) {
+            request.environment[folder] = home.path();
+        }
+        request.environment["QT_QPA_PLATFORM"] = "offscreen";
+        return request;
+    };
+    const auto control = [&](const std::vector<std::string>& arguments) {
+        return run(inSession(request(arguments))).value().exitStatus;
+    };
+    auto start = inSession(request({}));
+    start.command = {TONQUIL};
+    const auto program = BackgroundProcess::start(start).value();
+    ASSERT_TRUE(comesTrue([&] { return control({"restore"}) == 0; })) << program->standardError();
+
+    // The correction was off, and what is not meant keeps its neutral curve.
+    EXPECT_EQ(control({"apply", "--display", "DP-2", "--curve", "[0,0,1.5]"}), 0);
+    const auto areAlike = [&] { return compositor.ramp("DP-1") == compositor.ramp("DP-2"); };
+    EXPECT_TRUE(comesTrue([&] { return compositor.isHeld("DP-1") && !areAlike(); }));
+    EXPECT_EQ(control({"restore", "--display", "DP-2"}), 0);
+    EXPECT_TRUE(comesTrue(areAlike));
+    const HardwareRamp neutral = compositor.ramp("DP-1");
+    EXPECT_EQ(control({"apply", fileWith(std::string(768, 'x'))}), 1) << "It keeps no tables.";
+
+    EXPECT_EQ(control({"apply", "--curve", "[0,0,1.5]"}), 0);
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") != neutral && areAlike(); }));
+    EXPECT_EQ(control({"restore"}), 0);
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == HardwareRamp::straight(256); }));
+    compositor.setTaken("DP-1", true);
+    EXPECT_TRUE(comesTrue([&] { return control({"apply", "--curve", "[0,0,1.2]"}) == 1; }));
+}
+
+TEST_F(ProgramOnKde, NeverLosesThePersonsProfileAndCorrectsItOnce) {
+    compositor.plug("DP-1", 0, 1);
+    std::vector<std::uint16_t> entries(256);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        entries[i] = static_cast<std::uint16_t>(900 + 200 * i);
+    }
+    const auto profile = buildIccWithTable({entries, entries, entries});
+    const KdeCompositor::Choice theirs{state.path() / "their own.icc", 1};
+    std::ofstream(theirs.first, std::ios::binary) << std::string(profile.begin(), profile.end());
+    compositor.choose("DP-1", theirs);
+    const std::string base = control({"read"}).standardOutput;
+    const std::vector<std::string> apply{"apply", "--curve", "[1,0,0.5]"};
+    EXPECT_EQ(control(apply).exitStatus, 0);
+    const HardwareRamp once = compositor.ramp("DP-1");
+    for (const bool isHeard : {false, true, true}) {
+        EXPECT_EQ(control({"restore"}).exitStatus, 0);
+        EXPECT_EQ(compositor.choice("DP-1"), theirs);
+        compositor.stopAtChange();
+        const auto killed = BackgroundProcess::start(request(apply)).value();
+        ASSERT_TRUE(comesTrue([&] { return compositor.isStopped(); }));
+        killed->kill();
+        compositor.goOn(isHeard);
+        EXPECT_EQ(compositor.choice("DP-1") != theirs, isHeard);
+        EXPECT_EQ(control({"read"}).standardOutput, base);
+        EXPECT_EQ(control(apply).exitStatus, 0);
+        EXPECT_EQ(compositor.ramp("DP-1"), once);
+    }
+    ProcessRequest elsewhere = request({"read"});
+    elsewhere.environment["XDG_STATE_HOME"] = state.path() / "another";
+    EXPECT_EQ(run(elsewhere).value().standardOutput, base);
+    std::filesystem::remove_all(state.path() / "tonquil");
+    EXPECT_EQ(control(apply).exitStatus, 0) << "without the note, from a straight line";
+    const HardwareRamp plain = compositor.ramp("DP-1");
+    EXPECT_EQ(control({"restore"}).exitStatus, 0);
+    EXPECT_EQ(compositor.choice("DP-1"), KdeCompositor::Choice("", 0));
+
+    compositor.choose("DP-1", theirs);
+    const auto holder =
+        BackgroundProcess::start(request({"apply", "--hold", "--curve", apply[2]})).value();
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == once; }));
+    compositor.choose("DP-1", {"", 0});
+    EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == plain; }));
+    holder->send(SIGTERM);
+    EXPECT_TRUE(holder->wait(20s));
+    EXPECT_EQ(compositor.choice("DP-1"), KdeCompositor::Choice("", 0));
 }
 
 }  // namespace

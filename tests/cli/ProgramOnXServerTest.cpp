@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <thread>
 
 #include "model/TQExtendedGammaCurve.h"
@@ -156,6 +159,60 @@ TEST_F(ProgramOnXServer, RestoresCalibrationOfPublishedProfile) {
     mustRun({"restore"});
     EXPECT_NEAR(ramp(0).red[128], 65535 * 0.95 * std::pow(128 / 255.0, 1.1), 2);
     EXPECT_NEAR(ramp(0).blue[255], 65535 * 0.5, 2);
+}
+
+TEST_F(ProgramOnXServer, ExportsWhatRestorePutsBackFromPublishedProfile) {
+    const ScratchFolder folder;
+    mustRun({"apply", "--curve", "[0,0.1,1.3,0.9,0,1,0.8]"});
+    const Ramp present = ramp(1);
+    const auto exportTo = [&](const std::string& name) {
+        mustRun({"export", "--display", "DUMMY1", folder.path() / name});
+        std::ifstream file(folder.path() / name, std::ios::binary);
+        return std::vector<std::uint8_t>(std::istreambuf_iterator<char>(file), {});
+    };
+    const auto profile = exportTo("one.icc");
+    mustRun({"restore"});
+    mustSucceed(server->setRootProperty("_ICC_PROFILE_1", profile));
+    mustRun({"restore"});
+    EXPECT_EQ(ramp(1), present);
+    mustSucceed(server->setRootProperty("_ICC_PROFILE_1", {}));
+    // What is opened exports as it was, in every format that keeps it.
+    std::filesystem::create_directories(folder.path() / "tonquil/presets");
+    std::filesystem::copy(folder.path() / "one.icc", folder.path() / "tonquil/presets/Desk.icc");
+    ProcessRequest preset =
+        tonquilctlRequest(server->display(), {"apply", "--preset", "Desk", "--display", "DUMMY1"});
+    preset.environment["XDG_CONFIG_HOME"] = folder.path();
+    EXPECT_EQ(run(preset).value().exitStatus, 0);
+    EXPECT_EQ(ramp(1), present);
+    exportTo("two.cal");
+    for (const char* file : {"one.icc", "two.cal"}) {
+        mustRun({"restore"});
+        mustRun({"apply", folder.path() / file});
+        EXPECT_EQ(ramp(1), present) << file;
+    }
+    EXPECT_EQ(exportTo("three.amp").size(), 768U);
+    EXPECT_TRUE(control({"fit", folder.path() / "two.cal"})
+                    .standardOutput.ends_with("\nlargest difference: 0.000008\n"));
+    for (const auto& wrong : {std::vector<std::string>{"export", folder.path() / "four"},
+                              {"apply", "--preset", "Desk"},
+                              {"export", folder.path() / "no/such/folder.icc"}}) {
+        EXPECT_EQ(control(wrong).exitStatus, 1);
+    }
+}
+
+TEST_F(ProgramOnXServer, EndsItsHoldWhenTheServerDies) {
+    const auto holder =
+        BackgroundProcess::start(
+            tonquilctlRequest(server->display(), {"apply", "--hold", "--curve", "[0,0,1.5]"}))
+            .value();
+    while (ramp(1) == startRamp && holder->isRunning()) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    server->kill();
+    const auto ended = holder->wait(std::chrono::seconds(20));
+    ASSERT_TRUE(ended);
+    EXPECT_EQ(ended->exitStatus, 1);
+    EXPECT_EQ(ended->standardError, "tonquilctl: The display server has gone.\n");
 }
 
 }  // namespace

@@ -45,6 +45,9 @@ class PrivateBus : QDBusVirtualObject {
     /// Ends the daemon, or with SIGSTOP makes it hang.
     void send(int signal) { _daemon->send(signal); }
 
+    /// The unique name of whoever calls the method that is being answered.
+    [[nodiscard]] QString caller() const { return _caller; }
+
     using Answer = std::function<QVariant(const QVariantList& arguments)>;
     using Methods = std::map<std::string, Answer>;
     /// Becomes a service whose object at `path`, and all below it, answer these methods; an
@@ -58,6 +61,7 @@ class PrivateBus : QDBusVirtualObject {
  private:
     [[nodiscard]] QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+        _caller = message.service();
         const auto method = _methods.find(message.member().toStdString());
         const QVariant answer =
             method == _methods.end() ? QVariant() : method->second(message.arguments());
@@ -75,6 +79,7 @@ class PrivateBus : QDBusVirtualObject {
             .value();
     QDBusConnection _connection{QString()};
     Methods _methods;
+    QString _caller;
 };
 
 }  // namespace tonquil

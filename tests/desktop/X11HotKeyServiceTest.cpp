@@ -33,7 +33,7 @@ class X11HotKeys : public testing::Test {
         service->setHandlers(tell("down "), tell("up "));
     }
     HotKeyHandle add(std::uint16_t keyCode, HotKeyServiceMask modifiers, std::uint32_t id) {
-        return service->registerHotKey(keyCode, modifiers, id).value();
+        return service->registerHotKey(keyCode, modifiers, id, "").value();
     }
     /// Handles the server's events.
     void poll() {
@@ -105,7 +105,7 @@ TEST_F(X11HotKeys, ReportsPressesAndReleasesWithExactModifiers) {
     EXPECT_EQ(loop.pollReadable(0ms), 0U);
     loop.advance(1s);
     EXPECT_EQ(log.size(), 1U);
-    EXPECT_FALSE(service->registerHotKey(virtualQ, 0, 2));
+    EXPECT_FALSE(service->registerHotKey(virtualQ, 0, 2, ""));
     EXPECT_EQ(told.size(), 3U);
 }
 
@@ -152,7 +152,7 @@ TEST_F(X11HotKeys, ReleasesBothOverlappingKeys) {
 TEST_F(X11HotKeys, RefusesTakenCombinationCompletely) {
     // The other program grabs it only with Caps Lock on.
     ASSERT_TRUE(keyboard.grab(KEY_A, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_LOCK));
-    const auto refused = service->registerHotKey(virtualA, control, 1);
+    const auto refused = service->registerHotKey(virtualA, control, 1, "");
     ASSERT_FALSE(refused);
     EXPECT_THAT(refused.error().sentence, testing::HasSubstr("Another program"));
     EXPECT_TRUE(keyboard.grab(KEY_A, XCB_MOD_MASK_CONTROL)) << "something of it was kept";
@@ -160,7 +160,7 @@ TEST_F(X11HotKeys, RefusesTakenCombinationCompletely) {
     keyboard.ungrab(KEY_A, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_LOCK);
 
     const auto handle = add(virtualA, control, 2);
-    EXPECT_FALSE(service->registerHotKey(virtualA, control, 3)) << "it is our own already";
+    EXPECT_FALSE(service->registerHotKey(virtualA, control, 3, "")) << "it is our own already";
     EXPECT_FALSE(keyboard.grab(KEY_A, XCB_MOD_MASK_CONTROL));
     service->unregisterHotKey(handle);
     service->unregisterHotKey(handle);
@@ -172,13 +172,14 @@ TEST_F(X11HotKeys, RefusesTakenCombinationCompletely) {
 }
 
 TEST_F(X11HotKeys, FollowsRemappedModifierAndRefusesImpossibleKeys) {
-    EXPECT_FALSE(service->registerHotKey(63, control, 1)) << "the fn key";
-    EXPECT_FALSE(service->registerHotKey(999, control, 1));
-    EXPECT_FALSE(service->registerHotKey(virtualF5, control | option, 1)) << "switches terminals";
+    EXPECT_FALSE(service->registerHotKey(63, control, 1, "")) << "the fn key";
+    EXPECT_FALSE(service->registerHotKey(999, control, 1, ""));
+    EXPECT_FALSE(service->registerHotKey(virtualF5, control | option, 1, ""))
+        << "switches terminals";
     add(virtualA, command, 1);
     runProgram({"xmodmap", "-e", "clear mod4", "-e", "clear mod2"});
     EXPECT_EQ(log.size(), 1U);
-    EXPECT_FALSE(service->registerHotKey(virtualQ, command, 1)) << "there is no Super";
+    EXPECT_FALSE(service->registerHotKey(virtualQ, command, 1, "")) << "there is no Super";
     runProgram({"xmodmap", "-e", "add mod3 = Super_L"});
     keyboard.press(KEY_LEFTMETA);
     press(KEY_A);

@@ -25,7 +25,7 @@ class GrantingService final : public HotKeyService {
         _released = std::move(released);
     }
     Result<HotKeyHandle> registerHotKey(std::uint16_t keyCode, HotKeyServiceMask modifiers,
-                                        std::uint32_t id) override {
+                                        std::uint32_t id, const std::string& /*action*/) override {
         if (isHeldByOthers) {
             return problem("Another program holds it.");
         }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdlib>
@@ -12,10 +13,13 @@
 #include <random>
 #include <string>
 
+#include "model/CurveFit.h"
 #include "model/KVTableGammaCurve.h"
+#include "model/StoredCurve.h"
 #include "model/TQExtendedGammaCurve.h"
 #include "tests/model/FakeScreen.h"
 #include "tests/model/PlainFormula.h"
+#include "values/PropertyValue.h"
 
 namespace {
 
@@ -174,6 +178,40 @@ TEST(TableCurve, ReadsFirst768BytesAsLevelsOf256) {
     EXPECT_EQ(screen.shown.channel(1)[0], 0.99609375F);
     EXPECT_EQ(screen.shown.channel(2)[255], 0.00390625F);
     EXPECT_FALSE(KVTableGammaCurve::tableGammaCurveWithData(std::span(bytes).first(767)));
+}
+
+TEST(CurveFit, GivesCurveBackThatMadeTable) {
+    const std::array rows{ChannelCurve{.black = 0.1F, .middle = 2.2F, .white = 0.9F},
+                          ChannelCurve{.black = 0, .middle = 0.3F, .white = 1},
+                          ChannelCurve{.black = 0.8F, .middle = 20, .white = 0.2F},
+                          ChannelCurve{.black = 0, .middle = 1, .white = 0},
+                          ChannelCurve{.black = 1, .middle = 1, .white = 1}};
+    for (const ChannelCurve& row : rows) {
+        SCOPED_TRACE(row.middle);
+        GammaTable table;
+        computeTransferTable({.channels = {row, row, row}, .blendingMode = 0}, table, 256);
+        const CurveFit fit = fitCurve(table);
+        EXPECT_LT(fit.largestDifference, 2e-5F);
+        EXPECT_NEAR(fit.curve->flatBlackPoint()->redValue(), row.black, 1e-4F);
+        EXPECT_NEAR(fit.curve->flatMiddlePoint()->greenValue(), row.middle, 1e-3F);
+        EXPECT_NEAR(fit.curve->flatWhitePoint()->blueValue(), row.white, 1e-4F);
+    }
+    GammaTable step;
+    std::ranges::fill(step.channel(1).last(128), 1.0F);
+    EXPECT_NEAR(fitCurve(step).largestDifference, 0.5F, 0.2F);
+}
+
+TEST(TableCurve, SurvivesStoringToTheEntry) {
+    GammaTable table;
+    for (std::size_t i = 0; i < table.levels.size(); ++i) {
+        table.levels.at(i) = static_cast<float>(i * 85) / 65535.0F;
+    }
+    PropertyValue stored = KVTableGammaCurve(table).gammaCurveDictionary();
+    const auto read = std::dynamic_pointer_cast<KVTableGammaCurve>(curveWithDictionary(stored));
+    ASSERT_TRUE(read);
+    EXPECT_TRUE(haveSameBits(read->table(), table));
+    stored["Table"] = PropertyValue::binary({1, 2});
+    EXPECT_TRUE(std::dynamic_pointer_cast<TQExtendedGammaCurve>(curveWithDictionary(stored)));
 }
 
 }  // namespace

@@ -34,7 +34,13 @@ class RecordedActions final : public PanelActions {
         calls.push_back("tab " + std::to_string(index));
         panel->showTab(index);
     }
+    void toggleApplyCorrection() override {}
+    void compare(bool /*isHeld*/) override {}
     void setAffectsAllScreens(bool /*affectsAll*/) override {}
+    [[nodiscard]] std::vector<PanelDisplay> displays() override { return {}; }
+    void editDisplay(DisplayID /*display*/) override {}
+    void identifyDisplays() override {}
+    void togglePanel() override {}
     void setAdvancedPanel(bool /*advanced*/) override {}
     void setDarkTheme(bool /*dark*/) override {}
     void setChannelStrip(bool /*isShown*/) override {}
@@ -51,6 +57,11 @@ class RecordedActions final : public PanelActions {
     void saveGamma() override {}
     void openFile(const std::filesystem::path& /*file*/) override {}
     [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const override { return {}; }
+    [[nodiscard]] std::vector<PresetEntry> presets() const override { return {}; }
+    void openPreset(const std::string& /*name*/) override {}
+    void savePreset() override {}
+    [[nodiscard]] bool canMakeEditable() override { return false; }
+    void makeEditable() override {}
     void quit() override {}
 
     std::vector<std::string> calls;

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/kde/KdeDisplayService.h"
+#include "platform/mutter/MutterDisplayService.h"
 #include "platform/simulated/SimulatedDeskReader.h"
 #include "platform/simulated/SimulatedDisplayService.h"
 #include "platform/wayland/WlrDisplayService.h"
@@ -13,6 +15,8 @@
 #include "tests/support/EdidBuilder.h"
 #include "tests/support/GammaCompositor.h"
 #include "tests/support/IccBuilder.h"
+#include "tests/support/KdeCompositor.h"
+#include "tests/support/MutterDesk.h"
 #include "tests/support/RampReader.h"
 #include "tests/support/Succeeded.h"
 #include "tests/support/XServer.h"
@@ -37,6 +41,14 @@ class ServiceBench {
     virtual void publishProfile(int /*display*/, const HardwareRamp& /*ramp*/) {}
 };
 
+Ramp plain(const HardwareRamp& ramp) {
+    const auto channel = [&](std::size_t index) {
+        const auto entries = ramp.channel(index);
+        return std::vector<std::uint16_t>(entries.begin(), entries.end());
+    };
+    return {.red = channel(0), .green = channel(1), .blue = channel(2)};
+}
+
 class SimulatedBench : public ServiceBench {
  public:
     std::unique_ptr<DisplayService> openService(Log log) override {
@@ -58,6 +70,11 @@ class SimulatedBench : public ServiceBench {
     SimulatedDesk _desk = readSimulatedDesk(R"([{"serial": 1}, {"serial": 2}])").value();
     SimulatedDisplay _second = *_desk.find(2);
 };
+
+void write(const std::filesystem::path& file, const std::vector<std::uint8_t>& bytes) {
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << std::string(bytes.begin(), bytes.end());
+}
 
 /// A private X server, read through the independent reader.
 class X11Bench : public ServiceBench {
@@ -90,14 +107,6 @@ class X11Bench : public ServiceBench {
     void plugSecond() override { mustSucceed(_server->plug("DUMMY1", "1280x1024")); }
 
  private:
-    static Ramp plain(const HardwareRamp& ramp) {
-        const auto channel = [&](std::size_t index) {
-            const auto entries = ramp.channel(index);
-            return std::vector<std::uint16_t>(entries.begin(), entries.end());
-        };
-        return {.red = channel(0), .green = channel(1), .blue = channel(2)};
-    }
-
     const std::vector<std::string> connectors{"DUMMY0", "DUMMY1"};
     std::unique_ptr<XServer> _server = XServer::start().value();
     RampReader _reader = RampReader::connect(_server->display()).value();
@@ -107,11 +116,8 @@ class WlrBench : public ServiceBench {
  public:
     WlrBench() {
         for (const std::uint32_t serial : {1U, 2U}) {
-            const auto folder = _connectors.path() / ("card0-DP-" + std::to_string(serial));
-            std::filesystem::create_directory(folder);
-            const auto edid = buildEdid({.serial = serial});
-            std::ofstream(folder / "edid", std::ios::binary)
-                << std::string(edid.begin(), edid.end());
+            write(_connectors.path() / ("card0-DP-" + std::to_string(serial)) / "edid",
+                  buildEdid({.serial = serial}));
         }
         WlrBench::plugSecond();
         _compositor.plug("DP-1", 0);
@@ -131,6 +137,75 @@ class WlrBench : public ServiceBench {
  private:
     ScratchFolder _connectors;
     GammaCompositor _compositor;
+};
+
+class KdeBench : public ServiceBench {
+ public:
+    KdeBench() {
+        KdeBench::plugSecond();
+        _compositor.plug("DP-1", 0, 1);
+    }
+
+    std::unique_ptr<DisplayService> openService(Log log) override {
+        return KdeDisplayService::open(_compositor.socket().c_str(),
+                                       {.state = _folder.path() / "state", .log = std::move(log)})
+            .value();
+    }
+    HardwareRamp hardwareRamp(int display) override {
+        return _compositor.ramp("DP-" + std::to_string(display + 1));
+    }
+    void publishProfile(int display, const HardwareRamp& ramp) override {
+        const std::string path = _folder.path() / ("their " + std::to_string(++_profiles));
+        write(path, buildIccWithTable(plain(ramp)));
+        _compositor.choose("DP-" + std::to_string(display + 1), {path, 1});
+    }
+    void unplugSecond() override { _compositor.unplug("DP-2"); }
+    void plugSecond() override { _compositor.plug("DP-2", 1920, 2); }
+
+ private:
+    ScratchFolder _folder;
+    int _profiles = 0;
+    KdeCompositor _compositor;
+};
+
+/// The compositor names its connectors by halves.
+template <bool lendsSessions>
+class MutterBench : public ServiceBench {
+ public:
+    MutterBench() {
+        write(_folder.path() / "card1-DVI-D-1/edid", buildEdid({.serial = 1}));
+        write(_folder.path() / "card1-HDMI-A-1/edid", buildEdid({.serial = 2}));
+        MutterBench::plugSecond();
+        _desk.tell("desk.plug('DVI-1', 0)");
+    }
+
+    std::unique_ptr<DisplayService> openService(Log log) override {
+        return MutterDisplayService::open(std::nullopt, {.log = std::move(log),
+                                                         .sessionBus = _desk.address(),
+                                                         .systemBus = _desk.address(),
+                                                         .connectors = _folder.path()})
+            .value();
+    }
+    HardwareRamp hardwareRamp(int display) override {
+        const HardwareRamp ramp = _desk.ramp(connectors.at(display));
+        return ramp.size() == 0 ? _calibrations.at(display) : ramp;
+    }
+    void publishProfile(int display, const HardwareRamp& ramp) override {
+        const auto file = _folder.path() / connectors.at(display);
+        write(file, buildIccWithTable(plain(ramp)));
+        _desk.tell("desk.set_profile('" + std::string(connectors.at(display)) + "', '" +
+                   file.native() + "')");
+        _calibrations.at(display) = ramp;
+    }
+    void unplugSecond() override { _desk.tell("desk.unplug('HDMI-1')"); }
+    void plugSecond() override { _desk.tell("desk.plug('HDMI-1', 1920)"); }
+
+ private:
+    const std::vector<const char*> connectors{"DVI-1", "HDMI-1"};
+    /// What the compositor itself puts on the displays.
+    std::vector<HardwareRamp> _calibrations{2, HardwareRamp::straight(256)};
+    ScratchFolder _folder;
+    MutterDesk _desk{lendsSessions};
 };
 
 /// What every display service owes.
@@ -153,7 +228,13 @@ class DisplayServiceContract : public testing::TestWithParam<std::unique_ptr<Ser
     std::unique_ptr<DisplayService> service = open();
 };
 
-/// What those owe besides whose displays other programs can set at any time.
+/// What those owe besides whose desktop publishes colour profiles.
+class PublishedProfilesContract : public DisplayServiceContract {};
+
+/// And those where a correction outlives its program, and is read back.
+class LastingTablesContract : public DisplayServiceContract {};
+
+/// And those whose displays other programs can set at any time.
 class SharedTablesContract : public DisplayServiceContract {};
 
 /// A table of whole 16-bit entries, so that it comes back as it was.
@@ -218,7 +299,7 @@ TEST_P(SharedTablesContract, TakesAForeignRampForTheSystemsOnlyWhileItHoldsNoCor
     EXPECT_EQ(bench->hardwareRamp(0), rampOf(tableOf(4))) << "found at a start";
 }
 
-TEST_P(SharedTablesContract, RecognisesACorrectionHoweverManyOthersSetSince) {
+TEST_P(LastingTablesContract, RecognisesACorrectionHoweverManyOthersSetSince) {
     const GammaTable system = read(0);
     const auto other = open();
     for (const int count : {1, 1, 300, 1}) {
@@ -233,7 +314,7 @@ TEST_P(SharedTablesContract, RecognisesACorrectionHoweverManyOthersSetSince) {
     }
 }
 
-TEST_P(SharedTablesContract, TheProfilesCalibrationIsTheSystemsWhereThereIsOne) {
+TEST_P(PublishedProfilesContract, TheProfilesCalibrationIsTheSystemsWhereThereIsOne) {
     service->setTransferTable(display(0), tableOf(1));
     service->setTransferTable(display(1), tableOf(1));
     for (const int seed : {3, 4}) {
@@ -296,10 +377,20 @@ std::unique_ptr<ServiceBench> make() {
     return std::make_unique<Bench>();
 }
 constexpr auto nameOf = [](const auto& each) {
-    return std::vector{"Simulated", "X11", "Wlr"}.at(each.index);
+    return std::vector{"Simulated", "X11", "Kde", "MutterCalibration", "Mutter", "Wlr"}.at(
+        each.index);
 };
 INSTANTIATE_TEST_SUITE_P(Services, DisplayServiceContract,
-                         testing::Values(make<SimulatedBench>, make<X11Bench>, make<WlrBench>),
+                         testing::Values(make<SimulatedBench>, make<X11Bench>, make<KdeBench>,
+                                         make<MutterBench<true>>, make<MutterBench<false>>,
+                                         make<WlrBench>),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(Services, PublishedProfilesContract,
+                         testing::Values(make<SimulatedBench>, make<X11Bench>, make<KdeBench>,
+                                         make<MutterBench<true>>, make<MutterBench<false>>),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(Services, LastingTablesContract,
+                         testing::Values(make<SimulatedBench>, make<X11Bench>, make<KdeBench>),
                          nameOf);
 INSTANTIATE_TEST_SUITE_P(Services, SharedTablesContract,
                          testing::Values(make<SimulatedBench>, make<X11Bench>), nameOf);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "platform/edid/Edid.h"
 #include "platform/x11/displays/X11RampJournal.h"
 #include "tests/support/EdidBuilder.h"
@@ -27,6 +29,10 @@ TEST(Edid, RequiresCompleteBlockWithHeader) {
     bytes[127] ^= 0xFFU;
     ASSERT_TRUE(parseEdid(bytes)) << "the checksum is not asked for";
     EXPECT_EQ(parseEdid(bytes)->modelNumber, 0xA0B1U);
+    EXPECT_NEAR(parseEdid(bytes)->primaries.value().red.x, 0.64, 0.001) << "sRGB's";
+    EXPECT_NEAR(parseEdid(bytes)->primaries.value().white.y, 0.329, 0.001);
+    std::fill(bytes.begin() + 25, bytes.begin() + 35, 0);
+    EXPECT_FALSE(parseEdid(bytes)->primaries);
     bytes[7] = 1;
     EXPECT_FALSE(parseEdid(bytes));
 }

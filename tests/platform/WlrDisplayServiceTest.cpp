@@ -3,63 +3,19 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
+#include "tests/platform/KeptDisplays.h"
 #include "tests/support/GammaCompositor.h"
-#include "tests/support/ManualRunLoop.h"
+#include "tests/support/IccBuilder.h"
+#include "tests/support/MutterDesk.h"
 
 namespace tonquil {
 namespace {
 
 using namespace std::chrono_literals;
 
-/// A program that keeps a table on every display.
-class WlrDisplays : public testing::Test {
- protected:
-    WlrDisplays() { table.levels.fill(0.25F); }
-    void open() {
-        service = WlrDisplayService::open(
-                      compositor.socket().c_str(),
-                      {.runLoop = &loop,
-                       .log = [this](std::string_view line) { log.emplace_back(line); },
-                       .lost = [this] { ++losses; }})
-                      .value();
-        subscription =
-            service->registerReconfigurationCallback([this](DisplayID, ReconfigurationFlags flags) {
-                if (flags != beginConfiguration) {
-                    correct();
-                }
-            });
-        correct();
-    }
-    void correct() {
-        const DisplayBatch batch(*service);
-        for (const DisplayID display : service->onlineDisplays(25)) {
-            service->setTransferTable(display, table);
-        }
-    }
-    /// Lets events come and the quiet time pass until it is so.
-    bool comesTrue(const std::function<bool()>& isSo) {
-        for (int turn = 0; turn < 2500 && !isSo(); ++turn) {
-            if (loop.pollReadable(2ms) == 0) {
-                loop.advance(WlrDisplayService::quietTime);
-            }
-        }
-        return isSo();
-    }
-    bool isCorrected(const std::string& name) {
-        HardwareRamp ramp(compositor.ramp(name).size());
-        ramp.setTable(table);
-        return compositor.ramp(name) == ramp && ramp.size() >= 2;
-    }
-    bool isObstructed() { return !service->description(0).obstacle.empty(); }
-
-    ManualRunLoop loop;
-    std::vector<std::string> log;
-    GammaTable table;
-    int losses = 0;
-    GammaCompositor compositor;
-    std::unique_ptr<WlrDisplayService> service;
-    std::unique_ptr<DisplayService::Subscription> subscription;
-};
+using WlrDisplays = KeptDisplays<WlrDisplayService, GammaCompositor>;
 
 TEST_F(WlrDisplays, TellsADisplayThatCannotBeCorrectedAndCorrectsItWhenTheCauseGoes) {
     struct Row {
@@ -128,6 +84,26 @@ TEST_F(WlrDisplays, LeavesADisplayToOthersWhileItIsNotCorrected) {
     EXPECT_TRUE(comesTrue([&] { return !compositor.isHeld("DP-1"); }));
     correct();
     EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+}
+
+TEST_F(WlrDisplays, HasTheCalibrationOfTheProfileThatTheColourServiceNames) {
+    MutterDesk desk(false);
+    ScratchFolder folder;
+    const auto profile = buildIccWithFormula({{{.max = 0.5}, {.max = 0.5}, {.max = 0.5}}});
+    std::ofstream(folder.path() / "profile", std::ios::binary)
+        << std::string(profile.begin(), profile.end());
+    desk.tell("desk.plug('DP-1', 0)");
+    compositor.plug("DP-1", 0, 1024);
+    open({.systemBus = desk.address()});
+    GammaTable base;
+    const auto brightest = [&] {
+        EXPECT_EQ(service->getTransferTable(0, base), 256U);
+        return base.channel(1)[255];
+    };
+    EXPECT_EQ(brightest(), 1.0F) << "nothing is waited for";
+    desk.tell("desk.set_profile('DP-1', '" + (folder.path() / "profile").native() + "')");
+    EXPECT_TRUE(comesTrue([&] { return brightest() < 0.51F; }));
+    EXPECT_NEAR(brightest(), 0.5F, 1e-4F);
 }
 
 TEST_F(WlrDisplays, EndsInOrderWhenTheCompositorDies) {

@@ -41,6 +41,21 @@ TEST(X11DisplayService, IdentifiesDisplaysByEdidOrSize) {
     EXPECT_EQ(service->description(0).connector, "DUMMY1");
 }
 
+TEST(X11DisplayService, TellsWhichCrtcsTheirDisplaysLeft) {
+    const auto display = [](xcb_randr_output_t output, xcb_randr_crtc_t crtc) {
+        X11Display made;
+        made.output = output;
+        made.crtc = crtc;
+        return made;
+    };
+    const std::vector<X11Display> before{display(1, 10), display(2, 20)};
+    EXPECT_TRUE(crtcsLeft(before, before).empty());
+    // The displays swap their CRTCs; then one goes.
+    const std::vector<X11Display> swapped{display(1, 20), display(2, 10)};
+    EXPECT_EQ(crtcsLeft(before, swapped), (std::vector<xcb_randr_crtc_t>{10, 20}));
+    EXPECT_EQ(crtcsLeft(before, std::span(before).first(1)), (std::vector<xcb_randr_crtc_t>{20}));
+}
+
 TEST(X11DisplayService, CompactsAndRepairsJournal) {
     const auto server = XServer::start().value();
     const RampReader reader = RampReader::connect(server->display()).value();

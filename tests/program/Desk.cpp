@@ -15,6 +15,21 @@
 
 namespace tonquil {
 
+namespace {
+
+constexpr const char* finder = R"(
+import pyatspi, sys
+role, name = sys.argv[1:]
+for program in pyatspi.Registry.getDesktop(0):
+    found = pyatspi.findDescendant(
+        program, lambda each: each.name == name and each.getRoleName() == role)
+    if found:
+        place = found.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        print(place.x, place.y, place.width, place.height)
+)";
+
+}  // namespace
+
 bool eventually(const std::function<bool()>& question) {
     for (int count = 0; count < 400 && !question(); ++count) {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
@@ -80,7 +95,8 @@ ProcessRequest Desk::requestFor(const std::vector<std::string>& command) const {
 }
 
 void Desk::start(const PropertyValue& preferences) {
-    PropertyValue all = {{"Window Frame ControlWindow", "200 200 320 470"}};
+    // The hint of the first start would move the rows.
+    PropertyValue all = {{"Window Frame ControlWindow", "200 200 320 470"}, {"HasEdited", true}};
     all.update(this->preferences());
     all.update(preferences);
     writePreferences(all);
@@ -140,6 +156,30 @@ std::vector<Desk::Place> Desk::windows(const char* by, const char* pattern) cons
 
 bool Desk::hasWindow(const Place& place) const {
     return std::ranges::count(windows(), place) != 0;
+}
+
+// The service that it starts for controls lies where Debian's packages are, which the desk hides.
+void Desk::startSessionBus() {
+    _session =
+        begin({"env", "-u", "XDG_DATA_DIRS", "dbus-daemon", "--session", "--nofork", "--nopidfile",
+               "--print-address", "--address=unix:path=" + (folder() / "session-bus").native()});
+    ASSERT_TRUE(_session->waitForOutput("\n", std::chrono::seconds(20)));
+}
+
+Desk::Place Desk::control(const std::string& role, const std::string& name) const {
+    Place place;
+    EXPECT_TRUE(eventually([&] {
+        const auto found = run({"/usr/bin/python3", "-c", finder, role, name});
+        return std::sscanf(found.standardOutput.c_str(), "%d %d %d %d", &place.x, &place.y,
+                           &place.width, &place.height) == 4;
+    })) << role
+        << ' ' << name;
+    return place;
+}
+
+void Desk::clickControl(const std::string& role, const std::string& name) const {
+    const Place place = control(role, name);
+    click(place.x + place.width / 2, place.y + place.height / 2);
 }
 
 Desk::Place Desk::pointer() const {

@@ -55,6 +55,12 @@ class Desk {
     [[nodiscard]] std::vector<Place> windows(const char* by = "--class",
                                              const char* pattern = "^tonquil$") const;
     [[nodiscard]] bool hasWindow(const Place& place) const;
+    /// Starts the bus on which a program that is started later reports its controls.
+    void startSessionBus();
+    /// Waits for a control, found as assistive technologies do, wherever the fonts and the
+    /// layout put it.
+    [[nodiscard]] Place control(const std::string& role, const std::string& name) const;
+    void clickControl(const std::string& role, const std::string& name) const;
     /// The pointer's position; of size 0.
     [[nodiscard]] Place pointer() const;
     void movePointer(int x, int y) const;
@@ -87,6 +93,7 @@ class Desk {
     RampReader _reader = RampReader::connect(_server->display()).value();
     ScratchFolder _folder;
     std::unique_ptr<BackgroundProcess> _manager;
+    std::unique_ptr<BackgroundProcess> _session;
     std::unique_ptr<BackgroundProcess> _program;
 };
 

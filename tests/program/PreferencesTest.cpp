@@ -2,28 +2,15 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <sstream>
 
 #include "tests/program/Desk.h"
 
 namespace tonquil {
 namespace {
 
-// Finds a control as assistive technologies do, wherever the fonts and the layout put it.
-constexpr const char* finder = R"(
-import pyatspi, sys
-role, name = sys.argv[1:]
-for program in pyatspi.Registry.getDesktop(0):
-    found = pyatspi.findDescendant(
-        program, lambda each: each.name == name and each.getRoleName() == role)
-    if found:
-        place = found.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-        print(place.x + place.height // 2, place.y + place.height // 2)
-)";
-
 class Preferences : public testing::Test {
  protected:
-    void SetUp() override { ASSERT_TRUE(session->waitForOutput("\n", std::chrono::seconds(20))); }
+    void SetUp() override { desk.startSessionBus(); }
     void open() const {
         desk.request("--preferences");
         EXPECT_TRUE(eventually([this] { return isOpen(); }));
@@ -31,13 +18,8 @@ class Preferences : public testing::Test {
     [[nodiscard]] bool isOpen() const { return !desk.windows("--name", "^Preferences").empty(); }
     /// Clicks the box or the button of a control.
     void click(const char* role, const char* name) const {
-        int x = 0;
-        int y = 0;
-        ASSERT_TRUE(eventually([&] {
-            const auto place = desk.run({"/usr/bin/python3", "-c", finder, role, name});
-            return !!(std::istringstream(place.standardOutput) >> x >> y);
-        })) << name;
-        desk.click(x, y);
+        const Desk::Place place = desk.control(role, name);
+        desk.click(place.x + place.height / 2, place.y + place.height / 2);
     }
     [[nodiscard]] bool hasSetting(const std::string& key, bool value) const {
         const PropertyValue stored = desk.preferences();
@@ -49,11 +31,6 @@ class Preferences : public testing::Test {
     }
 
     Desk desk;
-    // It starts the bus that controls are told on; the service for that lies where Debian's
-    // packages are, which the desk hides.
-    std::unique_ptr<BackgroundProcess> session = desk.begin(
-        {"env", "-u", "XDG_DATA_DIRS", "dbus-daemon", "--session", "--nofork", "--nopidfile",
-         "--print-address", "--address=unix:path=" + (desk.folder() / "session-bus").native()});
 };
 
 constexpr const char* check = "check box";

@@ -28,7 +28,7 @@ class Tray : public testing::Test {
         return found == all.end() ? Desk::Place{} : *found;
     }
     static constexpr int iconHeight = 60;
-    static constexpr int menuHeight = 300;
+    static constexpr int menuHeight = 400;
     [[nodiscard]] bool hasIcon() const { return find(1, iconHeight).width > 0; }
     void clickIcon(const char* button) const {
         const Desk::Place icon = find(1, iconHeight);
@@ -43,12 +43,12 @@ class Tray : public testing::Test {
     std::unique_ptr<BackgroundProcess> tray;
 };
 
-TEST_F(Tray, TogglesCorrectionByMenuAndShowsPanelByClick) {
+TEST_F(Tray, TogglesCorrectionByMenuAndMiddleClickAndPanelByClick) {
     const Ramp neutral = desk.ramp();
     startTray();
     desk.start({{"ShowStatusItem", 1}});
     ASSERT_TRUE(eventually([&] { return hasIcon(); }));
-    desk.correct();
+    const Ramp corrected = desk.correct();
     clickIcon("3");
     ASSERT_TRUE(eventually([&] { return find(iconHeight, menuHeight).width > 0; }));
     // "Apply correction" is the first entry.
@@ -56,10 +56,12 @@ TEST_F(Tray, TogglesCorrectionByMenuAndShowsPanelByClick) {
     desk.click(menu.x + 40, menu.y + 12);
     EXPECT_TRUE(eventually([&] { return desk.ramp() == neutral; }));
 
-    desk.click(212, 213);
-    ASSERT_TRUE(eventually([&] { return !desk.hasPanel(); })) << "The panel's own button.";
-    clickIcon("1");
-    EXPECT_TRUE(eventually([&] { return desk.hasPanel(); }));
+    for (const bool isShown : {false, true}) {
+        clickIcon("1");
+        EXPECT_TRUE(eventually([&] { return desk.hasPanel() == isShown; }));
+    }
+    clickIcon("2");
+    EXPECT_TRUE(eventually([&] { return desk.ramp() == corrected; }));
 }
 
 TEST_F(Tray, MayAppearLateWithTaskBarAsFallback) {

@@ -3,15 +3,11 @@
 
 #include <fcntl.h>
 #include <gamma-control-server.h>
-#include <sys/eventfd.h>
 #include <unistd.h>
 #include <wayland-server-core.h>
 #include <wayland-server-protocol.h>
 
 #include <array>
-#include <cstdlib>
-#include <future>
-#include <utility>
 
 namespace tonquil {
 
@@ -104,50 +100,14 @@ struct GammaCompositor::Requests {
     }
 };
 
-GammaCompositor::GammaCompositor()
-    : _display(wl_display_create()), _wakeUp(eventfd(0, EFD_CLOEXEC)) {
-    if (wl_display_add_socket(_display, socket().c_str()) != 0) {
-        std::abort();
-    }
-    wl_global_create(_display, &zwlr_gamma_control_manager_v1_interface, 1, this,
+GammaCompositor::GammaCompositor() {
+    wl_global_create(display(), &zwlr_gamma_control_manager_v1_interface, 1, this,
                      Requests::bindManager);
-    const auto wake = [](int descriptor, std::uint32_t, void* data) {
-        std::uint64_t count = 0;
-        if (read(descriptor, &count, sizeof count) == sizeof count) {
-            static_cast<GammaCompositor*>(data)->_work();
-        }
-        return 0;
-    };
-    _wakeUpSource = wl_event_loop_add_fd(wl_display_get_event_loop(_display), _wakeUp.get(),
-                                         WL_EVENT_READABLE, wake, this);
-    _thread = std::thread([this] { wl_display_run(_display); });
+    start();
 }
 
 GammaCompositor::~GammaCompositor() {
     die();
-}
-
-void GammaCompositor::call(const std::function<void()>& work) {
-    std::promise<void> done;
-    _work = [&] {
-        work();
-        wl_display_flush_clients(_display);
-        done.set_value();
-    };
-    const std::uint64_t one = 1;
-    if (write(_wakeUp.get(), &one, sizeof one) == sizeof one) {
-        done.get_future().wait();
-    }
-}
-
-void GammaCompositor::die() {
-    if (_thread.joinable()) {
-        call([this] { wl_display_terminate(_display); });
-        _thread.join();
-        wl_display_destroy_clients(_display);
-        wl_event_source_remove(_wakeUpSource);
-        wl_display_destroy(_display);
-    }
 }
 
 void GammaCompositor::plug(const std::string& name, int x, std::uint32_t size) {
@@ -158,7 +118,7 @@ void GammaCompositor::plug(const std::string& name, int x, std::uint32_t size) {
         output.size = size;
         output.reset();
         output.global =
-            wl_global_create(_display, &wl_output_interface, 4, &output, Requests::bindOutput);
+            wl_global_create(display(), &wl_output_interface, 4, &output, Requests::bindOutput);
     });
 }
 

@@ -130,6 +130,27 @@ TEST_F(SliderTest, FollowsPointerOverWholeRow) {
     EXPECT_FALSE(slider.isInteracting());
 }
 
+TEST_F(SliderTest, SnapsToNeutralValueAndDragsFinelyWithControl) {
+    // The neutral value is at 37.
+    press(slider, {80, middle});
+    for (const double x : {34.5, 35.5, 38.5, 40.0}) {
+        move(slider, {x, middle}, Qt::LeftButton);
+    }
+    release(slider, {40, middle});
+    EXPECT_THAT(sent, ElementsAre(0.73F, 0.275F, 0.3F, 0.3F, 0.33F));
+    sent.clear();
+    const auto send = [this](QEvent::Type type, double x, Qt::KeyboardModifiers modifiers) {
+        QMouseEvent event(type, {x, middle}, slider.mapToGlobal(QPointF(x, middle)), Qt::LeftButton,
+                          Qt::LeftButton, modifiers);
+        QApplication::sendEvent(&slider, &event);
+    };
+    send(QEvent::MouseButtonPress, 90, Qt::ControlModifier);
+    EXPECT_THAT(sent, ElementsAre()) << "It starts at the value there is.";
+    send(QEvent::MouseMove, 82, Qt::ControlModifier);
+    send(QEvent::MouseMove, 102, Qt::NoModifier);
+    EXPECT_THAT(sent, ElementsAre(0.31F, 0.51F)) << "Neither snaps nor jumps.";
+}
+
 TEST_F(SliderTest, ReportsGrabBeforeValueChanges) {
     std::vector<std::pair<bool, float>> told;
     slider.setInteractionChanged([&told](TQSlider& sender) {

@@ -86,7 +86,8 @@ TEST_F(Preferences, ShowTheTagOfAChoiceThatIsStoredAsABooleanOrANumber) {
 TEST_F(Preferences, FollowExternalChangesOnlyWhereBound) {
     PreferencesWindow& window = open();
     EXPECT_TRUE(effectiveAppearance(window).isDark);
-    for (const std::string key : {"DarkTheme", "ShowAtLaunch", "ShowTargetHints"}) {
+    for (const std::string key :
+         {"DarkTheme", "ShowAtLaunch", "ShowTargetHints", "KeepNightLight"}) {
         store.stored[key] = false;
     }
     store.stored["AllowRemote"] = true;
@@ -94,6 +95,8 @@ TEST_F(Preferences, FollowExternalChangesOnlyWhereBound) {
     EXPECT_FALSE(window.darkTheme->isChecked());
     EXPECT_FALSE(effectiveAppearance(window).isDark);
     EXPECT_FALSE(window.showTargetHints->isChecked());
+    EXPECT_FALSE(window.keepNightLight->isChecked());
+    EXPECT_FALSE(window.keepNightLight->isVisible()) << "nothing takes it away";
     EXPECT_TRUE(window.allowRemote->isChecked());
     EXPECT_TRUE(window.showAtLaunch->isChecked());
     EXPECT_THAT(store.written, IsEmpty());
@@ -139,6 +142,21 @@ TEST_F(Preferences, StartRecordingWhenMissingHotKeyIsEnabled) {
     EXPECT_FALSE(window.hotKeyField->isRecording());
     controller->showWindow();
     EXPECT_EQ(window.focusWidget(), &window);
+}
+
+TEST_F(Preferences, ShowKeysThatDesktopGivesAndRecordNone) {
+    PreferencesWindow& window = open();
+    controller->showHotKeyAssignment(
+        {.chooser = HotKeyChooser::Desktop, .triggers = {{HotKeyRole::ShowPanel, "Hyper+1"}}});
+    EXPECT_EQ(window.panelHotKeyTrigger->text(), QString());
+    window.panelHotKey->click();
+    EXPECT_EQ(window.panelHotKeyTrigger->text(), QStringLiteral("Hyper+1"));
+    EXPECT_FALSE(window.panelHotKeyField->isVisible() || window.panelHotKeyField->isRecording());
+    EXPECT_FALSE(window.hotKeysByHand->isVisible());
+    controller->showHotKeyAssignment({.chooser = HotKeyChooser::Nobody});
+    EXPECT_FALSE(window.panelHotKey->isVisible() || window.panelHotKeyTrigger->isVisible());
+    EXPECT_THAT(window.hotKeysByHand->text().toStdString(),
+                testing::HasSubstr("tonquil --show-panel"));
 }
 
 TEST_F(Preferences, ReadLowBitsOfHotKeyAndStoreZerosForRemovedOne) {

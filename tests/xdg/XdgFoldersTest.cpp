@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/xdg/XdgFolders.h"
+#include "platform/folders/XdgFolders.h"
 
 #include <gtest/gtest.h>
 #include <pwd.h>

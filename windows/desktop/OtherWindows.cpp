@@ -41,6 +41,13 @@ void OtherWindows::setAccessibilityOptions(const AccessibilityOptions& options) 
     }
 }
 
+void OtherWindows::showHotKeyAssignment(HotKeyAssignment assignment) {
+    _hotKeyAssignment = std::move(assignment);
+    if (_prefs) {
+        _prefs->showHotKeyAssignment(_hotKeyAssignment);
+    }
+}
+
 void OtherWindows::setAboutBackground(double red, double green, double blue) {
     KVAboutBoxBackground::setBackgroundColor(QColor::fromRgbF(
         static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue)));
@@ -53,6 +60,7 @@ void OtherWindows::makePreferences() {
                               [this] { _.suspendHotKeys(false); });
     _prefs->setClosed([this] { saveFrames(); });
     _prefs->window().setWindowIcon(programIcon());
+    _prefs->showHotKeyAssignment(_hotKeyAssignment);
     _prefs->showHotKeyProblem(HotKeyRole::ToggleCorrection, _toggleProblem);
     _prefs->showHotKeyProblem(HotKeyRole::ShowPanel, _panelProblem);
     _prefs->showRemoteProblem(_remoteProblem);
@@ -111,7 +119,7 @@ void OtherWindows::showRemoteProblem(const std::string& sentence) {
 }
 
 void OtherWindows::saveFrames() {
-    if (_prefs) {
+    if (_prefs && !areWindowsPlacedByDesktop()) {
         _.preferences.preferences.setValue(settingsKey::preferencesFrame,
                                            textFromWindowFrame(devicePixelsFrom(_prefs->frame())));
     }

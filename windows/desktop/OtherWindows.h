@@ -32,6 +32,9 @@ class OtherWindows final : public ProgramWindows {
 
     void setAccessibilityOptions(const AccessibilityOptions& options);
 
+    /// Shows in the preferences who gives the hot keys their keys, and which.
+    void showHotKeyAssignment(HotKeyAssignment assignment);
+
     void setAboutBackground(double red, double green, double blue) override;
     void openPreferences() override;
     [[nodiscard]] bool isPreferencesWindowLoaded() const override { return _prefs != nullptr; }
@@ -50,6 +53,7 @@ class OtherWindows final : public ProgramWindows {
 
     Surroundings _;
     AccessibilityOptions _options;
+    HotKeyAssignment _hotKeyAssignment;
     std::string _toggleProblem;
     std::string _panelProblem;
     std::string _remoteProblem;

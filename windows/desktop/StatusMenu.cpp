@@ -2,6 +2,7 @@
 #include "windows/desktop/StatusMenu.h"
 
 #include <QCoreApplication>
+#include <utility>
 
 #include "app/panel/PanelActions.h"
 
@@ -9,39 +10,28 @@ namespace tonquil {
 
 StatusMenu::StatusMenu()
     : _statusActiveItem(addAction(QCoreApplication::translate("Panel", "Apply correction"))),
-      _showPanel(addAction(QCoreApplication::translate("Panel", "Show panel"))),
-      _targets(addAction(QCoreApplication::translate("Panel", "Show targets"))) {
+      _showPanel(addAction(QCoreApplication::translate("Panel", "Show panel"))) {
     _statusActiveItem->setCheckable(true);
+    _common.addTargets();
     addSeparator();
-    _open = addAction(QCoreApplication::translate("Panel", "Open settings\u2026"));
-    _save = addAction(QCoreApplication::translate("Panel", "Save settings\u2026"));
+    _common.addOpen();
+    _common.addRecent();
+    _common.addSave();
+    _common.addPresets();
     addSeparator();
-    _remote = addAction(QCoreApplication::translate("Panel", "Remote configuration is on"));
-    _remote->setVisible(false);
-    _preferenceStatusItem = addAction(QCoreApplication::translate("Panel", "Preferences\u2026"));
+    _common.addPreferences();
     addSeparator();
-    _webSite = addAction(QCoreApplication::translate("Panel", "Tonquil on the web"));
-    _boardWebSite = addAction(QCoreApplication::translate("Panel", "About calibration targets"));
-    _about = addAction(QCoreApplication::translate("Panel", "About Tonquil"));
+    _common.addAbout();
     addSeparator();
-    _quit = addAction(QCoreApplication::translate("Panel", "Quit"));
+    _common.addQuit();
 }
 
 void StatusMenu::setActions(PanelActions& actions, std::function<void()> showPanel) {
-    const auto onTrigger = [this](QAction* action, auto call) {
-        QObject::connect(action, &QAction::triggered, this, std::move(call));
-    };
-    onTrigger(_statusActiveItem, [&actions](bool isOn) { actions.changeApplyCorrection(isOn); });
-    onTrigger(_showPanel, [showPanel = std::move(showPanel)] { showPanel(); });
-    onTrigger(_targets, [&actions] { actions.openTargetWindow(); });
-    onTrigger(_open, [&actions] { actions.loadGamma(); });
-    onTrigger(_save, [&actions] { actions.saveGamma(); });
-    onTrigger(_remote, [&actions] { actions.openPreferences(); });
-    onTrigger(_preferenceStatusItem, [&actions] { actions.openPreferences(); });
-    onTrigger(_webSite, [&actions] { actions.openWebSite(); });
-    onTrigger(_boardWebSite, [&actions] { actions.gammaBoardInfo(); });
-    onTrigger(_about, [&actions] { actions.openAboutBox(); });
-    onTrigger(_quit, [&actions] { actions.quit(); });
+    _common.setActions(actions);
+    QObject::connect(_statusActiveItem, &QAction::triggered, this,
+                     [&actions](bool isOn) { actions.changeApplyCorrection(isOn); });
+    QObject::connect(_showPanel, &QAction::triggered, this,
+                     [showPanel = std::move(showPanel)] { showPanel(); });
 }
 
 }  // namespace tonquil

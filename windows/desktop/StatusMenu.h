@@ -4,9 +4,9 @@
 #include <QMenu>
 #include <functional>
 
-namespace tonquil {
+#include "windows/panel/CommonEntries.h"
 
-class PanelActions;
+namespace tonquil {
 
 /// The status icon's menu, for using the program without its panel.
 class StatusMenu : public QMenu {
@@ -15,25 +15,15 @@ class StatusMenu : public QMenu {
 
     void setActions(PanelActions& actions, std::function<void()> showPanel);
     void showCorrection(bool isOn) { _statusActiveItem->setChecked(isOn); }
-    /// A build of the program may have no web sites.
     void showWebSites(bool hasSite, bool hasBoardSite) {
-        _webSite->setVisible(hasSite);
-        _boardWebSite->setVisible(hasBoardSite);
+        _common.showWebSites(hasSite, hasBoardSite);
     }
-    void showRemoteConfiguration(bool isOn) { _remote->setVisible(isOn); }
+    void showRemoteConfiguration(bool isOn) { _common.showRemoteConfiguration(isOn); }
 
  private:
+    CommonEntries _common{*this};
     QAction* _statusActiveItem;
     QAction* _showPanel;
-    QAction* _targets;
-    QAction* _open = nullptr;
-    QAction* _save = nullptr;
-    QAction* _remote = nullptr;
-    QAction* _preferenceStatusItem = nullptr;
-    QAction* _webSite = nullptr;
-    QAction* _boardWebSite = nullptr;
-    QAction* _about = nullptr;
-    QAction* _quit = nullptr;
 };
 
 }  // namespace tonquil

@@ -23,11 +23,13 @@ TrayPresence::TrayPresence(WindowSystem& windowSystem, Log log)
 }
 
 void TrayPresence::setActions(PanelActions& actions, std::function<void()> showPanel) {
-    _menu.setActions(actions, showPanel);
+    _menu.setActions(actions, std::move(showPanel));
     QObject::connect(&_item, &QSystemTrayIcon::activated, this,
-                     [showPanel = std::move(showPanel)](QSystemTrayIcon::ActivationReason reason) {
+                     [&actions](QSystemTrayIcon::ActivationReason reason) {
                          if (reason == QSystemTrayIcon::Trigger) {
-                             showPanel();
+                             actions.togglePanel();
+                         } else if (reason == QSystemTrayIcon::MiddleClick) {
+                             actions.toggleApplyCorrection();
                          }
                      });
 }

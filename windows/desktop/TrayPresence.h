@@ -21,7 +21,8 @@ class TrayPresence final : public QObject, public DesktopPresence {
     /// The window system must outlive this.
     TrayPresence(WindowSystem& windowSystem, Log log);
 
-    /// Connects the status icon and its menu.
+    /// Connects the status icon and its menu: a click shows and hides the panel, one with the
+    /// middle button switches the correction.
     void setActions(PanelActions& actions, std::function<void()> showPanel);
     void showWebSites(bool hasSite, bool hasBoardSite) {
         _menu.showWebSites(hasSite, hasBoardSite);

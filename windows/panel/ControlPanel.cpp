@@ -13,7 +13,7 @@
 #include <QToolTip>
 #include <QWindow>
 
-#include "ui/CurvePlot.h"
+#include "ui/EditablePlot.h"
 #include "ui/TQNumericTextField.h"
 #include "ui/TQSlider.h"
 #include "ui/TQVibrantMatrix.h"
@@ -21,7 +21,9 @@
 #include "ui/theme/Theme.h"
 #include "windows/panel/ChannelStrip.h"
 #include "windows/panel/DevicePixels.h"
+#include "windows/panel/FormChevron.h"
 #include "windows/panel/PanelIcons.h"
+#include "windows/panel/ProblemText.h"
 #include "windows/panel/TitleStrip.h"
 
 namespace tonquil {
@@ -40,7 +42,8 @@ constexpr int editEndMilliseconds = 800;
 ControlPanel::ControlPanel(WindowSystem& windowSystem)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       _windowSystem(windowSystem),
-      _contents(new PanelContents(_menu, this)) {
+      _contents(new PanelContents(_menu, this)),
+      _plotEditing(*_contents->plot, _contents->sliders) {
     setWindowTitle(QCoreApplication::translate("Panel", "Tonquil"));
     setWindowIcon(programIcon());
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -72,6 +75,8 @@ void ControlPanel::setActions(PanelActions& actions) {
     _actions = &actions;
     _menu.setActions(actions, *this);
     connectControls();
+    connectWays();
+    addKeys();
 }
 
 void ControlPanel::connectControls() {
@@ -96,8 +101,6 @@ void ControlPanel::connectControls() {
     contents.titleStrip->setCloseAction([this] { close(); });
     contents.titleStrip->setHasWindowManager([this] { return _windowSystem.hasWindowManager(); });
     contents.titleStrip->setRemoteAction([this] { _actions->openPreferences(); });
-    contents.titleStrip->setSubjectAction(
-        [this](bool isAll) { _actions->setAffectsAllScreens(isAll); });
     QObject::connect(contents.applyCorrectionBox, &QCheckBox::clicked, this,
                      [this](bool isOn) { _actions->changeApplyCorrection(isOn); });
     QObject::connect(contents.resetButton, &QToolButton::clicked, this,
@@ -168,6 +171,7 @@ void ControlPanel::_setControlsEnabled(bool enabled) {
     _contents->channelStrip->_setControlsEnabled(enabled);
     _contents->blendingModePopUp->setEnabled(enabled);
     _contents->resetButton->setEnabled(enabled);
+    _plotEditing.setEnabled(enabled);
     _menu.setEditingEnabled(enabled);
     if (_focusToReturn && _focusToReturn->isEnabled()) {
         if (focusWidget() == this) {
@@ -179,11 +183,12 @@ void ControlPanel::_setControlsEnabled(bool enabled) {
 
 void ControlPanel::showCorrection(bool isOn) {
     _contents->applyCorrectionBox->setChecked(isOn);
+    _contents->compareButton->setEnabled(isOn);
 }
 
 void ControlPanel::showSubject(const PanelSubject& subject) {
     _contents->titleStrip->showSubject(subject);
-    _contents->plot->setMessage(QCoreApplication::translate("Problem", subject.obstacle.c_str()));
+    _contents->plot->setMessage(obstacleText(subject));
 }
 
 void ControlPanel::updatePlot() {
@@ -257,6 +262,7 @@ void ControlPanel::pickTab(int tab) {
 void ControlPanel::showTab(int index) {
     _selectedTab = index;
     _contents->showTab(index);
+    _plotEditing.showTab(index);
 }
 
 void ControlPanel::focusMasterOfSelectedTab() {
@@ -279,7 +285,12 @@ void ControlPanel::makeFirstResponder(QWidget& control) {
 // Qt reports focus changes only while the window has the keyboard focus, which the panel mostly
 // does not.
 void ControlPanel::firstResponderChanged(QWidget* control) {
+    // The plot stands for the slider there was: where points lie together, for its channel's.
+    if (control == _contents->plot) {
+        return;
+    }
     _firstResponder = control;
+    _contents->plot->setPreferredChannel(_contents->sliders.channelForResponder(control));
     if (_observesFirstResponder) {
         _contents->channelStrip->updateTouchBarForResponder(control);
     }
@@ -319,6 +330,7 @@ void ControlPanel::_setAdvancedPanel(bool advanced) {
     const bool becomesCompact = _isAdvanced && !advanced;
     _isAdvanced = advanced;
     fitForm(true);
+    _contents->chevron->showForm(advanced);
     // In the compact form the channel strip itself focuses fields that are cut off.
     if (becomesCompact && focusWidget() != nullptr && isCutOff(*focusWidget())) {
         focusMasterOfSelectedTab();

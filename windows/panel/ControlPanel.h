@@ -16,6 +16,7 @@
 #include "ui/theme/Appearance.h"
 #include "windows/panel/PanelContents.h"
 #include "windows/panel/PanelMenu.h"
+#include "windows/panel/PlotEditing.h"
 
 namespace tonquil {
 
@@ -52,6 +53,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void updatePlot() override;
     void showUndo(bool canUndo, bool canRedo) override;
 
+    [[nodiscard]] bool isPlacedByDesktop() const override;
     [[nodiscard]] Rectangle frame() const override;
     void setFrameOrigin(const Point& origin) override;
     void makeKeyAndOrderFront() override;
@@ -59,6 +61,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     [[nodiscard]] bool _advancedPanel() const { return _isAdvanced; }
     void _setDarkTheme(bool dark) override;
     void showChannelStrip(bool isShown) override;
+    void showFirstHint(bool isShown) override;
     void showTab(int index) override;
     void orderOut() override { hide(); }
     [[nodiscard]] bool isOrderedIn() const override { return isVisible() && !isMinimized(); }
@@ -75,6 +78,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -84,10 +88,14 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void connectControls();
     void moved(PanelSlider slider);
     void heldSlider(PanelSlider slider, bool isHeld);
+    void connectWays();
+    void addKeys();
     void pickTab(int tab);
     void makeFirstResponder(QWidget& control);
     void firstResponderChanged(QWidget* control);
     [[nodiscard]] bool isCutOff(const QWidget& control) const;
+    void tellMoved();
+    void followScreen();
     void takeKeyboard();
     void setAcceptsKeyboard(bool accepts);
     void updateAcceptsKeyboard();
@@ -104,11 +112,15 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     PanelMenu _menu;
     /// As high as the advanced form; the compact form clips it.
     PanelContents* _contents;
+    PlotEditing _plotEditing;
     bool _isAdvanced = true;
     int _selectedTab = 1;
     std::int32_t _blendingMode = KVBlendingModeBaseTable;
     bool _observesFirstResponder = false;
     QPointer<QWidget> _firstResponder;
+    /// The window and the screen whose changes are followed where the desktop places windows.
+    QPointer<QWindow> _followedWindow;
+    QMetaObject::Connection _screenConnection;
     bool _isFieldUnderMouse = false;
     /// The control that had the focus before the controls were disabled; the panel itself has it
     /// meanwhile.

@@ -18,11 +18,21 @@
 
 namespace tonquil {
 
+bool ControlPanel::isPlacedByDesktop() const {
+    return areWindowsPlacedByDesktop();
+}
+
 Rectangle ControlPanel::frame() const {
+    if (isPlacedByDesktop()) {
+        return devicePixelsFrom(QRect(screen()->geometry().topLeft(), size()));
+    }
     return devicePixelsFrom(geometry());
 }
 
 void ControlPanel::setFrameOrigin(const Point& origin) {
+    if (isPlacedByDesktop()) {
+        return;
+    }
     QPoint place = pointsFrom(origin);
     // Qt treats exactly (0, 0) as "no position requested".
     if (place.isNull()) {
@@ -119,24 +129,40 @@ bool ControlPanel::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void ControlPanel::moveEvent(QMoveEvent* event) {
-    QWidget::moveEvent(event);
+void ControlPanel::tellMoved() {
     if (_actions != nullptr) {
         _actions->panelMoved();
     }
+}
+
+void ControlPanel::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    tellMoved();
 }
 
 void ControlPanel::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     // Most of the panel may be on another display now.
-    if (_actions != nullptr) {
-        _actions->panelMoved();
-    }
+    tellMoved();
 }
 
 void ControlPanel::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    if (isPlacedByDesktop() && _followedWindow != windowHandle()) {
+        _followedWindow = windowHandle();
+        QObject::connect(_followedWindow, &QWindow::screenChanged, this,
+                         [this] { followScreen(); });
+        followScreen();
+    }
     updatePlot();
+}
+
+// The displays may be rearranged before the toolkit hears of it.
+void ControlPanel::followScreen() {
+    QObject::disconnect(_screenConnection);
+    _screenConnection =
+        QObject::connect(screen(), &QScreen::geometryChanged, this, [this] { tellMoved(); });
+    tellMoved();
 }
 
 void ControlPanel::dragEnterEvent(QDragEnterEvent* event) {

@@ -16,9 +16,13 @@ const QScreen& screenOf(const QRect& points) {
     return screen != nullptr ? *screen : *QGuiApplication::primaryScreen();
 }
 
+double scaleOf(const QScreen& screen) {
+    return areWindowsPlacedByDesktop() ? 1 : screen.devicePixelRatio();
+}
+
 Rectangle pixelsOf(const QScreen& screen) {
     const QRect points = screen.geometry();
-    const double scale = screen.devicePixelRatio();
+    const double scale = scaleOf(screen);
     return {static_cast<double>(points.x()), static_cast<double>(points.y()),
             points.width() * scale, points.height() * scale};
 }
@@ -34,10 +38,14 @@ const QScreen& screenAt(const Point& devicePixels) {
 
 }  // namespace
 
+bool areWindowsPlacedByDesktop() {
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 Rectangle devicePixelsFrom(const QRect& points) {
     const QScreen& screen = screenOf(points);
     const QPoint origin = screen.geometry().topLeft();
-    const double scale = screen.devicePixelRatio();
+    const double scale = scaleOf(screen);
     return {origin.x() + (points.x() - origin.x()) * scale,
             origin.y() + (points.y() - origin.y()) * scale, points.width() * scale,
             points.height() * scale};
@@ -46,14 +54,14 @@ Rectangle devicePixelsFrom(const QRect& points) {
 QPoint pointsFrom(const Point& devicePixels) {
     const QScreen& screen = screenAt(devicePixels);
     const QPoint origin = screen.geometry().topLeft();
-    const double scale = screen.devicePixelRatio();
+    const double scale = scaleOf(screen);
     return {qRound(origin.x() + (devicePixels.x - origin.x()) / scale),
             qRound(origin.y() + (devicePixels.y - origin.y()) / scale)};
 }
 
 QRect pointsFrom(const Rectangle& devicePixels) {
     const Point corner{devicePixels.x, devicePixels.y};
-    const double scale = screenAt(corner).devicePixelRatio();
+    const double scale = scaleOf(screenAt(corner));
     return {pointsFrom(corner),
             QSize(qRound(devicePixels.width / scale), qRound(devicePixels.height / scale))};
 }

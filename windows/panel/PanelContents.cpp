@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "model/KVGammaCurve.h"
-#include "ui/CurvePlot.h"
+#include "ui/EditablePlot.h"
 #include "ui/TQSlider.h"
 #include "ui/TQVibrantLabel.h"
 #include "ui/TQVibrantMatrix.h"
@@ -21,6 +21,7 @@
 #include "ui/theme/Theme.h"
 #include "windows/panel/ChannelStrip.h"
 #include "windows/panel/FlatPopUp.h"
+#include "windows/panel/FormChevron.h"
 #include "windows/panel/PanelIcons.h"
 #include "windows/panel/TitleStrip.h"
 
@@ -57,10 +58,13 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
       gammaTabs(makeTabs(sliders, {Channel::Master})),
       gammaTabColours(makeTabs(sliders, {Channel::Red, Channel::Green, Channel::Blue})),
       applyCorrectionBox(new QCheckBox(QCoreApplication::translate("Panel", "Apply correction"))),
+      compareButton(new QToolButton),
       resetButton(new QToolButton),
       colorTargetButton(new QToolButton),
+      hint(makeHint()),
       channelStrip(new ChannelStrip(sliders)),
-      plot(new CurvePlot),
+      plot(new EditablePlot),
+      chevron(new FormChevron(this)),
       blendingModePopUp(new FlatPopUp),
       _compact(new QWidget),
       _advanced(new QWidget) {
@@ -77,6 +81,7 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
     compact->addWidget(gammaTabSelector);
     compact->addWidget(gammaTabs);
     compact->addWidget(makeApplyRow());
+    compact->addWidget(hint);
     compact->addWidget(channelStrip);
     channelStrip->hide();
 
@@ -88,6 +93,7 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
     advanced->addWidget(plot);
     advanced->addWidget(makeBlendingRow());
 
+    setTabOrder(colorTargetButton, chevron);
     setFixedWidth(std::max(panelWidth, _compact->minimumSizeHint().width()));
     nameControls();
     updateIcons();
@@ -108,6 +114,12 @@ QWidget* PanelContents::makeApplyRow() {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(spacing);
     row->setFixedHeight(std::max(24, fontMetrics().height() + 4));
+    const QString compare =
+        QCoreApplication::translate("Panel", "Hold to compare with the uncorrected display");
+    compareButton->setAutoRaise(true);
+    compareButton->setFixedSize(24, 24);
+    compareButton->setToolTip(compare);
+    compareButton->setAccessibleName(compare);
     const QString reset = QCoreApplication::translate("Panel", "Reset to calibration");
     resetButton->setAutoRaise(true);
     resetButton->setFixedSize(24, 24);
@@ -124,9 +136,20 @@ QWidget* PanelContents::makeApplyRow() {
     colorTargetButton->setAccessibleName(targets);
     colorTargetButton->setAccessibleDescription(QCoreApplication::translate(
         "Panel", "Opens the window of test patterns to look at while the sliders move."));
+    layout->addWidget(compareButton);
     layout->addWidget(resetButton);
     layout->addWidget(colorTargetButton);
     return row;
+}
+
+QLabel* PanelContents::makeHint() {
+    auto* label = new TQVibrantLabel(QCoreApplication::translate(
+        "Panel",
+        "Corrects this display. Show targets and move the slider until stripes look plain."));
+    label->setWordWrap(true);
+    label->setFixedHeight(label->heightForWidth(panelWidth - 2 * margin));
+    label->hide();
+    return label;
 }
 
 QWidget* PanelContents::makeBlendingRow() {
@@ -164,6 +187,8 @@ void PanelContents::fit() {
     layout()->invalidate();
     resize(width(), advancedHeight());
     layout()->activate();
+    chevron->move((width() - chevron->width()) / 2, compactHeight() - chevron->height());
+    chevron->raise();
 }
 
 // Qt runs nested layouts only when the window is shown, and those of a page only when the page is
@@ -191,6 +216,7 @@ void PanelContents::showTab(int tab) const {
 }
 
 void PanelContents::updateIcons() {
+    compareButton->setIcon(panelIcon(PanelIcon::Compare, effectiveAppearance(*this)));
     resetButton->setIcon(panelIcon(PanelIcon::Reset, effectiveAppearance(*this)));
     colorTargetButton->setIcon(panelIcon(PanelIcon::Targets, effectiveAppearance(*this)));
 }

@@ -7,6 +7,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QMenu;
 class QStackedWidget;
 class QToolButton;
@@ -14,7 +15,8 @@ class QToolButton;
 namespace tonquil {
 
 class ChannelStrip;
-class CurvePlot;
+class EditablePlot;
+class FormChevron;
 class TitleStrip;
 class TQVibrantMatrix;
 
@@ -41,10 +43,13 @@ class PanelContents : public QWidget {
     QStackedWidget* gammaTabs;
     QStackedWidget* gammaTabColours;
     QCheckBox* applyCorrectionBox;
+    QToolButton* compareButton;
     QToolButton* resetButton;
     QToolButton* colorTargetButton;
+    QLabel* hint;
     ChannelStrip* channelStrip;
-    CurvePlot* plot;
+    EditablePlot* plot;
+    FormChevron* chevron;
     QComboBox* blendingModePopUp;
 
  protected:
@@ -54,6 +59,7 @@ class PanelContents : public QWidget {
  private:
     [[nodiscard]] QWidget* makeApplyRow();
     [[nodiscard]] QWidget* makeBlendingRow();
+    [[nodiscard]] QLabel* makeHint();
     void nameControls() const;
     void updateIcons();
 

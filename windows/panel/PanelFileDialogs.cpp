@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 
@@ -12,15 +13,31 @@ namespace tonquil {
 
 namespace {
 
-constexpr const char* singleSuffix = "tonquil";
-constexpr const char* multiSuffix = "tonquil-screens";
-
-QString singleFilter() {
-    return QCoreApplication::translate("Files", "Settings of one display (*.tonquil)");
+/// The formats in the order of `SettingsFormat`, as the dialog names them.
+QStringList formatFilters() {
+    return {QCoreApplication::translate("Files", "Settings of one display (*.tonquil)"),
+            QCoreApplication::translate("Files", "Settings of all displays (*.tonquil-screens)"),
+            QCoreApplication::translate("Files", "ICC profile of one display (*.icc)"),
+            QCoreApplication::translate("Files", "Calibration of one display (*.cal)")};
 }
 
-QString multiFilter() {
-    return QCoreApplication::translate("Files", "Settings of all displays (*.tonquil-screens)");
+SettingsFormat formatOf(const QString& filter) {
+    const auto index = formatFilters().indexOf(filter);
+    return index < 0 ? SettingsFormat::SingleDisplay : static_cast<SettingsFormat>(index);
+}
+
+const char* suffixOf(SettingsFormat format) {
+    switch (format) {
+        case SettingsFormat::MultiDisplay:
+            return "tonquil-screens";
+        case SettingsFormat::Icc:
+            return "icc";
+        case SettingsFormat::Cal:
+            return "cal";
+        case SettingsFormat::SingleDisplay:
+            break;
+    }
+    return "tonquil";
 }
 
 std::filesystem::path pathFrom(const QString& text) {
@@ -29,8 +46,7 @@ std::filesystem::path pathFrom(const QString& text) {
 
 /// The format decides which kind of file the dialog accepts.
 void savePanelFormatDidChange(QFileDialog& dialog, const QString& filter) {
-    dialog.setDefaultSuffix(
-        QString::fromLatin1(filter == multiFilter() ? multiSuffix : singleSuffix));
+    dialog.setDefaultSuffix(QString::fromLatin1(suffixOf(formatOf(filter))));
 }
 
 }  // namespace
@@ -52,7 +68,9 @@ void PanelFileDialogs::chooseFileToOpen(Chosen chosen) {
     auto* dialog = new QFileDialog(&_window, QCoreApplication::translate("Files", "Open settings"));
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilters({QCoreApplication::translate(
-                                "Files", "Settings and tables (*.tonquil *.tonquil-screens *.amp)"),
+                                "Files",
+                                "Settings, profiles and tables (*.tonquil *.tonquil-screens *.icc "
+                                "*.icm *.cal *.amp)"),
                             QCoreApplication::translate("Files", "All files (*)")});
     QObject::connect(dialog, &QFileDialog::fileSelected, dialog,
                      [chosen = std::move(chosen)](const QString& file) { chosen(pathFrom(file)); });
@@ -62,20 +80,42 @@ void PanelFileDialogs::chooseFileToOpen(Chosen chosen) {
 void PanelFileDialogs::chooseFileToSave(SettingsFormat format, ChosenWithFormat chosen) {
     auto* dialog = new QFileDialog(&_window, QCoreApplication::translate("Files", "Save settings"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilters({singleFilter(), multiFilter()});
-    dialog->selectNameFilter(format == SettingsFormat::MultiDisplay ? multiFilter()
-                                                                    : singleFilter());
+    dialog->setNameFilters(formatFilters());
+    dialog->selectNameFilter(formatFilters().at(static_cast<qsizetype>(format)));
     savePanelFormatDidChange(*dialog, dialog->selectedNameFilter());
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {
         savePanelFormatDidChange(*dialog, filter);
     });
     QObject::connect(dialog, &QFileDialog::fileSelected, dialog,
                      [dialog, chosen = std::move(chosen)](const QString& file) {
-                         chosen(pathFrom(file), dialog->selectedNameFilter() == multiFilter()
-                                                    ? SettingsFormat::MultiDisplay
-                                                    : SettingsFormat::SingleDisplay);
+                         chosen(pathFrom(file), formatOf(dialog->selectedNameFilter()));
                      });
     present(dialog);
+}
+
+void PanelFileDialogs::choosePresetName(const std::vector<std::string>& names, NameChosen chosen) {
+    QStringList present;
+    for (const std::string& name : names) {
+        present.append(QString::fromStdString(name));
+    }
+    auto* dialog = new QInputDialog(&_window);
+    dialog->setWindowTitle(QCoreApplication::translate("Files", "Save as preset"));
+    dialog->setLabelText(QCoreApplication::translate("Files", "Name of the preset:"));
+    dialog->setComboBoxEditable(true);
+    dialog->setComboBoxItems(present);
+    dialog->setTextValue({});
+    const auto showWhatHappens = [dialog, present](const QString& name) {
+        dialog->setOkButtonText(present.contains(name.trimmed())
+                                    ? QCoreApplication::translate("Files", "Replace")
+                                    : QCoreApplication::translate("Files", "Save"));
+    };
+    showWhatHappens({});
+    QObject::connect(dialog, &QInputDialog::textValueChanged, dialog, showWhatHappens);
+    QObject::connect(dialog, &QInputDialog::textValueSelected, dialog,
+                     [chosen = std::move(chosen)](const QString& name) {
+                         chosen(name.trimmed().toStdString());
+                     });
+    this->present(dialog);
 }
 
 // An alert may follow a dialog that is still closing. Files may be opened by the hundred, and all

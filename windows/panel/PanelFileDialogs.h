@@ -19,6 +19,7 @@ class PanelFileDialogs final : public FileDialogs {
 
     void chooseFileToOpen(Chosen chosen) override;
     void chooseFileToSave(SettingsFormat format, ChosenWithFormat chosen) override;
+    void choosePresetName(const std::vector<std::string>& names, NameChosen chosen) override;
     void alert(const std::string& title, const std::string& message,
                const std::vector<std::string>& arguments) override;
 

@@ -93,6 +93,16 @@ void drawUnsaved(QPainter& painter) {
     painter.drawEllipse(QPointF(8, 11.3), 0.9, 0.9);
 }
 
+/// A circle of two halves: before and after.
+void drawCompare(QPainter& painter) {
+    const QRectF circle(2.8, 2.8, 10.4, 10.4);
+    constexpr int degree = 16;
+    painter.drawEllipse(circle);
+    painter.setBrush(painter.pen().color());
+    painter.setPen(Qt::NoPen);
+    painter.drawPie(circle, -90 * degree, 180 * degree);
+}
+
 /// The curve from black to white in the point icons; below 8 it is dark.
 QPointF curvePoint(double input) {
     return {2 + input * 12, 14 - input * input * 12};
@@ -129,6 +139,9 @@ QIcon panelIcon(PanelIcon icon, const Appearance& appearance) {
                 break;
             case PanelIcon::Remote:
                 drawRemote(painter);
+                break;
+            case PanelIcon::Compare:
+                drawCompare(painter);
                 break;
             case PanelIcon::Unsaved:
                 painter.setPen(penOf(themeFor(appearance).secondaryText, 1.4));

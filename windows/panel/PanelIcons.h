@@ -11,7 +11,7 @@ class QPainter;
 namespace tonquil {
 
 /// The icons on the panel's buttons, drawn for an appearance.
-enum class PanelIcon { Close, Menu, Reset, Targets, Remote, Unsaved };
+enum class PanelIcon { Close, Menu, Reset, Targets, Remote, Unsaved, Compare };
 [[nodiscard]] QIcon panelIcon(PanelIcon icon, const Appearance& appearance);
 
 /// The channel strip's icons for a tab (0 black, 2 white, anything else middle), in the order

@@ -2,7 +2,6 @@
 #include "windows/panel/PanelMenu.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include "app/panel/PanelActions.h"
 
@@ -11,18 +10,22 @@ namespace tonquil {
 PanelMenu::PanelMenu()
     : _undo(addAction(QCoreApplication::translate("Panel", "Undo"))),
       _redo(addAction(QCoreApplication::translate("Panel", "Redo"))) {
-    _undo->setShortcut(QKeySequence::Undo);
-    _redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    const auto withShortcut = [this](QAction* action, const QKeySequence& keys) {
+        action->setShortcut(keys);
+        _shortcuts.append(action);
+    };
+    withShortcut(_undo, QKeySequence::Undo);
+    withShortcut(_redo, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
     addSeparator();
-    _open = addAction(QCoreApplication::translate("Panel", "Open settings\u2026"));
-    _open->setShortcut(QKeySequence::Open);
-    _recent = addMenu(QCoreApplication::translate("Panel", "Open recent"));
-    _save = addAction(QCoreApplication::translate("Panel", "Save settings\u2026"));
-    _save->setShortcut(QKeySequence::Save);
+    withShortcut(_common.addOpen(), QKeySequence::Open);
+    _common.addRecent();
+    withShortcut(_common.addSave(), QKeySequence::Save);
+    _common.addPresets();
     addSeparator();
+    _makeEditable = addAction(QCoreApplication::translate("Panel", "Make editable"));
     _reset = addAction(QCoreApplication::translate("Panel", "Reset to calibration"));
     addSeparator();
-    _targets = addAction(QCoreApplication::translate("Panel", "Show targets"));
+    _common.addTargets();
     _view = addMenu(QCoreApplication::translate("Panel", "View"));
     _advanced = _view->addAction(QCoreApplication::translate("Panel", "Advanced panel"));
     _dark = _view->addAction(QCoreApplication::translate("Panel", "Dark theme"));
@@ -31,28 +34,22 @@ PanelMenu::PanelMenu()
         action->setCheckable(true);
     }
     addSeparator();
-    _remote = addAction(QCoreApplication::translate("Panel", "Remote configuration is on"));
-    _remote->setVisible(false);
-    _preferences = addAction(QCoreApplication::translate("Panel", "Preferences\u2026"));
-    _preferences->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    withShortcut(_common.addPreferences(), QKeySequence(Qt::CTRL | Qt::Key_Comma));
     addSeparator();
-    _webSite = addAction(QCoreApplication::translate("Panel", "Tonquil on the web"));
-    _boardWebSite = addAction(QCoreApplication::translate("Panel", "About calibration targets"));
-    _about = addAction(QCoreApplication::translate("Panel", "About Tonquil"));
+    _common.addAbout();
     addSeparator();
-    _quit = addAction(QCoreApplication::translate("Panel", "Quit"));
-    _quit->setShortcut(QKeySequence::Quit);
+    withShortcut(_common.addQuit(), QKeySequence::Quit);
     showUndo(false, false);
 }
 
 void PanelMenu::setActions(PanelActions& actions, QWidget& panel) {
+    _common.setActions(actions);
     QObject::connect(_undo, &QAction::triggered, this, [&actions] { actions.undo(); });
     QObject::connect(_redo, &QAction::triggered, this, [&actions] { actions.redo(); });
-    QObject::connect(_open, &QAction::triggered, this, [&actions] { actions.loadGamma(); });
-    QObject::connect(_save, &QAction::triggered, this, [&actions] { actions.saveGamma(); });
-    QObject::connect(this, &QMenu::aboutToShow, this, [this, &actions] { fillRecent(actions); });
-    QObject::connect(_targets, &QAction::triggered, this,
-                     [&actions] { actions.openTargetWindow(); });
+    QObject::connect(this, &QMenu::aboutToShow, this,
+                     [this, &actions] { _makeEditable->setEnabled(actions.canMakeEditable()); });
+    QObject::connect(_makeEditable, &QAction::triggered, this,
+                     [&actions] { actions.makeEditable(); });
     QObject::connect(_reset, &QAction::triggered, this, [&actions] { actions.resetGamma(); });
     QObject::connect(_advanced, &QAction::triggered, this,
                      [&actions](bool isOn) { actions.setAdvancedPanel(isOn); });
@@ -60,29 +57,7 @@ void PanelMenu::setActions(PanelActions& actions, QWidget& panel) {
                      [&actions](bool isOn) { actions.setDarkTheme(isOn); });
     QObject::connect(_channelStrip, &QAction::triggered, this,
                      [&actions](bool isOn) { actions.setChannelStrip(isOn); });
-    for (QAction* action : {_remote, _preferences}) {
-        QObject::connect(action, &QAction::triggered, this,
-                         [&actions] { actions.openPreferences(); });
-    }
-    QObject::connect(_webSite, &QAction::triggered, this, [&actions] { actions.openWebSite(); });
-    QObject::connect(_boardWebSite, &QAction::triggered, this,
-                     [&actions] { actions.gammaBoardInfo(); });
-    QObject::connect(_about, &QAction::triggered, this, [&actions] { actions.openAboutBox(); });
-    QObject::connect(_quit, &QAction::triggered, this, [&actions] { actions.quit(); });
-    panel.addActions({_undo, _redo, _open, _save, _preferences, _quit});
-}
-
-void PanelMenu::fillRecent(PanelActions& actions) {
-    _recent->clear();
-    for (const std::filesystem::path& file : actions.recentFiles()) {
-        // An unescaped ampersand would underline the next character.
-        QString name = QFile::decodeName(file.filename().c_str());
-        QAction* action = _recent->addAction(name.replace(QLatin1Char('&'), QStringLiteral("&&")));
-        action->setToolTip(QFile::decodeName(file.c_str()));
-        QObject::connect(action, &QAction::triggered, this,
-                         [&actions, file] { actions.openFile(file); });
-    }
-    _recent->setEnabled(!_recent->isEmpty());
+    panel.addActions(_shortcuts);
 }
 
 void PanelMenu::showUndo(bool canUndo, bool canRedo) {

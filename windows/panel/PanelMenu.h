@@ -3,9 +3,9 @@
 
 #include <QMenu>
 
-namespace tonquil {
+#include "windows/panel/CommonEntries.h"
 
-class PanelActions;
+namespace tonquil {
 
 /// The panel's menu. Its shortcuts work wherever the focus is in the panel.
 class PanelMenu : public QMenu {
@@ -13,36 +13,26 @@ class PanelMenu : public QMenu {
     PanelMenu();
 
     void setActions(PanelActions& actions, QWidget& panel);
-    /// Lists the recently used files.
-    void fillRecent(PanelActions& actions);
     void showUndo(bool canUndo, bool canRedo);
     void showForm(bool isAdvanced, bool isDark, bool hasChannelStrip);
-    /// A build of the program may have no web sites.
     void showWebSites(bool hasSite, bool hasBoardSite) {
-        _webSite->setVisible(hasSite);
-        _boardWebSite->setVisible(hasBoardSite);
+        _common.showWebSites(hasSite, hasBoardSite);
     }
-    void showRemoteConfiguration(bool isOn) { _remote->setVisible(isOn); }
+    void showRemoteConfiguration(bool isOn) { _common.showRemoteConfiguration(isOn); }
     void setEditingEnabled(bool enabled) { _reset->setEnabled(enabled); }
 
  private:
+    CommonEntries _common{*this};
     QAction* _undo;
     QAction* _redo;
-    QAction* _open = nullptr;
-    QMenu* _recent = nullptr;
-    QAction* _save = nullptr;
-    QAction* _targets = nullptr;
+    QAction* _makeEditable = nullptr;
     QAction* _reset = nullptr;
     QMenu* _view = nullptr;
     QAction* _advanced = nullptr;
     QAction* _dark = nullptr;
     QAction* _channelStrip = nullptr;
-    QAction* _remote = nullptr;
-    QAction* _preferences = nullptr;
-    QAction* _webSite = nullptr;
-    QAction* _boardWebSite = nullptr;
-    QAction* _about = nullptr;
-    QAction* _quit = nullptr;
+    /// Those that have shortcuts.
+    QList<QAction*> _shortcuts;
 };
 
 }  // namespace tonquil

@@ -56,10 +56,29 @@ PanelSlider sliderAt(std::size_t index) {
     return static_cast<PanelSlider>(index);
 }
 
+// Masters are never linked.
+QStringList hintsFor(Channel channel) {
+    QStringList hints{
+        QCoreApplication::translate("Panel", "Drag it, or turn the wheel over it or its number."),
+        QCoreApplication::translate("Panel", "With Ctrl a drag is four times as fine.")};
+    if (channel != Channel::Master) {
+        hints.append(QCoreApplication::translate("Panel", "With Shift the other colours follow."));
+    }
+    hints.append(QCoreApplication::translate("Panel", "A double-click makes it neutral."));
+    return hints;
+}
+
 }  // namespace
 
 SliderPlace placeOf(PanelSlider slider) {
     return places.at(static_cast<std::size_t>(slider));
+}
+
+PanelSlider panelSliderAt(int tab, Channel channel) {
+    const auto* found = std::find_if(places.begin(), places.end(), [=](const SliderPlace& place) {
+        return place.tab == tab && place.channel == channel;
+    });
+    return sliderAt(static_cast<std::size_t>(found - places.begin()));
 }
 
 QString tabTitle(int tab) {
@@ -123,12 +142,13 @@ PanelSliders::Row PanelSliders::makeRow(PanelSlider slider) {
     row.label->setBuddy(row.field);
     const QString name =
         QCoreApplication::translate("Panel", "%1, %2 point").arg(title, tabTitle(place.tab));
-    const QString description = QCoreApplication::translate(
-        "Panel", "Double-click sets the neutral value. With Shift the other colours follow.");
+    const QStringList hints = hintsFor(place.channel);
     for (QWidget* control : {static_cast<QWidget*>(row.slider), static_cast<QWidget*>(row.field)}) {
         control->setAccessibleName(name);
-        control->setAccessibleDescription(description);
+        control->setAccessibleDescription(hints.join(u' '));
     }
+    row.label->setToolTip(hints.join(u'\n'));
+    row.slider->setToolTip(row.label->toolTip());
 
     auto* layout = new QHBoxLayout(row.widget);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -144,10 +164,7 @@ const PanelSliders::Row& PanelSliders::row(PanelSlider slider) const {
 }
 
 const PanelSliders::Row& PanelSliders::row(int tab, Channel channel) const {
-    const auto* found = std::find_if(places.begin(), places.end(), [=](const SliderPlace& place) {
-        return place.tab == tab && place.channel == channel;
-    });
-    return _rows.at(static_cast<std::size_t>(found - places.begin()));
+    return row(panelSliderAt(tab, channel));
 }
 
 Channel PanelSliders::channelForResponder(const QWidget* responder) const {

@@ -73,6 +73,8 @@ struct SliderPlace {
     Channel channel;
 };
 [[nodiscard]] SliderPlace placeOf(PanelSlider slider);
+/// The slider of a tab (0 black, 1 middle, 2 white) and a channel other than `None`.
+[[nodiscard]] PanelSlider panelSliderAt(int tab, Channel channel);
 
 /// The titles shown to the user.
 [[nodiscard]] QString tabTitle(int tab);

@@ -22,4 +22,13 @@ QString translatedProblem(const std::string& key, const std::vector<std::string>
     return QString::fromStdString(formattedText(format.toStdString(), translated));
 }
 
+QString obstacleText(const PanelSubject& subject) {
+    QString text = QCoreApplication::translate("Problem", subject.obstacle.c_str());
+    if (!subject.remedy.empty()) {
+        text +=
+            QStringLiteral("\n\n") + QCoreApplication::translate("Problem", subject.remedy.c_str());
+    }
+    return text;
+}
+
 }  // namespace tonquil

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "windows/panel/TitleStrip.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -16,6 +15,7 @@
 #include "ui/theme/Drawing.h"
 #include "ui/theme/Theme.h"
 #include "windows/panel/PanelIcons.h"
+#include "windows/panel/ProblemText.h"
 
 namespace tonquil {
 
@@ -54,14 +54,15 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
       _remoteButton(makeButton(
           QCoreApplication::translate("Panel", "Companions on the network may change the displays"),
           this)),
-      _menuButton(makeButton(QCoreApplication::translate("Panel", "Menu"), this)) {
+      _menuButton(makeButton(QCoreApplication::translate("Panel", "Menu"), this)),
+      _subjectMenu(new DisplayMenu(_subjectButton)) {
     setMinimumHeight(std::max(stripHeight, fontMetrics().height() + 8));
     _subjectButton->setAutoRaise(true);
     _subjectButton->setFocusPolicy(Qt::TabFocus);
     _subjectButton->installEventFilter(this);
     // A button with a menu of its own would get the style's arrow.
     openBelow(*_menuButton, menu);
-    buildSubjectMenu();
+    openBelow(*_subjectButton, *_subjectMenu);
     QObject::connect(_closeButton, &QToolButton::clicked, this, [this] {
         if (_close) {
             _close();
@@ -90,32 +91,15 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     updateIcons();
 }
 
-void TitleStrip::buildSubjectMenu() {
-    auto* menu = new QMenu(_subjectButton);
-    auto* group = new QActionGroup(menu);
-    _thisDisplay = menu->addAction(QCoreApplication::translate("Panel", "This display"));
-    _allDisplays = menu->addAction(QCoreApplication::translate("Panel", "All displays"));
-    for (QAction* action : {_thisDisplay, _allDisplays}) {
-        action->setCheckable(true);
-        group->addAction(action);
-    }
-    QObject::connect(group, &QActionGroup::triggered, this, [this](const QAction* chosen) {
-        if (_chooseSubject) {
-            _chooseSubject(chosen == _allDisplays);
-        }
-    });
-    _subjectMenu = menu;
-    openBelow(*_subjectButton, *menu);
-}
-
 void TitleStrip::showSubject(const PanelSubject& subject) {
     _title = QCoreApplication::translate("PanelSubject", subject.title.c_str());
-    (subject.isAllDisplays ? _allDisplays : _thisDisplay)->setChecked(true);
+    _subjectMenu->setAllDisplays(subject.isAllDisplays);
     // The compact form has no other place to show the reason.
     const QString hint =
-        subject.obstacle.empty()
-            ? QCoreApplication::translate("Panel", "Choose which displays are edited")
-            : QCoreApplication::translate("Problem", subject.obstacle.c_str());
+        !subject.obstacle.empty() ? obstacleText(subject)
+        : subject.isAllDisplays
+            ? QCoreApplication::translate("Panel", "An edit replaces the curve of each display")
+            : QCoreApplication::translate("Panel", "Choose which displays are edited");
     _subjectButton->setToolTip(hint);
     _subjectButton->setAccessibleDescription(hint);
     updateTitle();
@@ -163,18 +147,25 @@ void TitleStrip::paintEvent(QPaintEvent* /*event*/) {
     drawHairline(painter, 0, height() - 1, width(), Qt::Horizontal, themeOf(*this).hairline);
 }
 
+// Moving begins with the drag, not with the press: the window manager would take the rest of a
+// double-click for itself.
 void TitleStrip::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) {
-        beginMove(event->globalPosition().toPoint());
-    }
+    _isDragged = false;
+    _pressedAt = event->globalPosition().toPoint();
 }
 
 void TitleStrip::mouseMoveEvent(QMouseEvent* event) {
-    continueMove(event->globalPosition().toPoint());
+    drag(*event);
 }
 
 void TitleStrip::mouseReleaseEvent(QMouseEvent* /*event*/) {
     _hold.reset();
+}
+
+void TitleStrip::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && _switchForm) {
+        _switchForm();
+    }
 }
 
 // The window manager moves the window best. After it has quit, Qt still asks it and reports
@@ -202,7 +193,7 @@ bool TitleStrip::eventFilter(QObject* watched, QEvent* event) {
         _isDragged = false;
         _pressedAt = press.globalPosition().toPoint();
     } else if (event->type() == QEvent::MouseMove) {
-        return dragSubject(static_cast<const QMouseEvent&>(*event));
+        return drag(static_cast<const QMouseEvent&>(*event));
     } else if (event->type() == QEvent::MouseButtonRelease) {
         _hold.reset();
     }
@@ -210,7 +201,7 @@ bool TitleStrip::eventFilter(QObject* watched, QEvent* event) {
 }
 
 // The button must not see a drag, or it would treat its end as a click.
-bool TitleStrip::dragSubject(const QMouseEvent& move) {
+bool TitleStrip::drag(const QMouseEvent& move) {
     const QPoint pointer = move.globalPosition().toPoint();
     if (!_isDragged && move.buttons().testFlag(Qt::LeftButton) &&
         (pointer - _pressedAt).manhattanLength() >= QApplication::startDragDistance()) {

@@ -7,8 +7,8 @@
 #include <optional>
 
 #include "app/panel/PanelControls.h"
+#include "windows/panel/DisplayMenu.h"
 
-class QAction;
 class QMenu;
 class QToolButton;
 
@@ -21,8 +21,10 @@ class TitleStrip : public QWidget {
     explicit TitleStrip(QMenu& menu, QWidget* parent = nullptr);
 
     void showSubject(const PanelSubject& subject);
-    /// Called with true for all displays and false for the one under the panel.
-    void setSubjectAction(std::function<void(bool)> action) { _chooseSubject = std::move(action); }
+    /// For the menu of displays.
+    void setActions(PanelActions& actions) { _subjectMenu->setActions(actions); }
+    /// Called when the strip is double-clicked.
+    void setFormAction(std::function<void()> action) { _switchForm = std::move(action); }
     /// Shows or hides a sign that triggers the remote-configuration action.
     void showRemoteConfiguration(bool isOn);
     /// Shows a sign explaining why changes are not saved; none if the sentence is empty.
@@ -39,6 +41,7 @@ class TitleStrip : public QWidget {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,8 +49,8 @@ class TitleStrip : public QWidget {
  private:
     void beginMove(const QPoint& pointer);
     void continueMove(const QPoint& pointer);
-    [[nodiscard]] bool dragSubject(const QMouseEvent& move);
-    void buildSubjectMenu();
+    /// Returns whether the press has become a drag.
+    bool drag(const QMouseEvent& move);
     void updateIcons();
     void updateTitle();
 
@@ -56,15 +59,13 @@ class TitleStrip : public QWidget {
     QToolButton* _storageSign;
     QToolButton* _remoteButton;
     QToolButton* _menuButton;
-    QMenu* _subjectMenu = nullptr;
-    QAction* _thisDisplay = nullptr;
-    QAction* _allDisplays = nullptr;
+    DisplayMenu* _subjectMenu;
     QString _title;
-    std::function<void(bool)> _chooseSubject;
+    std::function<void()> _switchForm;
     std::function<void()> _close;
     std::function<void()> _openRemote;
     std::function<bool()> _hasWindowManager;
-    /// Where the name button was pressed, and whether that has become a drag.
+    /// Where the strip or the name button was pressed, and whether that has become a drag.
     QPoint _pressedAt;
     bool _isDragged = false;
     /// Where the pointer grabbed the window, while it is moved without a window manager.

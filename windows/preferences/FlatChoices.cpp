@@ -34,6 +34,12 @@ void drawBox(QPainter& painter, const QRectF& box, double radius, const QStyleOp
     }
 }
 
+/// The painter's opacity dims all of a disabled control; the style would dim its text once more.
+void drawAsEnabled(QStyleOptionButton& option) {
+    option.state |= QStyle::State_Enabled;
+    option.palette.setCurrentColorGroup(QPalette::Active);
+}
+
 void drawTick(QPainter& painter, const QRectF& box, const QColor& colour) {
     const auto point = [&box](double x, double y) {
         return QPointF(box.x() + x * box.width(), box.y() + y * box.height());
@@ -66,6 +72,7 @@ void FlatCheckBox::paintEvent(QPaintEvent* /*event*/) {
         drawTick(painter, box, theme.text);
     }
     option.rect = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
+    drawAsEnabled(option);
     painter.drawControl(QStyle::CE_CheckBoxLabel, option);
 }
 
@@ -82,6 +89,7 @@ void FlatRadioButton::paintEvent(QPaintEvent* /*event*/) {
         drawDot(painter, box, theme.text);
     }
     option.rect = style()->subElementRect(QStyle::SE_RadioButtonContents, &option, this);
+    drawAsEnabled(option);
     painter.drawControl(QStyle::CE_RadioButtonLabel, option);
 }
 

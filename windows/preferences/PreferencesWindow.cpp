@@ -17,6 +17,7 @@
 
 #include "hotkeys/field/DDHotKeyTextField.h"
 #include "ui/theme/Theme.h"
+#include "windows/alerts/FlatButton.h"
 #include "windows/panel/PanelIcons.h"
 #include "windows/preferences/FlatChoices.h"
 #include "windows/preferences/RadioMatrix.h"
@@ -65,6 +66,11 @@ void addChoice(QGridLayout& grid, QLabel* label, RadioMatrix* matrix) {
     grid.addWidget(matrix, row, 1);
 }
 
+QString describedPanelKey(HotKeyChooser chooser) {
+    return chooser == HotKeyChooser::Program ? Texts::tr("Show the panel under the pointer")
+                                             : Texts::tr("Show the panel");
+}
+
 /// Aligns the sentence with the text of its checkbox.
 void prepareProblem(QLabel& problem, const QCheckBox& box) {
     problem.setTextFormat(Qt::PlainText);
@@ -75,12 +81,15 @@ void prepareProblem(QLabel& problem, const QCheckBox& box) {
     problem.hide();
 }
 
-void addHotKey(QGridLayout& grid, QCheckBox* box, DDHotKeyTextField* field, QLabel* problem) {
+void addHotKey(QGridLayout& grid, QCheckBox* box, DDHotKeyTextField* field, QLabel* trigger,
+               QLabel* problem) {
     const int row = grid.rowCount();
+    trigger->setTextFormat(Qt::PlainText);
     field->setAccessibleName(box->text());
     prepareProblem(*problem, *box);
     grid.addWidget(box, row, 0);
     grid.addWidget(field, row, 1);
+    grid.addWidget(trigger, row, 1);
     grid.addWidget(problem, row + 1, 0, 1, 2);
 }
 
@@ -101,6 +110,9 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
       rememberWhenQuitting(
           new FlatCheckBox(Texts::tr("Correct the displays as soon as Tonquil starts"))),
       ContinuouslyApply(new FlatCheckBox(Texts::tr("Apply the curves again every few seconds"))),
+      continuouslyApplyNote(
+          new QLabel(Texts::tr("Not needed here: no correction is lost unnoticed."))),
+      keepNightLight(new FlatCheckBox(Texts::tr("Keep night light"))),
       advancedPanel(new FlatCheckBox(Texts::tr("Show sliders for the single channels"))),
       channelStrip(new FlatCheckBox(Texts::tr("Show the channel strip"))),
       showTargetHints(new FlatCheckBox(Texts::tr("Show hints under targets"))),
@@ -113,10 +125,14 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
       showStatusItem(new RadioMatrix({Texts::tr("The task bar"), Texts::tr("The status area")})),
       useHotKey(new FlatCheckBox(Texts::tr("Switch the correction on or off"))),
       hotKeyField(new DDHotKeyTextField(layout)),
+      hotKeyTrigger(new QLabel),
       hotKeyProblem(new QLabel),
-      panelHotKey(new FlatCheckBox(Texts::tr("Show the panel under the pointer"))),
+      panelHotKey(new FlatCheckBox(describedPanelKey(HotKeyChooser::Program))),
       panelHotKeyField(new DDHotKeyTextField(layout)),
+      panelHotKeyTrigger(new QLabel),
       panelHotKeyProblem(new QLabel),
+      changeHotKeys(new FlatButton(Texts::tr("Change in desktop\u2026"))),
+      hotKeysByHand(new QLabel),
       allowRemote(new FlatCheckBox(
           Texts::tr("Let companions on the local network read and set the curves"))),
       remoteProblem(new QLabel),
@@ -136,6 +152,7 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
     addGeneral(*column);
     addHotKeys(*column);
     addRemote(*column);
+    showHotKeyChooser(HotKeyChooser::Program);
     nameControls();
     _scrollArea->setFrameShape(QFrame::NoFrame);
     _scrollArea->setFocusPolicy(Qt::NoFocus);
@@ -177,6 +194,8 @@ void PreferencesWindow::nameControls() {
         {openAtLoginCheckbox, "openAtLoginCheckbox"},
         {rememberWhenQuitting, "rememberWhenQuitting"},
         {ContinuouslyApply, "ContinuouslyApply"},
+        {continuouslyApplyNote, "continuouslyApplyNote"},
+        {keepNightLight, "keepNightLight"},
         {advancedPanel, "advancedPanel"},
         {channelStrip, "channelStrip"},
         {showTargetHints, "showTargetHints"},
@@ -187,10 +206,14 @@ void PreferencesWindow::nameControls() {
         {showStatusItem, "showStatusItem"},
         {useHotKey, "useHotKey"},
         {hotKeyField, "hotKeyField"},
+        {hotKeyTrigger, "hotKeyTrigger"},
         {hotKeyProblem, "hotKeyProblem"},
         {panelHotKey, "panelHotKey"},
         {panelHotKeyField, "panelHotKeyField"},
+        {panelHotKeyTrigger, "panelHotKeyTrigger"},
         {panelHotKeyProblem, "panelHotKeyProblem"},
+        {changeHotKeys, "changeHotKeys"},
+        {hotKeysByHand, "hotKeysByHand"},
         {allowRemote, "allowRemote"},
         {remoteProblem, "remoteProblem"}};
     for (const auto& [control, name] : names) {
@@ -201,6 +224,9 @@ void PreferencesWindow::nameControls() {
 void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
     addHeading(column, Texts::tr("General"));
     addChecks(column, {showAtLaunch, openAtLoginCheckbox, rememberWhenQuitting, ContinuouslyApply});
+    prepareProblem(*continuouslyApplyNote, *ContinuouslyApply);
+    column.addWidget(continuouslyApplyNote);
+    addNightLight(column);
     column.addSpacing(groupSpacing);
     addChecks(column, {advancedPanel, channelStrip, showTargetHints, darkTheme});
     column.addSpacing(groupSpacing);
@@ -210,11 +236,48 @@ void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
     addChoice(choices, showStatusLabel, showStatusItem);
 }
 
+// The space above the box goes with it.
+void PreferencesWindow::addNightLight(QVBoxLayout& column) const {
+    auto* line = new QWidget;
+    auto* lineColumn = new QVBoxLayout(line);
+    lineColumn->setContentsMargins(0, spacing, 0, 0);
+    lineColumn->addWidget(keepNightLight);
+    column.addWidget(line);
+    line->hide();
+}
+
+void PreferencesWindow::showNightLight(bool isShown) {
+    keepNightLight->parentWidget()->setVisible(isShown);
+}
+
 void PreferencesWindow::addHotKeys(QVBoxLayout& column) const {
     addHeading(column, Texts::tr("Hot keys"));
     QGridLayout& grid = *addGrid(column, spacing);
-    addHotKey(grid, useHotKey, hotKeyField, hotKeyProblem);
-    addHotKey(grid, panelHotKey, panelHotKeyField, panelHotKeyProblem);
+    addHotKey(grid, useHotKey, hotKeyField, hotKeyTrigger, hotKeyProblem);
+    addHotKey(grid, panelHotKey, panelHotKeyField, panelHotKeyTrigger, panelHotKeyProblem);
+    grid.addWidget(changeHotKeys, grid.rowCount(), 1, Qt::AlignLeft);
+    hotKeysByHand->setTextFormat(Qt::PlainText);
+    hotKeysByHand->setWordWrap(true);
+    hotKeysByHand->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    hotKeysByHand->setText(Texts::tr("This desktop leaves hot keys to its own settings. Bind these "
+                                     "commands to keys there:") +
+                           QStringLiteral("\n\ntonquil --toggle\ntonquil --show-panel"));
+    column.addWidget(hotKeysByHand);
+}
+
+void PreferencesWindow::showHotKeyChooser(HotKeyChooser chooser) {
+    for (QWidget* widget : std::initializer_list<QWidget*>{hotKeyField, panelHotKeyField}) {
+        widget->setVisible(chooser == HotKeyChooser::Program);
+    }
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{hotKeyTrigger, panelHotKeyTrigger, changeHotKeys}) {
+        widget->setVisible(chooser == HotKeyChooser::Desktop);
+    }
+    for (QWidget* widget : {useHotKey, panelHotKey}) {
+        widget->setVisible(chooser != HotKeyChooser::Nobody);
+    }
+    hotKeysByHand->setVisible(chooser == HotKeyChooser::Nobody);
+    panelHotKey->setText(describedPanelKey(chooser));
 }
 
 void PreferencesWindow::addRemote(QVBoxLayout& column) const {

@@ -4,11 +4,13 @@
 #include <QWidget>
 #include <functional>
 
+#include "app/preferences/HotKeyAssignment.h"
 #include "hotkeys/KeyboardLayout.h"
 
 class QCheckBox;
 class QGridLayout;
 class QLabel;
+class QPushButton;
 class QScrollArea;
 class QVBoxLayout;
 
@@ -30,6 +32,10 @@ class PreferencesWindow : public QWidget {
     }
     /// Called after it has closed.
     void setClosed(std::function<void()> closed) { _closed = std::move(closed); }
+    /// Shows the controls with which the user gives hot keys their keys.
+    void showHotKeyChooser(HotKeyChooser chooser);
+    /// Whether there is a night light to keep; at first there is none.
+    void showNightLight(bool isShown);
     /// Takes the focus away from the control that has it.
     void clearFirstResponder();
 
@@ -38,6 +44,9 @@ class PreferencesWindow : public QWidget {
     QCheckBox* openAtLoginCheckbox;
     QCheckBox* rememberWhenQuitting;
     QCheckBox* ContinuouslyApply;
+    /// Why that cannot be chosen; hidden where it can.
+    QLabel* continuouslyApplyNote;
+    QCheckBox* keepNightLight;
     QCheckBox* advancedPanel;
     QCheckBox* channelStrip;
     QCheckBox* showTargetHints;
@@ -48,11 +57,18 @@ class PreferencesWindow : public QWidget {
     RadioMatrix* showStatusItem;
     QCheckBox* useHotKey;
     DDHotKeyTextField* hotKeyField;
+    /// In the field's place, the keys that the desktop has given.
+    QLabel* hotKeyTrigger;
     /// Why the hot key next to it was refused; hidden while empty.
     QLabel* hotKeyProblem;
     QCheckBox* panelHotKey;
     DDHotKeyTextField* panelHotKeyField;
+    QLabel* panelHotKeyTrigger;
     QLabel* panelHotKeyProblem;
+    /// Where the desktop gives the keys.
+    QPushButton* changeHotKeys;
+    /// Where there are no hot keys: the commands to bind to keys by hand.
+    QLabel* hotKeysByHand;
     QCheckBox* allowRemote;
     /// Why companions cannot reach this computer; below the checkbox that allows them to connect.
     QLabel* remoteProblem;
@@ -69,6 +85,7 @@ class PreferencesWindow : public QWidget {
     /// Resizes to fit the controls; they scroll if the screen is not high enough.
     void fit();
     void addGeneral(QVBoxLayout& column) const;
+    void addNightLight(QVBoxLayout& column) const;
     void addHotKeys(QVBoxLayout& column) const;
     void addRemote(QVBoxLayout& column) const;
 

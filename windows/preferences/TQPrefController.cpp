@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <cstdint>
 #include <utility>
 
@@ -44,6 +45,9 @@ void TQPrefController::windowDidLoad() {
     _window->showStatusItem->setVisible(version >= firstWithStatusItems);
     _window->showStatusLabel->setVisible(version >= firstWithStatusItems);
     _window->darkTheme->setVisible(version >= firstWithDarkTheme);
+    _window->ContinuouslyApply->setEnabled(_surroundings.canBeDisturbed);
+    _window->continuouslyApplyNote->setVisible(!_surroundings.canBeDisturbed);
+    _window->showNightLight(_surroundings.suspendsNightLight);
     bindSettings();
     followTheme();
     _themeSubscription = _preferences.subscribe([this] { followTheme(); });
@@ -57,6 +61,7 @@ void TQPrefController::bindSettings() {
     };
     bind(_window->darkTheme, settingsKey::darkTheme);
     bind(_window->allowRemote, settingsKey::allowRemote);
+    bind(_window->keepNightLight, settingsKey::keepNightLight);
     bind(_window->channelStrip, settingsKey::channelStrip);
     bind(_window->showTargetHints, settingsKey::showsTargetHints);
 }
@@ -109,6 +114,8 @@ void TQPrefController::connectActions() {
     };
     onRecording(window.hotKeyField, &TQPrefController::hotKeyDidChange);
     onRecording(window.panelHotKeyField, &TQPrefController::panelHotKeyDidChange);
+    QObject::connect(window.changeHotKeys, &QPushButton::clicked, window.changeHotKeys,
+                     [this] { _surroundings.changeHotKeys(); });
     window.setShouldClose([this] { return windowShouldClose(); });
 }
 
@@ -134,6 +141,7 @@ void TQPrefController::update() {
     _window->hotKeyField->setHotKey(storedHotKey(_preferences, HotKeyRole::ToggleCorrection));
     _window->panelHotKeyField->setHotKey(storedHotKey(_preferences, HotKeyRole::ShowPanel));
     _window->openAtLoginCheckbox->setChecked(_surroundings.loginItem.isEnabled());
+    showTriggers();
 }
 
 void TQPrefController::showWindow() {
@@ -161,6 +169,26 @@ void TQPrefController::setFrameOrigin(const QPoint& origin) {
 
 void TQPrefController::setClosed(std::function<void()> closed) {
     _window->setClosed(std::move(closed));
+}
+
+void TQPrefController::showHotKeyAssignment(const HotKeyAssignment& assignment) {
+    _assignment = assignment;
+    _window->showHotKeyChooser(assignment.chooser);
+    showTriggers();
+}
+
+void TQPrefController::showTriggers() {
+    const auto show = [this](QLabel& label, HotKeyRole role, bool isUsed) {
+        const auto found = _assignment.triggers.find(role);
+        const bool isGiven = found != _assignment.triggers.end() && !found->second.empty();
+        label.setText(!isUsed   ? QString()
+                      : isGiven ? QString::fromStdString(found->second)
+                                : QCoreApplication::translate("Preferences", "No keys given yet"));
+    };
+    show(*_window->hotKeyTrigger, HotKeyRole::ToggleCorrection, _window->useHotKey->isChecked());
+    show(*_window->panelHotKeyTrigger, HotKeyRole::ShowPanel, _window->panelHotKey->isChecked());
+    _window->changeHotKeys->setEnabled(_window->useHotKey->isChecked() ||
+                                       _window->panelHotKey->isChecked());
 }
 
 void TQPrefController::showHotKeyProblem(HotKeyRole role, const std::string& sentence) {
@@ -222,6 +250,10 @@ void TQPrefController::hitPanelHotKey(const QCheckBox& sender) {
 
 // Enabling a hot key that is not set yet starts recording it at once.
 void TQPrefController::moveFocus(bool isOn, DDHotKeyTextField& field) {
+    showTriggers();
+    if (_assignment.chooser != HotKeyChooser::Program) {
+        return;
+    }
     if (!isOn) {
         _window->clearFirstResponder();
     } else if (!field.hotKey()) {

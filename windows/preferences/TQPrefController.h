@@ -3,20 +3,16 @@
 
 #include <QPoint>
 #include <QRect>
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "app/desktop/Alerts.h"
-#include "app/desktop/LoginItem.h"
-#include "app/panel/WindowSystem.h"
+#include "app/preferences/HotKeyAssignment.h"
 #include "app/preferences/PreferencesStore.h"
 #include "app/preferences/StoredHotKey.h"
-#include "foundation/Log.h"
-#include "hotkeys/KeyboardLayout.h"
 #include "ui/theme/Appearance.h"
+#include "windows/preferences/PreferencesSurroundings.h"
 
 class QCheckBox;
 
@@ -26,21 +22,6 @@ class DDHotKeyTextField;
 class PreferencesWindow;
 class RadioMatrix;
 class SettingBinding;
-
-/// What the preferences controller works with. Everything must outlive it.
-struct PreferencesSurroundings {
-    PreferencesStore& preferences;
-    LoginItem& loginItem;
-    Alerts& alerts;
-    const KeyboardLayout& layout;
-    WindowSystem& windowSystem;
-    /// The absolute path of the running program, and the user's home folder.
-    std::filesystem::path program;
-    std::filesystem::path home;
-    Log log;
-    /// A toolkit below 1138 has no status items, one below 1343 no dark theme.
-    int toolkitVersion = 1343;
-};
 
 /// Runs the preferences window: each control writes its setting at once, and interested code sees
 /// the change in the preferences store.
@@ -69,6 +50,8 @@ class TQPrefController {
     /// Called when the window has closed.
     void setClosed(std::function<void()> closed);
 
+    /// Shows who gives the hot keys their keys, and which.
+    void showHotKeyAssignment(const HotKeyAssignment& assignment);
     /// Shows beside its field why a hot key does not work; an empty sentence clears it.
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence);
     /// The same below the checkbox that allows companions to connect.
@@ -97,6 +80,7 @@ class TQPrefController {
     void bindSettings();
     void followTheme();
     void setBool(std::string_view key, int value);
+    void showTriggers();
     void moveFocus(bool isOn, DDHotKeyTextField& field);
     void setLoginItemEnabled(bool isEnabled);
     void adviseOnPlace();
@@ -106,6 +90,7 @@ class TQPrefController {
     AccessibilityOptions _options;
     std::unique_ptr<PreferencesWindow> _window;
     bool _hasBeenShown = false;
+    HotKeyAssignment _assignment;
     /// Declared to be destroyed before the checkboxes that they are bound to.
     std::vector<std::unique_ptr<SettingBinding>> _bindings;
     std::unique_ptr<PreferencesStore::Subscription> _themeSubscription;

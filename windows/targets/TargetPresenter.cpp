@@ -2,6 +2,8 @@
 #include "windows/targets/TargetPresenter.h"
 
 #include <QWidget>
+#include <algorithm>
+#include <chrono>
 #include <utility>
 #include <vector>
 
@@ -13,6 +15,24 @@
 #include "windows/panel/PanelIcons.h"
 
 namespace tonquil {
+
+namespace {
+
+constexpr std::chrono::seconds labelTime{2};
+
+}  // namespace
+
+TargetPresenter::TargetPresenter(DisplayService& service, PreferencesStore& preferences,
+                                 WindowSystem& windowSystem,
+                                 std::function<void(QWidget&)> windowMade)
+    : _service(service),
+      _preferences(preferences),
+      _windowSystem(windowSystem),
+      _windowMade(std::move(windowMade)) {
+    _labelTimer.setSingleShot(true);
+    _labelTimer.setInterval(labelTime);
+    _labelTimer.callOnTimeout([this] { _labels.clear(); });
+}
 
 TargetScreen TargetPresenter::screenOf(DisplayID display) const {
     return {.displayID = display, .frame = pointsFrom(_service.bounds(display))};
@@ -27,7 +47,8 @@ void TargetPresenter::makeFloatingWindow() {
     controller.window().setWindowIcon(programIcon());
     _aspect = std::make_unique<AspectKeeper>(controller.window(), _windowSystem);
     const auto frame = windowFrameFrom(_preferences.stringForKey(settingsKey::targetsFrame));
-    if (frame && !_service.displaysWithPoint(frame->centre(), 1).empty()) {
+    if (frame &&
+        (areWindowsPlacedByDesktop() || !_service.displaysWithPoint(frame->centre(), 1).empty())) {
         controller.setFrame(pointsFrom(*frame));
     }
     controller.setKind(
@@ -128,12 +149,48 @@ void TargetPresenter::displaysChanged() {
     _covers.screensChanged(screens);
 }
 
-void TargetPresenter::saveFrame() {
-    if (_targetWindowController) {
-        _preferences.setValue(
-            settingsKey::targetsFrame,
-            textFromWindowFrame(devicePixelsFrom(_targetWindowController->frame())));
+// Displays that mirror each other share a label.
+void TargetPresenter::identify(const std::vector<NamedDisplay>& displays) {
+    struct Label {
+        QRect frame;
+        QStringList numbers;
+        QStringList names;
+    };
+    std::vector<Label> labels;
+    int number = 0;
+    for (const NamedDisplay& display : displays) {
+        const QRect frame = screenOf(display.display).frame;
+        auto label = std::ranges::find(labels, frame, &Label::frame);
+        if (label == labels.end()) {
+            label = labels.insert(labels.end(), {.frame = frame, .numbers = {}, .names = {}});
+        }
+        label->numbers.append(QString::number(++number));
+        label->names.append(QString::fromStdString(display.name));
     }
+    _labels.clear();
+    for (const Label& label : labels) {
+        const QString separator = QStringLiteral(", ");
+        _labels.push_back(std::make_unique<DisplayLabel>(label.numbers.join(separator),
+                                                         label.names.join(separator),
+                                                         _windowSystem.isCompositing()));
+        _labels.back()->showOn(label.frame);
+    }
+    _labelTimer.start();
+}
+
+void TargetPresenter::saveFrame() {
+    if (!_targetWindowController) {
+        return;
+    }
+    Rectangle frame = devicePixelsFrom(_targetWindowController->frame());
+    if (areWindowsPlacedByDesktop()) {
+        // Only the size is known; another desktop may want the place.
+        const auto stored = windowFrameFrom(_preferences.stringForKey(settingsKey::targetsFrame));
+        const Point centre = stored ? stored->centre() : _service.bounds(0).centre();
+        frame.x = centre.x - frame.width / 2;
+        frame.y = centre.y - frame.height / 2;
+    }
+    _preferences.setValue(settingsKey::targetsFrame, textFromWindowFrame(frame));
 }
 
 }  // namespace tonquil

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -13,6 +14,7 @@
 #include "targets/TQTargetWindowController.h"
 #include "targets/TargetWindowList.h"
 #include "windows/targets/AspectKeeper.h"
+#include "windows/targets/DisplayLabel.h"
 
 namespace tonquil {
 
@@ -22,11 +24,7 @@ class TargetPresenter final : public TargetWindows {
  public:
     /// Calls `windowMade` with the floating window before it is shown.
     TargetPresenter(DisplayService& service, PreferencesStore& preferences,
-                    WindowSystem& windowSystem, std::function<void(QWidget&)> windowMade)
-        : _service(service),
-          _preferences(preferences),
-          _windowSystem(windowSystem),
-          _windowMade(std::move(windowMade)) {}
+                    WindowSystem& windowSystem, std::function<void(QWidget&)> windowMade);
 
     void openTargetWindow() override;
     void openTargetWindow(TargetKind kind) override;
@@ -37,6 +35,7 @@ class TargetPresenter final : public TargetWindows {
     [[nodiscard]] std::optional<TargetKind> visibleCover(DisplayID display) const override;
     [[nodiscard]] TargetKind coverKind(DisplayID display) const override;
     void displaysChanged() override;
+    void identify(const std::vector<NamedDisplay>& displays) override;
     void saveFrame() override;
 
     /// The covers, at most one per display.
@@ -65,6 +64,9 @@ class TargetPresenter final : public TargetWindows {
     /// Created when first shown.
     std::unique_ptr<TQTargetWindowController> _targetWindowController;
     std::unique_ptr<AspectKeeper> _aspect;
+    /// What tells the displays apart, while it is shown.
+    std::vector<std::unique_ptr<DisplayLabel>> _labels;
+    QTimer _labelTimer;
 };
 
 }  // namespace tonquil

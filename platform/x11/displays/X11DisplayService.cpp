@@ -62,14 +62,11 @@ void X11DisplayService::readLayout() {
     _isLayoutOfBatch = true;
     _areRampsOfBatch = false;
     _areProfilesOfBatch = false;
-    for (const X11Display& display : previous.value_or(std::vector<X11Display>{})) {
-        const bool keepsItsCrtc =
-            std::any_of(_layout->begin(), _layout->end(), [&](const X11Display& now) {
-                return now.output == display.output && now.crtc == display.crtc;
-            });
-        // A correction left behind would apply to whichever display uses this CRTC next.
-        if (!keepsItsCrtc && _ramps.isLoaded(display.crtc)) {
-            _ramps.release(display.crtc);
+    // A correction left behind would apply to whichever display uses this CRTC next.
+    for (const xcb_randr_crtc_t crtc :
+         crtcsLeft(previous.value_or(std::vector<X11Display>{}), *_layout)) {
+        if (_ramps.isLoaded(crtc)) {
+            _ramps.release(crtc);
         }
     }
     if (!_isInBatch) {
@@ -170,7 +167,8 @@ DisplayDescription X11DisplayService::description(DisplayID display) {
     return {.connector = found->connector,
             .productName = found->productName,
             .rampSize = _ramps.size(found->crtc),
-            .obstacle = obstacle(*found)};
+            .obstacle = obstacle(*found),
+            .primaries = found->primaries};
 }
 
 Rectangle X11DisplayService::bounds(DisplayID display) {
@@ -302,7 +300,12 @@ std::unique_ptr<DisplayService::Subscription> X11DisplayService::registerReconfi
         // Changes since the displays were listed are reported like any other.
         _reconfiguration = std::make_unique<X11Reconfiguration>(
             *_connection, *_runLoop, _log,
-            [this](const X11Reconfiguration::CrtcStates& passed) { displaysChanged(passed); });
+            [this](const X11Reconfiguration::CrtcStates& passed) { displaysChanged(passed); },
+            [this] {
+                if (_lost) {
+                    _lost();
+                }
+            });
         const bool isListed = _layout.has_value();
         _announced = layout();
         readLayout();

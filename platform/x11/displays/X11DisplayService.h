@@ -42,6 +42,7 @@ class X11DisplayService : public DisplayService {
     void restoreSystemCalibration(std::span<const DisplayID> displays) override;
     [[nodiscard]] std::unique_ptr<Subscription> registerReconfigurationCallback(
         ReconfigurationCallback callback) override;
+    void setWhenLost(const std::function<void()>& lost) override { _lost = lost; }
     void warpPointer(const Point& point) override;
 
  protected:
@@ -80,6 +81,7 @@ class X11DisplayService : public DisplayService {
     std::optional<std::vector<X11Display>> _layout;
     /// The displays last reported to the callbacks.
     std::vector<X11Display> _announced;
+    std::function<void()> _lost;
     std::unique_ptr<X11Reconfiguration> _reconfiguration;
     ReconfigurationCallbacks _callbacks;
     struct KnownDisplay {

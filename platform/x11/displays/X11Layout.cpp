@@ -77,6 +77,7 @@ void describe(X11Display& display, const xcb_randr_get_output_info_reply_t& info
         display.identity.modelNumber = edid->modelNumber;
         display.identity.vendorNumber = edid->vendorNumber;
         display.productName = edid->productName;
+        display.primaries = edid->primaries;
     } else {
         // Otherwise all outputs of one size without an EDID would share a reference ID.
         display.identity.modelNumber = numberOf(display.connector);
@@ -135,6 +136,20 @@ std::vector<X11Display> readX11Layout(const X11Connection& connection) {
         std::rotate(displays.begin(), main, main + 1);
     }
     return displays;
+}
+
+std::vector<xcb_randr_crtc_t> crtcsLeft(std::span<const X11Display> before,
+                                        std::span<const X11Display> now) {
+    std::vector<xcb_randr_crtc_t> left;
+    for (const X11Display& display : before) {
+        const bool isStillThere = std::ranges::any_of(now, [&](const X11Display& each) {
+            return each.output == display.output && each.crtc == display.crtc;
+        });
+        if (!isStillThere) {
+            left.push_back(display.crtc);
+        }
+    }
+    return left;
 }
 
 }  // namespace tonquil

@@ -3,6 +3,8 @@
 
 #include <xcb/randr.h>
 
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -22,6 +24,7 @@ struct X11Display {
     xcb_randr_crtc_t crtc = XCB_NONE;
     std::string connector;
     std::string productName;
+    std::optional<Primaries> primaries;
     DisplayIdentity identity;
     /// Y grows downward.
     Rectangle bounds;
@@ -35,5 +38,9 @@ struct X11Display {
 ///
 /// Never makes the server probe its connectors. Empty if the connection is lost.
 [[nodiscard]] std::vector<X11Display> readX11Layout(const X11Connection& connection);
+
+/// The CRTCs that a display of `before` has left: another display may be driven by them now.
+[[nodiscard]] std::vector<xcb_randr_crtc_t> crtcsLeft(std::span<const X11Display> before,
+                                                      std::span<const X11Display> now);
 
 }  // namespace tonquil

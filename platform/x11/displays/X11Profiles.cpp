@@ -10,7 +10,8 @@ namespace tonquil {
 
 namespace {
 
-constexpr std::uint32_t mostProfileUnits = 1U << 20U;
+// Of four bytes each.
+constexpr std::uint32_t mostProfileUnits = 1U << 22U;
 
 }  // namespace
 

@@ -8,11 +8,13 @@
 namespace tonquil {
 
 X11Reconfiguration::X11Reconfiguration(const X11Connection& connection, RunLoop& runLoop, Log log,
-                                       std::function<void(const CrtcStates&)> becameQuiet)
+                                       std::function<void(const CrtcStates&)> becameQuiet,
+                                       std::function<void()> lost)
     : _connection(connection),
       _runLoop(runLoop),
       _log(std::move(log)),
-      _becameQuiet(std::move(becameQuiet)) {
+      _becameQuiet(std::move(becameQuiet)),
+      _lost(std::move(lost)) {
     xcb_randr_select_input(_connection.get(), _connection.root(),
                            XCB_RANDR_NOTIFY_MASK_SCREEN_CHANGE | XCB_RANDR_NOTIFY_MASK_CRTC_CHANGE |
                                XCB_RANDR_NOTIFY_MASK_OUTPUT_CHANGE |
@@ -36,6 +38,7 @@ void X11Reconfiguration::takeEvents() {
     }
     takeQueuedEvents();
     if (_connection.isLost() && _watch) {
+        _lost();
         if (_log) {
             _log("The X server has gone; the displays are no longer watched.");
         }

@@ -43,8 +43,10 @@ class X11Reconfiguration {
     };
     using CrtcStates = std::set<CrtcState>;
 
+    /// `lost` is called once, when the server has gone.
     X11Reconfiguration(const X11Connection& connection, RunLoop& runLoop, Log log,
-                       std::function<void(const CrtcStates&)> becameQuiet);
+                       std::function<void(const CrtcStates&)> becameQuiet,
+                       std::function<void()> lost);
 
     /// Handles events that arrived along with replies: these never make the file descriptor
     /// readable. Call after each exchange with the server.
@@ -61,6 +63,7 @@ class X11Reconfiguration {
     RunLoop& _runLoop;
     Log _log;
     std::function<void(const CrtcStates&)> _becameQuiet;
+    std::function<void()> _lost;
     CrtcStates _passed;
     RunLoop::Clock::time_point _firstEvent;
     RunLoop::Clock::time_point _lastEvent;

@@ -113,8 +113,8 @@ void X11HotKeyService::setHandlers(Handler pressed, Handler released) {
 }
 
 Result<HotKeyHandle> X11HotKeyService::registerHotKey(std::uint16_t keyCode,
-                                                      HotKeyServiceMask modifiers,
-                                                      std::uint32_t id) {
+                                                      HotKeyServiceMask modifiers, std::uint32_t id,
+                                                      const std::string& /*action*/) {
     const auto evdevCode = evdevForVirtualKey(keyCode);
     if (!evdevCode) {
         return problem(

@@ -38,8 +38,8 @@ class X11HotKeyService final : public HotKeyService {
 
     void setHandlers(Handler pressed, Handler released) override;
     [[nodiscard]] Result<HotKeyHandle> registerHotKey(std::uint16_t keyCode,
-                                                      HotKeyServiceMask modifiers,
-                                                      std::uint32_t id) override;
+                                                      HotKeyServiceMask modifiers, std::uint32_t id,
+                                                      const std::string& action) override;
     void unregisterHotKey(HotKeyHandle handle) override;
 
  private:

@@ -24,6 +24,8 @@ class XdgFolders {
     /// Sockets and locks of running programs: $XDG_RUNTIME_DIR/tonquil, else tonquil-<user number>
     /// in the folder for temporary files, also if the variable names a missing folder.
     ///
+    /// May not exist yet, and be anybody's.
+    [[nodiscard]] const std::filesystem::path& runtime() const { return _runtime; }
     /// Creates it, and refuses one that others could have tampered with.
     [[nodiscard]] Result<std::filesystem::path> makeRuntime() const;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/xdg/Folder.h"
+#include "platform/folders/Folder.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

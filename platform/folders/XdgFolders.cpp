@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/xdg/XdgFolders.h"
+#include "platform/folders/XdgFolders.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -8,7 +8,7 @@
 #include <string>
 #include <system_error>
 
-#include "platform/xdg/Folder.h"
+#include "platform/folders/Folder.h"
 
 namespace tonquil {
 

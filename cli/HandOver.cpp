@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "cli/HandOver.h"
+
+#include <memory>
+
+#include "screens/HandedCurves.h"
+
+namespace tonquil {
+
+namespace {
+
+std::string textOf(const HandedCurves& curves) {
+    return std::string(handedCurvesWord) + textFromHandedCurves(curves) + '\n';
+}
+
+std::string connectorOf(const KVScreen& screen, DisplayService& service) {
+    return service.description(screen.directDisplayID()).connector;
+}
+
+}  // namespace
+
+Result<std::string> requestFor(const Assignments& assignments, DisplayService& service) {
+    HandedCurves curves;
+    for (const auto& [screen, curve] : assignments) {
+        auto extended = std::dynamic_pointer_cast<TQExtendedGammaCurve>(curve);
+        if (!extended) {
+            return problem(
+                "Here a correction ends with the program that set it, and tonquil keeps no raw "
+                "tables; use \"tonquilctl apply --hold\", which stays.");
+        }
+        curves[connectorOf(*screen, service)] = std::move(extended);
+    }
+    return textOf(curves);
+}
+
+std::string requestToRestore(const ScreenRegistry::Screens& screens, bool areAll,
+                             DisplayService& service) {
+    if (areAll) {
+        return std::string(switchOffWord) + '\n';
+    }
+    HandedCurves neutral;
+    for (const auto& screen : screens) {
+        neutral[connectorOf(*screen, service)] = std::make_shared<TQExtendedGammaCurve>();
+    }
+    return textOf(neutral);
+}
+
+Result<void> handOver(const std::string& request, const CommandEnvironment& environment) {
+    if (auto handed = environment.handOver(request)) {
+        return std::move(*handed);
+    }
+    return problem(
+        "Here a correction ends with the program that set it, and tonquil, which could keep one, "
+        "does not run; \"tonquilctl apply --hold\" stays to keep it.");
+}
+
+}  // namespace tonquil

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/GammaTable.h"
+#include "platform/listing/DisplayListing.h"
+#include "platform/mutter/MutterMonitors.h"
+
+namespace tonquil {
+
+/// A monitor as the rest of the program knows it.
+struct MutterDisplay {
+    ListedDisplay listed;
+    /// The correction, if there is one.
+    std::optional<GammaTable> table = {};
+    /// Whether the correction, or its end, is still to be sent.
+    bool isUnsent = false;
+};
+
+/// The displays that there are, the main one first.
+class MutterDisplays {
+ public:
+    /// Takes the monitors of a layout instead, of which those that were there before keep their
+    /// corrections; returns the connectors of the others.
+    std::vector<std::string> replace(const MutterLayout& layout, DisplayListing& listing,
+                                     const std::filesystem::path& connectors);
+
+    [[nodiscard]] std::vector<MutterDisplay>& all() { return _all; }
+    [[nodiscard]] const std::vector<MutterDisplay>& all() const { return _all; }
+    [[nodiscard]] std::vector<std::string> connectors() const;
+    /// Null when there is none with this ID; 0 means the main display.
+    [[nodiscard]] MutterDisplay* find(DisplayID display);
+    /// The correction of the display on a connector; null if there is none.
+    [[nodiscard]] const GammaTable* tableOn(const std::string& connector) const;
+
+ private:
+    std::vector<MutterDisplay> _all;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "platform/portal/PortalRequests.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tonquil {
+
+void PortalRequests::watchAnswers() {
+    const std::string ours = pathOf("request", {});
+    _bus.watch({.interface = "org.freedesktop.portal.Request",
+                .name = "Response",
+                .rest = "sender='" + std::string(service) + "',path_namespace='" +
+                        ours.substr(0, ours.size() - 1) + "'"},
+               [this](BusArguments& arguments) {
+                   const bool isGranted = arguments.number() == 0U;
+                   answer(arguments.path(), isGranted ? &arguments : nullptr);
+               });
+}
+
+void PortalRequests::answer(const std::string& path, BusArguments* results) {
+    const auto found = _waiting.find(path);
+    if (found != _waiting.end()) {
+        const Answered answered = std::move(found->second);
+        _waiting.erase(found);
+        answered(results);
+    }
+}
+
+// The path is known before the call, so that an answer which overtakes its return is recognised.
+std::string PortalRequests::pathOf(const std::string& kind, const std::string& token) const {
+    std::string sender = _bus.uniqueName();
+    sender.erase(0, 1);
+    std::ranges::replace(sender, '.', '_');
+    return std::string(object).append("/").append(kind).append("/").append(sender).append("/") +
+           token;
+}
+
+void PortalRequests::ask(const std::string& interface, const std::string& method,
+                         std::vector<BusArgument> arguments, BusDictionary options,
+                         Answered answered) {
+    const std::string token = newToken();
+    const std::string path = pathOf("request", token);
+    options["handle_token"] = token;
+    arguments.emplace_back(std::move(options));
+    _waiting[path] = std::move(answered);
+    _bus.ask(
+        {service, object, interface, method}, arguments, [](BusArguments&) {},
+        [this, path] { answer(path, nullptr); });
+}
+
+}  // namespace tonquil

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/dbus/BusConnection.h"
+
+namespace tonquil {
+
+/// Requests to the desktop's portal. A method call only begins one; its answer is a signal, which
+/// may come before the call returns and, where the user is asked, minutes after it.
+class PortalRequests {
+ public:
+    static constexpr const char* service = "org.freedesktop.portal.Desktop";
+    static constexpr const char* object = "/org/freedesktop/portal/desktop";
+
+    /// Called once: with a dictionary of results, or with null if the request was refused or
+    /// failed.
+    using Answered = std::function<void(BusArguments* results)>;
+
+    /// The connection must outlive this.
+    explicit PortalRequests(BusConnection& bus) : _bus(bus) {}
+
+    /// Call once the connection is open, before the first request.
+    void watchAnswers();
+    /// A new name for a request or a session, which is part of its object's path.
+    [[nodiscard]] std::string newToken() { return "tonquil" + std::to_string(++_lastToken); }
+    /// The path of a request's or a session's object; `kind` is "request" or "session".
+    [[nodiscard]] std::string pathOf(const std::string& kind, const std::string& token) const;
+    /// Calls a method whose last argument is `options`, to which this adds the request's token.
+    void ask(const std::string& interface, const std::string& method,
+             std::vector<BusArgument> arguments, BusDictionary options, Answered answered);
+    /// Forgets all requests: there will be no answers.
+    void clear() { _waiting.clear(); }
+
+ private:
+    void answer(const std::string& path, BusArguments* results);
+
+    BusConnection& _bus;
+    std::uint32_t _lastToken = 0;
+    /// By the paths of the requests.
+    std::map<std::string, Answered> _waiting;
+};
+
+}  // namespace tonquil

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/InstanceName.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+
+namespace tonquil {
+
+namespace {
+
+std::string variableNamed(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? std::string() : value;
+}
+
+}  // namespace
+
+std::string instanceName() {
+    std::string name = "instance-";
+    std::string display = variableNamed("DISPLAY");
+    // The screen behind the point is another face of the same display.
+    display.erase(std::min(display.find('.', display.rfind(':')), display.size()));
+    for (const char c : display.empty() ? variableNamed("WAYLAND_DISPLAY") : display) {
+        name += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
+    }
+    return name;
+}
+
+}  // namespace tonquil

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "foundation/Problem.h"
+#include "model/TQExtendedGammaCurve.h"
+
+namespace tonquil {
+
+/// Curves that one of our programs hands to another that holds the displays, by connector.
+using HandedCurves = std::map<std::string, std::shared_ptr<TQExtendedGammaCurve>>;
+
+/// Requests to the program that holds the displays: one line each, the first followed by curves.
+inline constexpr std::string_view handedCurvesWord = "curves ";
+inline constexpr std::string_view switchOffWord = "off";
+
+/// One line of text, and back.
+[[nodiscard]] std::string textFromHandedCurves(const HandedCurves& curves);
+[[nodiscard]] Result<HandedCurves> handedCurvesFromText(std::string_view text);
+
+}  // namespace tonquil

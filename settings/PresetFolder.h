@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "foundation/Problem.h"
+
+namespace tonquil {
+
+/// A settings file in the folder of presets.
+struct Preset {
+    /// The file's name without its extension; with it where two differ in nothing else.
+    std::string name;
+    std::filesystem::path file;
+    /// Why it cannot be applied.
+    std::optional<Problem> problem;
+};
+
+/// The folder in which people keep settings files that they want to choose by name.
+class PresetFolder {
+ public:
+    /// Further files are not listed.
+    static constexpr std::size_t most = 64;
+
+    /// The folder need not exist.
+    explicit PresetFolder(std::filesystem::path folder) : _folder(std::move(folder)) {}
+    /// In the user's configuration; the arguments are XDG_CONFIG_HOME and HOME, either may be
+    /// empty.
+    [[nodiscard]] static PresetFolder ofUser(const std::filesystem::path& configuration,
+                                             const std::filesystem::path& home);
+
+    /// In order of name, without regard to the case of ASCII letters. Reads every file to see
+    /// whether it can be applied; hidden files are no presets.
+    [[nodiscard]] std::vector<Preset> presets() const;
+    /// The file of a preset, broken or not.
+    [[nodiscard]] Result<std::filesystem::path> fileNamed(std::string_view name) const;
+    /// Where a new preset goes; makes the folder. A problem if no file can have that name.
+    [[nodiscard]] Result<std::filesystem::path> placeFor(std::string_view name,
+                                                         std::string_view extension) const;
+
+ private:
+    [[nodiscard]] std::vector<Preset> list() const;
+
+    std::filesystem::path _folder;
+};
+
+}  // namespace tonquil
