@@ -13,9 +13,10 @@ class Use : public testing::Test {
  protected:
     void SetUp() override {
         desk.startSessionBus();
-        neutral = desk.ramp();
+        uncorrected = desk.ramp();
         desk.start();
         waitForKeyboard();
+        neutral = desk.ramp();
     }
     void waitForKeyboard() const {
         EXPECT_TRUE(eventually([this] {
@@ -52,6 +53,8 @@ class Use : public testing::Test {
     }
 
     Desk desk;
+    Ramp uncorrected;
+    /// What a neutral curve makes of it.
     Ramp neutral;
 };
 
@@ -116,19 +119,19 @@ TEST_F(Use, ComparesWhileHeldEvenIfKilledMeanwhile) {
     constexpr const char* button = "Hold to compare with the uncorrected display";
     const Ramp corrected = desk.correct();
     hold("push button", button);
-    EXPECT_TRUE(becomes(neutral));
+    EXPECT_TRUE(becomes(uncorrected));
     desk.xdotool({"mouseup", "1"});
     EXPECT_TRUE(becomes(corrected));
     desk.clickControl("text", "Blue, Middle point");
     desk.clickControl("chart", "Transfer curves");
     desk.xdotool({"keydown", "space"});
-    EXPECT_TRUE(becomes(neutral));
-    EXPECT_TRUE(stays([&] { return desk.ramp() == neutral; })) << "through the key's repetition";
+    EXPECT_TRUE(becomes(uncorrected));
+    EXPECT_TRUE(stays([&] { return desk.ramp() == uncorrected; })) << "through the key's repetition";
     desk.xdotool({"keyup", "space"});
     EXPECT_TRUE(becomes(corrected));
     ASSERT_TRUE(eventually([&] { return std::filesystem::exists(desk.recoveryFile()); }));
     hold("push button", button);
-    EXPECT_TRUE(becomes(neutral));
+    EXPECT_TRUE(becomes(uncorrected));
     desk.program().send(SIGKILL);
     EXPECT_EQ(desk.waitForEnd(), -1);
     desk.xdotool({"mouseup", "1"});
