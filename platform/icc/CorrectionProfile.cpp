@@ -45,18 +45,6 @@ std::optional<std::vector<std::uint8_t>> bytesOf(cmsHPROFILE profile) {
     return bytes;
 }
 
-std::optional<std::vector<std::uint8_t>> corrected(const ProfileHandle& profile,
-                                                   const HardwareRamp& ramp) {
-    // The digest was that of the profile as it came; all zeros mean that there is none.
-    std::array<cmsUInt8Number, 16> none{};
-    cmsSetHeaderProfileID(profile.get(), none.data());
-    if (!setCalibration(profile.get(), ramp) ||
-        cmsWriteRawTag(profile.get(), markTag, mark.data(), mark.size()) == 0) {
-        return std::nullopt;
-    }
-    return bytesOf(profile.get());
-}
-
 }  // namespace
 
 std::optional<std::vector<std::uint8_t>> correctionProfile(std::span<const std::uint8_t> profile,
@@ -66,12 +54,14 @@ std::optional<std::vector<std::uint8_t>> correctionProfile(std::span<const std::
         cmsGetColorSpace(opened.get()) != cmsSigRgbData) {
         return std::nullopt;
     }
-    return corrected(opened, ramp);
-}
-
-std::optional<std::vector<std::uint8_t>> plainCorrectionProfile(const HardwareRamp& ramp) {
-    const ProfileHandle plain(cmsCreate_sRGBProfile());
-    return plain ? corrected(plain, ramp) : std::nullopt;
+    // The digest was that of the profile as it came; all zeros mean that there is none.
+    std::array<cmsUInt8Number, 16> none{};
+    cmsSetHeaderProfileID(opened.get(), none.data());
+    if (!setCalibration(opened.get(), ramp) ||
+        cmsWriteRawTag(opened.get(), markTag, mark.data(), mark.size()) == 0) {
+        return std::nullopt;
+    }
+    return bytesOf(opened.get());
 }
 
 bool isCorrectionProfile(std::span<const std::uint8_t> profile) {

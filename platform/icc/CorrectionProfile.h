@@ -15,10 +15,6 @@ namespace tonquil {
 [[nodiscard]] std::optional<std::vector<std::uint8_t>> correctionProfile(
     std::span<const std::uint8_t> profile, const HardwareRamp& ramp);
 
-/// The same from the profile of an sRGB display.
-[[nodiscard]] std::optional<std::vector<std::uint8_t>> plainCorrectionProfile(
-    const HardwareRamp& ramp);
-
 /// Whether a profile has our mark, wherever it was copied to.
 [[nodiscard]] bool isCorrectionProfile(std::span<const std::uint8_t> profile);
 

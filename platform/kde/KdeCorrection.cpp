@@ -21,6 +21,9 @@ void KdeCorrection::see(const KdeOutput* output, kde_output_management_v2* manag
         return;
     }
     const KdeOutput::Properties& properties = _output->properties();
+    if (properties.edid) {
+        _reported = properties.edid->primaries.value_or(Primaries{});
+    }
     if (_present != properties.choice) {
         adopt(properties.choice);
     }
@@ -55,14 +58,14 @@ void KdeCorrection::adopt(const KdeProfileChoice& present) {
     }
     if (isFirst || theirs != _theirs) {
         _theirs = std::move(theirs);
-        _base = KdeProfileFiles::base(_theirs);
+        readCalibration();
         // It will be sent once there is a ramp for the new base.
         _isSent = _isSent && _wanted != Wanted::Corrected;
     }
 }
 
 const HardwareRamp& KdeCorrection::readCalibration() {
-    _base = KdeProfileFiles::base(_theirs);
+    _base = KdeProfileFiles::base(_theirs, _reported);
     return _base.calibration;
 }
 

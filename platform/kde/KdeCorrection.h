@@ -55,7 +55,7 @@ class KdeCorrection {
     void hurry();
 
     /// The calibration of the profile that the person has chosen, read anew from its file.
-    [[nodiscard]] const HardwareRamp& readCalibration();
+    const HardwareRamp& readCalibration();
     /// The same as it was read last.
     [[nodiscard]] const HardwareRamp& calibration() const { return _base.calibration; }
     /// Whether nothing is on its way or still to be sent.
@@ -85,6 +85,8 @@ class KdeCorrection {
     bool _isOursPresent = false;
     bool _isHdr = false;
     KdeProfileChoice _theirs;
+    /// The colours that the display says it has.
+    Primaries _reported;
     KdeBase _base;
     /// What our note is known to say.
     std::optional<KdeProfileChoice> _noted;

@@ -3,6 +3,7 @@
 
 #include <span>
 
+#include "colourfiles/IccWriter.h"
 #include "files/AtomicFile.h"
 #include "files/BoundedFile.h"
 #include "platform/edid/Edid.h"
@@ -87,16 +88,21 @@ std::optional<KdeProfileChoice> KdeProfileFiles::choiceUnder(const std::string& 
                             .source = static_cast<std::uint32_t>(integerValue(*source))};
 }
 
-KdeBase KdeProfileFiles::base(const KdeProfileChoice& choice) {
+KdeBase KdeProfileFiles::base(const KdeProfileChoice& choice, const Primaries& reported) {
     KdeBase base{.profile = {}, .calibration = HardwareRamp::straight(rampSize)};
-    if (choice.source != KdeProfileChoice::file || choice.path.empty()) {
-        return base;
+    if (choice.source == KdeProfileChoice::file && !choice.path.empty()) {
+        auto bytes = readBoundedFile(choice.path, mostProfileBytes);
+        if (bytes && correctionProfile(*bytes, base.calibration)) {
+            base.calibration = calibrationRamp(*bytes, rampSize).value_or(base.calibration);
+            base.profile = std::move(*bytes);
+            return base;
+        }
     }
-    auto bytes = readBoundedFile(choice.path, mostProfileBytes);
-    if (bytes && correctionProfile(*bytes, base.calibration)) {
-        base.calibration = calibrationRamp(*bytes, rampSize).value_or(base.calibration);
-        base.profile = std::move(*bytes);
-    }
+    const bool isReported = choice.source == KdeProfileChoice::monitor;
+    // The calibration is replaced in any case.
+    base.profile =
+        writeIcc({}, {.name = "Tonquil", .primaries = isReported ? reported : Primaries{}})
+            .value_or(base.profile);
     return base;
 }
 
@@ -112,8 +118,7 @@ Result<void> KdeProfileFiles::note(const std::string& path, const KdeProfileChoi
 
 Result<void> KdeProfileFiles::write(const std::string& path, const KdeBase& base,
                                     const HardwareRamp& ramp) {
-    const auto bytes =
-        base.profile.empty() ? plainCorrectionProfile(ramp) : correctionProfile(base.profile, ramp);
+    const auto bytes = correctionProfile(base.profile, ramp);
     if (!bytes) {
         return problem("The colour profile with the correction could not be made.");
     }

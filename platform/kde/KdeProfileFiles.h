@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "foundation/Problem.h"
+#include "model/Primaries.h"
 #include "platform/kde/KdeProfileChoice.h"
 #include "platform/ramp/HardwareRamp.h"
 
@@ -15,7 +16,7 @@ namespace tonquil {
 
 /// What a display has without us: what our own profiles are made from.
 struct KdeBase {
-    /// The file's contents; empty where there is none, and the display counts as sRGB.
+    /// The file's contents; where there is none, a profile of what the display counts as.
     std::vector<std::uint8_t> profile;
     HardwareRamp calibration;
 };
@@ -41,9 +42,9 @@ class KdeProfileFiles {
     /// The person's choice that is noted for our profile at `path`. Nothing where the note is
     /// missing or cannot be used.
     [[nodiscard]] std::optional<KdeProfileChoice> choiceUnder(const std::string& path) const;
-    /// What a choice that is not ours means for a display; a file that is no profile of a display
-    /// means the same to the compositor as none.
-    [[nodiscard]] static KdeBase base(const KdeProfileChoice& choice);
+    /// What a choice that is not ours means for a display that reports these primaries; a file that
+    /// is no profile of a display means the same to the compositor as none.
+    [[nodiscard]] static KdeBase base(const KdeProfileChoice& choice, const Primaries& reported);
 
     /// Notes a choice for our profile at `path`; it is on the disk when this returns.
     [[nodiscard]] Result<void> note(const std::string& path, const KdeProfileChoice& choice) const;

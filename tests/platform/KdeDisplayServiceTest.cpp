@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <fstream>
+#include <set>
 
 #include "tests/platform/KeptDisplays.h"
 #include "tests/support/IccBuilder.h"
@@ -58,6 +59,19 @@ TEST_F(KdeDisplays, LaysTheCorrectionOverWhateverThePersonChoosesAndGivesThatBac
     EXPECT_EQ(compositor.ramp("DP-1").channel(0)[0], 3000);
     compositor.choose("DP-1", theirs);
     EXPECT_TRUE(comesTrue([&] { return base() == 1000 && compositor.choice("DP-1") == ours; }));
+}
+
+TEST_F(KdeDisplays, KeepsTheColoursThatTheMonitorReportsWherePeopleWantThose) {
+    std::set<std::string> profiles;
+    for (const std::uint32_t source : {0U, 2U}) {
+        compositor.choose("DP-1", theirs);
+        EXPECT_TRUE(comesTrue([&] { return base() == 1000; }));
+        compositor.choose("DP-1", {"", source});
+        EXPECT_TRUE(comesTrue([&] { return base() == 32896 && isCorrected("DP-1"); }));
+        std::ifstream ours(compositor.choice("DP-1").first, std::ios::binary);
+        profiles.emplace(std::istreambuf_iterator<char>(ours), std::istreambuf_iterator<char>());
+    }
+    EXPECT_EQ(profiles.size(), 2U);
 }
 
 TEST_F(KdeDisplays, SendsAtMost15ChangesASecondAndTheLastOneAlways) {
