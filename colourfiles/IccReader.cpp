@@ -1,23 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "colourfiles/IccReader.h"
 
-#include <lcms2.h>
-
 #include <algorithm>
 #include <cmath>
-#include <memory>
 #include <string_view>
 #include <vector>
 
+#include "colourfiles/ProfileHandle.h"
 #include "foundation/TranslatableText.h"
 
 namespace tonquil {
 
 namespace {
-
-struct CloseReadProfile {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
 
 std::uint32_t number16(std::span<const std::uint8_t> bytes, std::size_t at) {
     return (std::uint32_t{bytes[at]} << 8U) | bytes[at + 1];
@@ -107,8 +101,7 @@ Result<Calibration> readIcc(std::span<const std::uint8_t> profile) {
     if (profile.size() > mostIccBytes) {
         return problem(TONQUIL_TEXT("Problem", "The profile is too large."));
     }
-    const std::unique_ptr<void, CloseReadProfile> opened(
-        cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
+    const ProfileHandle opened = openProfile(profile);
     // The profile begins with its size, and Little CMS reads what is left of one that is cut off.
     if (!opened || number32(profile, 0) > profile.size()) {
         return problem(TONQUIL_TEXT("Problem", "The colour profile is damaged."));

@@ -1,32 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "colourfiles/IccWriter.h"
 
-#include <lcms2.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <memory>
 #include <span>
+#include <utility>
 
 #include "colourfiles/Calibration.h"
+#include "colourfiles/ProfileHandle.h"
 #include "foundation/TranslatableText.h"
 
 namespace tonquil {
 
 namespace {
-
-struct CloseWrittenProfile {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-struct FreeToneCurve {
-    void operator()(cmsToneCurve* curve) const { cmsFreeToneCurve(curve); }
-};
-struct FreeText {
-    void operator()(cmsMLU* text) const { cmsMLUfree(text); }
-};
-using Profile = std::unique_ptr<void, CloseWrittenProfile>;
-using ToneCurve = std::unique_ptr<cmsToneCurve, FreeToneCurve>;
 
 std::tm utc(std::time_t time) {
     std::tm parts{};
@@ -34,10 +22,10 @@ std::tm utc(std::time_t time) {
     return parts;
 }
 
-Profile profileWith(const Primaries& primaries) {
+ProfileHandle profileWith(const Primaries& primaries) {
     // IEC 61966-2-1: ((v + 0.055) / 1.055) ^ 2.4 from 0.04045 on, v / 12.92 below.
     const std::array<double, 5> parameters{2.4, 1 / 1.055, 0.055 / 1.055, 1 / 12.92, 0.04045};
-    const ToneCurve tone(cmsBuildParametricToneCurve(nullptr, 4, parameters.data()));
+    const ToneCurveHandle tone(cmsBuildParametricToneCurve(nullptr, 4, parameters.data()));
     const std::array<cmsToneCurve*, 3> tones{tone.get(), tone.get(), tone.get()};
     const auto place = [](const Chromaticity& colour) {
         return cmsCIExyY{.x = colour.x, .y = colour.y, .Y = 1};
@@ -46,30 +34,22 @@ Profile profileWith(const Primaries& primaries) {
     const cmsCIExyYTRIPLE colours{.Red = place(primaries.red),
                                   .Green = place(primaries.green),
                                   .Blue = place(primaries.blue)};
-    return Profile(cmsCreateRGBProfile(&white, &colours, tones.data()));
+    return ProfileHandle(cmsCreateRGBProfile(&white, &colours, tones.data()));
 }
 
-bool writeText(const Profile& profile, cmsTagSignature tag, const std::string& text) {
-    const std::unique_ptr<cmsMLU, FreeText> content(cmsMLUalloc(nullptr, 1));
+bool writeText(const ProfileHandle& profile, cmsTagSignature tag, const std::string& text) {
+    const std::unique_ptr<cmsMLU, FreeColourObject> content(cmsMLUalloc(nullptr, 1));
     return content && cmsMLUsetASCII(content.get(), "en", "US", text.c_str()) != 0 &&
            cmsWriteTag(profile.get(), tag, content.get()) != 0;
 }
 
-bool writeTable(const Profile& profile, const GammaTable& table) {
-    std::array<ToneCurve, GammaTable::channelCount> owned;
-    std::array<cmsToneCurve*, GammaTable::channelCount> curves{};
-    for (std::size_t c = 0; c < curves.size(); ++c) {
-        std::array<cmsUInt16Number, GammaTable::capacity> entries{};
-        std::ranges::transform(table.channel(c), entries.begin(),
+bool writeTable(const ProfileHandle& profile, const GammaTable& table) {
+    std::array<std::array<std::uint16_t, GammaTable::capacity>, GammaTable::channelCount> entries{};
+    for (std::size_t c = 0; c < entries.size(); ++c) {
+        std::ranges::transform(table.channel(c), entries.at(c).begin(),
                                [](float level) { return entryOf(static_cast<double>(level)); });
-        owned.at(c).reset(
-            cmsBuildTabulatedToneCurve16(nullptr, GammaTable::capacity, entries.data()));
-        curves.at(c) = owned.at(c).get();
-        if (curves.at(c) == nullptr) {
-            return false;
-        }
     }
-    return cmsWriteTag(profile.get(), cmsSigVcgtTag, static_cast<void*>(curves.data())) != 0;
+    return writeCalibration(profile, {entries[0], entries[1], entries[2]});
 }
 
 /// Little CMS writes the present time; ours is the one that the description names.
@@ -104,7 +84,7 @@ Result<std::vector<std::uint8_t>> writeIcc(const GammaTable& table,
     const auto failed = [] {
         return problem(TONQUIL_TEXT("Problem", "The colour profile could not be made."));
     };
-    Profile profile = profileWith(display.primaries);
+    ProfileHandle profile = profileWith(display.primaries);
     if (!profile) {
         // A display may report colours that cannot be.
         profile = profileWith({});
@@ -118,15 +98,12 @@ Result<std::vector<std::uint8_t>> writeIcc(const GammaTable& table,
         !writeTable(profile, table)) {
         return failed();
     }
-    cmsUInt32Number size = 0;
-    cmsSaveProfileToMem(profile.get(), nullptr, &size);
-    std::vector<std::uint8_t> bytes(size);
-    if (size < sizeof(cmsICCHeader) ||
-        cmsSaveProfileToMem(profile.get(), bytes.data(), &size) == 0) {
+    auto bytes = profileBytes(profile);
+    if (!bytes) {
         return failed();
     }
-    stamp(bytes, display.time);
-    return bytes;
+    stamp(*bytes, display.time);
+    return std::move(*bytes);
 }
 
 }  // namespace tonquil
