@@ -283,9 +283,9 @@ void TQController::togglePanel() {
 
 // A neutral curve shows what a display shows while the correction is off, so it needs no switch.
 Result<void> TQController::takeCurves(const HandedCurves& curves) {
-    const auto neutral = TQExtendedGammaCurve().gammaCurveCompactArray();
+    const auto neutral = TQExtendedGammaCurve().gammaCurveDictionary();
     const bool areNeutral = std::ranges::all_of(
-        curves, [&](const auto& each) { return each.second->gammaCurveCompactArray() == neutral; });
+        curves, [&](const auto& each) { return each.second->gammaCurveDictionary() == neutral; });
     {
         const DisplayBatch batch(_with.service);
         auto taken = _editing.takeCurves(curves);

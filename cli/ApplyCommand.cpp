@@ -63,9 +63,7 @@ Result<std::optional<std::string>> applyOnce(const Curves& curves, const Argumen
     if (!arguments.hold && endsWithItsProgram(*meant, service)) {
         // The running Tonquil holds these displays, so what is in our way is not in its.
         return assignAny(curves, *meant).and_then([&](const Assignments& assignments) {
-            return requestFor(assignments, service).map([](std::string request) {
-                return std::optional(std::move(request));
-            });
+            return Result<std::optional<std::string>>(requestFor(assignments, service));
         });
     }
     const auto screens = selectScreens(registry, service, arguments.displays, environment.notes);

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "model/TQExtendedGammaCurve.h"
 #include "screens/HandedCurves.h"
 
 namespace tonquil {
@@ -19,16 +20,10 @@ std::string connectorOf(const KVScreen& screen, DisplayService& service) {
 
 }  // namespace
 
-Result<std::string> requestFor(const Assignments& assignments, DisplayService& service) {
+std::string requestFor(const Assignments& assignments, DisplayService& service) {
     HandedCurves curves;
     for (const auto& [screen, curve] : assignments) {
-        auto extended = std::dynamic_pointer_cast<TQExtendedGammaCurve>(curve);
-        if (!extended) {
-            return problem(
-                "Here a correction ends with the program that set it, and tonquil keeps no raw "
-                "tables; use \"tonquilctl apply --hold\", which stays.");
-        }
-        curves[connectorOf(*screen, service)] = std::move(extended);
+        curves[connectorOf(*screen, service)] = curve;
     }
     return textOf(curves);
 }

@@ -13,10 +13,8 @@ namespace tonquil {
 /// What is to be on which display.
 using Assignments = std::vector<std::pair<ScreenRegistry::ScreenPointer, KVScreen::CurvePointer>>;
 
-/// The request that has the running Tonquil take these curves over. A problem if it could not keep
-/// one of them.
-[[nodiscard]] Result<std::string> requestFor(const Assignments& assignments,
-                                             DisplayService& service);
+/// The request that has the running Tonquil take these curves over.
+[[nodiscard]] std::string requestFor(const Assignments& assignments, DisplayService& service);
 /// The request that takes its correction off these displays, all that there are or some of them.
 [[nodiscard]] std::string requestToRestore(const ScreenRegistry::Screens& screens, bool areAll,
                                            DisplayService& service);
