@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/TQController.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -283,16 +282,13 @@ void TQController::togglePanel() {
 
 // A neutral curve shows what a display shows while the correction is off, so it needs no switch.
 Result<void> TQController::takeCurves(const HandedCurves& curves) {
-    const auto neutral = TQExtendedGammaCurve().gammaCurveDictionary();
-    const bool areNeutral = std::ranges::all_of(
-        curves, [&](const auto& each) { return each.second->gammaCurveDictionary() == neutral; });
     {
         const DisplayBatch batch(_with.service);
         auto taken = _editing.takeCurves(curves);
         if (!taken) {
             return taken;
         }
-        if (!areNeutral && !applyCorrection()) {
+        if (!areNeutral(curves) && !applyCorrection()) {
             setApplyCorrection(true);
         }
     }
@@ -319,19 +315,6 @@ void TQController::showTarget(std::optional<TargetKind> kind, const std::string&
                                      "No display with the reference ID %@ is attached. "
                                      "tonquilctl displays lists them."),
                         {referenceID});
-}
-
-std::vector<PresetEntry> TQController::presets() const {
-    std::vector<PresetEntry> entries;
-    for (const Preset& preset : _presets.presets()) {
-        PresetEntry& entry = entries.emplace_back();
-        entry.name = preset.name;
-        if (preset.problem) {
-            entry.problemKey = preset.problem->key();
-            entry.problemArguments = preset.problem->arguments;
-        }
-    }
-    return entries;
 }
 
 int TQController::storedTab() const {

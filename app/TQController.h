@@ -89,7 +89,7 @@ class TQController final : public PanelActions {
     [[nodiscard]] std::vector<std::filesystem::path> recentFiles() const override {
         return _files.recentFiles();
     }
-    [[nodiscard]] std::vector<PresetEntry> presets() const override;
+    [[nodiscard]] std::vector<PresetEntry> presets() const override { return _presets.entries(); }
     void openPreset(const std::string& name) override { _presets.open(name); }
     void savePreset() override { _presets.saveAs(); }
     [[nodiscard]] bool canMakeEditable() override { return _editing.hasTable(); }

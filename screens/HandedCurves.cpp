@@ -45,6 +45,12 @@ std::shared_ptr<KVGammaCurve> curveOf(const PropertyValue& value) {
 
 }  // namespace
 
+bool areNeutral(const HandedCurves& curves) {
+    const PropertyValue neutral = TQExtendedGammaCurve().gammaCurveDictionary();
+    return std::ranges::all_of(
+        curves, [&](const auto& each) { return each.second->gammaCurveDictionary() == neutral; });
+}
+
 std::string textFromHandedCurves(const HandedCurves& curves) {
     PropertyValue object = PropertyValue::object();
     for (const auto& [connector, curve] : curves) {

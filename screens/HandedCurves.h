@@ -14,6 +14,9 @@ namespace tonquil {
 /// Curves that one of our programs hands to another that holds the displays, by connector.
 using HandedCurves = std::map<std::string, std::shared_ptr<KVGammaCurve>>;
 
+/// Whether each of them leaves its display as it is.
+[[nodiscard]] bool areNeutral(const HandedCurves& curves);
+
 /// Requests to the program that holds the displays: one line each, the first followed by curves.
 inline constexpr std::string_view handedCurvesWord = "curves ";
 inline constexpr std::string_view switchOffWord = "off";

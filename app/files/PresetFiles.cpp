@@ -9,6 +9,19 @@
 
 namespace tonquil {
 
+std::vector<PresetEntry> PresetFiles::entries() const {
+    std::vector<PresetEntry> entries;
+    for (const Preset& preset : _with.folder.presets()) {
+        PresetEntry& entry = entries.emplace_back();
+        entry.name = preset.name;
+        if (preset.problem) {
+            entry.problemKey = preset.problem->key();
+            entry.problemArguments = preset.problem->arguments;
+        }
+    }
+    return entries;
+}
+
 void PresetFiles::open(const std::string& name) {
     const auto file = _with.folder.fileNamed(name);
     if (file) {
@@ -20,7 +33,7 @@ void PresetFiles::open(const std::string& name) {
 
 void PresetFiles::saveAs() {
     std::vector<std::string> names;
-    for (const Preset& preset : presets()) {
+    for (const Preset& preset : _with.folder.presets()) {
         names.push_back(preset.name);
     }
     _with.dialogs.choosePresetName(names, [this](const std::string& name) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/files/SettingsFiles.h"
+#include "app/panel/PanelActions.h"
 #include "settings/PresetFolder.h"
 
 namespace tonquil {
@@ -23,7 +24,8 @@ class PresetFiles {
 
     explicit PresetFiles(Surroundings surroundings) : _with(std::move(surroundings)) {}
 
-    [[nodiscard]] std::vector<Preset> presets() const { return _with.folder.presets(); }
+    /// In order of name; reads their files.
+    [[nodiscard]] std::vector<PresetEntry> entries() const;
     /// Opens a preset after the current event.
     void open(const std::string& name);
     /// Asks for a name and saves what the panel edits: the curves of all displays, or the current
