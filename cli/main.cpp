@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
-#include <cstdlib>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -39,12 +38,6 @@ void say(std::string line) {
     static_cast<void>(print("tonquilctl: " + line + "\n", stderr));
 }
 
-/// A variable of the environment; empty where it is not set.
-std::string_view variable(const char* name) {
-    const char* const value = std::getenv(name);
-    return value == nullptr ? std::string_view() : value;
-}
-
 tonquil::RemoteAccess remoteAccess(tonquil::PollRunLoop& loop) {
     return {.runLoop = loop,
             .run = [&loop] { loop.run(); },
@@ -54,6 +47,11 @@ tonquil::RemoteAccess remoteAccess(tonquil::PollRunLoop& loop) {
             },
             .lookUpHost = tonquil::lookUpHost,
             .printNow = [](const std::string& text) { return print(text, stdout); }};
+}
+
+tonquil::PresetFolder presets() {
+    const auto folders = tonquil::XdgFolders::fromEnvironment();
+    return tonquil::PresetFolder(folders ? folders->config() / "presets" : "");
 }
 
 /// Where a program can have no folders, none of ours runs either.
@@ -111,8 +109,7 @@ struct Session {
                                 return service;
                             },
                         .handOver = handOver,
-                        .presets = tonquil::PresetFolder::ofUser(variable("XDG_CONFIG_HOME"),
-                                                                 variable("HOME")),
+                        .presets = presets(),
                         .areDisplaysLost = [this] { return areDisplaysLost; },
                         .displayServices = tonquil::builtInDisplayServices()});
     }

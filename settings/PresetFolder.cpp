@@ -34,13 +34,6 @@ std::optional<Problem> problemOf(const std::filesystem::path& file) {
 
 }  // namespace
 
-PresetFolder PresetFolder::ofUser(const std::filesystem::path& configuration,
-                                  const std::filesystem::path& home) {
-    // As the XDG base directory specification has it: a relative path counts as none.
-    const auto root = configuration.is_absolute() ? configuration : home / ".config";
-    return PresetFolder(root / "tonquil" / "presets");
-}
-
 std::vector<Preset> PresetFolder::list() const {
     std::vector<Preset> presets;
     std::error_code none;

@@ -30,10 +30,6 @@ class PresetFolder {
 
     /// The folder need not exist.
     explicit PresetFolder(std::filesystem::path folder) : _folder(std::move(folder)) {}
-    /// In the user's configuration; the arguments are XDG_CONFIG_HOME and HOME, either may be
-    /// empty.
-    [[nodiscard]] static PresetFolder ofUser(const std::filesystem::path& configuration,
-                                             const std::filesystem::path& home);
 
     /// In order of name, without regard to the case of ASCII letters. Reads every file to see
     /// whether it can be applied; hidden files are no presets.
