@@ -126,7 +126,8 @@ TEST_F(Use, ComparesWhileHeldEvenIfKilledMeanwhile) {
     desk.clickControl("chart", "Transfer curves");
     desk.xdotool({"keydown", "space"});
     EXPECT_TRUE(becomes(uncorrected));
-    EXPECT_TRUE(stays([&] { return desk.ramp() == uncorrected; })) << "through the key's repetition";
+    EXPECT_TRUE(stays([&] { return desk.ramp() == uncorrected; }))
+        << "through the key's repetition";
     desk.xdotool({"keyup", "space"});
     EXPECT_TRUE(becomes(corrected));
     ASSERT_TRUE(eventually([&] { return std::filesystem::exists(desk.recoveryFile()); }));
