@@ -24,7 +24,7 @@ Result<ScreenRegistry::Screens> meantScreens(ScreenRegistry& registry,
 Result<ScreenRegistry::Screens> selectScreens(ScreenRegistry& registry, DisplayService& service,
                                               const std::vector<std::string>& names,
                                               std::string& notes) {
-    const auto meant = meantScreens(registry, names);
+    auto meant = meantScreens(registry, names);
     if (!meant) {
         return meant;
     }

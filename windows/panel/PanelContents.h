@@ -59,7 +59,7 @@ class PanelContents : public QWidget {
  private:
     [[nodiscard]] QWidget* makeApplyRow();
     [[nodiscard]] QWidget* makeBlendingRow();
-    [[nodiscard]] QLabel* makeHint();
+    [[nodiscard]] static QLabel* makeHint();
     void nameControls() const;
     void updateIcons();
 

@@ -246,7 +246,7 @@ void PreferencesWindow::addNightLight(QVBoxLayout& column) const {
     line->hide();
 }
 
-void PreferencesWindow::showNightLight(bool isShown) {
+void PreferencesWindow::showNightLight(bool isShown) const {
     keepNightLight->parentWidget()->setVisible(isShown);
 }
 

@@ -35,7 +35,7 @@ class PreferencesWindow : public QWidget {
     /// Shows the controls with which the user gives hot keys their keys.
     void showHotKeyChooser(HotKeyChooser chooser);
     /// Whether there is a night light to keep; at first there is none.
-    void showNightLight(bool isShown);
+    void showNightLight(bool isShown) const;
     /// Takes the focus away from the control that has it.
     void clearFirstResponder();
 

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QScreen>
 #include <algorithm>
+#include <utility>
 
 #include "ui/theme/Drawing.h"
 #include "ui/theme/Theme.h"
@@ -23,12 +24,12 @@ constexpr double plateRadius = 14;
 }  // namespace
 
 // A window manager would put it where there is room, and only on the current workspace.
-DisplayLabel::DisplayLabel(const QString& number, const QString& name, bool isBlended)
+DisplayLabel::DisplayLabel(QString number, QString name, bool isBlended)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                            Qt::X11BypassWindowManagerHint | Qt::NoDropShadowWindowHint |
                            Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus),
-      _number(number),
-      _name(name),
+      _number(std::move(number)),
+      _name(std::move(name)),
       _radius(isBlended ? plateRadius : 0) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);

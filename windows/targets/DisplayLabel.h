@@ -10,7 +10,7 @@ namespace tonquil {
 class DisplayLabel : public QWidget {
  public:
     /// `isBlended`: a compositor blends translucent windows.
-    DisplayLabel(const QString& number, const QString& name, bool isBlended);
+    DisplayLabel(QString number, QString name, bool isBlended);
 
     /// Shows the label on the display with this frame, in points.
     void showOn(const QRect& frame);
