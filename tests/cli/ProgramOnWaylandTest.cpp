@@ -20,10 +20,12 @@ using namespace std::chrono_literals;
 template <typename Question>
 bool comesTrue(Question isSo) {
     const auto end = std::chrono::steady_clock::now() + 20s;
-    while (!isSo() && std::chrono::steady_clock::now() < end) {
+    bool isYes = isSo();
+    while (!isYes && std::chrono::steady_clock::now() < end) {
         std::this_thread::sleep_for(2ms);
+        isYes = isSo();
     }
-    return isSo();
+    return isYes;
 }
 
 template <typename Compositor>

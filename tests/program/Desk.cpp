@@ -31,10 +31,12 @@ for program in pyatspi.Registry.getDesktop(0):
 }  // namespace
 
 bool eventually(const std::function<bool()>& question) {
-    for (int count = 0; count < 400 && !question(); ++count) {
+    bool isYes = question();
+    for (int count = 0; count < 400 && !isYes; ++count) {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        isYes = question();
     }
-    return question();
+    return isYes;
 }
 
 bool stays(const std::function<bool()>& question, std::chrono::milliseconds duration) {
