@@ -60,10 +60,10 @@ bool KdeDisplayService::isOffered() {
 
 KdeDisplayService::KdeDisplayService(std::unique_ptr<WaylandConnection> connection,
                                      Surroundings with)
-    : _connection(std::move(connection)),
+    : ListedDisplayService(with.log),
+      _connection(std::move(connection)),
       _with(std::move(with)),
       _files(_with.state),
-      _listing(_with.log),
       _outputs(std::make_unique<KdeOutputs>(*_connection, [this] {
           match();
           outputsChanged();
@@ -178,48 +178,13 @@ std::vector<ListedDisplay> KdeDisplayService::layout() {
     return layout;
 }
 
-std::vector<DisplayID> KdeDisplayService::onlineDisplays(std::size_t most) {
-    // With a run loop the events have come already. An output that came has to be asked first.
+void KdeDisplayService::catchUp() {
+    // An output that came has to be asked first.
     if (_with.runLoop == nullptr && _connection->waitForAnswers(longestAnswer) &&
         std::ranges::any_of(_outputs->all(),
                             [](const auto& each) { return !each->isComplete(); })) {
         static_cast<void>(_connection->waitForAnswers(longestAnswer));
     }
-    std::vector<DisplayID> online;
-    for (const Display* display : present()) {
-        if (online.size() < most) {
-            online.push_back(display->listed.id);
-        }
-    }
-    return online;
-}
-
-DisplayID KdeDisplayService::mainDisplay() {
-    const Display* display = find(0);
-    return display == nullptr ? 0 : display->listed.id;
-}
-
-DisplayIdentity KdeDisplayService::identity(DisplayID display) {
-    const Display* found = find(display);
-    return found == nullptr ? DisplayIdentity{} : found->listed.identity;
-}
-
-DisplayDescription KdeDisplayService::description(DisplayID display) {
-    const Display* found = find(display);
-    if (found == nullptr) {
-        return {};
-    }
-    return {.connector = found->listed.connector,
-            .productName = found->listed.productName,
-            .rampSize = KdeProfileFiles::rampSize,
-            .obstacle = obstacle(*found),
-            .outlivesProgram = true,
-            .isReadable = false};
-}
-
-Rectangle KdeDisplayService::bounds(DisplayID display) {
-    const Display* found = find(display);
-    return found == nullptr ? Rectangle{} : found->output->properties().bounds;
 }
 
 void KdeDisplayService::setTransferTable(DisplayID display, const GammaTable& table) {

@@ -15,9 +15,8 @@
 #include "platform/kde/KdeCorrection.h"
 #include "platform/kde/KdeOutputs.h"
 #include "platform/kde/KdeProfileFiles.h"
-#include "platform/listing/DisplayListing.h"
+#include "platform/listing/ListedDisplayService.h"
 #include "platform/wayland/WaylandConnection.h"
-#include "screens/DisplayService.h"
 
 namespace tonquil {
 
@@ -26,7 +25,7 @@ namespace tonquil {
 /// A correction is the person's own profile with another calibration. The compositor keeps it when
 /// the program ends, and tells when somebody chooses another profile; that one is then the base,
 /// and is what restoring gives back.
-class KdeDisplayService final : public DisplayService {
+class KdeDisplayService final : public ListedDisplayService {
  public:
     /// How long the compositor must have been silent for a change to be over.
     static constexpr std::chrono::milliseconds quietTime{150};
@@ -51,28 +50,19 @@ class KdeDisplayService final : public DisplayService {
     /// Makes the changes still to be made first, unless the compositor takes too long.
     ~KdeDisplayService() override;
 
-    [[nodiscard]] std::vector<DisplayID> onlineDisplays(std::size_t most) override;
-    [[nodiscard]] DisplayID mainDisplay() override;
-    [[nodiscard]] DisplayIdentity identity(DisplayID display) override;
-    [[nodiscard]] DisplayDescription description(DisplayID display) override;
-    [[nodiscard]] Rectangle bounds(DisplayID display) override;
     void setTransferTable(DisplayID display, const GammaTable& table) override;
     [[nodiscard]] std::uint32_t getTransferTable(DisplayID display, GammaTable& table) override;
-    /// Always 0: only the profile's path is told, not what the compositor makes of it.
-    [[nodiscard]] std::uint32_t getHardwareTable(DisplayID /*display*/,
-                                                 GammaTable& /*table*/) override {
-        return 0;
-    }
     /// Also of those that are away: they get theirs when they come back.
     void restoreSystemCalibration() override;
     void restoreSystemCalibration(std::span<const DisplayID> displays) override;
     [[nodiscard]] std::unique_ptr<Subscription> registerReconfigurationCallback(
         ReconfigurationCallback callback) override;
-    /// Does nothing: a Wayland client cannot move the pointer.
-    void warpPointer(const Point& /*point*/) override {}
     [[nodiscard]] bool canBeDisturbed() const override { return false; }
 
  protected:
+    [[nodiscard]] std::vector<ListedDisplay> layout() override;
+    [[nodiscard]] bool areCorrectionsLasting() const override { return true; }
+    void catchUp() override;
     void beginBatch() override;
     bool endBatch() override;
 
@@ -100,7 +90,6 @@ class KdeDisplayService final : public DisplayService {
     /// The same, but only if it takes profiles; otherwise the log says once why not.
     [[nodiscard]] Display* correctable(DisplayID display);
     [[nodiscard]] std::string obstacle(const Display& display) const;
-    [[nodiscard]] std::vector<ListedDisplay> layout();
     void obstacleChanged(const std::string& key, const std::string& detail);
     void takeEvents();
     void outputsChanged();
@@ -110,7 +99,6 @@ class KdeDisplayService final : public DisplayService {
     std::unique_ptr<WaylandConnection> _connection;
     Surroundings _with;
     KdeProfileFiles _files;
-    DisplayListing _listing;
     std::map<std::string, Display> _displays;
     std::unique_ptr<KdeOutputs> _outputs;
     std::unique_ptr<RunLoop::Handle> _watch;

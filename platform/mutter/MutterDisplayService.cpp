@@ -42,8 +42,8 @@ bool MutterDisplayService::isOffered(const std::string& sessionBus,
 }
 
 MutterDisplayService::MutterDisplayService(Surroundings with)
-    : _with(std::move(with)),
-      _listing(_with.log),
+    : ListedDisplayService(with.log),
+      _with(std::move(with)),
       _bus(_with.runLoop),
       _profiles({.runLoop = _with.runLoop,
                  .systemBus = _with.systemBus,
@@ -144,7 +144,7 @@ void MutterDisplayService::takeLayout(MutterLayout layout) {
     layoutMayHaveChanged();
 }
 
-std::vector<ListedDisplay> MutterDisplayService::layout() const {
+std::vector<ListedDisplay> MutterDisplayService::layout() {
     std::vector<ListedDisplay> displays;
     for (const MutterDisplay& display : _displays.all()) {
         const auto state = _gamma->state(display.listed.connector);
@@ -169,47 +169,10 @@ HardwareRamp MutterDisplayService::rampFor(const std::string& connector, std::ui
     return ramp;
 }
 
-std::vector<DisplayID> MutterDisplayService::onlineDisplays(std::size_t most) {
-    // With a run loop the changes have been heard of already.
+void MutterDisplayService::catchUp() {
     if (_with.runLoop == nullptr) {
         static_cast<void>(refresh());
     }
-    std::vector<DisplayID> online;
-    for (const MutterDisplay& display : _displays.all()) {
-        if (online.size() < most) {
-            online.push_back(display.listed.id);
-        }
-    }
-    return online;
-}
-
-DisplayID MutterDisplayService::mainDisplay() {
-    const MutterDisplay* const found = _displays.find(0);
-    return found == nullptr ? 0 : found->listed.id;
-}
-
-DisplayIdentity MutterDisplayService::identity(DisplayID display) {
-    const MutterDisplay* const found = _displays.find(display);
-    return found == nullptr ? DisplayIdentity{} : found->listed.identity;
-}
-
-DisplayDescription MutterDisplayService::description(DisplayID display) {
-    const MutterDisplay* const found = _displays.find(display);
-    if (found == nullptr) {
-        return {};
-    }
-    const auto state = _gamma->state(found->listed.connector);
-    return {.connector = found->listed.connector,
-            .productName = found->listed.productName,
-            .rampSize = state.size,
-            .obstacle = state.obstacle,
-            .outlivesProgram = _generation == Generation::Crtc,
-            .isReadable = false};
-}
-
-Rectangle MutterDisplayService::bounds(DisplayID display) {
-    const MutterDisplay* const found = _displays.find(display);
-    return found == nullptr ? Rectangle{} : found->listed.bounds;
 }
 
 void MutterDisplayService::setTransferTable(DisplayID display, const GammaTable& table) {

@@ -14,13 +14,12 @@
 #include "foundation/Problem.h"
 #include "foundation/RunLoop.h"
 #include "platform/colord/ProfileFiles.h"
-#include "platform/listing/DisplayListing.h"
 #include "platform/listing/KernelEdid.h"
+#include "platform/listing/ListedDisplayService.h"
 #include "platform/mutter/MutterBus.h"
 #include "platform/mutter/MutterDisplays.h"
 #include "platform/mutter/MutterGamma.h"
 #include "platform/mutter/NightLight.h"
-#include "screens/DisplayService.h"
 
 namespace tonquil {
 
@@ -32,7 +31,7 @@ namespace tonquil {
 ///
 /// With a run loop only the opening, and the first ramps until the loop runs, are waited for, all
 /// of it for a bounded time.
-class MutterDisplayService final : public DisplayService {
+class MutterDisplayService final : public ListedDisplayService {
  public:
     /// How long changes of the monitors are collected.
     static constexpr std::chrono::milliseconds quietTime{150};
@@ -65,18 +64,8 @@ class MutterDisplayService final : public DisplayService {
                                         std::chrono::milliseconds longestGreeting);
     ~MutterDisplayService() override;
 
-    [[nodiscard]] std::vector<DisplayID> onlineDisplays(std::size_t most) override;
-    [[nodiscard]] DisplayID mainDisplay() override;
-    [[nodiscard]] DisplayIdentity identity(DisplayID display) override;
-    [[nodiscard]] DisplayDescription description(DisplayID display) override;
-    [[nodiscard]] Rectangle bounds(DisplayID display) override;
     void setTransferTable(DisplayID display, const GammaTable& table) override;
     [[nodiscard]] std::uint32_t getTransferTable(DisplayID display, GammaTable& table) override;
-    /// Always 0: nobody can tell what is on the hardware from what a night light has put there.
-    [[nodiscard]] std::uint32_t getHardwareTable(DisplayID /*display*/,
-                                                 GammaTable& /*table*/) override {
-        return 0;
-    }
     using DisplayService::restoreSystemCalibration;
     void restoreSystemCalibration(std::span<const DisplayID> displays) override;
     [[nodiscard]] std::unique_ptr<Subscription> registerReconfigurationCallback(
@@ -86,10 +75,13 @@ class MutterDisplayService final : public DisplayService {
         return _generation == Generation::Calibration;
     }
     void setNightLightKept(bool isKept) override;
-    /// Does nothing: a Wayland client cannot move the pointer.
-    void warpPointer(const Point& /*point*/) override {}
 
  protected:
+    [[nodiscard]] std::vector<ListedDisplay> layout() override;
+    [[nodiscard]] bool areCorrectionsLasting() const override {
+        return _generation == Generation::Crtc;
+    }
+    void catchUp() override;
     void beginBatch() override;
     bool endBatch() override;
 
@@ -105,7 +97,6 @@ class MutterDisplayService final : public DisplayService {
     void monitorsChanged();
     void askForLayout();
     void takeLayout(MutterLayout layout);
-    [[nodiscard]] std::vector<ListedDisplay> layout() const;
     [[nodiscard]] HardwareRamp rampFor(const std::string& connector, std::uint32_t size) const;
     /// Otherwise the log says once why not.
     [[nodiscard]] bool isReached(DisplayID display);
@@ -117,7 +108,6 @@ class MutterDisplayService final : public DisplayService {
     void connectionLost(const std::string& sentence);
 
     Surroundings _with;
-    DisplayListing _listing;
     MutterDisplays _displays;
     MutterLayout _layout;
     Generation _generation = Generation::Calibration;

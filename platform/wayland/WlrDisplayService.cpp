@@ -56,9 +56,9 @@ bool WlrDisplayService::isOffered() {
 
 WlrDisplayService::WlrDisplayService(std::unique_ptr<WaylandConnection> connection,
                                      Surroundings with)
-    : _connection(std::move(connection)),
+    : ListedDisplayService(with.log),
+      _connection(std::move(connection)),
       _with(std::move(with)),
-      _listing(_with.log),
       _profiles({.runLoop = _with.runLoop,
                  .systemBus = _with.systemBus,
                  .changed = [this] { calibrationsChanged(); }}),
@@ -144,51 +144,15 @@ std::vector<ListedDisplay> WlrDisplayService::layout() {
     return displays;
 }
 
-std::vector<DisplayID> WlrDisplayService::onlineDisplays(std::size_t most) {
-    // With a run loop the events have come already.
-    if (_with.runLoop == nullptr && _connection->waitForAnswers(longestAnswer)) {
+void WlrDisplayService::catchUp() {
+    if (_with.runLoop != nullptr) {
+        return;
+    }
+    if (_connection->waitForAnswers(longestAnswer)) {
         static_cast<void>(
             _connection->waitUntil([this] { return _outputs->areAnswered(); }, longestGammaAnswer));
     }
-    if (_with.runLoop == nullptr) {
-        askForProfiles();
-    }
-    std::vector<DisplayID> online;
-    for (const WlrOutput* output : outputs()) {
-        if (online.size() < most) {
-            online.push_back(output->display.id);
-        }
-    }
-    return online;
-}
-
-DisplayID WlrDisplayService::mainDisplay() {
-    const WlrOutput* output = find(0);
-    return output == nullptr ? 0 : output->display.id;
-}
-
-DisplayIdentity WlrDisplayService::identity(DisplayID display) {
-    const WlrOutput* output = find(display);
-    return output == nullptr ? DisplayIdentity{} : output->display.identity;
-}
-
-DisplayDescription WlrDisplayService::description(DisplayID display) {
-    const WlrOutput* output = find(display);
-    if (output == nullptr) {
-        return {};
-    }
-    return {.connector = output->wayland.properties().name,
-            .productName = output->display.productName,
-            .rampSize = output->gamma.size(),
-            .obstacle = output->gamma.obstacle(),
-            .outlivesProgram = false,
-            .isReadable = false,
-            .primaries = output->display.primaries};
-}
-
-Rectangle WlrDisplayService::bounds(DisplayID display) {
-    const WlrOutput* output = find(display);
-    return output == nullptr ? Rectangle{} : output->wayland.properties().bounds;
+    askForProfiles();
 }
 
 void WlrDisplayService::setTransferTable(DisplayID display, const GammaTable& table) {

@@ -10,11 +10,10 @@
 #include "foundation/Problem.h"
 #include "foundation/RunLoop.h"
 #include "platform/colord/ProfileFiles.h"
-#include "platform/listing/DisplayListing.h"
 #include "platform/listing/KernelEdid.h"
+#include "platform/listing/ListedDisplayService.h"
 #include "platform/wayland/WaylandConnection.h"
 #include "platform/wayland/WlrOutputs.h"
-#include "screens/DisplayService.h"
 
 namespace tonquil {
 
@@ -25,7 +24,7 @@ namespace tonquil {
 /// names, or a straight line, and nothing is kept about earlier corrections. A display that another
 /// program holds is listed with that reason and asked for again every `retryInterval`, given a run
 /// loop.
-class WlrDisplayService final : public DisplayService {
+class WlrDisplayService final : public ListedDisplayService {
  public:
     /// How long the compositor must have been silent for a change to be over.
     static constexpr std::chrono::milliseconds quietTime{150};
@@ -50,28 +49,19 @@ class WlrDisplayService final : public DisplayService {
     [[nodiscard]] static bool isOffered();
     ~WlrDisplayService() override;
 
-    [[nodiscard]] std::vector<DisplayID> onlineDisplays(std::size_t most) override;
-    [[nodiscard]] DisplayID mainDisplay() override;
-    [[nodiscard]] DisplayIdentity identity(DisplayID display) override;
-    [[nodiscard]] DisplayDescription description(DisplayID display) override;
-    [[nodiscard]] Rectangle bounds(DisplayID display) override;
     void setTransferTable(DisplayID display, const GammaTable& table) override;
     [[nodiscard]] std::uint32_t getTransferTable(DisplayID display, GammaTable& table) override;
-    /// Always 0: the protocol has no way to ask.
-    [[nodiscard]] std::uint32_t getHardwareTable(DisplayID /*display*/,
-                                                 GammaTable& /*table*/) override {
-        return 0;
-    }
     using DisplayService::restoreSystemCalibration;
     /// Gives the displays' tables back to the compositor, so that other programs may have them.
     void restoreSystemCalibration(std::span<const DisplayID> displays) override;
     [[nodiscard]] std::unique_ptr<Subscription> registerReconfigurationCallback(
         ReconfigurationCallback callback) override;
-    /// Does nothing: a Wayland client cannot move the pointer.
-    void warpPointer(const Point& /*point*/) override {}
     [[nodiscard]] bool canBeDisturbed() const override { return false; }
 
  protected:
+    [[nodiscard]] std::vector<ListedDisplay> layout() override;
+    [[nodiscard]] bool areCorrectionsLasting() const override { return false; }
+    void catchUp() override;
     void beginBatch() override;
     bool endBatch() override;
 
@@ -86,7 +76,6 @@ class WlrDisplayService final : public DisplayService {
     /// The same, but only if its gamma control is held, after asking for it if need be; otherwise
     /// the log says once why not.
     [[nodiscard]] WlrOutput* correctable(DisplayID display);
-    [[nodiscard]] std::vector<ListedDisplay> layout();
     void askForProfiles();
     void calibrationsChanged();
     void takeEvents();
@@ -99,7 +88,6 @@ class WlrDisplayService final : public DisplayService {
 
     std::unique_ptr<WaylandConnection> _connection;
     Surroundings _with;
-    DisplayListing _listing;
     ProfileFiles _profiles;
     std::unique_ptr<WlrOutputs> _outputs;
     /// The answer to the ramps sent last; while it is awaited no more are sent.
