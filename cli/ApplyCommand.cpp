@@ -48,9 +48,8 @@ Result<Assignments> assignAny(const Curves& curves, const ScreenRegistry::Screen
     return std::visit([&](const auto& source) { return assign(source, screens); }, curves);
 }
 
-/// Puts the curves on the displays that are meant and that are there. Where a correction ends with
-/// its program, and is not to be held, it sets nothing and gives the request for the Tonquil that
-/// runs.
+/// Puts the curves on the displays that are meant and that are there, unless they are left to the
+/// Tonquil that runs: see `leaveToTonquil`.
 Result<std::optional<std::string>> applyOnce(const Curves& curves, const Arguments& arguments,
                                              DisplayService& service, ScreenRegistry& registry,
                                              const CommandEnvironment& environment) {
@@ -60,11 +59,14 @@ Result<std::optional<std::string>> applyOnce(const Curves& curves, const Argumen
     if (!meant) {
         return tl::unexpected(meant.error());
     }
-    if (!arguments.hold && endsWithItsProgram(*meant, service)) {
+    if (!arguments.hold && service.isKeptByOneProgram()) {
         // The running Tonquil holds these displays, so what is in our way is not in its.
-        return assignAny(curves, *meant).and_then([&](const Assignments& assignments) {
-            return Result<std::optional<std::string>>(requestFor(assignments, service));
+        auto left = assignAny(curves, *meant).and_then([&](const Assignments& assignments) {
+            return leaveToTonquil(requestFor(assignments, service), *meant, service, environment);
         });
+        if (!left || *left) {
+            return left;
+        }
     }
     const auto screens = selectScreens(registry, service, arguments.displays, environment.notes);
     if (!screens) {
@@ -145,10 +147,9 @@ Result<void> runApply(const Arguments& arguments, const CommandEnvironment& envi
     if (arguments.hold) {
         return hold(*curves, arguments, **service, *registry, environment);
     }
-    // To look at a display may have taken it from the one who is to set it.
     registry.reset();
     service->reset();
-    return *applied ? handOver(**applied, environment) : Result<void>();
+    return handOver(applied->value_or(""), environment);
 }
 
 }  // namespace tonquil

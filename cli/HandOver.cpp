@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "cli/ScreenSelection.h"
 #include "model/TQExtendedGammaCurve.h"
 #include "screens/HandedCurves.h"
 
@@ -40,7 +41,27 @@ std::string requestToRestore(const ScreenRegistry::Screens& screens, bool areAll
     return textOf(neutral);
 }
 
+Result<std::optional<std::string>> leaveToTonquil(std::string request,
+                                                  const ScreenRegistry::Screens& screens,
+                                                  DisplayService& service,
+                                                  const CommandEnvironment& environment) {
+    if (!service.isKeptByOneProgram()) {
+        return std::nullopt;
+    }
+    if (endsWithItsProgram(screens, service)) {
+        return request;
+    }
+    const auto handed = environment.handOver(request);
+    if (!handed) {
+        return std::nullopt;
+    }
+    return handed->map([] { return std::optional<std::string>(""); });
+}
+
 Result<void> handOver(const std::string& request, const CommandEnvironment& environment) {
+    if (request.empty()) {
+        return {};
+    }
     if (auto handed = environment.handOver(request)) {
         return std::move(*handed);
     }

@@ -19,7 +19,15 @@ using Assignments = std::vector<std::pair<ScreenRegistry::ScreenPointer, KVScree
 [[nodiscard]] std::string requestToRestore(const ScreenRegistry::Screens& screens, bool areAll,
                                            DisplayService& service);
 
-/// Hands a request to the running Tonquil; a problem where none runs, or where it cannot do it.
+/// Leaves a request to the Tonquil that runs, where these displays are kept by one program. Nothing
+/// if the caller has to carry it out; an empty text if it is done; otherwise the request, to be
+/// handed over once the displays have been let go, for to look at one may have taken it.
+[[nodiscard]] Result<std::optional<std::string>> leaveToTonquil(
+    std::string request, const ScreenRegistry::Screens& screens, DisplayService& service,
+    const CommandEnvironment& environment);
+
+/// Hands a request, if it is not empty, to the running Tonquil; a problem where none runs, or where
+/// it cannot do it.
 [[nodiscard]] Result<void> handOver(const std::string& request,
                                     const CommandEnvironment& environment);
 

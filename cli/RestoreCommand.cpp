@@ -12,8 +12,8 @@ namespace tonquil {
 
 namespace {
 
-/// Restores the displays that are meant. Where a correction ends with its program it restores
-/// nothing, and gives the request for the Tonquil that runs.
+/// Restores the displays that are meant, unless that is left to the Tonquil that runs: see
+/// `leaveToTonquil`.
 Result<std::optional<std::string>> restore(const Arguments& arguments, DisplayService& service,
                                            const CommandEnvironment& environment) {
     DisplayBatch batch(service);
@@ -23,8 +23,10 @@ Result<std::optional<std::string>> restore(const Arguments& arguments, DisplaySe
     if (!meant) {
         return tl::unexpected(meant.error());
     }
-    if (endsWithItsProgram(*meant, service)) {
-        return requestToRestore(*meant, arguments.displays.empty(), service);
+    auto left = leaveToTonquil(requestToRestore(*meant, arguments.displays.empty(), service),
+                               *meant, service, environment);
+    if (!left || *left) {
+        return left;
     }
     const auto screens = selectScreens(registry, service, arguments.displays, environment.notes);
     if (!screens) {
@@ -53,7 +55,7 @@ Result<void> runRestore(const Arguments& arguments, const CommandEnvironment& en
         return tl::unexpected(restored.error());
     }
     service->reset();
-    return *restored ? handOver(**restored, environment) : Result<void>();
+    return handOver(restored->value_or(""), environment);
 }
 
 }  // namespace tonquil

@@ -16,31 +16,51 @@ namespace tonquil {
 namespace {
 
 constexpr const char* storedTable = "Table";
-/// Far more numbers than a compact form has.
-constexpr std::size_t tableBytes = 2 * KVTableGammaCurve::dataSize;
+constexpr std::string_view digits = "0123456789abcdef";
+
+std::string textFromBytes(const std::vector<std::uint8_t>& bytes) {
+    std::string text;
+    for (const std::uint8_t byte : bytes) {
+        text += digits[byte >> 4U];
+        text += digits[byte & 0xFU];
+    }
+    return text;
+}
+
+/// Nothing but digits counts.
+std::vector<std::uint8_t> bytesFromText(const std::string& text) {
+    std::vector<std::uint8_t> bytes;
+    std::size_t high = std::string_view::npos;
+    for (const char c : text) {
+        const std::size_t digit = digits.find(c);
+        if (digit == std::string_view::npos || high == std::string_view::npos) {
+            high = digit;
+        } else {
+            bytes.push_back(static_cast<std::uint8_t>(high * digits.size() + digit));
+            high = std::string_view::npos;
+        }
+    }
+    return bytes;
+}
 
 PropertyValue valueOf(const KVGammaCurve& curve) {
     if (const auto* const extended = dynamic_cast<const TQExtendedGammaCurve*>(&curve)) {
         return extended->gammaCurveCompactArray();
     }
     const PropertyValue dictionary = curve.gammaCurveDictionary();
-    return std::vector<std::uint8_t>(dictionary.at(storedTable).get_binary());
+    return textFromBytes(dictionary.at(storedTable).get_binary());
 }
 
+/// Null if it is none.
 std::shared_ptr<KVGammaCurve> curveOf(const PropertyValue& value) {
+    if (value.is_string()) {
+        return KVTableGammaCurve::tableGammaCurveWithDictionary(
+            {{storedTable, PropertyValue::binary(bytesFromText(value.get<std::string>()))}});
+    }
     // JSON has no infinity: such a number arrives as null.
-    if (!std::ranges::all_of(value, [](const PropertyValue& each) { return each.is_number(); })) {
-        return nullptr;
-    }
-    if (value.size() != tableBytes) {
-        return TQExtendedGammaCurve::gammaCurveWithCompactArray(value);
-    }
-    std::vector<std::uint8_t> bytes;
-    for (const PropertyValue& each : value) {
-        bytes.push_back(static_cast<std::uint8_t>(integerValue(each)));
-    }
-    return KVTableGammaCurve::tableGammaCurveWithDictionary(
-        {{storedTable, PropertyValue::binary(std::move(bytes))}});
+    const bool areNumbers =
+        std::ranges::all_of(value, [](const PropertyValue& each) { return each.is_number(); });
+    return areNumbers ? TQExtendedGammaCurve::gammaCurveWithCompactArray(value) : nullptr;
 }
 
 }  // namespace

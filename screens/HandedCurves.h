@@ -21,8 +21,8 @@ using HandedCurves = std::map<std::string, std::shared_ptr<KVGammaCurve>>;
 inline constexpr std::string_view handedCurvesWord = "curves ";
 inline constexpr std::string_view switchOffWord = "off";
 
-/// One line of text, and back: JSON, with a curve in its compact form, or the bytes of a table as
-/// settings files hold them.
+/// One line of text, and back: JSON, with a curve in its compact form, or the bytes of a table, as
+/// settings files hold them, in hexadecimal.
 [[nodiscard]] std::string textFromHandedCurves(const HandedCurves& curves);
 [[nodiscard]] Result<HandedCurves> handedCurvesFromText(std::string_view text);
 

@@ -45,9 +45,6 @@ void KdeCorrection::adopt(const KdeProfileChoice& present) {
     _present = present;
     const bool isOurFile = _with.files.isOurs(present.path);
     _isOursPresent = isOurFile && present.source == KdeProfileChoice::file;
-    if (_isOursPresent) {
-        _putBack = 0;
-    }
     KdeProfileChoice theirs = present;
     if (isOurFile) {
         const KdeProfileChoice before =
@@ -75,6 +72,7 @@ void KdeCorrection::correct(const HardwareRamp& ramp) {
         return;
     }
     _wanted = Wanted::Corrected;
+    _putBack = 0;
     _ramp = ramp;
     _isSent = false;
     send();
@@ -82,14 +80,15 @@ void KdeCorrection::correct(const HardwareRamp& ramp) {
 
 void KdeCorrection::restore() {
     _wanted = Wanted::Theirs;
+    _putBack = 0;
     _isSent = !_isOursPresent && !_isOursSent;
     send();
 }
 
 void KdeCorrection::keep() {
     constexpr int mostInVain = 5;
-    const bool isReplaced = (_wanted == Wanted::Corrected && !_isOursPresent) ||
-                            (_wanted == Wanted::Theirs && _isOursPresent);
+    // What others correct while this program does not is theirs to end.
+    const bool isReplaced = _wanted == Wanted::Corrected && !_isOursPresent;
     if (_output != nullptr && isReplaced && _isSent && !_underway && _obstacle.empty() &&
         _putBack < mostInVain) {
         ++_putBack;

@@ -100,7 +100,7 @@ class KdeCorrection {
     std::unique_ptr<KdeConfiguration> _underway;
     bool _isSecondTry = false;
     std::string _obstacle;
-    /// How often it was put back without ever being seen there.
+    /// How often it was put back since it was set.
     int _putBack = 0;
 
     bool _isHurried = false;

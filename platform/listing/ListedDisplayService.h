@@ -26,6 +26,7 @@ class ListedDisplayService : public DisplayService {
                                                  GammaTable& /*table*/) override {
         return 0;
     }
+    [[nodiscard]] bool isKeptByOneProgram() const override { return true; }
     /// Does nothing.
     void warpPointer(const Point& /*point*/) override {}
 

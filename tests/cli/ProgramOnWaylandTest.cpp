@@ -114,6 +114,7 @@ TEST_F(ProgramOnWayland, HandsCurvesToTheTonquilThatRuns) {
     const ScratchFolder home;
     compositor.plug("DP-1", 0);
     compositor.plug("DP-2", 1920);
+    compositor.plug("DP-3", 3840);
     const auto inSession = [&](ProcessRequest request) {
         for (const char* const folder : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME",
                                          "XDG_RUNTIME_DIR", "DBUS_SESSION_BUS_ADDRESS"}) {

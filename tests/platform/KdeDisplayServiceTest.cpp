@@ -74,6 +74,21 @@ TEST_F(KdeDisplays, KeepsTheColoursThatTheMonitorReportsWherePeopleWantThose) {
     EXPECT_EQ(profiles.size(), 2U);
 }
 
+TEST_F(KdeDisplays, LeavesToOthersWhatTheyCorrectWhileItDoesNot) {
+    service->restoreSystemCalibration();
+    EXPECT_TRUE(comesTrue([&] { return compositor.choice("DP-1") == theirs; }));
+    subscription.reset();
+    const auto other = KdeDisplayService::open(compositor.socket().c_str(),
+                                               {.state = folder.path() / "new" / "state"})
+                           .value();
+    other->setTransferTable(0, table);
+    const int before = compositor.changes();
+    const auto end = loop.now() + 5s;
+    EXPECT_TRUE(comesTrue([&] { return loop.now() > end; }));
+    EXPECT_TRUE(isCorrected("DP-1"));
+    EXPECT_EQ(compositor.changes(), before);
+}
+
 TEST_F(KdeDisplays, SendsAtMost15ChangesASecondAndTheLastOneAlways) {
     const auto slide = [&](std::chrono::milliseconds time) {
         for (auto end = loop.now() + time; loop.now() < end; loop.advance(5ms)) {
