@@ -81,17 +81,33 @@ Result<std::filesystem::path> PresetFolder::fileNamed(std::string_view name) con
     return found->file;
 }
 
-Result<std::filesystem::path> PresetFolder::placeFor(std::string_view name,
-                                                     std::string_view extension) const {
-    constexpr std::size_t longest = 100;
-    const bool isUsable = !name.empty() && name.size() <= longest && !name.starts_with('.') &&
+Result<PresetPlace> PresetFolder::placeFor(std::string_view name,
+                                           std::string_view extension) const {
+    // In UTF-8, a character that goes on begins with the bits 10.
+    const auto length = std::ranges::count_if(
+        name, [](char c) { return (static_cast<unsigned char>(c) >> 6U) != 2; });
+    const bool isUsable = length > 0 && length <= longestName && !name.starts_with('.') &&
                           std::ranges::none_of(name, [](unsigned char c) {
                               return c < ' ' || c == '/' || c == 0x7F;
                           });
     if (!isUsable) {
         return problem(TONQUIL_TEXT("Problem",
-                                    "A preset's name has up to 100 characters, no slash, and no "
+                                    "A preset's name has up to 50 characters, no slash, and no "
                                     "dot in front. Nothing was saved."));
+    }
+    PresetPlace place;
+    std::string stem(name);
+    const std::vector<Preset> presets = list();
+    if (const auto replaced = std::ranges::find(presets, name, &Preset::name);
+        replaced != presets.end()) {
+        place.replaced = replaced->file;
+        stem = replaced->file.stem();
+    } else if (std::ranges::any_of(presets, [&](const Preset& preset) {
+                   return preset.file.stem() == name || preset.file.filename() == name;
+               })) {
+        return problemWith(
+            TONQUIL_TEXT("Problem", "There is a preset called \"%@\" already. Nothing was saved."),
+            {stem});
     }
     std::error_code failure;
     std::filesystem::create_directories(_folder, failure);
@@ -99,7 +115,8 @@ Result<std::filesystem::path> PresetFolder::placeFor(std::string_view name,
         return problem(TONQUIL_TEXT("Problem", "The folder of presets could not be made."),
                        failure.message());
     }
-    return _folder / (std::string(name) + std::string(extension));
+    place.file = _folder / stem.append(extension);
+    return place;
 }
 
 }  // namespace tonquil

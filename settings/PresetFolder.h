@@ -22,11 +22,20 @@ struct Preset {
     std::optional<Problem> problem;
 };
 
+/// Where a preset is saved.
+struct PresetPlace {
+    std::filesystem::path file;
+    /// The preset of the same name, perhaps with another extension.
+    std::optional<std::filesystem::path> replaced;
+};
+
 /// The folder in which people keep settings files that they want to choose by name.
 class PresetFolder {
  public:
     /// Further files are not listed.
     static constexpr std::size_t most = 64;
+    /// In characters, so that any of them is a file name in UTF-8.
+    static constexpr int longestName = 50;
 
     /// The folder need not exist.
     explicit PresetFolder(std::filesystem::path folder) : _folder(std::move(folder)) {}
@@ -36,9 +45,10 @@ class PresetFolder {
     [[nodiscard]] std::vector<Preset> presets() const;
     /// The file of a preset, broken or not.
     [[nodiscard]] Result<std::filesystem::path> fileNamed(std::string_view name) const;
-    /// Where a new preset goes; makes the folder. A problem if no file can have that name.
-    [[nodiscard]] Result<std::filesystem::path> placeFor(std::string_view name,
-                                                         std::string_view extension) const;
+    /// Where a preset goes; makes the folder. A problem if no preset can have that name, or if it
+    /// is another one's file although it is shown under another name.
+    [[nodiscard]] Result<PresetPlace> placeFor(std::string_view name,
+                                               std::string_view extension) const;
 
  private:
     [[nodiscard]] std::vector<Preset> list() const;

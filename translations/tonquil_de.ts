@@ -860,8 +860,16 @@
         <translation>Es gibt keine Vorlage namens „%@“.</translation>
     </message>
     <message>
-        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
-        <translation>Der Name einer Vorlage hat bis zu 100 Zeichen, keinen Schrägstrich und keinen Punkt am Anfang. Es wurde nichts gespeichert.</translation>
+        <source>There is a preset called &quot;%@&quot; already. Nothing was saved.</source>
+        <translation>Eine Vorlage namens „%@“ gibt es schon. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>There is no display whose curve could be saved.</source>
+        <translation>Es gibt keinen Bildschirm, dessen Kurve gesichert werden könnte.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 50 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>Der Name einer Vorlage hat bis zu 50 Zeichen, keinen Schrägstrich und keinen Punkt am Anfang. Es wurde nichts gespeichert.</translation>
     </message>
     <message>
         <source>The folder of presets could not be made.</source>

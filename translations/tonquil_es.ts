@@ -860,8 +860,16 @@
         <translation>No hay ningún preajuste llamado «%@».</translation>
     </message>
     <message>
-        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
-        <translation>El nombre de un preajuste tiene hasta 100 caracteres, ninguna barra y ningún punto al principio. No se ha guardado nada.</translation>
+        <source>There is a preset called &quot;%@&quot; already. Nothing was saved.</source>
+        <translation>Ya hay un preajuste llamado «%@». No se ha guardado nada.</translation>
+    </message>
+    <message>
+        <source>There is no display whose curve could be saved.</source>
+        <translation>No hay ninguna pantalla cuya curva se pueda guardar.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 50 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>El nombre de un preajuste tiene hasta 50 caracteres, ninguna barra y ningún punto al principio. No se ha guardado nada.</translation>
     </message>
     <message>
         <source>The folder of presets could not be made.</source>

@@ -860,8 +860,16 @@
         <translation>Il n’y a aucun préréglage nommé «&#xa0;%@&#xa0;».</translation>
     </message>
     <message>
-        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
-        <translation>Le nom d’un préréglage a 100 caractères au plus, sans barre oblique et sans point au début. Rien n’a été enregistré.</translation>
+        <source>There is a preset called &quot;%@&quot; already. Nothing was saved.</source>
+        <translation>Il y a déjà un préréglage nommé « %@ ». Rien n’a été enregistré.</translation>
+    </message>
+    <message>
+        <source>There is no display whose curve could be saved.</source>
+        <translation>Il n’y a aucun écran dont la courbe pourrait être enregistrée.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 50 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>Le nom d’un préréglage a 50 caractères au plus, sans barre oblique et sans point au début. Rien n’a été enregistré.</translation>
     </message>
     <message>
         <source>The folder of presets could not be made.</source>

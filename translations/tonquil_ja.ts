@@ -860,8 +860,16 @@
         <translation>「%@」という名前のプリセットはありません。</translation>
     </message>
     <message>
-        <source>A preset&apos;s name has up to 100 characters, no slash, and no dot in front. Nothing was saved.</source>
-        <translation>プリセットの名前は100文字以内で、スラッシュを含めず、ドットで始めないでください。何も保存されていません。</translation>
+        <source>There is a preset called &quot;%@&quot; already. Nothing was saved.</source>
+        <translation>「%@」という名前のプリセットはすでにあります。何も保存されていません。</translation>
+    </message>
+    <message>
+        <source>There is no display whose curve could be saved.</source>
+        <translation>曲線を保存できるディスプレイがありません。</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name has up to 50 characters, no slash, and no dot in front. Nothing was saved.</source>
+        <translation>プリセットの名前は50文字以内で、スラッシュを含めず、ドットで始めないでください。何も保存されていません。</translation>
     </message>
     <message>
         <source>The folder of presets could not be made.</source>

@@ -50,12 +50,11 @@ Result<void> PresetFiles::save(const std::string& name) {
     if (!place) {
         return tl::unexpected(std::move(place.error()));
     }
-    const auto replaced = _with.folder.fileNamed(name);
     auto saved = _with.files.saveSettings(
-        *place, areAll ? SettingsFormat::MultiDisplay : SettingsFormat::SingleDisplay);
-    if (saved && replaced && *replaced != *place) {
+        place->file, areAll ? SettingsFormat::MultiDisplay : SettingsFormat::SingleDisplay);
+    if (saved && place->replaced && *place->replaced != place->file) {
         std::error_code stays;
-        std::filesystem::remove(*replaced, stays);
+        std::filesystem::remove(*place->replaced, stays);
     }
     return saved;
 }

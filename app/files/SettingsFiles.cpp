@@ -163,7 +163,7 @@ Result<void> SettingsFiles::exportTable(const std::filesystem::path& file, Setti
     const auto screens = _with.currentScreens._currentScreens();
     const auto curves = _with.view.plottedCurves();
     if (screens.empty() || !curves) {
-        return problem("There is no display whose table could be saved.");
+        return problem(TONQUIL_TEXT("Problem", "There is no display whose curve could be saved."));
     }
     const DisplayDescription description =
         _with.service.description(screens.front()->directDisplayID());
@@ -196,7 +196,7 @@ void SettingsFiles::makeEditable() {
 Result<void> SettingsFiles::saveCurrentCurve(const std::filesystem::path& file) {
     const auto screens = _with.currentScreens._currentScreens();
     if (screens.empty() || !screens.front()->gammaCurve()) {
-        return problem("There is no display whose curve could be saved.");
+        return problem(TONQUIL_TEXT("Problem", "There is no display whose curve could be saved."));
     }
     return writeSettings(screens.front()->gammaCurve()->gammaCurveDictionary(), file);
 }

@@ -237,10 +237,18 @@ TEST_F(Files, InFolderOfPresetsAreChosenByName) {
     EXPECT_THAT(bench.controller().recentFiles(), IsEmpty());
     // Replacing one leaves no second file of that name behind.
     bench.set("AffectAllScreens", true);
-    bench.controller().savePreset();
     bench.dialogs.presetName = "Evening";
     bench.controller().savePreset();
     EXPECT_EQ(bench.controller().presets().size(), 3U);
+    // Nor does a name that is another preset's file.
+    std::ofstream(bench.presetFolder / "night & day.cal") << "CAL";
+    for (const char* const name : {"Evening.tonquil-screens", "night & day"}) {
+        bench.dialogs.presetName = name;
+        bench.controller().savePreset();
+    }
+    EXPECT_THAT(bench.dialogs.alerts,
+                ElementsAre("Saving failed", "Saving failed", "Saving failed"));
+    EXPECT_EQ(bench.controller().presets().size(), 4U);
     bench.controller().openPreset("Morning");
     EXPECT_EQ(bench.dialogs.alerts.back(), "The file was not opened");
 }
