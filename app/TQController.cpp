@@ -32,7 +32,8 @@ TQController::TQController(ControllerSurroundings surroundings)
                 .history = _history,
                 .view = _view,
                 .correction = _correction,
-                .storage = _storage}),
+                .storage = _storage,
+                .preferences = _with.preferences}),
       _files({.service = _with.service,
               .registry = _with.registry,
               .preferences = _with.preferences,
@@ -273,7 +274,7 @@ void TQController::showPanel() {
 
 void TQController::togglePanel() {
     if (_with.panel.isOrderedIn() && _with.panel.isOnActiveWorkspace()) {
-        endEdit();
+        _editing.endEdit();
         _with.panel.orderOut();
     } else {
         showPanel();
@@ -321,14 +322,6 @@ int TQController::storedTab() const {
     constexpr int middleTab = 1;
     const std::int64_t stored = _with.preferences.integerForKey(settingsKey::selectedTab);
     return stored >= 0 && stored <= 2 ? static_cast<int>(stored) : middleTab;
-}
-
-// The hint goes only now: what is below it must not move under the pointer during the first drag.
-void TQController::endEdit() {
-    _history.endStep();
-    if (_history.canUndo() && !_with.preferences.boolForKey(settingsKey::hasEdited)) {
-        _with.preferences.setValue(settingsKey::hasEdited, true);
-    }
 }
 
 void TQController::setSelectedTab(int index) {

@@ -56,7 +56,7 @@ class TQController final : public PanelActions {
     void applyGamma(PanelSlider sender, bool isLinked) override {
         _editing.applyGamma(sender, isLinked);
     }
-    void endEdit() override;
+    void endEdit() override { _editing.endEdit(); }
     void changeBlendingMode() override { _editing.changeBlendingMode(); }
     void changeApplyCorrection(bool isOn) override { setApplyCorrection(isOn); }
     void compare(bool isHeld) override { _correction.setCompared(isHeld); }

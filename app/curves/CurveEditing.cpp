@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "app/preferences/SettingsKeys.h"
 #include "model/CurveFit.h"
 
 namespace tonquil {
@@ -39,6 +40,21 @@ void CurveEditing::applyGamma(PanelSlider sender, bool isLinked) {
     _with.controls.updateTouchBarSlider();
     replaceCurves(static_cast<int>(sender));
     _with.view._updateCurveInPanel();
+}
+
+// With a slider, the hint of the first start goes only now: what is below it must not move under
+// the pointer during a drag.
+void CurveEditing::endEdit() {
+    _with.history.endStep();
+    if (_with.history.canUndo()) {
+        rememberFirstEdit();
+    }
+}
+
+void CurveEditing::rememberFirstEdit() {
+    if (!_with.preferences.boolForKey(settingsKey::hasEdited)) {
+        _with.preferences.setValue(settingsKey::hasEdited, true);
+    }
 }
 
 void CurveEditing::changeBlendingMode() {
@@ -213,6 +229,9 @@ void CurveEditing::willEditFromAfar() {
 
 void CurveEditing::curvesWereEdited() {
     _with.storage.curvesWereEdited();
+    if (_with.history.lastSubject() >= editSubject::blendingMode) {
+        rememberFirstEdit();
+    }
     _with.controls.updatePlot();
     _with.controls.showUndo(_with.history.canUndo(), _with.history.canRedo());
 }

@@ -28,12 +28,15 @@ class CurveEditing {
         PanelView& view;
         Correction& correction;
         CurveStorage& storage;
+        PreferencesStore& preferences;
     };
 
     explicit CurveEditing(const Surroundings& surroundings) : _with(surroundings) {}
 
     /// A slider moved. `isLinked`: the other colours of its point follow.
     void applyGamma(PanelSlider sender, bool isLinked);
+    /// The slider was let go: the next edit of it is another undo step.
+    void endEdit();
     void changeBlendingMode();
     /// Restores the system calibration and, after a pause, starts over from it.
     void resetGamma();
@@ -66,6 +69,7 @@ class CurveEditing {
     void curvesWereEdited();
 
  private:
+    void rememberFirstEdit();
     void replaceCurves(int subject);
     void _adoptCurrentCurves();
     void _doneReset();

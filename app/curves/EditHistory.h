@@ -32,6 +32,9 @@ class EditHistory {
     void willEdit(const ScreenRegistry::Screens& screens, int subject);
     void endStep() { _isOpen = false; }
 
+    /// What the last edit was about.
+    [[nodiscard]] int lastSubject() const { return _subject; }
+
     [[nodiscard]] bool canUndo() const { return !_undone.empty(); }
     [[nodiscard]] bool canRedo() const { return !_redone.empty(); }
     /// Restores the curves from before the last step; false if there is none.
