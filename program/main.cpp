@@ -24,9 +24,9 @@
 #include "program/Program.h"
 #include "program/ProgramEnvironment.h"
 #include "program/ToolkitBus.h"
+#include "ui/style/QuietStyle.h"
 #include "windows/language/Language.h"
 #include "windows/panel/PanelIcons.h"
-#include "windows/panel/QuietStyle.h"
 
 namespace tonquil {
 

@@ -30,6 +30,7 @@ declare -A arrows=(
     [app/remote]="foundation model screens remote app/desktop app/preferences app/curves"
     [app]="foundation screens remote hotkeys app/preferences app/correction app/panel app/curves app/files app/desktop app/remote"
     [ui/theme]=""
+    [ui/style]="ui/theme"
     [ui]="ui/theme"
     [targets]="ui ui/theme"
     [hotkeys/field]="hotkeys ui ui/theme"
@@ -70,7 +71,7 @@ declare -A arrows=(
 # Where programs are composed: the only files that may know which platform is used.
 composers=" cli/main.cpp "
 # Where windows and the toolkit's own services are.
-qt_folders=" ui ui/theme targets hotkeys/field windows/language windows/front windows/panel windows/targets windows/alerts windows/about windows/preferences windows/desktop platform/qt program "
+qt_folders=" ui ui/style ui/theme targets hotkeys/field windows/language windows/front windows/panel windows/targets windows/alerts windows/about windows/preferences windows/desktop platform/qt program "
 
 breaches=0
 breach() {

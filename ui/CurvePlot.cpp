@@ -29,6 +29,7 @@ constexpr int preferredHeight = 232;
 constexpr int leastExtent = 120;
 
 constexpr double baseOpacity = 0.55;
+constexpr double faintOpacity = 0.4;
 
 // The level at `input`, linearly interpolated between samples.
 double levelAt(const std::vector<float>& levels, double input) {
@@ -82,6 +83,14 @@ void CurvePlot::setBase(const Levels& levels) {
 void CurvePlot::setMarkedPoint(std::optional<MarkedPoint> point) {
     if (point != _markedPoint) {
         _markedPoint = point;
+        update();
+    }
+}
+
+void CurvePlot::setInForce(bool areInForce) {
+    if (areInForce != _areInForce) {
+        _areInForce = areInForce;
+        _isBackgroundStale = true;
         update();
     }
 }
@@ -185,9 +194,12 @@ void CurvePlot::drawBackground() {
     const Theme& theme = themeOf(*this);
     const QRectF graph = graphRect();
     QImage base = emptyPicture();
-    QPen dots(QBrush(), baseWidth, Qt::CustomDashLine, Qt::FlatCap);
-    dots.setDashPattern({1.5, 2.5});
-    drawMeetingCurves(base, linesOf(_base), dots, _key.appearance);
+    QPen line(QBrush(), curveWidth, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin);
+    if (_areInForce) {
+        line = QPen(QBrush(), baseWidth, Qt::CustomDashLine, Qt::FlatCap);
+        line.setDashPattern({1.5, 2.5});
+    }
+    drawMeetingCurves(base, linesOf(_base), line, _key.appearance);
 
     _background = emptyPicture();
     QPainter painter(&_background);
@@ -200,7 +212,7 @@ void CurvePlot::drawBackground() {
                      Qt::Vertical, theme.grid);
     }
     drawLabels(painter, graph);
-    painter.setOpacity(baseOpacity);
+    painter.setOpacity(_areInForce ? baseOpacity : 1);
     painter.drawImage(QPointF(0, 0), base);
 }
 
@@ -249,6 +261,7 @@ void CurvePlot::paintEvent(QPaintEvent* /*event*/) {
     }
     updatePictures();
     painter.drawImage(QPointF(0, 0), _background);
+    painter.setOpacity(painter.opacity() * (_areInForce ? 1 : faintOpacity));
     painter.drawImage(QPointF(0, 0), _curvePicture);
     drawMark(painter);
 }

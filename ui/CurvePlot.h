@@ -16,8 +16,8 @@
 namespace tonquil {
 
 /// Plots three transfer curves, input to the right and output up, over the display's own
-/// calibration, which is dotted. Where curves coincide they are white (dark theme) or black
-/// (light).
+/// calibration, the base, which is dotted. Where curves coincide they are white (dark theme) or
+/// black (light).
 ///
 /// The drawing is cached: a repaint without a change of curves, size or appearance only copies two
 /// images.
@@ -43,6 +43,9 @@ class CurvePlot : public QWidget {
     void setBase(const Levels& levels);
     /// Marks the black end (input 0), the middle (0.5) or the white end (1), or nothing.
     void setMarkedPoint(std::optional<MarkedPoint> point);
+    /// While the correction is off, the curves are faint and the base, which the displays show, is
+    /// solid.
+    void setInForce(bool areInForce);
     /// Shown instead of the plot, word-wrapped, unless empty.
     void setMessage(const QString& message);
     [[nodiscard]] const QString& message() const { return _message; }
@@ -91,6 +94,7 @@ class CurvePlot : public QWidget {
     Curves _curves;
     Curves _base;
     std::optional<MarkedPoint> _markedPoint;
+    bool _areInForce = true;
     QString _message;
 
     PictureKey _key;

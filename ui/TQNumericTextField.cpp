@@ -164,13 +164,15 @@ void TQNumericTextField::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
         painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
-        drawField(painter, rect(), themeOf(*this), hasFocus());
+        drawField(painter, rect(), themeOf(*this), hasFocus() && _showsFocusRing);
     }
     QLineEdit::paintEvent(event);
 }
 
 void TQNumericTextField::mousePressEvent(QMouseEvent* event) {
     _isFirstClick = _isFirstClick || !hasFocus();
+    _showsFocusRing = false;
+    update();
     QLineEdit::mousePressEvent(event);
 }
 
@@ -192,6 +194,8 @@ void TQNumericTextField::wheelEvent(QWheelEvent* event) {
 
 void TQNumericTextField::keyPressEvent(QKeyEvent* event) {
     _isFirstClick = false;
+    _showsFocusRing = true;
+    update();
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isEscape = event->key() == Qt::Key_Escape;
     if (!isEditing() || (!isReturn && !isEscape)) {
@@ -211,6 +215,7 @@ void TQNumericTextField::focusInEvent(QFocusEvent* event) {
     if (!isEditing()) {
         showValue();
     }
+    _showsFocusRing = isFocusShown(event->reason(), _showsFocusRing);
     QLineEdit::focusInEvent(event);
     // The click's own events follow the focus change that it causes; a window manager may focus the
     // window first.

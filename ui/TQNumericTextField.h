@@ -68,6 +68,7 @@ class TQNumericTextField : public QLineEdit {
     QPointer<TQSlider> _target;
     /// The next click to end is the one that focused the field.
     bool _isFirstClick = false;
+    bool _showsFocusRing = false;
 };
 
 }  // namespace tonquil

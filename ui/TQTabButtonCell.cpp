@@ -52,15 +52,12 @@ void TQTabButtonCell::drawBezelWithFrame(QPainter& painter, const QRect& frame) 
     }
     QStyleOptionButton option;
     option.initFrom(this);
-    option.rect = frame;
-    if (appearance.isDark && isChecked()) {
-        // Most styles darken a checked button, which hardly shows on a dark one.
-        option.palette.setColor(QPalette::Button, themeFor(appearance).selection.lighter(120));
-    }
+    option.rect = frame.adjusted(1, 1, -1, -1);
     // The focus ring is drawn as for all controls of this folder.
     option.state.setFlag(QStyle::State_HasFocus, false);
     option.state.setFlag(QStyle::State_Sunken, isDown());
     option.state.setFlag(QStyle::State_On, isChecked());
+    option.state.setFlag(QStyle::State_Off, !isChecked());
     option.state.setFlag(QStyle::State_Raised, !isDown() && !isChecked());
     style()->drawControl(QStyle::CE_PushButtonBevel, &option, &painter, this);
 }
@@ -71,8 +68,11 @@ QRect TQTabButtonCell::drawTitle(QPainter& painter, const QString& title, const 
     const Theme& theme = themeFor(appearance);
     const int flags = Qt::AlignCenter | Qt::TextShowMnemonic;
     painter.setPen(isChecked() || isDown() ? theme.text : theme.secondaryText);
+    QFont font = this->font();
+    font.setWeight(isChecked() ? QFont::Medium : QFont::Normal);
+    painter.setFont(font);
     style()->drawItemText(&painter, frame, flags, palette(), true, title);
-    return style()->itemTextRect(fontMetrics(), frame, flags, true, title);
+    return style()->itemTextRect(QFontMetrics(font), frame, flags, true, title);
 }
 
 void TQTabButtonCell::paintEvent(QPaintEvent* /*event*/) {
@@ -81,7 +81,8 @@ void TQTabButtonCell::paintEvent(QPaintEvent* /*event*/) {
     drawBezelWithFrame(painter, rect());
     drawTitle(painter, text(), rect());
     if (hasFocus() && _showsFocusRing) {
-        drawRoundedFrame(painter, rect(), fieldRadius + 1, 2, themeOf(*this).focusRing);
+        drawRoundedFrame(painter, rect().adjusted(1, 1, -1, -1), fieldRadius, 2,
+                         themeOf(*this).focusRing);
     }
 }
 

@@ -8,7 +8,7 @@ namespace tonquil {
 /// A flat button of a tab selector: checked when its tab is selected.
 ///
 /// On the dark theme it is just a grey area. On the light theme, and with increased contrast, it is
-/// the desktop's own button.
+/// the style's own button.
 class TQTabButtonCell : public QAbstractButton {
  public:
     /// The background of a title or an icon on the button.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/theme/Appearance.h"
 
+#include <QApplication>
+#include <QToolTip>
 #include <QVariant>
 #include <QWidget>
 
@@ -24,6 +26,17 @@ void setAppearance(QWidget& widget, const Appearance& appearance) {
     }
 }
 
+void setApplicationAppearance(const Appearance& appearance) {
+    qApp->setProperty(propertyName, QVariant::fromValue(appearance));
+    const QPalette palette = paletteFor(appearance);
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(palette);
+}
+
+Appearance applicationAppearance() {
+    return qApp->property(propertyName).value<Appearance>();
+}
+
 Appearance effectiveAppearance(const QWidget& widget) {
     for (const QWidget* each = &widget; each != nullptr; each = each->parentWidget()) {
         const QVariant appearance = each->property(propertyName);
@@ -31,7 +44,7 @@ Appearance effectiveAppearance(const QWidget& widget) {
             return appearance.value<Appearance>();
         }
     }
-    return {};
+    return applicationAppearance();
 }
 
 QPalette paletteFor(const Appearance& appearance) {

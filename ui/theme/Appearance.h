@@ -28,10 +28,14 @@ struct Appearance {
 };
 
 /// Gives `widget` and its descendants an appearance and the matching palette, and repaints them.
-/// Menus and dialogs are windows of their own and need a call of their own.
 void setAppearance(QWidget& widget, const Appearance& appearance);
 
-/// The appearance set on `widget` or its nearest ancestor that has one; dark if none has.
+/// The appearance of everything that has none of its own: menus, lists, tool tips, icons.
+void setApplicationAppearance(const Appearance& appearance);
+/// Dark until it is set.
+[[nodiscard]] Appearance applicationAppearance();
+
+/// The appearance set on `widget` or its nearest ancestor that has one, else the application's.
 [[nodiscard]] Appearance effectiveAppearance(const QWidget& widget);
 
 /// The palette of `appearance` for ordinary controls. Disabled ones have 40 % of the opacity.

@@ -20,13 +20,15 @@ QColor black(double opacity) {
 
 Theme darkTheme() {
     return {.panel = grey(0x1E),
-            .panelOpacity = 0.92,
+            .panelOpacity = 0.97,
             .field = grey(0x2A),
             .button = grey(0x3A),
             .selection = grey(0x5A),
             .text = grey(0xE6),
             .secondaryText = grey(0xA0),
+            .highlight = white(0.12),
             .hairline = white(0.10),
+            .outline = white(0.35),
             .grid = white(0.08),
             .track = white(0.14),
             .edge = grey(0xF0),
@@ -41,11 +43,13 @@ Theme lightTheme() {
     return {.panel = grey(0xF4),
             .panelOpacity = 1,
             .field = grey(0xFF),
-            .button = grey(0xEC),
+            .button = grey(0xE2),
             .selection = grey(0xC4),
             .text = grey(0x1C),
             .secondaryText = grey(0x6A),
-            .hairline = black(0.12),
+            .highlight = black(0.08),
+            .hairline = black(0.18),
+            .outline = black(0.35),
             .grid = black(0.08),
             .track = black(0.14),
             .edge = grey(0x1C),
@@ -63,6 +67,7 @@ Theme contrasted(Theme theme, const QColor& foreground) {
     theme.focusRing = foreground;
     theme.hairline = foreground;
     theme.hairline.setAlphaF(0.5F);
+    theme.outline = foreground;
     theme.grid.setAlphaF(0.2F);
     theme.track.setAlphaF(0.2F);
     return theme;

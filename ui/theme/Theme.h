@@ -15,14 +15,16 @@ struct Theme {
     QColor panel;         ///< Opaque; see `panelOpacity`.
     double panelOpacity;  ///< 0 to 1, for use with a compositor; without one the panel is opaque.
     QColor field;         ///< Fields, the plot and, on the dark theme, the strip.
-    QColor button;        ///< The desktop's own buttons.
+    QColor button;        ///< Push buttons, and unselected tabs on the light theme.
     QColor selection;     ///< Behind selected text and entries.
     QColor text;
     QColor secondaryText;
-    QColor hairline;  ///< Translucent, over any of the backgrounds.
-    QColor grid;      ///< The plot's quarter lines; translucent.
-    QColor track;     ///< The unfilled part of a slider; translucent.
-    QColor edge;      ///< The end of a slider's fill.
+    QColor highlight;  ///< Behind the entry or the flat button under the pointer; translucent.
+    QColor hairline;   ///< Translucent, over any of the backgrounds.
+    QColor outline;    ///< Around the box of an unchecked choice; translucent.
+    QColor grid;       ///< The plot's quarter lines; translucent.
+    QColor track;      ///< The unfilled part of a slider; translucent.
+    QColor edge;       ///< The end of a slider's fill.
     QColor focusRing;
     QColor master;
     QColor red;

@@ -10,7 +10,6 @@
 #include <QPushButton>
 
 #include "ui/theme/Theme.h"
-#include "windows/alerts/FlatButton.h"
 #include "windows/alerts/Localisation.h"
 
 namespace tonquil {
@@ -119,7 +118,7 @@ AlertWindow::AlertWindow(const Alert& alert, const Appearance& appearance, QWidg
 void AlertWindow::addButtons(const Alert& alert, QBoxLayout& row) {
     for (const std::string_view title : alert.buttons) {
         const std::size_t index = _buttons.size();
-        auto* button = new FlatButton(localised(alert.table, title), this);
+        auto* button = new QPushButton(localised(alert.table, title), this);
         button->setMinimumWidth(leastButtonWidth);
         button->setDefault(index == 0);
         connect(button, &QPushButton::clicked, this, [this, index] {

@@ -4,12 +4,12 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QMenu>
 #include <QTimer>
 #include <QToolButton>
 
 #include "ui/TQNumericTextField.h"
 #include "ui/TQSlider.h"
+#include "ui/TQVibrantLabel.h"
 #include "ui/theme/Appearance.h"
 #include "ui/theme/Theme.h"
 #include "windows/panel/PanelIcons.h"
@@ -22,16 +22,16 @@ QToolButton* makeButton(QWidget* parent) {
     auto* button = new QToolButton(parent);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
+    button->setFixedSize(24, 24);
     return button;
 }
 
-QToolButton* makeStepButton(const QString& text, const QString& name, QWidget* parent) {
+QToolButton* makeStepButton(PanelIcon icon, const QString& name, QWidget* parent) {
     QToolButton* button = makeButton(parent);
-    button->setText(text);
+    button->setIcon(panelIcon(icon));
     button->setAccessibleName(name);
     button->setToolTip(name);
     button->setAutoRepeat(true);
-    button->setFixedSize(20, 24);
     return button;
 }
 
@@ -40,38 +40,31 @@ QToolButton* makeStepButton(const QString& text, const QString& name, QWidget* p
 ChannelStrip::ChannelStrip(const PanelSliders& sliders, QWidget* parent)
     : QWidget(parent),
       _sliders(sliders),
-      _gammaTabPopover(makeButton(this)),
-      _minimumValueAccessory(makeStepButton(QStringLiteral("\u2212"),
-                                            QCoreApplication::translate("Panel", "Less"), this)),
+      _minimumValueAccessory(
+          makeStepButton(PanelIcon::Less, QCoreApplication::translate("Panel", "Less"), this)),
       _slider(new TQSlider(this)),
       _maximumValueAccessory(
-          makeStepButton(QStringLiteral("+"), QCoreApplication::translate("Panel", "More"), this)) {
+          makeStepButton(PanelIcon::More, QCoreApplication::translate("Panel", "More"), this)),
+      _value(new TQVibrantLabel({}, this)) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
-    _gammaTabPopover->setAccessibleName(QCoreApplication::translate("Panel", "Point"));
-    auto* tabs = new QMenu(_gammaTabPopover);
-    int widest = 0;
-    for (int tab = 0; tab < PanelSliders::tabCount; ++tab) {
-        const QString title = tabTitle(tab);
-        widest = std::max(widest, fontMetrics().horizontalAdvance(title));
-        QObject::connect(tabs->addAction(title), &QAction::triggered, this,
-                         [this, tab] { _pickTab(tab); });
-    }
-    _tabMenu = tabs;
-    QObject::connect(_gammaTabPopover, &QToolButton::clicked, tabs, [this] {
-        _tabMenu->popup(_gammaTabPopover->mapToGlobal(_gammaTabPopover->rect().bottomLeft()));
-    });
-    _gammaTabPopover->setFixedWidth(widest + 18);
-    layout->addWidget(_gammaTabPopover);
     makePicker();
     for (QToolButton* segment : _valuePicker) {
         layout->addWidget(segment);
     }
+    layout->addSpacing(4);
     layout->addWidget(_minimumValueAccessory);
     layout->addWidget(_slider, 1);
     layout->addWidget(_maximumValueAccessory);
+    layout->addWidget(_value);
+    _value->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
+    _value->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("-0.00")) + 4);
 
+    // Without the slider its neighbours stay where they are.
+    QSizePolicy policy = _slider->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    _slider->setSizePolicy(policy);
     _slider->setMinimumWidth(64);
     // The strip follows the focus and never takes it.
     _slider->setFocusPolicy(Qt::NoFocus);
@@ -89,14 +82,13 @@ ChannelStrip::ChannelStrip(const PanelSliders& sliders, QWidget* parent)
                      [this] { stepBy(-TQSlider::alternateIncrement); });
     QObject::connect(_maximumValueAccessory, &QToolButton::clicked, this,
                      [this] { stepBy(TQSlider::alternateIncrement); });
-    showTab(_tab);
+    updateTouchBarChannelImagesForTab(1);
 }
 
 void ChannelStrip::makePicker() {
     for (int segment = 0; segment < PanelSliders::channelCount; ++segment) {
         QToolButton* button = makeButton(this);
         button->setCheckable(true);
-        button->setFixedSize(24, 24);
         const QString name = channelTitle(static_cast<Channel>(segment));
         button->setAccessibleName(name);
         button->setToolTip(name);
@@ -107,16 +99,10 @@ void ChannelStrip::makePicker() {
 }
 
 void ChannelStrip::updateTouchBarChannelImagesForTab(int tab) {
-    const auto images = touchBarChannelImagesForTab(tab, effectiveAppearance(*this));
-    for (std::size_t segment = 0; segment < images.size(); ++segment) {
-        _valuePicker.at(segment)->setIcon(images.at(segment));
+    for (int segment = 0; segment < PanelSliders::channelCount; ++segment) {
+        _valuePicker.at(static_cast<std::size_t>(segment))
+            ->setIcon(channelIcon(static_cast<Channel>(segment), tab));
     }
-}
-
-void ChannelStrip::showTab(int tab) {
-    _tab = tab;
-    _gammaTabPopover->setText(tabTitle(tab) + QStringLiteral(" \u25BE"));
-    updateTouchBarChannelImagesForTab(tab);
 }
 
 TQSlider* ChannelStrip::mirroredSlider() const {
@@ -142,15 +128,23 @@ void ChannelStrip::updateTouchBarForResponder(QWidget* responder) {
 
 void ChannelStrip::mirror(const TQSlider& slider, Channel channel) {
     const QColor colour = themeOf(*this).channel(channel);
-    _slider->cell().setColor(blendedWithWhite(colour, 0.5));
+    // Half white would hardly differ from the light theme's track.
+    const bool isDark = effectiveAppearance(*this).isDark;
+    _slider->cell().setColor(isDark ? blendedWithWhite(colour, 0.5) : colour);
     _slider->setRange(slider.minValue(), slider.maxValue());
     _slider->setNeutralValue(slider.neutralValue());
     _slider->setFloatValue(slider.floatValue());
+    showValue();
+}
+
+void ChannelStrip::showValue() {
+    _value->setText(QString::number(static_cast<double>(_slider->floatValue()), 'f', 2));
 }
 
 void ChannelStrip::removeSliderUnlessNeeded() {
     if (mirroredSlider() == nullptr) {
         _slider->hide();
+        _value->clear();
     }
 }
 
@@ -159,12 +153,14 @@ void ChannelStrip::updateTouchBarSlider() {
     if (slider != nullptr && slider->floatValue() != _slider->floatValue()) {
         _slider->setRange(slider->minValue(), slider->maxValue());
         _slider->setFloatValue(slider->floatValue());
+        showValue();
     }
 }
 
 void ChannelStrip::touchBarSliderChanged() {
     if (TQSlider* slider = mirroredSlider()) {
         slider->setFloatValue(_slider->floatValue());
+        showValue();
         _moved(*slider);
     }
 }
@@ -191,13 +187,12 @@ void ChannelStrip::_setControlsEnabled(bool enabled) {
     _slider->setEnabled(enabled && hasChannel);
     _minimumValueAccessory->setEnabled(enabled && hasChannel);
     _maximumValueAccessory->setEnabled(enabled && hasChannel);
+    _value->setEnabled(enabled && hasChannel);
 }
 
 void ChannelStrip::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
-        setAppearance(*_tabMenu, effectiveAppearance(*this));
-        showTab(_tab);
         if (const TQSlider* slider = mirroredSlider()) {
             mirror(*slider, _sliders.channelForResponder(_responder));
         }

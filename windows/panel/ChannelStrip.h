@@ -8,13 +8,12 @@
 
 #include "windows/panel/PanelSliders.h"
 
-class QMenu;
 class QToolButton;
 
 namespace tonquil {
 
-/// A slider that always controls the channel of the focused control, with pickers for channel and
-/// tab: all values are within reach in the compact panel and on a touch screen.
+/// A slider that always controls the channel of the focused control, with its value and a picker of
+/// the channel: all values are within reach in the compact panel and on a touch screen.
 class ChannelStrip : public QWidget {
  public:
     /// The sliders must outlive the strip.
@@ -29,14 +28,12 @@ class ChannelStrip : public QWidget {
     }
     /// Called with the control that should get the focus.
     void setFocusAction(std::function<void(QWidget&)> action) { _focus = std::move(action); }
-    /// Called with the tab that the user picks.
-    void setTabAction(std::function<void(int)> action) { _pickTab = std::move(action); }
 
     /// Call whenever another control of the panel gets the focus.
     void updateTouchBarForResponder(QWidget* responder);
     /// Takes the value of the slider that the strip stands for.
     void updateTouchBarSlider();
-    void showTab(int tab);
+    void showTab(int tab) { updateTouchBarChannelImagesForTab(tab); }
     void _setControlsEnabled(bool enabled);
 
  protected:
@@ -50,22 +47,20 @@ class ChannelStrip : public QWidget {
     void stepBy(double step);
     [[nodiscard]] TQSlider* mirroredSlider() const;
     void mirror(const TQSlider& slider, Channel channel);
+    void showValue();
     void removeSliderUnlessNeeded();
 
     const PanelSliders& _sliders;
-    QToolButton* _gammaTabPopover;
-    QMenu* _tabMenu = nullptr;
     std::array<QToolButton*, PanelSliders::channelCount> _valuePicker{};
     QToolButton* _minimumValueAccessory;
     TQSlider* _slider;
     QToolButton* _maximumValueAccessory;
+    TQVibrantLabel* _value;
     QPointer<QWidget> _responder;
-    int _tab = 1;
     bool _areControlsEnabled = true;
     std::function<void(TQSlider&)> _moved;
     std::function<void(TQSlider&, bool)> _interactionChanged;
     std::function<void(QWidget&)> _focus;
-    std::function<void(int)> _pickTab;
 };
 
 }  // namespace tonquil

@@ -10,7 +10,6 @@
 #include <QStackedWidget>
 #include <QStyleHints>
 #include <QToolButton>
-#include <QToolTip>
 #include <QWindow>
 
 #include "ui/EditablePlot.h"
@@ -88,7 +87,6 @@ void ControlPanel::connectControls() {
         contents.sliders.row(static_cast<PanelSlider>(index)).field->installEventFilter(this);
     }
     contents.gammaTabSelector->setAction([this](int column) { pickTab(column); });
-    contents.channelStrip->setTabAction([this](int tab) { pickTab(tab); });
     contents.channelStrip->setFocusAction([this](QWidget& field) { makeFirstResponder(field); });
     contents.channelStrip->setAction([](TQSlider& slider) { slider.sendAction(); });
     contents.channelStrip->setInteractionChanged([this](TQSlider& slider, bool isHeld) {
@@ -169,6 +167,7 @@ void ControlPanel::_setControlsEnabled(bool enabled) {
     }
     _contents->sliders.setEnabled(enabled);
     _contents->channelStrip->_setControlsEnabled(enabled);
+    _contents->blendingLabel->setEnabled(enabled);
     _contents->blendingModePopUp->setEnabled(enabled);
     _contents->resetButton->setEnabled(enabled);
     _plotEditing.setEnabled(enabled);
@@ -182,8 +181,10 @@ void ControlPanel::_setControlsEnabled(bool enabled) {
 }
 
 void ControlPanel::showCorrection(bool isOn) {
+    _isCorrected = isOn;
     _contents->applyCorrectionBox->setChecked(isOn);
     _contents->compareButton->setEnabled(isOn);
+    _contents->plot->setInForce(isOn && !_isCompared);
 }
 
 void ControlPanel::showSubject(const PanelSubject& subject) {
@@ -304,18 +305,11 @@ void ControlPanel::_setDarkTheme(bool dark) {
     _menu.showForm(_isAdvanced, dark, !_contents->channelStrip->isHidden());
 }
 
-// Drop-down lists, tool tips and context menus are windows that only the application palette
-// reaches.
 void ControlPanel::setAppearances() {
-    QApplication::setPalette(paletteFor(_appearance));
-    QToolTip::setPalette(paletteFor(_appearance));
+    setApplicationAppearance(_appearance);
     setAppearance(*this, _appearance);
     for (QWidget* view : vibrantViews()) {
         setAppearance(*view, _appearance);
-    }
-    setAppearance(_menu, _appearance);
-    for (QMenu* menu : _menu.findChildren<QMenu*>()) {
-        setAppearance(*menu, _appearance);
     }
 }
 

@@ -79,6 +79,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -89,6 +90,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void moved(PanelSlider slider);
     void heldSlider(PanelSlider slider, bool isHeld);
     void connectWays();
+    void compare(bool isHeld);
     void addKeys();
     void pickTab(int tab);
     void makeFirstResponder(QWidget& control);
@@ -113,6 +115,8 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     /// As high as the advanced form; the compact form clips it.
     PanelContents* _contents;
     PlotEditing _plotEditing;
+    bool _isCorrected = true;
+    bool _isCompared = false;
     bool _isAdvanced = true;
     int _selectedTab = 1;
     std::int32_t _blendingMode = KVBlendingModeBaseTable;

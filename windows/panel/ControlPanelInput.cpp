@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The panel's keys, and the ways to edit and to look besides its sliders.
 #include <QAction>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QToolButton>
 
@@ -24,12 +25,18 @@ void ControlPanel::connectWays() {
     _contents->titleStrip->setFormAction(switchForm);
     QObject::connect(_contents->chevron, &QAbstractButton::clicked, this, switchForm);
     QObject::connect(_contents->compareButton, &QToolButton::pressed, this,
-                     [this] { _actions->compare(true); });
+                     [this] { compare(true); });
     QObject::connect(_contents->compareButton, &QToolButton::released, this,
-                     [this] { _actions->compare(false); });
+                     [this] { compare(false); });
+    _contents->plot->setSpaceBarChanged([this](bool isDown) { compare(isDown); });
 }
 
-// A field in which something was typed keeps Escape for itself.
+void ControlPanel::compare(bool isHeld) {
+    _isCompared = isHeld;
+    _actions->compare(isHeld);
+    _contents->plot->setInForce(_isCorrected && !isHeld);
+}
+
 void ControlPanel::addKeys() {
     const auto addKey = [this](const QList<QKeySequence>& keys, auto call) {
         auto* action = new QAction(this);
@@ -37,13 +44,23 @@ void ControlPanel::addKeys() {
         QObject::connect(action, &QAction::triggered, this, call);
         addAction(action);
     };
-    addKey({Qt::Key_Escape, Qt::CTRL | Qt::Key_W}, [this] { close(); });
+    addKey({Qt::CTRL | Qt::Key_W}, [this] { close(); });
     constexpr int tabs = PanelSliders::tabCount;
     addKey({Qt::CTRL | Qt::Key_Tab}, [this] { pickTab((_selectedTab + 1) % tabs); });
     addKey({Qt::CTRL | Qt::SHIFT | Qt::Key_Tab},
            [this] { pickTab((_selectedTab + tabs - 1) % tabs); });
     for (int tab = 0; tab < tabs; ++tab) {
         addKey({Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)}, [this, tab] { pickTab(tab); });
+    }
+}
+
+// A field in which something was typed keeps Escape for itself, and so does an open list; as a
+// shortcut it would be taken from the list.
+void ControlPanel::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+    } else {
+        QWidget::keyPressEvent(event);
     }
 }
 
@@ -58,7 +75,7 @@ void ControlPanel::showFirstHint(bool isShown) {
 void ControlPanel::hideEvent(QHideEvent* event) {
     _contents->compareButton->setDown(false);
     if (_actions != nullptr) {
-        _actions->compare(false);
+        compare(false);
     }
     QWidget::hideEvent(event);
 }

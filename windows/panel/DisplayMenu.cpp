@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "windows/panel/DisplayMenu.h"
 
-#include <QActionGroup>
 #include <QCoreApplication>
 #include <QGuiApplication>
 
@@ -15,6 +14,7 @@ void DisplayMenu::setActions(PanelActions& actions) {
 
 void DisplayMenu::fill(PanelActions& actions) {
     clear();
+    _choices = std::make_unique<QActionGroup>(nullptr);
     int number = 0;
     for (const PanelDisplay& display : actions.displays()) {
         addDisplay(actions, display, ++number);
@@ -22,6 +22,7 @@ void DisplayMenu::fill(PanelActions& actions) {
     addSeparator();
     QAction* all = addAction(
         QCoreApplication::translate("Panel", "All displays: an edit replaces the curve of each"));
+    _choices->addAction(all);
     all->setCheckable(true);
     all->setChecked(_areAll);
     QObject::connect(all, &QAction::triggered, this,
@@ -39,6 +40,7 @@ void DisplayMenu::addDisplay(PanelActions& actions, const PanelDisplay& display,
     const QString name =
         QString::fromStdString(display.title).replace(QLatin1Char('&'), QStringLiteral("&&"));
     QAction* action = addAction(QStringLiteral("%1: %2").arg(number).arg(name));
+    _choices->addAction(action);
     action->setCheckable(true);
     action->setChecked(!_areAll && display.isUnderPanel);
     action->setEnabled(canMove || display.isUnderPanel);

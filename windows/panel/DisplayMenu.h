@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QActionGroup>
 #include <QMenu>
+#include <memory>
 
 namespace tonquil {
 
@@ -22,6 +24,8 @@ class DisplayMenu : public QMenu {
     void addDisplay(PanelActions& actions, const PanelDisplay& display, int number);
 
     bool _areAll = false;
+    /// Exactly one is chosen.
+    std::unique_ptr<QActionGroup> _choices;
 };
 
 }  // namespace tonquil

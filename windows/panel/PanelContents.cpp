@@ -2,8 +2,8 @@
 #include "windows/panel/PanelContents.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QCoreApplication>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -20,7 +20,6 @@
 #include "ui/theme/Drawing.h"
 #include "ui/theme/Theme.h"
 #include "windows/panel/ChannelStrip.h"
-#include "windows/panel/FlatPopUp.h"
 #include "windows/panel/FormChevron.h"
 #include "windows/panel/PanelIcons.h"
 #include "windows/panel/TitleStrip.h"
@@ -65,7 +64,8 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
       channelStrip(new ChannelStrip(sliders)),
       plot(new EditablePlot),
       chevron(new FormChevron(this)),
-      blendingModePopUp(new FlatPopUp),
+      blendingLabel(new TQVibrantLabel(QCoreApplication::translate("Panel", "Blending"))),
+      blendingModePopUp(new QComboBox),
       _compact(new QWidget),
       _advanced(new QWidget) {
     auto* whole = new QVBoxLayout(this);
@@ -76,7 +76,8 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
     whole->addWidget(_advanced);
 
     auto* compact = new QVBoxLayout(_compact);
-    compact->setContentsMargins(margin, 4, margin, margin);
+    // The tabs are drawn a point below their upper edge.
+    compact->setContentsMargins(margin, spacing - 1, margin, margin);
     compact->setSpacing(spacing);
     compact->addWidget(gammaTabSelector);
     compact->addWidget(gammaTabs);
@@ -96,7 +97,6 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
     setTabOrder(colorTargetButton, chevron);
     setFixedWidth(std::max(panelWidth, _compact->minimumSizeHint().width()));
     nameControls();
-    updateIcons();
 }
 
 void PanelContents::nameControls() const {
@@ -116,11 +116,13 @@ QWidget* PanelContents::makeApplyRow() {
     row->setFixedHeight(std::max(24, fontMetrics().height() + 4));
     const QString compare =
         QCoreApplication::translate("Panel", "Hold to compare with the uncorrected display");
+    compareButton->setIcon(panelIcon(PanelIcon::Compare));
     compareButton->setAutoRaise(true);
     compareButton->setFixedSize(24, 24);
     compareButton->setToolTip(compare);
     compareButton->setAccessibleName(compare);
     const QString reset = QCoreApplication::translate("Panel", "Reset to calibration");
+    resetButton->setIcon(panelIcon(PanelIcon::Reset));
     resetButton->setAutoRaise(true);
     resetButton->setFixedSize(24, 24);
     resetButton->setToolTip(reset);
@@ -130,6 +132,7 @@ QWidget* PanelContents::makeApplyRow() {
     layout->addWidget(applyCorrectionBox);
     layout->addStretch(1);
     const QString targets = QCoreApplication::translate("Panel", "Show targets");
+    colorTargetButton->setIcon(panelIcon(PanelIcon::Targets));
     colorTargetButton->setAutoRaise(true);
     colorTargetButton->setFixedSize(24, 24);
     colorTargetButton->setToolTip(targets);
@@ -157,8 +160,7 @@ QWidget* PanelContents::makeBlendingRow() {
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(spacing);
-    auto* label = new TQVibrantLabel(QCoreApplication::translate("Panel", "Blending"));
-    label->setBuddy(blendingModePopUp);
+    blendingLabel->setBuddy(blendingModePopUp);
     blendingModePopUp->addItem(QCoreApplication::translate("Panel", "Over calibration"),
                                static_cast<int>(KVBlendingModeBaseTable));
     blendingModePopUp->addItem(QCoreApplication::translate("Panel", "Absolute"),
@@ -167,7 +169,7 @@ QWidget* PanelContents::makeBlendingRow() {
     blendingModePopUp->setAccessibleName(QCoreApplication::translate("Panel", "Blending"));
     blendingModePopUp->setAccessibleDescription(QCoreApplication::translate(
         "Panel", "Whether the curve is laid over the display's calibration or replaces it."));
-    layout->addWidget(label);
+    layout->addWidget(blendingLabel);
     layout->addStretch(1);
     layout->addWidget(blendingModePopUp);
     return row;
@@ -215,22 +217,9 @@ void PanelContents::showTab(int tab) const {
     channelStrip->showTab(tab);
 }
 
-void PanelContents::updateIcons() {
-    compareButton->setIcon(panelIcon(PanelIcon::Compare, effectiveAppearance(*this)));
-    resetButton->setIcon(panelIcon(PanelIcon::Reset, effectiveAppearance(*this)));
-    colorTargetButton->setIcon(panelIcon(PanelIcon::Targets, effectiveAppearance(*this)));
-}
-
 void PanelContents::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     drawHairline(painter, 0, _advanced->y(), width(), Qt::Horizontal, themeOf(*this).hairline);
-}
-
-void PanelContents::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) {
-        updateIcons();
-    }
 }
 
 }  // namespace tonquil

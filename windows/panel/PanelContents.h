@@ -50,18 +50,17 @@ class PanelContents : public QWidget {
     ChannelStrip* channelStrip;
     EditablePlot* plot;
     FormChevron* chevron;
+    QLabel* blendingLabel;
     QComboBox* blendingModePopUp;
 
  protected:
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
  private:
     [[nodiscard]] QWidget* makeApplyRow();
     [[nodiscard]] QWidget* makeBlendingRow();
     [[nodiscard]] static QLabel* makeHint();
     void nameControls() const;
-    void updateIcons();
 
     QWidget* _compact;
     QWidget* _advanced;

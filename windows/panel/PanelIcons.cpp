@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <functional>
 
+#include "ui/DrawnIcon.h"
 #include "ui/theme/Theme.h"
 
 namespace tonquil {
@@ -58,13 +59,20 @@ void drawReset(QPainter& painter) {
     painter.drawPath(head);
 }
 
-/// A checkerboard square of four quarters, like those of the targets.
+/// A square of four quarters, two of them filled, like those of the targets.
 void drawTargets(QPainter& painter) {
     const QColor colour = painter.pen().color();
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.drawRect(QRectF(3, 3, 10, 10));
-    painter.fillRect(QRectF(3, 3, 5, 5), colour);
-    painter.fillRect(QRectF(8, 8, 5, 5), colour);
+    painter.drawRoundedRect(QRectF(2.7, 2.7, 10.6, 10.6), 1.5, 1.5);
+    for (const QPointF& corner : {QPointF(5, 5), QPointF(8, 8)}) {
+        painter.fillRect(QRectF(corner, QSizeF(3, 3)), colour);
+    }
+}
+
+void drawStep(QPainter& painter, bool isUp) {
+    painter.drawLine(QPointF(4.5, 8), QPointF(11.5, 8));
+    if (isUp) {
+        painter.drawLine(QPointF(8, 4.5), QPointF(8, 11.5));
+    }
 }
 
 /// Waves that spread to both sides of a point.
@@ -81,7 +89,7 @@ void drawRemote(QPainter& painter) {
 }
 
 /// A triangle with a stroke and a dot inside.
-void drawUnsaved(QPainter& painter) {
+void drawWarning(QPainter& painter) {
     QPainterPath triangle(QPointF(8, 2.5));
     triangle.lineTo(14.5, 13.5);
     triangle.lineTo(1.5, 13.5);
@@ -119,46 +127,50 @@ void drawCurve(QPainter& painter, int tab, const QColor& colour) {
     painter.drawEllipse(curvePoint(input), 2, 2);
 }
 
+void drawPanelIcon(QPainter& painter, PanelIcon icon) {
+    switch (icon) {
+        case PanelIcon::Close:
+            drawClose(painter);
+            break;
+        case PanelIcon::Menu:
+            drawMenu(painter);
+            break;
+        case PanelIcon::Reset:
+            drawReset(painter);
+            break;
+        case PanelIcon::Targets:
+            drawTargets(painter);
+            break;
+        case PanelIcon::Remote:
+            drawRemote(painter);
+            break;
+        case PanelIcon::Compare:
+            drawCompare(painter);
+            break;
+        case PanelIcon::Warning:
+            drawWarning(painter);
+            break;
+        case PanelIcon::Less:
+        case PanelIcon::More:
+            drawStep(painter, icon == PanelIcon::More);
+            break;
+    }
+}
+
 }  // namespace
 
-QIcon panelIcon(PanelIcon icon, const Appearance& appearance) {
-    return iconFrom([&](QPainter& painter) {
-        painter.setPen(penOf(themeFor(appearance).text, 1.4));
-        switch (icon) {
-            case PanelIcon::Close:
-                drawClose(painter);
-                break;
-            case PanelIcon::Menu:
-                drawMenu(painter);
-                break;
-            case PanelIcon::Reset:
-                drawReset(painter);
-                break;
-            case PanelIcon::Targets:
-                drawTargets(painter);
-                break;
-            case PanelIcon::Remote:
-                drawRemote(painter);
-                break;
-            case PanelIcon::Compare:
-                drawCompare(painter);
-                break;
-            case PanelIcon::Unsaved:
-                painter.setPen(penOf(themeFor(appearance).secondaryText, 1.4));
-                drawUnsaved(painter);
-                break;
-        }
+QIcon panelIcon(PanelIcon icon) {
+    return drawnIcon([icon](QPainter& painter, QIcon::Mode mode) {
+        const Theme& theme = themeFor(applicationAppearance());
+        painter.setPen(penOf(mode == QIcon::Active ? theme.text : theme.secondaryText, 1.4));
+        drawPanelIcon(painter, icon);
     });
 }
 
-std::array<QIcon, 4> touchBarChannelImagesForTab(int tab, const Appearance& appearance) {
-    const Theme& theme = themeFor(appearance);
-    const auto image = [&](Channel channel) {
-        return iconFrom(
-            [&](QPainter& painter) { drawCurve(painter, tab, theme.channel(channel)); });
-    };
-    return {image(Channel::Master), image(Channel::Red), image(Channel::Green),
-            image(Channel::Blue)};
+QIcon channelIcon(Channel channel, int tab) {
+    return drawnIcon([channel, tab](QPainter& painter, QIcon::Mode /*mode*/) {
+        drawCurve(painter, tab, themeFor(applicationAppearance()).channel(channel));
+    });
 }
 
 void drawProgramIcon(QPainter& painter) {

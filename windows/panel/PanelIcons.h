@@ -2,22 +2,20 @@
 #pragma once
 
 #include <QIcon>
-#include <array>
 
-#include "ui/theme/Appearance.h"
+#include "ui/theme/Channel.h"
 
 class QPainter;
 
 namespace tonquil {
 
-/// The icons on the panel's buttons, drawn for an appearance.
-enum class PanelIcon { Close, Menu, Reset, Targets, Remote, Unsaved, Compare };
-[[nodiscard]] QIcon panelIcon(PanelIcon icon, const Appearance& appearance);
+/// The icons on the panel's buttons.
+enum class PanelIcon { Close, Menu, Reset, Targets, Remote, Warning, Compare, Less, More };
+[[nodiscard]] QIcon panelIcon(PanelIcon icon);
 
-/// The channel strip's icons for a tab (0 black, 2 white, anything else middle), in the order
-/// master, red, green, blue: a curve in the channel's colour, with the tab's point marked on it.
-[[nodiscard]] std::array<QIcon, 4> touchBarChannelImagesForTab(int tab,
-                                                               const Appearance& appearance);
+/// A curve in the channel's colour, with the point of a tab (0 black, 2 white, anything else
+/// middle) marked on it.
+[[nodiscard]] QIcon channelIcon(Channel channel, int tab);
 
 /// The program's own icon.
 [[nodiscard]] QIcon programIcon();

@@ -26,7 +26,6 @@ void PlotEditing::setActions(PanelActions& actions, const PanelControls& control
             held(panelSliderAt(_tab, grip.channel), isHeld);
         });
     _plot.setDragged([this](const EditablePlot::Grip& grip, double level) { drag(grip, level); });
-    _plot.setSpaceBarChanged([&actions](bool isDown) { actions.compare(isDown); });
 }
 
 void PlotEditing::drag(const EditablePlot::Grip& grip, double level) const {

@@ -22,9 +22,11 @@ namespace tonquil {
 namespace {
 
 constexpr int stripHeight = 28;
+constexpr int menuGap = 2;
 
-QToolButton* makeButton(const QString& name, QWidget* parent) {
+QToolButton* makeButton(PanelIcon icon, const QString& name, QWidget* parent) {
     auto* button = new QToolButton(parent);
+    button->setIcon(panelIcon(icon));
     button->setAutoRaise(true);
     button->setFixedSize(24, 24);
     button->setFocusPolicy(Qt::TabFocus);
@@ -33,11 +35,11 @@ QToolButton* makeButton(const QString& name, QWidget* parent) {
     return button;
 }
 
-void openBelow(QToolButton& button, QMenu& menu) {
-    QObject::connect(&button, &QToolButton::clicked, &menu, [&button, &menu] {
-        const bool isMirrored = button.isRightToLeft();
-        QPoint corner = button.rect().bottomLeft();
-        if (isMirrored) {
+/// The menu's start is below the button's, or its end below the button's end.
+void openBelow(QToolButton& button, QMenu& menu, bool isAtEnd) {
+    QObject::connect(&button, &QToolButton::clicked, &menu, [&button, &menu, isAtEnd] {
+        QPoint corner(0, button.height() + menuGap);
+        if (isAtEnd != button.isRightToLeft()) {
             corner.setX(button.width() - menu.sizeHint().width());
         }
         menu.popup(button.mapToGlobal(corner));
@@ -48,21 +50,23 @@ void openBelow(QToolButton& button, QMenu& menu) {
 
 TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     : QWidget(parent),
-      _closeButton(makeButton(QCoreApplication::translate("Panel", "Close the panel"), this)),
+      _closeButton(makeButton(PanelIcon::Close,
+                              QCoreApplication::translate("Panel", "Close the panel"), this)),
       _subjectButton(new QToolButton(this)),
-      _storageSign(makeButton({}, this)),
+      _storageSign(makeButton(PanelIcon::Warning, {}, this)),
       _remoteButton(makeButton(
+          PanelIcon::Remote,
           QCoreApplication::translate("Panel", "Companions on the network may change the displays"),
           this)),
-      _menuButton(makeButton(QCoreApplication::translate("Panel", "Menu"), this)),
+      _menuButton(makeButton(PanelIcon::Menu, QCoreApplication::translate("Panel", "Menu"), this)),
       _subjectMenu(new DisplayMenu(_subjectButton)) {
     setMinimumHeight(std::max(stripHeight, fontMetrics().height() + 8));
     _subjectButton->setAutoRaise(true);
     _subjectButton->setFocusPolicy(Qt::TabFocus);
     _subjectButton->installEventFilter(this);
     // A button with a menu of its own would get the style's arrow.
-    openBelow(*_menuButton, menu);
-    openBelow(*_subjectButton, *_subjectMenu);
+    openBelow(*_menuButton, menu, true);
+    openBelow(*_subjectButton, *_subjectMenu, false);
     QObject::connect(_closeButton, &QToolButton::clicked, this, [this] {
         if (_close) {
             _close();
@@ -88,7 +92,6 @@ TitleStrip::TitleStrip(QMenu& menu, QWidget* parent)
     layout->addWidget(_storageSign);
     layout->addWidget(_remoteButton);
     layout->addWidget(_menuButton);
-    updateIcons();
 }
 
 void TitleStrip::showSubject(const PanelSubject& subject) {
@@ -131,15 +134,6 @@ void TitleStrip::updateTitle() {
     _subjectButton->setText(fontMetrics().elidedText(_title, Qt::ElideMiddle, room) + arrow);
     _subjectButton->setAccessibleName(
         QCoreApplication::translate("Panel", "Edited: %1").arg(_title));
-}
-
-void TitleStrip::updateIcons() {
-    const Appearance appearance = effectiveAppearance(*this);
-    _closeButton->setIcon(panelIcon(PanelIcon::Close, appearance));
-    _storageSign->setIcon(panelIcon(PanelIcon::Unsaved, appearance));
-    _remoteButton->setIcon(panelIcon(PanelIcon::Remote, appearance));
-    _menuButton->setIcon(panelIcon(PanelIcon::Menu, appearance));
-    setAppearance(*_subjectMenu, appearance);
 }
 
 void TitleStrip::paintEvent(QPaintEvent* /*event*/) {
@@ -216,13 +210,6 @@ bool TitleStrip::drag(const QMouseEvent& move) {
 void TitleStrip::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     updateTitle();
-}
-
-void TitleStrip::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) {
-        updateIcons();
-    }
 }
 
 }  // namespace tonquil

@@ -43,7 +43,6 @@ class TitleStrip : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -51,7 +50,6 @@ class TitleStrip : public QWidget {
     void continueMove(const QPoint& pointer);
     /// Returns whether the press has become a drag.
     bool drag(const QMouseEvent& move);
-    void updateIcons();
     void updateTitle();
 
     QToolButton* _closeButton;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "windows/preferences/PreferencesWindow.h"
 
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -17,9 +19,7 @@
 
 #include "hotkeys/field/DDHotKeyTextField.h"
 #include "ui/theme/Theme.h"
-#include "windows/alerts/FlatButton.h"
 #include "windows/panel/PanelIcons.h"
-#include "windows/preferences/FlatChoices.h"
 #include "windows/preferences/RadioMatrix.h"
 
 namespace tonquil {
@@ -105,36 +105,36 @@ QGridLayout* addGrid(QVBoxLayout& column, int verticalSpacing) {
 }  // namespace
 
 PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
-    : showAtLaunch(new FlatCheckBox(Texts::tr("Show the panel when Tonquil starts"))),
-      openAtLoginCheckbox(new FlatCheckBox(Texts::tr("Start Tonquil at login"))),
+    : showAtLaunch(new QCheckBox(Texts::tr("Show the panel when Tonquil starts"))),
+      openAtLoginCheckbox(new QCheckBox(Texts::tr("Start Tonquil at login"))),
       rememberWhenQuitting(
-          new FlatCheckBox(Texts::tr("Correct the displays as soon as Tonquil starts"))),
-      ContinuouslyApply(new FlatCheckBox(Texts::tr("Apply the curves again every few seconds"))),
+          new QCheckBox(Texts::tr("Correct the displays as soon as Tonquil starts"))),
+      ContinuouslyApply(new QCheckBox(Texts::tr("Apply the curves again every few seconds"))),
       continuouslyApplyNote(
           new QLabel(Texts::tr("Not needed here: no correction is lost unnoticed."))),
-      keepNightLight(new FlatCheckBox(Texts::tr("Keep night light"))),
-      advancedPanel(new FlatCheckBox(Texts::tr("Show sliders for the single channels"))),
-      channelStrip(new FlatCheckBox(Texts::tr("Show the channel strip"))),
-      showTargetHints(new FlatCheckBox(Texts::tr("Show hints under targets"))),
-      darkTheme(new FlatCheckBox(Texts::tr("Dark theme"))),
+      keepNightLight(new QCheckBox(Texts::tr("Keep night light"))),
+      advancedPanel(new QCheckBox(Texts::tr("Show sliders for the single channels"))),
+      channelStrip(new QCheckBox(Texts::tr("Show the channel strip"))),
+      showTargetHints(new QCheckBox(Texts::tr("Show hints under targets"))),
+      darkTheme(new QCheckBox(Texts::tr("Dark theme"))),
       affectAllScreens(
           new RadioMatrix({Texts::tr("The display under the panel"), Texts::tr("All displays")})),
       toggleApply(new RadioMatrix(
           {Texts::tr("Shows the panel"), Texts::tr("Switches the correction on or off")})),
       showStatusLabel(new QLabel(Texts::tr("Show Tonquil in:"))),
       showStatusItem(new RadioMatrix({Texts::tr("The task bar"), Texts::tr("The status area")})),
-      useHotKey(new FlatCheckBox(Texts::tr("Switch the correction on or off"))),
+      useHotKey(new QCheckBox(Texts::tr("Switch the correction on or off"))),
       hotKeyField(new DDHotKeyTextField(layout)),
       hotKeyTrigger(new QLabel),
       hotKeyProblem(new QLabel),
-      panelHotKey(new FlatCheckBox(describedPanelKey(HotKeyChooser::Program))),
+      panelHotKey(new QCheckBox(describedPanelKey(HotKeyChooser::Program))),
       panelHotKeyField(new DDHotKeyTextField(layout)),
       panelHotKeyTrigger(new QLabel),
       panelHotKeyProblem(new QLabel),
-      changeHotKeys(new FlatButton(Texts::tr("Change in desktop\u2026"))),
+      changeHotKeys(new QPushButton(Texts::tr("Change in desktop\u2026"))),
       hotKeysByHand(new QLabel),
-      allowRemote(new FlatCheckBox(
-          Texts::tr("Let companions on the local network read and set the curves"))),
+      allowRemote(
+          new QCheckBox(Texts::tr("Let companions on the local network read and set the curves"))),
       remoteProblem(new QLabel),
       _scrollArea(new QScrollArea) {
     setObjectName(QStringLiteral("Preferences"));

@@ -2,10 +2,9 @@
 #include "windows/preferences/RadioMatrix.h"
 
 #include <QButtonGroup>
+#include <QRadioButton>
 #include <QVBoxLayout>
 #include <utility>
-
-#include "windows/preferences/FlatChoices.h"
 
 namespace tonquil {
 
@@ -19,7 +18,7 @@ RadioMatrix::RadioMatrix(const QStringList& titles, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(radioSpacing);
     for (const QString& title : titles) {
-        auto* cell = new FlatRadioButton(title);
+        auto* cell = new QRadioButton(title);
         cell->setChecked(_cells->buttons().isEmpty());
         _cells->addButton(cell, static_cast<int>(_cells->buttons().size()));
         column->addWidget(cell);
