@@ -78,7 +78,11 @@ QRect TQTabButtonCell::drawTitle(QPainter& painter, const QString& title, const 
 void TQTabButtonCell::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
-    drawBezelWithFrame(painter, rect());
+    // The ends of the row are in line with the controls around it.
+    const bool isFirst = x() == 0;
+    const bool isLast =
+        parentWidget() != nullptr && geometry().right() == parentWidget()->width() - 1;
+    drawBezelWithFrame(painter, rect().adjusted(isFirst ? -1 : 0, 0, isLast ? 1 : 0, 0));
     drawTitle(painter, text(), rect());
     if (hasFocus() && _showsFocusRing) {
         drawRoundedFrame(painter, rect().adjusted(1, 1, -1, -1), fieldRadius, 2,

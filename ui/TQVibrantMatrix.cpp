@@ -15,8 +15,6 @@ TQVibrantMatrix::TQVibrantMatrix(const QStringList& titles, QWidget* parent) : Q
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    // A button is drawn a point inside its edges; the row's ends are in line with other controls.
-    setContentsMargins(-1, 0, -1, 0);
     row->setSpacing(0);
     for (const QString& title : titles) {
         const int column = columnCount();

@@ -49,6 +49,9 @@ void drawBevel(QPainter& painter, const QStyleOptionButton& option, const Theme&
                 isOn        ? theme.field
                 : isDefault ? theme.selection
                             : theme.button);
+    if (isOn) {
+        drawRoundedFrame(painter, option.rect, fieldRadius, 0, theme.hairline);
+    }
     if (option.state.testFlag(QStyle::State_Sunken)) {
         fillRounded(painter, option.rect, fieldRadius, theme.track);
     }
