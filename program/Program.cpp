@@ -104,6 +104,7 @@ void Program::makeWindows() {
                         .suspendsNightLight = _displays.suspendsNightLight(),
                         .changeHotKeys = [this] { _portalHotKeys->changeKeys(); }},
         .service = _displays,
+        .panel = *_panel,
         .bundle = {.path = programFile(),
                    .name = "Tonquil",
                    .shortVersion = TONQUIL_VERSION,

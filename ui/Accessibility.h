@@ -3,8 +3,9 @@
 
 namespace tonquil {
 
-/// Exposes sliders, tabs and the plot to assistive technology with the right roles. Our controls
-/// call this in their constructors; only the first call does anything.
+/// Exposes our sliders, tabs and plot, and the toolkit's choices and drop-down lists, to assistive
+/// technology with the right roles, names and actions. Our controls call this in their constructors;
+/// only the first call does anything.
 void installAccessibleInterfaces();
 
 }  // namespace tonquil

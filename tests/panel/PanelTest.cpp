@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCheckBox>
+#include <QComboBox>
 #include <stdexcept>
 
 #include "platform/missing/MissingWindowSystem.h"
@@ -112,6 +114,9 @@ TEST_F(Panel, ShowsEachValueInItsOwnControl) {
     EXPECT_EQ(slider(QStringLiteral("Master, White point")).floatValue(), values.sliders[2]);
     EXPECT_EQ(field(QStringLiteral("Blue, Middle point")).floatValue(), values.sliders[8]);
     EXPECT_THAT(actions.calls, IsEmpty()) << "Showing is no edit.";
+    auto* const spoken = QAccessible::queryAccessibleInterface(&control<QComboBox>());
+    EXPECT_EQ(spoken->text(QAccessible::Name).toStdString(), "Blending");
+    EXPECT_EQ(spoken->text(QAccessible::Value).toStdString(), "Absolute");
     // Neither a value beyond the range nor a mode missing from the menu is lost.
     values[PanelSlider::MiddleRed] = 2.5F;
     values.blendingMode = 7;

@@ -2,8 +2,10 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPushButton>
 
 #include "tests/ui/Input.h"
 #include "ui/TQNumericTextField.h"
@@ -11,6 +13,8 @@
 #include "ui/TQSlider.h"
 #include "ui/TQTabButtonCell.h"
 #include "ui/TQVibrantMatrix.h"
+#include "ui/style/QuietStyle.h"
+#include "ui/theme/Theme.h"
 
 namespace tonquil {
 namespace {
@@ -150,6 +154,29 @@ TEST_F(NumericFieldTest, LeavesUndoAndEscapeToWindowUnlessEdited) {
             EXPECT_EQ(event.isAccepted(), isTyped) << key;
         }
     }
+}
+
+TEST_F(NumericFieldTest, ShowsFocusRingOnlyForKeyboard) {
+    QuietStyle style;
+    auto* const button = new QPushButton(&window);
+    auto* const list = new QComboBox(&window);
+    button->setStyle(&style);
+    list->setStyle(&style);
+    list->show();
+    button->show();
+    for (QWidget* const each : std::initializer_list<QWidget*>{slider, field, button, list}) {
+        SCOPED_TRACE(each->metaObject()->className());
+        for (const auto& [reason, isShown] : {std::pair(Qt::TabFocusReason, true),
+                                              {Qt::MouseFocusReason, false},
+                                              {Qt::OtherFocusReason, false}}) {
+            other->setFocus();
+            each->setFocus(reason);
+            const QColor edge = drawn(*each).pixelColor(1, each->height() / 2);
+            EXPECT_EQ(isNear(edge, themeOf(*each).focusRing), isShown) << reason;
+        }
+    }
+    delete button;
+    delete list;
 }
 
 TEST(MatrixTest, FollowsArrowKeysInReadingDirectionAndReportsUserChangesOnly) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QKeyEvent>
@@ -106,8 +107,11 @@ TEST_F(Preferences, FollowExternalChangesOnlyWhereBound) {
         store.written.clear();
         box->click();
         EXPECT_EQ(store.written.size(), 1U) << "A click writes one setting.";
+        QAccessible::queryAccessibleInterface(box)->actionInterface()->doAction(
+            QAccessibleActionInterface::toggleAction());
+        EXPECT_EQ(store.written.size(), 2U) << "So does a screen reader.";
     }
-    EXPECT_EQ(stored("AllowRemote"), false);
+    EXPECT_EQ(stored("AllowRemote"), true);
 }
 
 TEST_F(Preferences, StartRecordingWhenMissingHotKeyIsEnabled) {

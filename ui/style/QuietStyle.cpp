@@ -103,8 +103,10 @@ void QuietStyle::polish(QWidget* widget) {
     }
 }
 
+// A dialog that opens tells its first control that it got the focus by the Tab key, before that has
+// it.
 bool QuietStyle::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn) {
+    if (event->type() == QEvent::FocusIn && static_cast<const QWidget*>(watched)->hasFocus()) {
         const auto reason = static_cast<const QFocusEvent*>(event)->reason();
         watched->setProperty(focusProperty,
                              isFocusShown(reason, watched->property(focusProperty).toBool()));

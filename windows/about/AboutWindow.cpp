@@ -39,7 +39,8 @@ QString templateText(const Theme& theme) {
 
 }  // namespace
 
-AboutWindow::AboutWindow() {
+// A dialog: only such a window can be kept above another.
+AboutWindow::AboutWindow() : QWidget(nullptr, Qt::Dialog) {
     const Appearance appearance{.isDark = false, .allowsVibrancy = false};
     setObjectName(QStringLiteral("KVAboutBox"));
     setWindowTitle(QCoreApplication::translate("KVAboutBox", "About Tonquil"));

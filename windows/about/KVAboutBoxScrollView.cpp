@@ -8,24 +8,10 @@
 
 namespace tonquil {
 
-namespace {
-
-/// A scroll bar without arrows, on the text's background.
-constexpr const char* quietBar =
-    "QScrollBar { background: transparent; width: 12px; margin: 0; }"
-    "QScrollBar::handle { background: rgba(0, 0, 0, 72); border-radius: 3px; margin: 3px;"
-    " min-height: 24px; }"
-    "QScrollBar::handle:hover { background: rgba(0, 0, 0, 120); }"
-    "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
-    "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }";
-
-}  // namespace
-
 KVAboutBoxScrollView::KVAboutBoxScrollView(QWidget* parent) : QTextBrowser(parent) {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setOpenExternalLinks(true);
-    verticalScrollBar()->setStyleSheet(QString::fromLatin1(quietBar));
     viewport()->setAutoFillBackground(false);
     QPalette palette = this->palette();
     palette.setColor(QPalette::Base, Qt::transparent);

@@ -93,6 +93,8 @@ AlertWindow::AlertWindow(const Alert& alert, const Appearance& appearance, QWidg
     setAppearance(*this, appearance);
     setWindowTitle(QString());
     setModal(true);
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowCloseButtonHint);
     const Theme& theme = themeFor(appearance);
     auto* icon = new QLabel;
     icon->setObjectName(QStringLiteral("icon"));

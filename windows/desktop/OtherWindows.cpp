@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QUrl>
+#include <QWindow>
 #include <map>
 
 #include "app/preferences/SettingsKeys.h"
@@ -87,8 +88,16 @@ void OtherWindows::openAboutBox() {
     if (!_about) {
         _about = std::make_unique<KVAboutBoxController>(_.bundle, _.preferences.windowSystem);
         _.windowMade(_about->window());
+        keepAbovePanel(_about->window());
     }
     _about->showWindow();
+}
+
+// Both must have a native window for that.
+void OtherWindows::keepAbovePanel(QWidget& window) const {
+    window.winId();
+    _.panel.winId();
+    window.windowHandle()->setTransientParent(_.panel.windowHandle());
 }
 
 bool OtherWindows::hasAddress(std::string_view key) {

@@ -19,6 +19,8 @@ class OtherWindows final : public ProgramWindows {
     struct Surroundings {
         PreferencesSurroundings preferences;
         DisplayService& service;
+        /// The panel floats above other programs' windows; the about window stays above the panel.
+        QWidget& panel;
         BundleInformation bundle;
         /// Called with each new window before it is shown.
         std::function<void(QWidget&)> windowMade;
@@ -50,6 +52,7 @@ class OtherWindows final : public ProgramWindows {
 
  private:
     void makePreferences();
+    void keepAbovePanel(QWidget& window) const;
 
     Surroundings _;
     AccessibilityOptions _options;

@@ -18,8 +18,10 @@
 #include <utility>
 
 #include "hotkeys/field/DDHotKeyTextField.h"
+#include "ui/Accessibility.h"
 #include "ui/theme/Theme.h"
 #include "windows/panel/PanelIcons.h"
+#include "windows/preferences/NoteLabel.h"
 #include "windows/preferences/RadioMatrix.h"
 
 namespace tonquil {
@@ -29,6 +31,7 @@ namespace {
 // In points.
 constexpr int margin = 12;
 constexpr int spacing = 8;
+constexpr int rowSpacing = 4;
 constexpr int groupSpacing = 16;
 /// What a window manager takes of a screen's height, or a little more.
 constexpr int titleBarHeight = 40;
@@ -53,7 +56,7 @@ void addHeading(QVBoxLayout& column, const QString& text) {
 void addChecks(QVBoxLayout& column, std::initializer_list<QCheckBox*> boxes) {
     for (QCheckBox* box : boxes) {
         column.addWidget(box);
-        column.addSpacing(box == *(boxes.end() - 1) ? 0 : spacing);
+        column.addSpacing(box == *(boxes.end() - 1) ? 0 : rowSpacing);
     }
 }
 
@@ -71,22 +74,12 @@ QString describedPanelKey(HotKeyChooser chooser) {
                                              : Texts::tr("Show the panel");
 }
 
-/// Aligns the sentence with the text of its checkbox.
-void prepareProblem(QLabel& problem, const QCheckBox& box) {
-    problem.setTextFormat(Qt::PlainText);
-    problem.setWordWrap(true);
-    const QStyle& style = *box.style();
-    problem.setIndent(style.pixelMetric(QStyle::PM_IndicatorWidth) +
-                      style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing));
-    problem.hide();
-}
-
 void addHotKey(QGridLayout& grid, QCheckBox* box, DDHotKeyTextField* field, QLabel* trigger,
                QLabel* problem) {
     const int row = grid.rowCount();
     trigger->setTextFormat(Qt::PlainText);
     field->setAccessibleName(box->text());
-    prepareProblem(*problem, *box);
+    problem->hide();
     grid.addWidget(box, row, 0);
     grid.addWidget(field, row, 1);
     grid.addWidget(trigger, row, 1);
@@ -111,7 +104,8 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
           new QCheckBox(Texts::tr("Correct the displays as soon as Tonquil starts"))),
       ContinuouslyApply(new QCheckBox(Texts::tr("Apply the curves again every few seconds"))),
       continuouslyApplyNote(
-          new QLabel(Texts::tr("Not needed here: no correction is lost unnoticed."))),
+          new NoteLabel(NoteLabel::Kind::Note, *ContinuouslyApply,
+                        Texts::tr("Not needed here: no correction is lost unnoticed."))),
       keepNightLight(new QCheckBox(Texts::tr("Keep night light"))),
       advancedPanel(new QCheckBox(Texts::tr("Show sliders for the single channels"))),
       channelStrip(new QCheckBox(Texts::tr("Show the channel strip"))),
@@ -126,17 +120,18 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
       useHotKey(new QCheckBox(Texts::tr("Switch the correction on or off"))),
       hotKeyField(new DDHotKeyTextField(layout)),
       hotKeyTrigger(new QLabel),
-      hotKeyProblem(new QLabel),
+      hotKeyProblem(new NoteLabel(NoteLabel::Kind::Problem, *useHotKey)),
       panelHotKey(new QCheckBox(describedPanelKey(HotKeyChooser::Program))),
       panelHotKeyField(new DDHotKeyTextField(layout)),
       panelHotKeyTrigger(new QLabel),
-      panelHotKeyProblem(new QLabel),
+      panelHotKeyProblem(new NoteLabel(NoteLabel::Kind::Problem, *panelHotKey)),
       changeHotKeys(new QPushButton(Texts::tr("Change in desktop\u2026"))),
       hotKeysByHand(new QLabel),
       allowRemote(
           new QCheckBox(Texts::tr("Let companions on the local network read and set the curves"))),
-      remoteProblem(new QLabel),
+      remoteProblem(new NoteLabel(NoteLabel::Kind::Problem, *allowRemote)),
       _scrollArea(new QScrollArea) {
+    installAccessibleInterfaces();
     setObjectName(QStringLiteral("Preferences"));
     setWindowTitle(Texts::tr("Preferences"));
     setWindowIcon(programIcon());
@@ -224,7 +219,7 @@ void PreferencesWindow::nameControls() {
 void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
     addHeading(column, Texts::tr("General"));
     addChecks(column, {showAtLaunch, openAtLoginCheckbox, rememberWhenQuitting, ContinuouslyApply});
-    prepareProblem(*continuouslyApplyNote, *ContinuouslyApply);
+    continuouslyApplyNote->hide();
     column.addWidget(continuouslyApplyNote);
     addNightLight(column);
     column.addSpacing(groupSpacing);
@@ -240,7 +235,7 @@ void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
 void PreferencesWindow::addNightLight(QVBoxLayout& column) const {
     auto* line = new QWidget;
     auto* lineColumn = new QVBoxLayout(line);
-    lineColumn->setContentsMargins(0, spacing, 0, 0);
+    lineColumn->setContentsMargins(0, rowSpacing, 0, 0);
     lineColumn->addWidget(keepNightLight);
     column.addWidget(line);
     line->hide();
@@ -252,7 +247,7 @@ void PreferencesWindow::showNightLight(bool isShown) const {
 
 void PreferencesWindow::addHotKeys(QVBoxLayout& column) const {
     addHeading(column, Texts::tr("Hot keys"));
-    QGridLayout& grid = *addGrid(column, spacing);
+    QGridLayout& grid = *addGrid(column, rowSpacing);
     addHotKey(grid, useHotKey, hotKeyField, hotKeyTrigger, hotKeyProblem);
     addHotKey(grid, panelHotKey, panelHotKeyField, panelHotKeyTrigger, panelHotKeyProblem);
     grid.addWidget(changeHotKeys, grid.rowCount(), 1, Qt::AlignLeft);
@@ -283,8 +278,11 @@ void PreferencesWindow::showHotKeyChooser(HotKeyChooser chooser) {
 void PreferencesWindow::addRemote(QVBoxLayout& column) const {
     addHeading(column, Texts::tr("Remote"));
     addChecks(column, {allowRemote});
-    prepareProblem(*remoteProblem, *allowRemote);
-    remoteProblem->setContentsMargins(0, spacing / 2, 0, 0);
+    column.addWidget(
+        new NoteLabel(NoteLabel::Kind::Note, *allowRemote,
+                      Texts::tr("There is no password: any computer there can do this.")));
+    remoteProblem->setContentsMargins(0, rowSpacing, 0, 0);
+    remoteProblem->hide();
     column.addWidget(remoteProblem);
 }
 
