@@ -402,6 +402,14 @@
         <source>Make editable</source>
         <translation>Bearbeitbar machen</translation>
     </message>
+    <message>
+        <source>Tonquil: correction on</source>
+        <translation>Tonquil: Korrektur ein</translation>
+    </message>
+    <message>
+        <source>Tonquil: correction off</source>
+        <translation>Tonquil: Korrektur aus</translation>
+    </message>
 </context>
 <context>
     <name>PanelSubject</name>
@@ -535,6 +543,10 @@
     <message>
         <source>Keep night light</source>
         <translation>Nachtlicht beibehalten</translation>
+    </message>
+    <message>
+        <source>There is no password: any computer there can do this.</source>
+        <translation>Es gibt kein Passwort: Jeder Rechner dort kann das.</translation>
     </message>
 </context>
 <context>

@@ -402,6 +402,14 @@
         <source>Make editable</source>
         <translation>Hacer editable</translation>
     </message>
+    <message>
+        <source>Tonquil: correction on</source>
+        <translation>Tonquil: corrección activada</translation>
+    </message>
+    <message>
+        <source>Tonquil: correction off</source>
+        <translation>Tonquil: corrección desactivada</translation>
+    </message>
 </context>
 <context>
     <name>PanelSubject</name>
@@ -535,6 +543,10 @@
     <message>
         <source>Keep night light</source>
         <translation>Conservar la luz nocturna</translation>
+    </message>
+    <message>
+        <source>There is no password: any computer there can do this.</source>
+        <translation>No hay contraseña: cualquier equipo de esa red puede hacerlo.</translation>
     </message>
 </context>
 <context>

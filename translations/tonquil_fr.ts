@@ -402,6 +402,14 @@
         <source>Make editable</source>
         <translation>Rendre modifiable</translation>
     </message>
+    <message>
+        <source>Tonquil: correction on</source>
+        <translation>Tonquil : correction activée</translation>
+    </message>
+    <message>
+        <source>Tonquil: correction off</source>
+        <translation>Tonquil : correction désactivée</translation>
+    </message>
 </context>
 <context>
     <name>PanelSubject</name>
@@ -535,6 +543,10 @@
     <message>
         <source>Keep night light</source>
         <translation>Conserver l’éclairage nocturne</translation>
+    </message>
+    <message>
+        <source>There is no password: any computer there can do this.</source>
+        <translation>Il n’y a pas de mot de passe : tout ordinateur de ce réseau peut le faire.</translation>
     </message>
 </context>
 <context>

@@ -402,6 +402,14 @@
         <source>Make editable</source>
         <translation>編集可能にする</translation>
     </message>
+    <message>
+        <source>Tonquil: correction on</source>
+        <translation>Tonquil：補正オン</translation>
+    </message>
+    <message>
+        <source>Tonquil: correction off</source>
+        <translation>Tonquil：補正オフ</translation>
+    </message>
 </context>
 <context>
     <name>PanelSubject</name>
@@ -535,6 +543,10 @@
     <message>
         <source>Keep night light</source>
         <translation>夜間モードの色を保つ</translation>
+    </message>
+    <message>
+        <source>There is no password: any computer there can do this.</source>
+        <translation>パスワードはありません。ネットワーク上のどのコンピューターからも操作できます。</translation>
     </message>
 </context>
 <context>

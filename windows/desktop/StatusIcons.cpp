@@ -3,6 +3,9 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QStandardPaths>
+
+#include "ui/DrawnIcon.h"
 
 namespace tonquil {
 
@@ -25,32 +28,48 @@ QPainterPath areaBelowCurve() {
     return path;
 }
 
-QPixmap draw(int pixels, bool isActive) {
-    QPixmap pixmap(pixels, pixels);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(pixels / 16.0, pixels / 16.0);
-    const QPainterPath shape = isActive ? areaBelowCurve() : curve();
+QPainterPath dottedCurve() {
+    constexpr double radius = 1.1;
+    constexpr int dots = 5;
+    const QPainterPath line = curve();
+    QPainterPath path;
+    for (int dot = 0; dot < dots; ++dot) {
+        const double along = line.length() * dot / (dots - 1);
+        path.addEllipse(line.pointAtPercent(line.percentAtLength(along)), radius, radius);
+    }
+    return path;
+}
+
+void drawStatus(QPainter& painter, bool isActive) {
+    constexpr double strokeWidth = 1.6;
+    constexpr double rimWidth = 0.9;
+    const QPainterPath shape = isActive ? areaBelowCurve() : dottedCurve();
+    const double outline = isActive ? strokeWidth : 0;
     const auto stroke = [&](const QColor& colour, double width) {
         painter.strokePath(shape, QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     };
-    stroke(rim, 3.6);
+    stroke(rim, outline + 2 * rimWidth);
+    painter.fillPath(shape, light);
     if (isActive) {
-        painter.fillPath(shape, light);
+        stroke(light, outline);
     }
-    stroke(light, 1.6);
-    return pixmap;
+}
+
+/// Nothing if the icon is not installed: a tray might show a sign for a missing one.
+QString installedIcon(const QString& name) {
+    const QString file = QStringLiteral("icons/hicolor/symbolic/apps/%1.svg").arg(name);
+    const bool isInstalled =
+        !QStandardPaths::locate(QStandardPaths::GenericDataLocation, file).isEmpty();
+    return isInstalled ? name : QString();
 }
 
 }  // namespace
 
 QIcon statusIcon(bool isActive) {
-    QIcon icon;
-    for (const int pixels : {16, 22, 24, 32, 44, 48, 64}) {
-        icon.addPixmap(draw(pixels, isActive));
-    }
-    return icon;
+    return drawnIcon(
+        [isActive](QPainter& painter, QIcon::Mode /*mode*/) { drawStatus(painter, isActive); },
+        installedIcon(isActive ? QStringLiteral("tonquil-symbolic")
+                               : QStringLiteral("tonquil-off-symbolic")));
 }
 
 }  // namespace tonquil

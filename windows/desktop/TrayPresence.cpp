@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windows/desktop/TrayPresence.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QWidget>
 #include <utility>
@@ -16,8 +17,7 @@ constexpr int lookMilliseconds = 5000;
 TrayPresence::TrayPresence(WindowSystem& windowSystem, Log log)
     : _windowSystem(windowSystem), _log(std::move(log)) {
     _item.setContextMenu(&_menu);
-    _item.setToolTip(QStringLiteral("Tonquil"));
-    _item.setIcon(_restingIcon);
+    setStatusItemActive(false);
     _lookTimer.setInterval(lookMilliseconds);
     QObject::connect(&_lookTimer, &QTimer::timeout, this, [this] { look(); });
 }
@@ -58,6 +58,8 @@ void TrayPresence::look() {
 
 void TrayPresence::setStatusItemActive(bool isActive) {
     _item.setIcon(isActive ? _activeIcon : _restingIcon);
+    _item.setToolTip(isActive ? QCoreApplication::translate("Panel", "Tonquil: correction on")
+                              : QCoreApplication::translate("Panel", "Tonquil: correction off"));
     _menu.showCorrection(isActive);
 }
 

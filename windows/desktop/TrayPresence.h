@@ -46,7 +46,6 @@ class TrayPresence final : public QObject, public DesktopPresence {
     WindowSystem& _windowSystem;
     Log _log;
     StatusMenu _menu;
-    // Created once: Qt caches rendered copies of every icon it sees.
     QIcon _restingIcon = statusIcon(false);
     QIcon _activeIcon = statusIcon(true);
     QSystemTrayIcon _item;
