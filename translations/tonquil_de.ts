@@ -368,7 +368,7 @@
     </message>
     <message>
         <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
-        <translation>Korrigiert diesen Bildschirm. Testbilder anzeigen und den Regler bewegen, bis Streifen glatt aussehen.</translation>
+        <translation>Korrigiert den Bildschirm: Testbilder zeigen, Regler bewegen, bis Streifen glatt wirken.</translation>
     </message>
     <message>
         <source>Drag it, or turn the wheel over it or its number.</source>

@@ -368,7 +368,7 @@
     </message>
     <message>
         <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
-        <translation>Corrige esta pantalla. Muestre los patrones y mueva el deslizador hasta que las rayas parezcan lisas.</translation>
+        <translation>Corrige la pantalla: muestre los patrones y mueva el control hasta que se fundan las rayas.</translation>
     </message>
     <message>
         <source>Drag it, or turn the wheel over it or its number.</source>

@@ -368,7 +368,7 @@
     </message>
     <message>
         <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
-        <translation>Corrige cet écran. Affichez les mires et déplacez le curseur jusqu’à ce que les rayures paraissent unies.</translation>
+        <translation>Corrige l’écran : affichez les mires et déplacez le curseur jusqu’à effacer les rayures.</translation>
     </message>
     <message>
         <source>Drag it, or turn the wheel over it or its number.</source>

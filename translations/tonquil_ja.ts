@@ -368,7 +368,7 @@
     </message>
     <message>
         <source>Corrects this display. Show targets and move the slider until stripes look plain.</source>
-        <translation>このディスプレイを補正します。テストパターンを表示し、縞が無地に見えるまでスライダを動かしてください。</translation>
+        <translation>ディスプレイを補正します。テストパターンを表示し、縞が消えるまでスライダを動かします。</translation>
     </message>
     <message>
         <source>Drag it, or turn the wheel over it or its number.</source>

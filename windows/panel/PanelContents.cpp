@@ -77,7 +77,7 @@ PanelContents::PanelContents(QMenu& menu, QWidget* parent)
 
     auto* compact = new QVBoxLayout(_compact);
     // The tabs are drawn a point below their upper edge.
-    compact->setContentsMargins(margin, spacing - 1, margin, margin);
+    compact->setContentsMargins(margin, spacing - 1, margin, chevron->height() + 2);
     compact->setSpacing(spacing);
     compact->addWidget(gammaTabSelector);
     compact->addWidget(gammaTabs);
@@ -150,6 +150,7 @@ QLabel* PanelContents::makeHint() {
         "Panel",
         "Corrects this display. Show targets and move the slider until stripes look plain."));
     label->setWordWrap(true);
+    label->setForegroundRole(QPalette::PlaceholderText);
     label->setFixedHeight(label->heightForWidth(panelWidth - 2 * margin));
     label->hide();
     return label;
