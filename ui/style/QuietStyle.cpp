@@ -22,6 +22,8 @@ namespace {
 constexpr double ringWidth = 2;
 constexpr double flatRadius = 4;
 constexpr int comboPadding = 8;
+/// With the padding around it.
+constexpr int comboArrow = 24;
 constexpr int choiceHeight = 24;
 /// For the tick of the chosen entry, and the padding around the entries.
 constexpr int listWidening = 28;
@@ -45,8 +47,9 @@ bool isDropDown(const QWidget* widget) {
 void drawBevel(QPainter& painter, const QStyleOptionButton& option, const Theme& theme) {
     const bool isDefault = option.features.testFlag(QStyleOptionButton::DefaultButton);
     const bool isOn = option.state.testFlag(QStyle::State_On);
+    const bool isDark = theme.panel.lightness() < theme.text.lightness();
     fillRounded(painter, option.rect, fieldRadius,
-                isOn        ? theme.field
+                isOn        ? (isDark ? theme.selection : theme.field)
                 : isDefault ? theme.selection
                             : theme.button);
     if (isOn) {
@@ -83,8 +86,11 @@ void drawComboBoxText(QPainter& painter, const QStyleOptionComboBox& option,
     painter.setOpacity(option.state.testFlag(QStyle::State_Enabled) ? 1 : disabledOpacity);
     painter.setPen(themeUnder(widget).text);
     const auto start = QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter);
-    painter.drawText(option.rect.adjusted(comboPadding, 0, -comboPadding, 0),
-                     static_cast<int>(start.toInt()), option.currentText);
+    const int left = option.direction == Qt::RightToLeft ? comboArrow : comboPadding;
+    const QRect room = option.rect.adjusted(left, 0, left - comboArrow - comboPadding, 0);
+    painter.drawText(
+        room, static_cast<int>(start.toInt()),
+        option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, room.width()));
 }
 
 }  // namespace
@@ -160,6 +166,9 @@ QSize QuietStyle::sizeFromContents(ContentsType type, const QStyleOption* option
         return menuEntrySize(*entry, contents);
     }
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_ComboBox) {
+        return {contents.width() + 2 * comboPadding + comboArrow, size.height()};
+    }
     const bool isChoice = type == CT_CheckBox || type == CT_RadioButton;
     return isChoice ? size.expandedTo({0, choiceHeight}) : size;
 }
