@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionButton>
 
 #include "windows/panel/PanelIcons.h"
 
@@ -15,7 +16,9 @@ NoteLabel::NoteLabel(Kind kind, const QCheckBox& box, const QString& text)
       _boxWidth(box.style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &box)) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    setIndent(_boxWidth + box.style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, &box));
+    QStyleOptionButton option;
+    option.rect = QRect(QPoint(), box.sizeHint());
+    setIndent(box.style()->subElementRect(QStyle::SE_CheckBoxContents, &option, &box).left());
     if (kind == Kind::Note) {
         setForegroundRole(QPalette::PlaceholderText);
     }
