@@ -18,6 +18,10 @@ void ControlPanel::connectWays() {
         heldSlider(slider, isHeld);
         if (isHeld) {
             firstResponderChanged(&_contents->sliders.slider(slider));
+        } else {
+            // The plot knows no double-click that a second press could become.
+            _editEndTimer.stop();
+            _actions->endEdit();
         }
     });
     const auto switchForm = [this] { _actions->setAdvancedPanel(!_isAdvanced); };
