@@ -174,6 +174,9 @@ void CalibrationSessions::refused(Session& session, const std::string& reason) {
 
 // Mostly the monitors are changing just then, and the compositor will say so.
 void CalibrationSessions::lost(Session& session) {
+    if (session.reachedAt && _host.runLoop->now() - *session.reachedAt > retryInterval) {
+        session.pause = shortestPause;
+    }
     close(session);
     if (session.isHeld) {
         retryAfter(session, session.pause);
@@ -191,6 +194,7 @@ void CalibrationSessions::close(Session& session) {
     session.isOpening = false;
     session.isSetting = false;
     session.state.isReached = false;
+    session.reachedAt.reset();
     session.retry.reset();
     if (!session.path.empty()) {
         stop(std::exchange(session.path, {}));
@@ -218,6 +222,9 @@ void CalibrationSessions::sendRamp(Session& session) {
             asked->isSetting = false;
             asked->state.isReached = isTaken;
             if (isTaken) {
+                if (!asked->reachedAt && _host.runLoop != nullptr) {
+                    asked->reachedAt = _host.runLoop->now();
+                }
                 sendRamp(*asked);
             } else {
                 lost(*asked);
