@@ -71,10 +71,16 @@ void CalibrationSessions::hold(const std::string& connector) {
 
 void CalibrationSessions::release(const std::string& connector) {
     const auto found = _sessions.find(connector);
-    if (found != _sessions.end()) {
-        found->second.isHeld = false;
-        close(found->second);
-        found->second.state.isReached = true;
+    if (found == _sessions.end()) {
+        return;
+    }
+    Session& session = found->second;
+    session.isHeld = false;
+    close(session);
+    session.state.isReached = true;
+    // Nobody asks any more, so nobody would hear that the cause has gone.
+    if (session.state.hasRamp && !std::exchange(session.state.obstacle, {}).empty()) {
+        _host.changed();
     }
 }
 
