@@ -50,6 +50,7 @@ void CalibrationSessions::setMonitors(const std::vector<std::string>& connectors
             open(session);
         } else {
             session.state.obstacle.clear();
+            session.state.isTaken = false;
         }
     }
 }
@@ -80,6 +81,7 @@ void CalibrationSessions::release(const std::string& connector) {
     session.state.isReached = true;
     // Nobody asks any more, so nobody would hear that the cause has gone.
     if (session.state.hasRamp && !std::exchange(session.state.obstacle, {}).empty()) {
+        session.state.isTaken = false;
         _host.changed();
     }
 }
@@ -147,9 +149,7 @@ void CalibrationSessions::opened(const std::string& connector, std::uint64_t att
 void CalibrationSessions::sizeKnown(Session& session, std::uint32_t size) {
     if (size >= smallestSize && size <= largestSize) {
         session.isOpening = false;
-        session.state.size = size;
-        session.state.hasRamp = true;
-        session.state.obstacle.clear();
+        session.state = {.size = size};
         sendRamp(session);
     } else {
         // Given back, so that the compositor goes on with its own colour management.
@@ -167,12 +167,14 @@ void CalibrationSessions::refused(Session& session, const std::string& reason) {
     }
     close(session);
     if (says(reason, "already being calibrated")) {
-        session.state.obstacle =
-            TONQUIL_TEXT("Problem", "Another program is calibrating this display.");
+        session.state = {
+            .size = session.state.size,
+            .obstacle = TONQUIL_TEXT("Problem", "Another program is calibrating this display."),
+            .isTaken = true};
     } else if (says(reason, "cannot be calibrated")) {
         session.state = {.obstacle = obstacleFromSize(0), .hasRamp = false};
     } else {
-        session.state.obstacle = refusal();
+        session.state = {.size = session.state.size, .obstacle = refusal()};
     }
     retryAfter(session, retryInterval);
     _host.changed();
@@ -188,7 +190,7 @@ void CalibrationSessions::lost(Session& session) {
         retryAfter(session, session.pause);
         session.pause = std::min(2 * session.pause, retryInterval);
         if (session.pause == retryInterval) {
-            session.state.obstacle = refusal();
+            session.state = {.size = session.state.size, .obstacle = refusal()};
             _host.changed();
         }
     }

@@ -151,6 +151,7 @@ std::vector<ListedDisplay> MutterDisplayService::layout() {
         displays.push_back(display.listed);
         displays.back().rampSize = state.size;
         displays.back().obstacle = state.obstacle;
+        displays.back().isTaken = state.isTaken;
     }
     return displays;
 }

@@ -142,16 +142,19 @@ TEST_P(CalibratedMutterDisplays, AreNotBarredByAnotherProgramOnceTheyAreGivenBac
     desk.tell("desk.refuse('DP-1', 'Monitor is already being calibrated')");
     open();
     EXPECT_TRUE(comesTrue([&] { return isObstructed(); }));
+    EXPECT_TRUE(service->description(0).isTaken);
     loop.advance(1s);
     int told = 0;
     subscription = service->registerReconfigurationCallback([&](auto...) { ++told; });
     service->restoreSystemCalibration();
     loop.advance(1s);
     EXPECT_FALSE(isObstructed());
+    EXPECT_FALSE(service->description(0).isTaken);
     EXPECT_GT(told, 0);
     desk.tell("desk.refuse('DP-1', 'Monitor cannot be calibrated')");
     correct();
     EXPECT_TRUE(comesTrue([&] { return isObstructed(); }));
+    EXPECT_FALSE(service->description(0).isTaken);
     service->restoreSystemCalibration();
     EXPECT_TRUE(isObstructed()) << "it has no ramp, whoever wants one";
 }
