@@ -36,6 +36,8 @@ struct DisplayDescription {
     std::uint32_t rampSize = 0;
     /// Why the display cannot be corrected, as a sentence; empty if it can.
     std::string obstacle;
+    /// Whether the obstacle is another program that holds the display, and may let it go.
+    bool isTaken = false;
     /// Whether a correction stays on the display when the program that set it ends.
     bool outlivesProgram = true;
     /// Whether it can be told what is on the hardware now.

@@ -90,9 +90,7 @@ PanelSubject CurrentScreens::subject() {
     });
     if (areAllBarred) {
         subject.obstacle = first.obstacle;
-        // A ramp that is there, but whose size nobody tells us, is in somebody else's hands.
-        if (!first.outlivesProgram && first.rampSize == 0 &&
-            screens.front()->baseGamma().sampleCount > 0) {
+        if (first.isTaken) {
             subject.remedy = TONQUIL_TEXT("Problem",
                                           "Switch off the desktop's night light, or end whatever "
                                           "else corrects this display. Tonquil then takes it over "

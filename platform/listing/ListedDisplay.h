@@ -22,6 +22,8 @@ struct ListedDisplay {
     Rectangle bounds;
     std::uint32_t rampSize = 0;
     std::string obstacle;
+    /// Whether the obstacle is another program that holds the display.
+    bool isTaken = false;
     /// Differs when the display's own calibration does, where its changes are told in this way.
     std::uint64_t calibration = 0;
 

@@ -40,6 +40,7 @@ DisplayDescription ListedDisplayService::description(DisplayID display) {
             .productName = found->productName,
             .rampSize = found->rampSize,
             .obstacle = found->obstacle,
+            .isTaken = found->isTaken,
             .outlivesProgram = areCorrectionsLasting(),
             .isReadable = false,
             .primaries = found->primaries};

@@ -50,6 +50,7 @@ void CalibrationSessions::setMonitors(const std::vector<std::string>& connectors
             open(session);
         } else {
             session.state.obstacle.clear();
+            session.state.isTaken = false;
         }
     }
 }
@@ -71,10 +72,17 @@ void CalibrationSessions::hold(const std::string& connector) {
 
 void CalibrationSessions::release(const std::string& connector) {
     const auto found = _sessions.find(connector);
-    if (found != _sessions.end()) {
-        found->second.isHeld = false;
-        close(found->second);
-        found->second.state.isReached = true;
+    if (found == _sessions.end()) {
+        return;
+    }
+    Session& session = found->second;
+    session.isHeld = false;
+    close(session);
+    session.state.isReached = true;
+    // Nobody asks any more, so nobody would hear that the cause has gone.
+    if (session.state.hasRamp && !std::exchange(session.state.obstacle, {}).empty()) {
+        session.state.isTaken = false;
+        _host.changed();
     }
 }
 
@@ -141,9 +149,7 @@ void CalibrationSessions::opened(const std::string& connector, std::uint64_t att
 void CalibrationSessions::sizeKnown(Session& session, std::uint32_t size) {
     if (size >= smallestSize && size <= largestSize) {
         session.isOpening = false;
-        session.state.size = size;
-        session.state.hasRamp = true;
-        session.state.obstacle.clear();
+        session.state = {.size = size};
         sendRamp(session);
     } else {
         // Given back, so that the compositor goes on with its own colour management.
@@ -161,12 +167,14 @@ void CalibrationSessions::refused(Session& session, const std::string& reason) {
     }
     close(session);
     if (says(reason, "already being calibrated")) {
-        session.state.obstacle =
-            TONQUIL_TEXT("Problem", "Another program is calibrating this display.");
+        session.state = {
+            .size = session.state.size,
+            .obstacle = TONQUIL_TEXT("Problem", "Another program is calibrating this display."),
+            .isTaken = true};
     } else if (says(reason, "cannot be calibrated")) {
         session.state = {.obstacle = obstacleFromSize(0), .hasRamp = false};
     } else {
-        session.state.obstacle = refusal();
+        session.state = {.size = session.state.size, .obstacle = refusal()};
     }
     retryAfter(session, retryInterval);
     _host.changed();
@@ -174,12 +182,15 @@ void CalibrationSessions::refused(Session& session, const std::string& reason) {
 
 // Mostly the monitors are changing just then, and the compositor will say so.
 void CalibrationSessions::lost(Session& session) {
+    if (session.reachedAt && _host.runLoop->now() - *session.reachedAt > retryInterval) {
+        session.pause = shortestPause;
+    }
     close(session);
     if (session.isHeld) {
         retryAfter(session, session.pause);
         session.pause = std::min(2 * session.pause, retryInterval);
         if (session.pause == retryInterval) {
-            session.state.obstacle = refusal();
+            session.state = {.size = session.state.size, .obstacle = refusal()};
             _host.changed();
         }
     }
@@ -191,6 +202,7 @@ void CalibrationSessions::close(Session& session) {
     session.isOpening = false;
     session.isSetting = false;
     session.state.isReached = false;
+    session.reachedAt.reset();
     session.retry.reset();
     if (!session.path.empty()) {
         stop(std::exchange(session.path, {}));
@@ -218,6 +230,9 @@ void CalibrationSessions::sendRamp(Session& session) {
             asked->isSetting = false;
             asked->state.isReached = isTaken;
             if (isTaken) {
+                if (!asked->reachedAt && _host.runLoop != nullptr) {
+                    asked->reachedAt = _host.runLoop->now();
+                }
                 sendRamp(*asked);
             } else {
                 lost(*asked);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,8 @@ namespace tonquil {
 /// For that reason a session is opened only with the first ramp; until then a monitor's size is not
 /// known. The session ends with the monitor, and only one program can have one. What was lost or
 /// refused is asked for again: after a short while, which doubles each time, where the compositor
-/// was not ready or stopped the session, and every `retryInterval` otherwise.
+/// was not ready or stopped the session, and every `retryInterval` otherwise. After a session that
+/// lasted for longer than that, it is the short while again.
 class CalibrationSessions final : public MutterGamma {
  public:
     static constexpr std::chrono::milliseconds shortestPause{250};
@@ -43,6 +45,8 @@ class CalibrationSessions final : public MutterGamma {
         bool isSetting = false;
         bool isRampUnsent = false;
         std::chrono::milliseconds pause = shortestPause;
+        /// When the session took its first ramp; never without a run loop.
+        std::optional<RunLoop::Clock::time_point> reachedAt;
         std::unique_ptr<RunLoop::Handle> retry;
     };
 

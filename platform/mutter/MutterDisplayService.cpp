@@ -151,6 +151,7 @@ std::vector<ListedDisplay> MutterDisplayService::layout() {
         displays.push_back(display.listed);
         displays.back().rampSize = state.size;
         displays.back().obstacle = state.obstacle;
+        displays.back().isTaken = state.isTaken;
     }
     return displays;
 }
@@ -185,6 +186,7 @@ void MutterDisplayService::setTransferTable(DisplayID display, const GammaTable&
     }
     // Also where it cannot be set now: it will be when that changes.
     found->table = table;
+    found->isGivenBack = false;
     found->isUnsent = true;
 }
 
@@ -215,6 +217,7 @@ void MutterDisplayService::restoreSystemCalibration(std::span<const DisplayID> d
             continue;
         }
         found->table.reset();
+        found->isGivenBack = true;
         found->isUnsent = true;
     }
 }
@@ -319,6 +322,13 @@ void MutterDisplayService::calibrationsChanged() {
     if (_with.runLoop != nullptr && !_isLost) {
         _news = _with.runLoop->callOnce(0ms, [this] {
             _news.reset();
+            // A session that has ended took our ramp with it. On the hardware it stays, made of the
+            // calibration that was known when the display was given back: at a start, of none.
+            for (const MutterDisplay& display : _displays.all()) {
+                if (display.isGivenBack && _generation == Generation::Crtc) {
+                    _gamma->release(display.listed.connector);
+                }
+            }
             for (const ListedDisplay& display : layout()) {
                 _listing.announceCalibration(display.id);
             }

@@ -19,6 +19,7 @@ std::vector<std::string> MutterDisplays::replace(const MutterLayout& layout,
     for (const MutterDisplay& old : before) {
         if (MutterDisplay* const same = find(old.listed.id)) {
             same->table = old.table;
+            same->isGivenBack = old.isGivenBack;
         } else {
             gone.push_back(old.listed.connector);
         }

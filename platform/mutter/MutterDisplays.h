@@ -17,6 +17,8 @@ struct MutterDisplay {
     ListedDisplay listed;
     /// The correction, if there is one.
     std::optional<GammaTable> table = {};
+    /// Whether the system's calibration was put back on it, and nothing else was asked for since.
+    bool isGivenBack = false;
     /// Whether the correction, or its end, is still to be sent.
     bool isUnsent = false;
 };

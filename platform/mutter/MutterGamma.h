@@ -43,6 +43,8 @@ class MutterGamma {
         std::uint32_t size = 0;
         /// Why nothing can be set, as a sentence; empty if it can or was not tried.
         std::string obstacle = {};
+        /// Whether that is another program that has the monitor.
+        bool isTaken = false;
         /// False where there is known to be none.
         bool hasRamp = true;
         /// Whether the last ramp has arrived.

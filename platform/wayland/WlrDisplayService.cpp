@@ -139,6 +139,7 @@ std::vector<ListedDisplay> WlrDisplayService::layout() {
         display.bounds = output->wayland.properties().bounds;
         display.rampSize = output->gamma.size();
         display.obstacle = output->gamma.obstacle();
+        display.isTaken = output->gamma.isTaken();
         displays.push_back(std::move(display));
     }
     return displays;

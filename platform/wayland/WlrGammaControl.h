@@ -48,10 +48,12 @@ class WlrGammaControl {
     [[nodiscard]] bool isInUse() const { return _isInUse; }
     /// Whether asking again later may help.
     [[nodiscard]] bool isWorthAnotherTry() const {
-        return _state == State::Asked || _state == State::Failed || _state == State::Impossible;
+        return isTaken() || _state == State::Impossible;
     }
     /// Entries of a channel as the compositor said last, also once released; 0 before that.
     [[nodiscard]] std::uint32_t size() const { return _size; }
+    /// Whether it is not lent to us, as far as can be told because another program has it.
+    [[nodiscard]] bool isTaken() const { return _state == State::Asked || _state == State::Failed; }
     /// Why nothing can be set, as a sentence; empty where it can.
     [[nodiscard]] std::string obstacle() const;
 

@@ -33,7 +33,7 @@ void ControllerBench::launch() {
     preferences.subscribers.clear();
     _program.emplace();
     Program& program = *_program;
-    program.service = std::make_unique<RecordedService>(desk, journal, desktop);
+    program.service = std::make_unique<RecordedService>(desk, journal, desktop, barred);
     program.registry = std::make_unique<ScreenRegistry>(*program.service);
     program.center = std::make_unique<DDHotKeyCenter>(hotKeys);
     RecordedService& service = *program.service;

@@ -157,8 +157,12 @@ class RecordedTargets final : public TargetWindows {
 /// Records calls to a display service.
 class RecordedService final : public SimulatedDisplayService {
  public:
-    RecordedService(SimulatedDesk& desk, Journal& journal, RecordedDesktop& desktop)
-        : SimulatedDisplayService(desk), _journal(journal), _desktop(desktop) {}
+    RecordedService(SimulatedDesk& desk, Journal& journal, RecordedDesktop& desktop,
+                    const DisplayDescription& barred)
+        : SimulatedDisplayService(desk), _journal(journal), _desktop(desktop), _barred(barred) {}
+    [[nodiscard]] DisplayDescription description(DisplayID display) override {
+        return _barred.obstacle.empty() ? SimulatedDisplayService::description(display) : _barred;
+    }
     void warpPointer(const Point& point) override { _desktop.pointer = point; }
     void setTransferTable(DisplayID display, const GammaTable& table) override {
         _journal.push_back("table " + std::to_string(display));
@@ -173,6 +177,7 @@ class RecordedService final : public SimulatedDisplayService {
  private:
     Journal& _journal;
     RecordedDesktop& _desktop;
+    const DisplayDescription& _barred;
 };
 
 /// A simulated desk with two displays side by side, 1000 by 800 each, and one running program at a
@@ -219,6 +224,8 @@ class ControllerBench {
 
     Journal journal;
     SimulatedDesk desk;
+    /// Said of every display, once it names an obstacle.
+    DisplayDescription barred;
     ManualRunLoop loop;
     PlainStore preferences;
     RecordedDesktop desktop{journal};

@@ -50,6 +50,17 @@ TEST_F(Edit, ChangesDisplayUnderPanelOrAll) {
     EXPECT_EQ(bench.panel.subject.title, "DP-2") << "Another program took it back.";
 }
 
+TEST_F(Edit, TellsToEndTheOtherProgramOnlyWhereThereIsOne) {
+    bench.barred.obstacle = "The compositor refuses.";
+    bench.barred.outlivesProgram = false;
+    for (const bool isTaken : {true, false}) {
+        bench.barred.isTaken = isTaken;
+        bench.movePanel(isTaken ? 900 : 100);
+        EXPECT_EQ(bench.panel.subject.obstacle, bench.barred.obstacle);
+        EXPECT_EQ(bench.panel.subject.remedy.empty(), !isTaken);
+    }
+}
+
 TEST_F(Edit, MovesLinkedColoursByTheSameDistance) {
     bench.edit(PanelSlider::MiddleRed, 1.25F);
     bench.edit(PanelSlider::MiddleGreen, 1.0625F, true);

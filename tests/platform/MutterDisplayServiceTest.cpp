@@ -119,6 +119,14 @@ TEST_P(CalibratedMutterDisplays, OpenASessionAgainThatWasNotReadyOrIsStopped) {
     desk.tell("desk.stop_sessions()");
     EXPECT_FALSE(isCorrected("DP-1"));
     EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+    for (int count = 0; count < 8; ++count) {
+        loop.pollReadable(20ms);
+        loop.advance(1h);
+        desk.tell("desk.stop_sessions()");
+        const auto stopped = loop.now();
+        EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+        EXPECT_LT(loop.now() - stopped, 1s) << "as soon as the first time";
+    }
     EXPECT_TRUE(log.empty());
     service->restoreSystemCalibration();
     const auto isGivenBack = [&] { return desk.tell("desk.monitors['DP-1'].holder").empty(); };
@@ -127,6 +135,28 @@ TEST_P(CalibratedMutterDisplays, OpenASessionAgainThatWasNotReadyOrIsStopped) {
     loop.advance(1s);
     loop.pollReadable(20ms);
     EXPECT_TRUE(isGivenBack()) << "off";
+}
+
+TEST_P(CalibratedMutterDisplays, AreNotBarredByAnotherProgramOnceTheyAreGivenBack) {
+    desk.tell("desk.plug('DP-1', 0)");
+    desk.tell("desk.refuse('DP-1', 'Monitor is already being calibrated')");
+    open();
+    EXPECT_TRUE(comesTrue([&] { return isObstructed(); }));
+    EXPECT_TRUE(service->description(0).isTaken);
+    loop.advance(1s);
+    int told = 0;
+    subscription = service->registerReconfigurationCallback([&](auto...) { ++told; });
+    service->restoreSystemCalibration();
+    loop.advance(1s);
+    EXPECT_FALSE(isObstructed());
+    EXPECT_FALSE(service->description(0).isTaken);
+    EXPECT_GT(told, 0);
+    desk.tell("desk.refuse('DP-1', 'Monitor cannot be calibrated')");
+    correct();
+    EXPECT_TRUE(comesTrue([&] { return isObstructed(); }));
+    EXPECT_FALSE(service->description(0).isTaken);
+    service->restoreSystemCalibration();
+    EXPECT_TRUE(isObstructed()) << "it has no ramp, whoever wants one";
 }
 
 TEST_P(CalibratedMutterDisplays, KeepTheNightLightsColourUnlessTold) {
@@ -181,6 +211,22 @@ TEST_P(OlderMutterDisplays, TryAgainOnceWithTheNewSerialAndGiveTheNightLightBack
     EXPECT_TRUE(comesTrue([&] { return isObstructed(); }));
     GammaTable base;
     EXPECT_EQ(service->getTransferTable(0, base), 0U);
+}
+
+TEST_P(OlderMutterDisplays, GetACalibrationThatIsKnownOnlyOnceTheyAreGivenBack) {
+    desk.tell("desk.plug('DP-1', 0)");
+    ScratchFolder folder;
+    const auto bytes = buildIccWithFormula({{{.max = 0.5}, {.max = 0.5}, {.max = 0.5}}});
+    std::ofstream(folder.path() / "profile", std::ios::binary)
+        << std::string(bytes.begin(), bytes.end());
+    desk.tell("desk.set_profile('DP-1', '" + (folder.path() / "profile").native() + "')");
+    open();
+    subscription.reset();
+    service->restoreSystemCalibration();
+    EXPECT_TRUE(comesTrue([&] {
+        const HardwareRamp ramp = desk.ramp("DP-1");
+        return ramp.size() == 256 && ramp.channel(1)[255] / 2 == 16'384;
+    })) << "of no profile when they were";
 }
 
 TEST_P(MutterDisplays, AreCorrectedAfterAStormOfChanges) {

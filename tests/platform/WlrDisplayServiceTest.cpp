@@ -36,6 +36,8 @@ TEST_F(WlrDisplays, TellsADisplayThatCannotBeCorrectedAndCorrectsItWhenTheCauseG
         open();
         correct();
         EXPECT_TRUE(isObstructed());
+        EXPECT_EQ(service->description(0).isTaken,
+                  row.size == row.laterSize || row.size == GammaCompositor::silence);
         EXPECT_EQ(log.size(), 1U);
         compositor.setTaken("DP-1", false);
         compositor.setSize("DP-1", row.laterSize);
