@@ -24,6 +24,7 @@
 #include "program/Program.h"
 #include "program/ProgramEnvironment.h"
 #include "program/ToolkitBus.h"
+#include "ui/Accessibility.h"
 #include "ui/style/QuietStyle.h"
 #include "windows/language/Language.h"
 #include "windows/panel/PanelIcons.h"
@@ -96,6 +97,8 @@ struct ToolkitArguments {
 std::unique_ptr<QApplication> makeApplication(ToolkitArguments& arguments) {
     setQuietStyle();
     auto application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
+    // The toolkit asks for a control's interface while it is made, and keeps what it gets.
+    installAccessibleInterfaces();
     QApplication::setApplicationName(QStringLiteral("tonquil"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tonquil"));
     QApplication::setWindowIcon(programIcon());

@@ -36,12 +36,13 @@ declare -A arrows=(
     [hotkeys/field]="hotkeys ui ui/theme"
     [windows/language]=""
     [windows/front]="app/panel"
-    [windows/panel]="foundation model screens app/desktop app/files app/panel ui ui/theme windows/front"
+    [windows/menus]="foundation app/panel"
+    [windows/panel]="foundation model screens app/desktop app/files app/panel ui ui/theme windows/front windows/menus"
     [windows/targets]="screens targets app/desktop app/panel app/preferences ui/theme windows/front windows/panel"
     [windows/alerts]="foundation app/desktop ui ui/theme"
     [windows/about]="foundation app/panel ui ui/theme windows/alerts windows/front windows/panel"
     [windows/preferences]="foundation hotkeys hotkeys/field app/desktop app/panel app/preferences ui ui/theme windows/alerts windows/front windows/panel"
-    [windows/desktop]="foundation screens app app/desktop app/panel app/preferences ui ui/theme windows/about windows/alerts windows/panel windows/preferences"
+    [windows/desktop]="foundation screens app app/desktop app/panel app/preferences ui ui/theme windows/about windows/alerts windows/menus windows/panel windows/preferences"
     [platform/folders]="foundation"
     [platform/ramp]="model"
     [platform/edid]="model"
@@ -71,7 +72,7 @@ declare -A arrows=(
 # Where programs are composed: the only files that may know which platform is used.
 composers=" cli/main.cpp "
 # Where windows and the toolkit's own services are.
-qt_folders=" ui ui/style ui/theme targets hotkeys/field windows/language windows/front windows/panel windows/targets windows/alerts windows/about windows/preferences windows/desktop platform/qt program "
+qt_folders=" ui ui/style ui/theme targets hotkeys/field windows/language windows/front windows/menus windows/panel windows/targets windows/alerts windows/about windows/preferences windows/desktop platform/qt program "
 
 breaches=0
 breach() {

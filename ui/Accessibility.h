@@ -4,8 +4,8 @@
 namespace tonquil {
 
 /// Exposes our sliders, tabs and plot, and the toolkit's choices and drop-down lists, to assistive
-/// technology with the right roles, names and actions. Our controls call this in their
-/// constructors; only the first call does anything.
+/// technology with the right roles, names and actions. A program calls this before it makes its
+/// first control; ours do in their constructors. Only the first call does anything.
 void installAccessibleInterfaces();
 
 }  // namespace tonquil

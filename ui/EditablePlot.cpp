@@ -101,6 +101,10 @@ void EditablePlot::mousePressEvent(QMouseEvent* event) {
 
 void EditablePlot::mouseMoveEvent(QMouseEvent* event) {
     _pointer = event->position();
+    if (!event->buttons().testFlag(Qt::LeftButton)) {
+        // A window in front has got the release.
+        letGo();
+    }
     if (_grip && _drag.follow(event->position().y(), event->modifiers()) && _dragged) {
         const QRectF graph = graphRect();
         const double level = (graph.bottom() - _drag.position()) / graph.height();

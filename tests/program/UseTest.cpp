@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <fstream>
 
 #include "tests/program/Desk.h"
 
@@ -122,6 +123,14 @@ TEST_F(Use, ComparesWhileHeldEvenIfKilledMeanwhile) {
     EXPECT_TRUE(becomes(uncorrected));
     desk.xdotool({"mouseup", "1"});
     EXPECT_TRUE(becomes(corrected));
+    const auto broken = desk.folder() / "broken.tonquil";
+    std::ofstream(broken) << "<plist>";
+    hold("push button", button);
+    EXPECT_TRUE(becomes(uncorrected));
+    desk.request(broken);
+    EXPECT_TRUE(becomes(corrected)) << "The release goes to the alert.";
+    desk.xdotool({"mouseup", "1", "key", "Return"});
+    waitForKeyboard();
     desk.clickControl("text", "Blue, Middle point");
     desk.clickControl("chart", "Transfer curves");
     desk.xdotool({"keydown", "space"});

@@ -14,6 +14,7 @@
 #include "platform/missing/MissingWindowSystem.h"
 #include "tests/app/PlainStore.h"
 #include "tests/hotkeys/TableLayout.h"
+#include "ui/Accessibility.h"
 #include "ui/theme/Appearance.h"
 #include "windows/preferences/PreferencesWindow.h"
 #include "windows/preferences/RadioMatrix.h"
@@ -42,7 +43,10 @@ class FakeLoginItem final : public LoginItem {
 
 class Preferences : public testing::Test {
  protected:
-    void SetUp() override { store.registerDefaults(registeredDefaults()); }
+    void SetUp() override {
+        installAccessibleInterfaces();
+        store.registerDefaults(registeredDefaults());
+    }
 
     /// Creates and shows a new window.
     PreferencesWindow& open() {

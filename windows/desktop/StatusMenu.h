@@ -4,7 +4,7 @@
 #include <QMenu>
 #include <functional>
 
-#include "windows/panel/CommonEntries.h"
+#include "windows/menus/CommonEntries.h"
 
 namespace tonquil {
 

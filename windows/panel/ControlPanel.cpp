@@ -18,11 +18,11 @@
 #include "ui/TQVibrantMatrix.h"
 #include "ui/theme/Drawing.h"
 #include "ui/theme/Theme.h"
+#include "windows/menus/ProblemText.h"
 #include "windows/panel/ChannelStrip.h"
 #include "windows/panel/DevicePixels.h"
 #include "windows/panel/FormChevron.h"
 #include "windows/panel/PanelIcons.h"
-#include "windows/panel/ProblemText.h"
 #include "windows/panel/TitleStrip.h"
 
 namespace tonquil {

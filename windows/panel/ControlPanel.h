@@ -14,8 +14,8 @@
 #include "app/panel/WindowSystem.h"
 #include "foundation/Problem.h"
 #include "ui/theme/Appearance.h"
+#include "windows/menus/PanelMenu.h"
 #include "windows/panel/PanelContents.h"
-#include "windows/panel/PanelMenu.h"
 #include "windows/panel/PlotEditing.h"
 
 namespace tonquil {
@@ -91,6 +91,8 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     void heldSlider(PanelSlider slider, bool isHeld);
     void connectWays();
     void compare(bool isHeld);
+    /// For when the release of the button or the key may go elsewhere.
+    void endComparison();
     void addKeys();
     void pickTab(int tab);
     void makeFirstResponder(QWidget& control);

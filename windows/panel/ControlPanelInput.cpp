@@ -75,12 +75,15 @@ void ControlPanel::showFirstHint(bool isShown) {
     }
 }
 
-// The release may go elsewhere.
-void ControlPanel::hideEvent(QHideEvent* event) {
+void ControlPanel::endComparison() {
     _contents->compareButton->setDown(false);
     if (_actions != nullptr) {
         compare(false);
     }
+}
+
+void ControlPanel::hideEvent(QHideEvent* event) {
+    endComparison();
     QWidget::hideEvent(event);
 }
 

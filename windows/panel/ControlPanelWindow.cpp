@@ -11,9 +11,9 @@
 #include "ui/TQNumericTextField.h"
 #include "ui/TQSlider.h"
 #include "windows/front/BringToFront.h"
+#include "windows/menus/ProblemText.h"
 #include "windows/panel/ControlPanel.h"
 #include "windows/panel/DevicePixels.h"
-#include "windows/panel/ProblemText.h"
 #include "windows/panel/TitleStrip.h"
 
 namespace tonquil {
@@ -106,6 +106,9 @@ bool ControlPanel::event(QEvent* event) {
     if (event->type() == QEvent::Enter || event->type() == QEvent::Leave ||
         event->type() == QEvent::WindowDeactivate) {
         updateAcceptsKeyboard();
+    } else if (event->type() == QEvent::WindowBlocked) {
+        // The release goes to the window in front.
+        endComparison();
     }
     return QWidget::event(event);
 }

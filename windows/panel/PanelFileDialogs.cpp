@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QMessageBox>
 
-#include "windows/panel/ProblemText.h"
+#include "windows/menus/ProblemText.h"
 
 namespace tonquil {
 

@@ -14,8 +14,8 @@
 
 #include "ui/theme/Drawing.h"
 #include "ui/theme/Theme.h"
+#include "windows/menus/ProblemText.h"
 #include "windows/panel/PanelIcons.h"
-#include "windows/panel/ProblemText.h"
 
 namespace tonquil {
 

@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "app/panel/PanelControls.h"
-#include "windows/panel/DisplayMenu.h"
+#include "windows/menus/DisplayMenu.h"
 
 class QMenu;
 class QToolButton;

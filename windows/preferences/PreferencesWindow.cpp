@@ -18,7 +18,6 @@
 #include <utility>
 
 #include "hotkeys/field/DDHotKeyTextField.h"
-#include "ui/Accessibility.h"
 #include "ui/theme/Theme.h"
 #include "windows/panel/PanelIcons.h"
 #include "windows/preferences/NoteLabel.h"
@@ -131,7 +130,6 @@ PreferencesWindow::PreferencesWindow(const KeyboardLayout& layout)
           new QCheckBox(Texts::tr("Let companions on the local network read and set the curves"))),
       remoteProblem(new NoteLabel(NoteLabel::Kind::Problem, *allowRemote)),
       _scrollArea(new QScrollArea) {
-    installAccessibleInterfaces();
     setObjectName(QStringLiteral("Preferences"));
     setWindowTitle(Texts::tr("Preferences"));
     setWindowIcon(programIcon());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "windows/panel/PanelMenu.h"
+#include "windows/menus/PanelMenu.h"
 
 #include <QCoreApplication>
 

@@ -3,7 +3,7 @@
 
 #include <QMenu>
 
-#include "windows/panel/CommonEntries.h"
+#include "windows/menus/CommonEntries.h"
 
 namespace tonquil {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "windows/panel/DisplayMenu.h"
+#include "windows/menus/DisplayMenu.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>

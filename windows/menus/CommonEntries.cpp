@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "windows/panel/CommonEntries.h"
+#include "windows/menus/CommonEntries.h"
 
 #include <QCoreApplication>
 #include <utility>
 
 #include "app/panel/PanelActions.h"
-#include "windows/panel/ProblemText.h"
-#include "windows/panel/RecentMenu.h"
+#include "windows/menus/ProblemText.h"
+#include "windows/menus/RecentMenu.h"
 
 namespace tonquil {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "windows/panel/RecentMenu.h"
+#include "windows/menus/RecentMenu.h"
 
 #include <QCoreApplication>
 #include <QFile>
 
 #include "app/panel/PanelActions.h"
-#include "windows/panel/CommonEntries.h"
+#include "windows/menus/CommonEntries.h"
 
 namespace tonquil {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "windows/panel/ProblemText.h"
+#include "windows/menus/ProblemText.h"
 
 #include <QCoreApplication>
 
