@@ -86,8 +86,8 @@ class DisplayService : public SystemCalibration {
     /// Whether others can replace a table without the service's hearing of it. Where they cannot,
     /// there is nothing to put right again and again.
     [[nodiscard]] virtual bool canBeDisturbed() const { return true; }
-    /// Whether curves belong into the hands of a Tonquil that runs: it would undo what others set, or
-    /// not hear of it.
+    /// Whether curves belong into the hands of a Tonquil that runs: it would undo what others set,
+    /// or not hear of it.
     [[nodiscard]] virtual bool isKeptByOneProgram() const { return false; }
     /// `lost` is called once, from the run loop, when the displays are out of reach for good. A
     /// service that was opened with such a callback may ignore this one.
