@@ -57,7 +57,7 @@ tonquil::PresetFolder presets() {
 /// Where a program can have no folders, none of ours runs either.
 std::optional<tonquil::Result<void>> handOver(const std::string& request) {
     const auto folders = tonquil::XdgFolders::fromEnvironment();
-    const auto answer = folders ? tonquil::InstanceSocket::handOverIfListening(
+    const auto answer = folders ? tonquil::InstanceSocket::handOver(
                                       folders->runtime() / tonquil::instanceName(), request)
                                 : std::nullopt;
     if (!answer) {

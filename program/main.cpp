@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "platform/choice/DisplayServiceChoice.h"
@@ -60,14 +61,10 @@ bool findDesktop() {
     return false;
 }
 
-int handOver(const std::filesystem::path& socket, const std::vector<Request>& requests) {
-    const auto answer = InstanceSocket::handOver(socket, textFromRequests(requests));
-    if (!answer) {
-        report(answer.error());
-        return EXIT_FAILURE;
-    }
-    if (!answer->empty()) {
-        logLine(*answer);
+/// Of a later instance, once the first one has its requests.
+int endWith(const std::string& answer) {
+    if (!answer.empty()) {
+        logLine(answer);
         return EXIT_FAILURE;
     }
     return EXIT_SUCCESS;
@@ -126,18 +123,18 @@ int runFirstOrHandOver(const std::vector<Request>& requests, ToolkitArguments& a
     std::unique_ptr<QApplication> application;
     QtRunLoop runLoop;
     Program* program = nullptr;
-    const auto listener = InstanceSocket::claim(
-        socket, runLoop,
+    const auto start = InstanceSocket::claimOrHandOver(
+        socket, textFromRequests(requests), runLoop,
         [&program](const std::string& text) {
             return program == nullptr ? "Tonquil is still starting." : program->answer(text);
         },
         logLine);
-    if (!listener) {
-        report(listener.error());
+    if (!start) {
+        report(start.error());
         return EXIT_FAILURE;
     }
-    if (*listener == nullptr) {
-        return handOver(socket, requests);
+    if (const auto* const answer = std::get_if<std::string>(&*start)) {
+        return endWith(*answer);
     }
     if (wantsEnd(requests)) {
         return EXIT_SUCCESS;

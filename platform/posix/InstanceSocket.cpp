@@ -71,25 +71,12 @@ class Conversation {
  public:
     explicit Conversation(milliseconds limit) : _end(Clock::now() + limit) {}
 
-    /// Leaves the reason in `errno`.
-    [[nodiscard]] bool tryToConnect(const sockaddr_un& address) {
+    [[nodiscard]] bool connect(const sockaddr_un& address) {
         _socket = FileHandle(socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
         const auto* const generic = reinterpret_cast<const sockaddr*>(&address);
-        _isConnected = ::connect(_socket.get(), generic, sizeof address) == 0;
-        return _isConnected;
+        return ::connect(_socket.get(), generic, sizeof address) == 0;
     }
-
-    // The first instance may be between taking the lock and creating the socket, or have others
-    // waiting.
-    void connect(const sockaddr_un& address) {
-        while (Clock::now() < _end && !tryToConnect(address) &&
-               (errno == ENOENT || errno == ECONNREFUSED || errno == EAGAIN || errno == EINTR)) {
-            poll(nullptr, 0, 20);
-        }
-    }
-
-    [[nodiscard]] bool isConnected() const { return _isConnected; }
 
     [[nodiscard]] bool send(std::string_view bytes) {
         while (!bytes.empty() && isReady(POLLOUT)) {
@@ -134,27 +121,30 @@ class Conversation {
 
     Clock::time_point _end;
     FileHandle _socket;
-    bool _isConnected = false;
 };
 
-/// What the first instance answers over a connection.
-Result<std::string> answerTo(std::string_view request, Conversation& conversation) {
+Problem noAnswer() {
+    return {"Tonquil is already running but does not answer; end that program and start again.",
+            {}};
+}
+
+/// What the first instance answers over a connection; nothing if it closes it without an answer.
+std::optional<Result<std::string>> answerTo(std::string_view request, Conversation& conversation) {
     if (request.size() > InstanceSocket::mostBytes ||
         request.find('\0') != std::string_view::npos) {
         return problem("That cannot be handed over to the instance that is running.");
     }
     std::string bytes(InstanceService::requestStart);
     bytes.append(request).push_back('\0');
-    if (conversation.isConnected() && conversation.send(bytes)) {
+    if (conversation.send(bytes)) {
         if (auto line = conversation.receiveLine()) {
             return std::move(*line);
         }
     }
     if (conversation.isOver()) {
-        return problem(
-            "Tonquil is already running but does not answer; end that program and start again.");
+        return tl::unexpected(noAnswer());
     }
-    return problem("Tonquil is already running but did not take what was asked of it.");
+    return std::nullopt;
 }
 
 }  // namespace
@@ -191,28 +181,39 @@ Result<std::unique_ptr<InstanceListener>> InstanceSocket::claim(const std::files
         std::move(handler), std::move(log));
 }
 
-std::optional<Result<std::string>> InstanceSocket::handOverIfListening(
-    const std::filesystem::path& path, std::string_view request, milliseconds limit) {
+std::optional<Result<std::string>> InstanceSocket::handOver(const std::filesystem::path& path,
+                                                            std::string_view request,
+                                                            milliseconds limit) {
     Conversation conversation(limit);
     const auto address = addressOf(path);
-    if (!address || obstacleIn(path.parent_path()) || !conversation.tryToConnect(*address)) {
+    if (!address || obstacleIn(path.parent_path()) || !conversation.connect(*address)) {
         return std::nullopt;
     }
     return answerTo(request, conversation);
 }
 
-Result<std::string> InstanceSocket::handOver(const std::filesystem::path& path,
-                                             std::string_view request, milliseconds limit) {
-    const auto address = addressOf(path);
-    if (!address) {
-        return tl::unexpected(address.error());
+Result<InstanceSocket::Start> InstanceSocket::claimOrHandOver(const std::filesystem::path& path,
+                                                              std::string_view request,
+                                                              RunLoop& runLoop,
+                                                              const Handler& handler,
+                                                              const Log& log, milliseconds limit) {
+    const auto end = Clock::now() + limit;
+    while (Clock::now() < end) {
+        auto listener = claim(path, runLoop, handler, log);
+        if (!listener) {
+            return tl::unexpected(listener.error());
+        }
+        if (*listener != nullptr) {
+            return std::move(*listener);
+        }
+        const auto rest = std::chrono::ceil<milliseconds>(end - Clock::now());
+        if (auto answer = handOver(path, request, rest)) {
+            return std::move(*answer);
+        }
+        // The other one holds the lock but is still starting, is ending, or has others waiting.
+        poll(nullptr, 0, 20);
     }
-    if (auto obstacle = obstacleIn(path.parent_path())) {
-        return tl::unexpected(std::move(*obstacle));
-    }
-    Conversation conversation(limit);
-    conversation.connect(*address);
-    return answerTo(request, conversation);
+    return tl::unexpected(noAnswer());
 }
 
 }  // namespace tonquil

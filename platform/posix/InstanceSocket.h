@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
 
 #include "foundation/Log.h"
 #include "foundation/Problem.h"
@@ -53,15 +54,21 @@ class InstanceSocket {
 
     /// Sends one request to the running instance and waits for its answer, without a run loop.
     ///
-    /// Blocks for at most `limit`. Fails with a message for the user if no instance answers by
-    /// then, or if `request` is larger than `mostBytes` or contains a zero byte.
-    [[nodiscard]] static Result<std::string> handOver(const std::filesystem::path& path,
-                                                      std::string_view request,
-                                                      std::chrono::milliseconds limit = answerTime);
-    /// The same, but nothing, without waiting, if no instance is listening.
-    [[nodiscard]] static std::optional<Result<std::string>> handOverIfListening(
+    /// Nothing, without waiting, if no instance is listening or the one that was ends before it
+    /// answers. Blocks for at most `limit`; fails with a message for the user if no answer arrives
+    /// by then, or if `request` is larger than `mostBytes` or contains a zero byte.
+    [[nodiscard]] static std::optional<Result<std::string>> handOver(
         const std::filesystem::path& path, std::string_view request,
         std::chrono::milliseconds limit = answerTime);
+
+    /// What a start becomes: the first instance, or a later one with the first one's answer.
+    using Start = std::variant<std::unique_ptr<InstanceListener>, std::string>;
+
+    /// `claim`, or, if another instance holds the place, `handOver`; an instance that ends
+    /// meanwhile leaves its place to this one. Blocks for at most `limit`.
+    [[nodiscard]] static Result<Start> claimOrHandOver(
+        const std::filesystem::path& path, std::string_view request, RunLoop& runLoop,
+        const Handler& handler, const Log& log = {}, std::chrono::milliseconds limit = answerTime);
 };
 
 }  // namespace tonquil

@@ -35,7 +35,7 @@ class InstanceSockets : public testing::Test {
         while (answer.wait_for(0s) != std::future_status::ready) {
             loop.pollReadable(10ms);
         }
-        return answer.get().value();
+        return answer.get().value().value();
     }
     /// Sends these bytes as a foreign program would.
     [[nodiscard]] FileDescriptor sendRaw(const std::string& bytes) const {
@@ -81,8 +81,8 @@ TEST_F(InstanceSockets, TakesOverSocketOnlyFromKilledInstance) {
     ASSERT_EQ(waitpid(child, nullptr, WUNTRACED), child);
     EXPECT_EQ(claim().value(), nullptr);
     const auto unheard = InstanceSocket::handOver(path, "show", 30ms);
-    ASSERT_FALSE(unheard) << "an instance that hangs is not waited for for ever";
-    EXPECT_NE(unheard.error().sentence.find("does not answer"), std::string::npos);
+    ASSERT_TRUE(unheard && !*unheard) << "an instance that hangs is not waited for for ever";
+    EXPECT_NE(unheard->error().sentence.find("does not answer"), std::string::npos);
     kill(child, SIGKILL);
     ASSERT_EQ(waitpid(child, nullptr, 0), child);
     ASSERT_TRUE(std::filesystem::exists(path)) << "the killed instance leaves its socket";
@@ -108,8 +108,11 @@ TEST_F(InstanceSockets, RefusesInvalidRequests) {
         EXPECT_EQ(log.size(), 1U);
     }
     EXPECT_TRUE(requests.empty());
-    EXPECT_FALSE(InstanceSocket::handOver(path, std::string(InstanceSocket::mostBytes + 1, 'x')));
-    EXPECT_FALSE(InstanceSocket::handOver(path, std::string(1, '\0')));
+    for (const auto& text :
+         {std::string(InstanceSocket::mostBytes + 1, 'x'), std::string(1, '\0')}) {
+        const auto refused = InstanceSocket::handOver(path, text);
+        EXPECT_TRUE(refused && !*refused);
+    }
     EXPECT_EQ(handOver(""), "heard ") << "it goes on after all of that";
 }
 
@@ -142,6 +145,19 @@ TEST_F(InstanceSockets, SurvivesHandlerDestroyingListener) {
     EXPECT_EQ(handOver("quit"), "quits");
     EXPECT_FALSE(std::filesystem::exists(path));
     EXPECT_NE(claim().value(), nullptr) << "the place is free";
+}
+
+TEST_F(InstanceSockets, TakesPlaceOfInstanceThatEndsInsteadOfAnswering) {
+    auto ending = claim().value();
+    ManualRunLoop ownLoop;
+    auto start = std::async(std::launch::async, [&] {
+        return InstanceSocket::claimOrHandOver(path, "show", ownLoop, hear);
+    });
+    ASSERT_NE(loop.pollReadable(5s), 0U) << "it is connected, and never gets an answer";
+    ending.reset();
+    const auto outcome = start.get().value();
+    EXPECT_TRUE(std::holds_alternative<std::unique_ptr<InstanceListener>>(outcome));
+    EXPECT_TRUE(requests.empty());
 }
 
 TEST_F(InstanceSockets, RefusesOtherUsersAndAccessibleFolder) {
