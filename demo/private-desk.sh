@@ -74,7 +74,9 @@ start_desk() {
     unset WAYLAND_DISPLAY XAUTHORITY DBUS_SESSION_BUS_ADDRESS QT_QPA_PLATFORM
     start_server
     plug_in_displays
-    in_background openbox --config-file /etc/xdg/openbox/rc.xml >/dev/null 2>&1
+    # It needs its theme, which is installed.
+    in_background env -u XDG_DATA_DIRS openbox --config-file /etc/xdg/openbox/rc.xml >/dev/null 2>&1
+    wait_until "there is no window manager" xdotool get_num_desktops
     xsetroot -solid '#4a4a4a'
 }
 
