@@ -43,6 +43,10 @@
         <translation>Ausgabe bei Eingabe 0, 0.5 und 1.</translation>
     </message>
     <message>
+        <source>The correction is off.</source>
+        <translation>Die Korrektur ist aus.</translation>
+    </message>
+    <message>
         <source>In</source>
         <translation>Ein</translation>
     </message>

@@ -43,6 +43,10 @@
         <translation>Salida para las entradas 0, 0.5 y 1.</translation>
     </message>
     <message>
+        <source>The correction is off.</source>
+        <translation>La corrección está desactivada.</translation>
+    </message>
+    <message>
         <source>In</source>
         <translation>Ent</translation>
     </message>

@@ -43,6 +43,10 @@
         <translation>Sortie pour les entrées 0, 0.5 et 1.</translation>
     </message>
     <message>
+        <source>The correction is off.</source>
+        <translation>La correction est désactivée.</translation>
+    </message>
+    <message>
         <source>In</source>
         <translation>Entr.</translation>
     </message>

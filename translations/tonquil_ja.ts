@@ -43,6 +43,10 @@
         <translation>入力0、0.5、1に対する出力。</translation>
     </message>
     <message>
+        <source>The correction is off.</source>
+        <translation>補正はオフです。</translation>
+    </message>
+    <message>
         <source>In</source>
         <translation>入</translation>
     </message>

@@ -110,6 +110,10 @@ QString CurvePlot::spokenDescription() const {
                               QCoreApplication::translate("CurvePlot", "Green"),
                               QCoreApplication::translate("CurvePlot", "Blue")};
     QString description = QCoreApplication::translate("CurvePlot", "Output at input 0, 0.5 and 1.");
+    if (!_areInForce) {
+        description.prepend(
+            QCoreApplication::translate("CurvePlot", "The correction is off.").append(u' '));
+    }
     for (std::size_t channel = 0; channel < _curves.size(); ++channel) {
         const auto& levels = _curves.at(channel);
         if (levels.size() < 2) {

@@ -50,5 +50,17 @@ TEST_F(CurvePlotTest, DrawsChannelColoursAndEqualCurvesInWhiteOrBlack) {
     }
 }
 
+TEST_F(CurvePlotTest, IsSpokenAsWhatItShows) {
+    setCurves({0.0F, 0.5F, 0.8F}, {0.1F, 0.1F}, {0.2F, 1.0F});
+    const QString curves = QStringLiteral(
+        "Output at input 0, 0.5 and 1. Red: 0.00, 0.50, 0.80. "
+        "Green: 0.10, 0.10, 0.10. Blue: 0.20, 0.60, 1.00.");
+    EXPECT_EQ(plot.spokenDescription(), curves);
+    plot.setInForce(false);
+    EXPECT_EQ(plot.spokenDescription(), QStringLiteral("The correction is off. ") + curves);
+    plot.setMessage(QStringLiteral("No ramp."));
+    EXPECT_EQ(plot.spokenDescription(), QStringLiteral("No ramp."));
+}
+
 }  // namespace
 }  // namespace tonquil
