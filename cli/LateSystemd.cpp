@@ -1,36 +1,23 @@
 // SPDX-License-Identifier: MIT
 // libsystemd, loaded when the first of its functions is called: with the libraries that it needs,
 // it takes as long to load as a whole command takes to run, and only Wayland desktops are asked on
-// a bus. The linker takes these functions for libsystemd's own.
-#include <dlfcn.h>
+// a bus.
 #include <systemd/sd-bus.h>
 
 #include <cerrno>
-#include <type_traits>
+
+#include "cli/LateLibrary.h"
 
 namespace {
 
-void* functionNamed(const char* name) {
-    static void* const library = dlopen("libsystemd.so.0", RTLD_NOW | RTLD_LOCAL);
-    return library == nullptr ? nullptr : dlsym(library, name);
-}
+struct Systemd {
+    static constexpr const char* file = "libsystemd.so.0";
+    static constexpr int failure = -ENOSYS;
+};
 
-/// Calls the library's function of the same name. Without the library that is an error, which for
-/// sd-bus is a negative number or null.
 template <auto own, typename... Arguments>
 auto late(const char* name, Arguments... arguments) {
-    using Function = decltype(own);
-    using Answer = std::invoke_result_t<Function, Arguments...>;
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what dlsym is for.
-    static const auto function = reinterpret_cast<Function>(functionNamed(name));
-    if (function != nullptr) {
-        return function(arguments...);
-    }
-    if constexpr (std::is_same_v<Answer, int>) {
-        return -ENOSYS;
-    } else {
-        return Answer();
-    }
+    return tonquil::late<Systemd, own>(name, arguments...);
 }
 
 }  // namespace
