@@ -19,7 +19,9 @@ auto late(const char* name, Arguments... arguments) {
 
 }  // namespace
 
-// NOLINTBEGIN(readability-identifier-naming): Little CMS's names.
+// The functions have Little CMS's names; its parameters' names differ between versions.
+// NOLINTBEGIN(readability-identifier-naming)
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
 cmsToneCurve* cmsBuildParametricToneCurve(cmsContext context, cmsInt32Number type,
@@ -87,4 +89,5 @@ cmsBool cmsWriteTag(cmsHPROFILE profile, cmsTagSignature tag, const void* data) 
 }
 
 }  // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 // NOLINTEND(readability-identifier-naming)
