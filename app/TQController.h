@@ -130,7 +130,6 @@ class TQController final : public PanelActions {
     void updateStatusItem() { _statusItem.updateStatusItem(applyCorrection()); }
     void updateHotKey() { _hotKeys.updateHotKey(); }
     void updateScreens();
-    /// Puts the panel back into view when the display that it was on has gone.
     [[nodiscard]] int storedTab() const;
     void showCorrection(bool isOn);
     void showHotKeyProblem(HotKeyRole role, const std::string& sentence);
