@@ -31,9 +31,17 @@ datagrams = [rng.choice(tags) + rng.choices(payloads, weights)[0] for _ in range
 
 host, port, count, process = sys.argv[1], *map(int, sys.argv[2:5])
 sockets = [socket.socket(socket.AF_INET, socket.SOCK_DGRAM) for _ in range(300)]
+
+
+def flood(size):
+    for i in range(size):
+        sockets[i % len(sockets)].sendto(datagrams[i % len(datagrams)], (host, port))
+
+
+# An allocator keeps what it has once needed.
+flood(2 * len(datagrams))
 before = resident_kib(process)
-for i in range(count):
-    sockets[i % len(sockets)].sendto(datagrams[i % len(datagrams)], (host, port))
+flood(count)
 
 honest = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
 honest.settimeout(0.5)
