@@ -37,7 +37,7 @@ class Groundwork {
     [[nodiscard]] ScreenRegistry& registry() { return *_registry; }
     /// Called when the connection to the displays is lost for good.
     void setWhenDisplaysLost(std::function<void()> lost) { _displaysLost = std::move(lost); }
-    /// Empty unless there never will be a display.
+    /// Why there will never be any displays; empty if there may be.
     [[nodiscard]] const std::string& whyNoDisplays() const { return _whyNoDisplays; }
 
  private:

@@ -28,8 +28,7 @@
 
 namespace tonquil {
 
-/// Everything that the program is made of besides its groundwork, each part before those that need
-/// it. This folder is the only place that knows which platform is used.
+/// All parts of the program besides its groundwork, each declared before those that need it.
 class Program {
  public:
     /// The groundwork must outlive it.

@@ -26,7 +26,7 @@ class ToolkitBus {
 
  private:
     std::string _sessionAddress;
-    /// What the environment says, while it is hidden; null where it says nothing.
+    /// The variable's value while it is hidden; nothing if it was not set.
     std::optional<std::string> _hidden;
     bool _isHidden = false;
 };

@@ -314,7 +314,6 @@ void ControlPanel::setAppearances() {
     }
 }
 
-// There are two tab selectors.
 std::vector<QWidget*> ControlPanel::vibrantViews() const {
     return {_contents->gammaTabs,          _contents->blendingModePopUp, _contents->gammaTabColours,
             _contents->applyCorrectionBox, _contents->gammaTabSelector,  _contents,
