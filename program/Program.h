@@ -17,7 +17,6 @@
 #include "platform/xdg/AutostartLoginItem.h"
 #include "platform/xdg/PropertyListFile.h"
 #include "program/Groundwork.h"
-#include "program/ToolkitBus.h"
 #include "windows/alerts/ModalAlerts.h"
 #include "windows/desktop/OtherWindows.h"
 #include "windows/desktop/SessionRestoration.h"

@@ -21,7 +21,6 @@
 #include "ui/theme/Theme.h"
 #include "windows/menus/ProblemText.h"
 #include "windows/panel/ChannelStrip.h"
-#include "windows/panel/DevicePixels.h"
 #include "windows/panel/FormChevron.h"
 #include "windows/panel/PanelIcons.h"
 #include "windows/panel/TitleStrip.h"

@@ -13,7 +13,7 @@ namespace tonquil {
 namespace {
 
 /// Draws the icon at every scale that a desktop may request, in a square of 16 points.
-QIcon iconFrom(const std::function<void(QPainter&)>& draw, int points = 16) {
+QIcon iconFrom(const std::function<void(QPainter&)>& draw, int points) {
     QIcon icon;
     for (const double scale : {1.0, 1.5, 2.0, 3.0}) {
         const int pixels = qRound(points * scale);
