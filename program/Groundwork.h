@@ -17,8 +17,8 @@
 
 namespace tonquil {
 
-/// What the correction needs, and nothing that a bus or a window could hold up: the preferences,
-/// what a crash has left, and the displays. It is there before the toolkit's application is.
+/// What the correction needs, and nothing that a bus or a window could delay: the preferences, the
+/// curves left by a crash, and the displays. Created before the toolkit's application.
 class Groundwork {
  public:
     /// The run loop must outlive it.

@@ -286,7 +286,8 @@ void ControlPanel::makeFirstResponder(QWidget& control) {
 // Qt reports focus changes only while the window has the keyboard focus, which the panel mostly
 // does not.
 void ControlPanel::firstResponderChanged(QWidget* control) {
-    // The plot stands for the slider there was: where points lie together, for its channel's.
+    // The plot acts for the control that was focused before: where points lie together, its
+    // channel is preferred.
     if (control == _contents->plot) {
         return;
     }

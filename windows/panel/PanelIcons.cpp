@@ -111,7 +111,7 @@ void drawCompare(QPainter& painter) {
     painter.drawPie(circle, -90 * degree, 180 * degree);
 }
 
-/// The curve from black to white in the point icons; below 8 it is dark.
+/// The curve from black to white in the channel icons.
 QPointF curvePoint(double input) {
     return {2 + input * 12, 14 - input * input * 12};
 }
