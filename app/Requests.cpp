@@ -30,7 +30,7 @@ constexpr std::array<RequestName, 7> requestNames{{
 constexpr std::string_view openWord = "open ";
 /// Followed by the name of a preset.
 constexpr std::string_view presetWord = "preset ";
-/// Followed by a display's reference ID, or nothing.
+/// Between processes without the dashes, and followed by a display's reference ID or nothing.
 struct TargetWord {
     std::optional<TargetKind> kind;
     std::string_view option;

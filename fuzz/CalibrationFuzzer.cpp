@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(ramp.has_value() == read.has_value());
         require(!ramp || ramp->size() == entries);
     }
-    // Whatever else it is made from, a correction is what it was told to be.
+    // A correction holds the ramp that it was made for, whatever profile it is based on.
     const auto straight = HardwareRamp::straight(256);
     const auto correction = correctionProfile({data, size}, straight);
     require(!correction ||

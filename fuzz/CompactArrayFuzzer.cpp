@@ -6,7 +6,6 @@
 
 #include "Require.h"
 #include "model/TQExtendedGammaCurve.h"
-#include "model/TableComputation.h"
 #include "values/BoundedJson.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

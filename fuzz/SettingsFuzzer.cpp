@@ -8,7 +8,6 @@
 #include "Require.h"
 #include "model/KVTableGammaCurve.h"
 #include "model/TQExtendedGammaCurve.h"
-#include "model/TableComputation.h"
 
 namespace {
 

@@ -42,7 +42,6 @@ struct HotKeyReceiver {
 ///
 /// Hot keys with the same key code and flags are equal, whatever they invoke. The destructor
 /// unregisters a registered hot key.
-/// registered unregisters itself when it goes.
 class DDHotKey {
  public:
     using Task = std::function<void(const HotKeyEvent& event)>;

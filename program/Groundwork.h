@@ -17,8 +17,8 @@
 
 namespace tonquil {
 
-/// What the correction needs, and nothing that a bus or a window could hold up: the preferences,
-/// what a crash has left, and the displays. It is there before the toolkit's application is.
+/// What the correction needs, and nothing that a bus or a window could delay: the preferences, the
+/// curves left by a crash, and the displays. Created before the toolkit's application.
 class Groundwork {
  public:
     /// The run loop must outlive it.
@@ -37,7 +37,7 @@ class Groundwork {
     [[nodiscard]] ScreenRegistry& registry() { return *_registry; }
     /// Called when the connection to the displays is lost for good.
     void setWhenDisplaysLost(std::function<void()> lost) { _displaysLost = std::move(lost); }
-    /// Empty unless there never will be a display.
+    /// Why there will never be any displays; empty if there may be.
     [[nodiscard]] const std::string& whyNoDisplays() const { return _whyNoDisplays; }
 
  private:

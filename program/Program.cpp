@@ -25,8 +25,8 @@ namespace tonquil {
 
 namespace {
 
-/// What the toolkit's exit must still save: it ends the process itself when the display server
-/// goes, and then destroys nothing.
+/// For saving at exit: the toolkit ends the process itself when the display server is gone, and
+/// then destroys nothing.
 TQController* controllerToSave = nullptr;
 
 void saveAtExit() {
@@ -35,9 +35,9 @@ void saveAtExit() {
     }
 }
 
-// When a Wayland compositor goes, the toolkit says so and then ends the process without calling
-// what was registered for that. Saying so is all that can be heard of it. It may come from a thread
-// of the toolkit's own; what is saved belongs to ours.
+// When a Wayland compositor is gone, the toolkit logs it and then ends the process without running
+// exit handlers, so the log message is the only notice. It may come from a thread of the toolkit;
+// what is saved belongs to the main thread.
 void saveWhenWaylandIsLost(QtMsgType type, const QMessageLogContext& context,
                            const QString& message) {
     std::fputs(qPrintable(qFormatLogMessage(type, context, message) + QLatin1Char('\n')), stderr);
@@ -118,7 +118,7 @@ void Program::makeWindows() {
         }});
 }
 
-// Nothing may call what goes before it.
+// Nothing may call a part that is already destroyed.
 Program::~Program() {
     controllerToSave = nullptr;
     _saveProblems.setShow(nullptr);
@@ -153,7 +153,7 @@ int Program::run(const std::vector<Request>& requests) {
     });
     _runLoop.post([this, requests] {
         _isLaunched = true;
-        // The start itself is what is asked of a program that was not running.
+        // A request without arguments asks for the start itself.
         auto others = requests;
         std::erase(others, Request{});
         carryOut(others, *_controller);
@@ -167,8 +167,8 @@ std::string Program::answer(const std::string& text) {
     if (!requests) {
         return requests.error().sentence;
     }
-    // A question that the start asks may wait for its answer for long; until then there are
-    // neither defaults nor curves.
+    // An alert at startup may stay open for long; until it is answered there are neither defaults
+    // nor curves.
     if (_isLaunched || wantsEnd(*requests)) {
         return carryOut(*requests, *_controller);
     }
@@ -176,7 +176,7 @@ std::string Program::answer(const std::string& text) {
     return {};
 }
 
-// Before the toolkit runs it cannot be told to end; what the start waits for is an answer.
+// Before the event loop runs it cannot be quit; the start may be waiting for an alert's answer.
 void Program::end() {
     if (_isLaunched) {
         QCoreApplication::quit();

@@ -17,7 +17,6 @@
 #include "platform/xdg/AutostartLoginItem.h"
 #include "platform/xdg/PropertyListFile.h"
 #include "program/Groundwork.h"
-#include "program/ToolkitBus.h"
 #include "windows/alerts/ModalAlerts.h"
 #include "windows/desktop/OtherWindows.h"
 #include "windows/desktop/SessionRestoration.h"
@@ -28,8 +27,7 @@
 
 namespace tonquil {
 
-/// Everything that the program is made of besides its groundwork, each part before those that need
-/// it. This folder is the only place that knows which platform is used.
+/// All parts of the program besides its groundwork, each declared before those that need it.
 class Program {
  public:
     /// The groundwork must outlive it.
@@ -38,9 +36,10 @@ class Program {
     Program& operator=(const Program&) = delete;
     ~Program();
 
-    /// Starts it, carries out the requests and runs to its end; gives the exit status.
+    /// Starts the program, carries out the requests, runs the event loop; returns the exit status.
     int run(const std::vector<Request>& requests);
-    /// Carries out what another start of the program asks for; gives a sentence where it cannot.
+    /// Carries out the requests that another start of the program sent as text; returns what could
+    /// not be done, a sentence, or nothing.
     [[nodiscard]] std::string answer(const std::string& text);
 
  private:
@@ -87,9 +86,9 @@ class Program {
     std::unique_ptr<DDHotKeyCenter> _hotKeys;
     std::unique_ptr<TQController> _controller;
     bool _isLaunched = false;
-    /// The end was asked for before that.
+    /// The program was told to quit before that.
     bool _isToEnd = false;
-    /// What was asked before that, in order.
+    /// Requests that arrived before that, in order.
     std::vector<Request> _requestsBeforeLaunch;
 };
 

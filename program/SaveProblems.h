@@ -10,7 +10,7 @@
 namespace tonquil {
 
 /// What keeps preferences and curves from being saved, for the panel to show. Saving begins before
-/// there is a panel, and ends after it has gone.
+/// there is a panel, and ends after it is destroyed.
 class SaveProblems {
  public:
     using Show = std::function<void(const std::optional<Problem>&)>;
@@ -22,7 +22,7 @@ class SaveProblems {
     [[nodiscard]] SaveReports preferencesReports() { return reportsTo(_preferences); }
     [[nodiscard]] SaveReports recoveryReports() { return reportsTo(_recovery); }
 
-    /// Shows what there is now, and what comes from now on; null shows nothing any more.
+    /// Shows the current problem and every later change; null ends that.
     void setShow(Show show) {
         _show = std::move(show);
         tell();

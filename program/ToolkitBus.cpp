@@ -17,7 +17,8 @@ namespace {
 
 constexpr const char* sessionVariable = "DBUS_SESSION_BUS_ADDRESS";
 constexpr const char* accessibilityVariable = "AT_SPI_BUS_ADDRESS";
-// An address of no known kind is refused at once. Without any, the bus library may start a bus.
+// An address of an unknown kind is refused at once. With none at all, the bus library may start a
+// bus.
 constexpr const char* noBus = "disabled:";
 
 ToolkitProbe::Obstacles probe(const ToolkitProbe::Addresses& addresses) {
@@ -65,8 +66,8 @@ ToolkitBus::ToolkitBus() : _sessionAddress(sessionBusAddress()) {
     }
     if (!obstacles.accessibility.empty()) {
         logLine("Assistive technology is left out: " + obstacles.accessibility + ".");
-        // This goes before what the session bus and the X server say. It is looked up when the
-        // first window is shown, so it stays.
+        // This takes precedence over what the session bus and the X server say. It is looked up
+        // when the first window is shown, so it stays.
         setenv(accessibilityVariable, noBus, 1);
     }
 }

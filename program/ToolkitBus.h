@@ -6,27 +6,27 @@
 
 namespace tonquil {
 
-/// Keeps what does not answer on the session bus from the window toolkit.
+/// Hides the services on the session bus that do not answer from the window toolkit.
 ///
 /// The toolkit takes its addresses from the environment, so these are changed while it starts. Our
-/// own connections wait for nobody and are made all the same, to the bus that was there before.
+/// own connections never block, so they still go to the original bus.
 class ToolkitBus {
  public:
-    /// Tries the session bus, for at most a second, and logs what the toolkit must do without. To
-    /// be called before there is an application.
+    /// Tries the session bus, for at most a second, and logs what the toolkit must do without.
+    /// Create it before the application.
     ToolkitBus();
     ToolkitBus(const ToolkitBus&) = delete;
     ToolkitBus& operator=(const ToolkitBus&) = delete;
 
-    /// Lets the toolkit take up its addresses, and gives the session bus back to the environment,
-    /// for the programs that we start. To be called once, right after the application was made.
+    /// Lets the toolkit read its addresses, then restores the session bus in the environment, for
+    /// the programs that we start. Call it once, right after creating the application.
     void settle();
-    /// The session bus; empty when it does not answer.
+    /// The session bus's address; empty if the bus does not answer.
     [[nodiscard]] const std::string& sessionAddress() const { return _sessionAddress; }
 
  private:
     std::string _sessionAddress;
-    /// What the environment says, while it is hidden; null where it says nothing.
+    /// The variable's value while it is hidden; nothing if it was not set.
     std::optional<std::string> _hidden;
     bool _isHidden = false;
 };

@@ -34,8 +34,8 @@ namespace tonquil {
 
 namespace {
 
-/// Whether there is a desktop to be on, and, where there are two, which one the toolkit takes: it
-/// aborts where it finds no display server, and says nothing of use.
+/// Whether there is a desktop; if there are two, chooses the toolkit's. Checked here because the
+/// toolkit aborts without a useful message if it finds no display server.
 bool findDesktop() {
     if (!environment("QT_QPA_PLATFORM").empty()) {
         return true;
@@ -61,7 +61,7 @@ bool findDesktop() {
     return false;
 }
 
-/// Of a later instance, once the first one has its requests.
+/// The exit status of a later instance, after the first one has answered its requests.
 int endWith(const std::string& answer) {
     if (!answer.empty()) {
         logLine(answer);
@@ -75,8 +75,8 @@ void setQuietStyle() {
     QApplication::setStyle(style);
 }  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the toolkit has taken it over.
 
-/// The toolkit's own arguments. It has options of its own and would take some of ours for them;
-/// the session manager's is for it.
+/// The arguments for the toolkit: only the session manager's. It would take some of our options for
+/// its own.
 struct ToolkitArguments {
     ToolkitArguments(int argc, char** argv) : values{argv[0]} {
         for (int index = 1; index + 1 < argc && std::string_view(argv[index]) != "--"; ++index) {
@@ -119,7 +119,7 @@ int runFirstOrHandOver(const std::vector<Request>& requests, ToolkitArguments& a
         return EXIT_FAILURE;
     }
     const std::filesystem::path socket = *runtime / instanceName();
-    // Made later, and the last to go.
+    // Created later, but destroyed last.
     std::unique_ptr<QApplication> application;
     QtRunLoop runLoop;
     Program* program = nullptr;

@@ -17,7 +17,7 @@ packages_to_build=(
 # A private X server whose displays exist only in memory.
 packages_for_x_server=(xserver-xorg-core xserver-xorg-video-dummy x11-xserver-utils)
 
-# What makes a desk of it: a window manager, a hand for the pointer, an eye for the screen.
+# What makes a desk of it: a window manager, and tools to move the pointer and take screenshots.
 packages_for_desk=(openbox xdotool imagemagick fonts-dejavu-core)
 
 packages_to_bench=(libbenchmark-dev libgtest-dev libxcb-xtest0-dev xxd)

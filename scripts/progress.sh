@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
-# Tells how far long commands are, and otherwise keeps their output for when they fail. To be
-# sourced.
+# Shows how far long commands have got; their output is shown only if they fail. To be sourced.
 
 is_on_terminal() {
     [[ -t 1 && ${TERM-dumb} != dumb ]]

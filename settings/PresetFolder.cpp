@@ -83,7 +83,7 @@ Result<std::filesystem::path> PresetFolder::fileNamed(std::string_view name) con
 
 Result<PresetPlace> PresetFolder::placeFor(std::string_view name,
                                            std::string_view extension) const {
-    // In UTF-8, a character that goes on begins with the bits 10.
+    // UTF-8 continuation bytes start with the bits 10.
     const auto length = std::ranges::count_if(
         name, [](char c) { return (static_cast<unsigned char>(c) >> 6U) != 2; });
     const bool isUsable = length > 0 && length <= longestName && !name.starts_with('.') &&

@@ -15,7 +15,7 @@ namespace tonquil {
 
 /// A settings file in the folder of presets.
 struct Preset {
-    /// The file's name without its extension; with it where two differ in nothing else.
+    /// The file's name without its extension; with it if two differ only in that.
     std::string name;
     std::filesystem::path file;
     /// Why it cannot be applied.
@@ -34,19 +34,19 @@ class PresetFolder {
  public:
     /// Further files are not listed.
     static constexpr std::size_t most = 64;
-    /// In characters, so that any of them is a file name in UTF-8.
+    /// In characters; short enough for a file name in UTF-8.
     static constexpr int longestName = 50;
 
     /// The folder need not exist.
     explicit PresetFolder(std::filesystem::path folder) : _folder(std::move(folder)) {}
 
     /// In order of name, without regard to the case of ASCII letters. Reads every file to see
-    /// whether it can be applied; hidden files are no presets.
+    /// whether it can be applied; hidden files are not presets.
     [[nodiscard]] std::vector<Preset> presets() const;
     /// The file of a preset, broken or not.
     [[nodiscard]] Result<std::filesystem::path> fileNamed(std::string_view name) const;
-    /// Where a preset goes; makes the folder. A problem if no preset can have that name, or if it
-    /// is another one's file although it is shown under another name.
+    /// Where to save a preset; creates the folder. Fails if no preset can have that name, or if the
+    /// name is that of another preset's file, which is shown under another name.
     [[nodiscard]] Result<PresetPlace> placeFor(std::string_view name,
                                                std::string_view extension) const;
 

@@ -65,7 +65,7 @@ void EditablePlot::paintEvent(QPaintEvent* event) {
     }
 }
 
-// During a drag it is about the dragged point, wherever the pointer is.
+// During a drag it shows the dragged point, wherever the pointer is.
 void EditablePlot::drawReadout(QPainter& painter) const {
     const Theme& theme = themeOf(*this);
     const QRectF graph = graphRect();
@@ -102,7 +102,7 @@ void EditablePlot::mousePressEvent(QMouseEvent* event) {
 void EditablePlot::mouseMoveEvent(QMouseEvent* event) {
     _pointer = event->position();
     if (!event->buttons().testFlag(Qt::LeftButton)) {
-        // A window in front has got the release.
+        // Another window in front got the release.
         letGo();
     }
     if (_grip && _drag.follow(event->position().y(), event->modifiers()) && _dragged) {

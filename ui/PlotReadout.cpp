@@ -18,7 +18,7 @@ namespace {
 constexpr double plateGap = 4;
 constexpr double platePadding = 4;
 constexpr double columnGap = 8;
-/// How near the pointer may come before the plate makes way.
+/// How near the pointer may come before the plate moves to the other corner.
 constexpr double plateReach = 12;
 
 constexpr double plateOpacity = 0.85;

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "app/preferences/PreferencesStore.h"
-#include "foundation/RunLoop.h"
 #include "screens/ScreenRegistry.h"
 
 namespace tonquil {

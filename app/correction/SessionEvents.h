@@ -20,7 +20,6 @@ enum class SessionEvent : std::uint8_t {
 /// An event that the desktop does not support is skipped, with one line in the log. Several events
 /// in a short time may be reported once; one event may be reported several times, seconds apart, if
 /// displays are slow to react.
-/// slow to follow.
 class SessionEvents {
  public:
     using Handler = std::function<void(SessionEvent)>;

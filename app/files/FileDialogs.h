@@ -32,8 +32,8 @@ class FileDialogs {
     virtual void chooseFileToOpen(Chosen chosen) = 0;
     /// Preselects `format`; the user may choose another one.
     virtual void chooseFileToSave(SettingsFormat format, ChosenWithFormat chosen) = 0;
-    /// Asks for a preset's name. `present` are the presets that there are; choosing one of them
-    /// replaces it.
+    /// Asks for a preset's name. `present` are the existing presets; choosing one of them replaces
+    /// it.
     virtual void choosePresetName(const std::vector<std::string>& present, NameChosen chosen) = 0;
     /// An alert with a title, one sentence and an "OK" button; one already open shows the new
     /// sentence instead. Both texts are keys of the context "Problem"; `arguments` are filled into

@@ -29,8 +29,8 @@ bool isOf(const PointSliders& point, PanelSlider slider) {
     return slider == point.master || std::ranges::count(point.channels, slider) != 0;
 }
 
-/// Where a base has a level, 0 to 1 from its first entry to its last: what the curve must give for
-/// the base to turn it into that level. Between entries it is a straight line.
+/// The position where a base reaches a level, from 0 at its first entry to 1 at its last, linearly
+/// interpolated: what the curve must give for the base to turn it into that level.
 double positionInBase(std::span<const float> base, double level) {
     const auto above = std::ranges::find_if(base, [=](float entry) { return entry >= level; });
     if (above == base.begin()) {
@@ -45,7 +45,7 @@ double positionInBase(std::span<const float> base, double level) {
            static_cast<double>(base.size() - 1);
 }
 
-/// One channel, flattened: its own values and the masters', which take part in either order.
+/// One channel, flattened: its own values combined with the masters'.
 struct FlatChannel {
     double black;
     double exponent;
@@ -54,8 +54,8 @@ struct FlatChannel {
 
 }  // namespace
 
-// The table computation, solved for one slider. A flat value is the same whichever of master and
-// channel is which, so the other one of the two is all that is needed.
+// The table computation, solved for one slider. Master and channel can be swapped in a flat value,
+// so only the other one of the two is needed.
 std::optional<float> valueThrough(double level, PanelSlider slider, std::size_t channel,
                                   const PanelValues& values, const PlottedCurves& curves) {
     if (curves.sampleCount < 2) {

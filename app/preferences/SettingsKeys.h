@@ -49,7 +49,7 @@ inline constexpr std::string_view useHotKeyModifiers = "UseHotKeyModifiers";
 inline constexpr std::string_view panelHotKey = "PanelHotKey";
 inline constexpr std::string_view panelHotKeyCode = "PanelHotKeyCode";
 inline constexpr std::string_view panelHotKeyModifiers = "PanelHotKeyModifiers";
-/// Integer: the last chosen format for a settings file; 0 one display, 1 several.
+/// Integer: the last chosen format of a saved file, as numbered by `SettingsFormat`.
 inline constexpr std::string_view saveFormat = "SaveFormat";
 /// Array of strings: the most recently opened or saved settings files, newest first.
 inline constexpr std::string_view recentFiles = "RecentFiles";

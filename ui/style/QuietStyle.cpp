@@ -43,7 +43,7 @@ bool isDropDown(const QWidget* widget) {
     return widget != nullptr && widget->inherits("QComboBoxPrivateContainer");
 }
 
-/// A pressed or selected one differs by its fill.
+/// Pressed and selected buttons have another fill.
 void drawBevel(QPainter& painter, const QStyleOptionButton& option, const Theme& theme) {
     const bool isDefault = option.features.testFlag(QStyleOptionButton::DefaultButton);
     const bool isOn = option.state.testFlag(QStyle::State_On);
@@ -100,7 +100,7 @@ QuietStyle::QuietStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 void QuietStyle::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
     if (widget->inherits("QMenu") || widget->inherits("QTipLabel") || isDropDown(widget)) {
-        // For the round corners. It must be known before the window is created.
+        // Round corners need this, and it must be set before the window is created.
         widget->setAttribute(Qt::WA_TranslucentBackground);
     }
     if (qobject_cast<QAbstractButton*>(widget) != nullptr ||
@@ -109,8 +109,8 @@ void QuietStyle::polish(QWidget* widget) {
     }
 }
 
-// A dialog that opens tells its first control that it got the focus by the Tab key, before that has
-// it.
+// An opening dialog sends its first control a focus event with the Tab key as the reason, before
+// the control has the focus.
 bool QuietStyle::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn && static_cast<const QWidget*>(watched)->hasFocus()) {
         const auto reason = static_cast<const QFocusEvent*>(event)->reason();

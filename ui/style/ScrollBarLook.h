@@ -17,7 +17,7 @@ inline constexpr int scrollBarExtent = 12;
 /// Draws a scroll bar as nothing but its handle.
 void drawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const Theme& theme);
 
-/// A part of a scroll bar that has no arrows.
+/// The rectangle of a scroll bar's part; empty for the arrows, which our scroll bars lack.
 [[nodiscard]] QRect scrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part);
 
 }  // namespace tonquil

@@ -14,7 +14,7 @@ namespace tonquil {
 struct Theme {
     QColor panel;         ///< Opaque; see `panelOpacity`.
     double panelOpacity;  ///< 0 to 1, for use with a compositor; without one the panel is opaque.
-    QColor field;         ///< Fields, the plot and, on the dark theme, the strip.
+    QColor field;         ///< Fields, the plot, the title strip and menus.
     QColor button;        ///< Push buttons, and unselected tabs on the light theme.
     QColor selection;     ///< Behind selected text and entries.
     QColor text;

@@ -21,7 +21,6 @@
 #include "ui/theme/Theme.h"
 #include "windows/menus/ProblemText.h"
 #include "windows/panel/ChannelStrip.h"
-#include "windows/panel/DevicePixels.h"
 #include "windows/panel/FormChevron.h"
 #include "windows/panel/PanelIcons.h"
 #include "windows/panel/TitleStrip.h"
@@ -287,7 +286,8 @@ void ControlPanel::makeFirstResponder(QWidget& control) {
 // Qt reports focus changes only while the window has the keyboard focus, which the panel mostly
 // does not.
 void ControlPanel::firstResponderChanged(QWidget* control) {
-    // The plot stands for the slider there was: where points lie together, for its channel's.
+    // The plot acts for the control that was focused before: where points lie together, its
+    // channel is preferred.
     if (control == _contents->plot) {
         return;
     }
@@ -314,7 +314,6 @@ void ControlPanel::setAppearances() {
     }
 }
 
-// There are two tab selectors.
 std::vector<QWidget*> ControlPanel::vibrantViews() const {
     return {_contents->gammaTabs,          _contents->blendingModePopUp, _contents->gammaTabColours,
             _contents->applyCorrectionBox, _contents->gammaTabSelector,  _contents,

@@ -19,7 +19,7 @@ void ControlPanel::connectWays() {
         if (isHeld) {
             firstResponderChanged(&_contents->sliders.slider(slider));
         } else {
-            // The plot knows no double-click that a second press could become.
+            // On the plot a second press never becomes a double-click.
             _editEndTimer.stop();
             _actions->endEdit();
         }

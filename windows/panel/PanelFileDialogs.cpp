@@ -44,7 +44,7 @@ std::filesystem::path pathFrom(const QString& text) {
     return QFile::encodeName(text).toStdString();
 }
 
-/// The format decides which kind of file the dialog accepts.
+/// The format decides which extension the dialog adds to a name without one.
 void savePanelFormatDidChange(QFileDialog& dialog, const QString& filter) {
     dialog.setDefaultSuffix(QString::fromLatin1(suffixOf(formatOf(filter))));
 }

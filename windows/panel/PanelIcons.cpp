@@ -13,7 +13,7 @@ namespace tonquil {
 namespace {
 
 /// Draws the icon at every scale that a desktop may request, in a square of 16 points.
-QIcon iconFrom(const std::function<void(QPainter&)>& draw, int points = 16) {
+QIcon iconFrom(const std::function<void(QPainter&)>& draw, int points) {
     QIcon icon;
     for (const double scale : {1.0, 1.5, 2.0, 3.0}) {
         const int pixels = qRound(points * scale);
@@ -111,7 +111,7 @@ void drawCompare(QPainter& painter) {
     painter.drawPie(circle, -90 * degree, 180 * degree);
 }
 
-/// The curve from black to white in the point icons; below 8 it is dark.
+/// The curve from black to white in the channel icons.
 QPointF curvePoint(double input) {
     return {2 + input * 12, 14 - input * input * 12};
 }

@@ -42,7 +42,7 @@ void PlotEditing::drag(const EditablePlot::Grip& grip, double level) const {
 }
 
 void PlotEditing::showTab(int tab) {
-    // A drag that is going on ends while it is still about the old tab's sliders.
+    // End a running drag while its target is still the old tab's slider.
     if (tab != _tab) {
         _plot.setDraggablePoint(std::nullopt);
     }

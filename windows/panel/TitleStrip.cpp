@@ -35,7 +35,7 @@ QToolButton* makeButton(PanelIcon icon, const QString& name, QWidget* parent) {
     return button;
 }
 
-/// The menu's start is below the button's, or its end below the button's end.
+/// Opens the menu below the button, aligned with its start or its end.
 void openBelow(QToolButton& button, QMenu& menu, bool isAtEnd) {
     QObject::connect(&button, &QToolButton::clicked, &menu, [&button, &menu, isAtEnd] {
         QPoint corner(0, button.height() + menuGap);

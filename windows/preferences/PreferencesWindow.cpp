@@ -229,7 +229,7 @@ void PreferencesWindow::addGeneral(QVBoxLayout& column) const {
     addChoice(choices, showStatusLabel, showStatusItem);
 }
 
-// The space above the box goes with it.
+// The space above the box is hidden with it.
 void PreferencesWindow::addNightLight(QVBoxLayout& column) const {
     auto* line = new QWidget;
     auto* lineColumn = new QVBoxLayout(line);

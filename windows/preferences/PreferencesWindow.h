@@ -34,7 +34,7 @@ class PreferencesWindow : public QWidget {
     void setClosed(std::function<void()> closed) { _closed = std::move(closed); }
     /// Shows the controls with which the user gives hot keys their keys.
     void showHotKeyChooser(HotKeyChooser chooser);
-    /// Whether there is a night light to keep; at first there is none.
+    /// Shows or hides the checkbox for keeping the night light; hidden at first.
     void showNightLight(bool isShown) const;
     /// Takes the focus away from the control that has it.
     void clearFirstResponder();
