@@ -95,6 +95,11 @@ Result<PresetPlace> PresetFolder::placeFor(std::string_view name,
                                     "A preset's name has up to 50 characters, no slash, and no "
                                     "dot in front. Nothing was saved."));
     }
+    const auto taken = [](const std::string& other) {
+        return problemWith(
+            TONQUIL_TEXT("Problem", "There is a preset called \"%@\" already. Nothing was saved."),
+            {other});
+    };
     PresetPlace place;
     std::string stem(name);
     const std::vector<Preset> presets = list();
@@ -105,9 +110,12 @@ Result<PresetPlace> PresetFolder::placeFor(std::string_view name,
     } else if (std::ranges::any_of(presets, [&](const Preset& preset) {
                    return preset.file.stem() == name || preset.file.filename() == name;
                })) {
-        return problemWith(
-            TONQUIL_TEXT("Problem", "There is a preset called \"%@\" already. Nothing was saved."),
-            {stem});
+        return taken(stem);
+    }
+    place.file = _folder / stem.append(extension);
+    const auto there = std::ranges::find(presets, place.file, &Preset::file);
+    if (there != presets.end() && place.replaced != there->file) {
+        return taken(there->name);
     }
     std::error_code failure;
     std::filesystem::create_directories(_folder, failure);
@@ -115,7 +123,6 @@ Result<PresetPlace> PresetFolder::placeFor(std::string_view name,
         return problem(TONQUIL_TEXT("Problem", "The folder of presets could not be made."),
                        failure.message());
     }
-    place.file = _folder / stem.append(extension);
     return place;
 }
 

@@ -46,7 +46,7 @@ class PresetFolder {
     /// The file of a preset, broken or not.
     [[nodiscard]] Result<std::filesystem::path> fileNamed(std::string_view name) const;
     /// Where to save a preset; creates the folder. Fails if no preset can have that name, or if the
-    /// name is that of another preset's file, which is shown under another name.
+    /// file to be written, or the name's, is that of another preset.
     [[nodiscard]] Result<PresetPlace> placeFor(std::string_view name,
                                                std::string_view extension) const;
 

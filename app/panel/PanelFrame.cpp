@@ -60,7 +60,7 @@ void PanelFrame::keepWhole() {
 
 void PanelFrame::moveTo(DisplayID display) {
     const Rectangle bounds = _service.bounds(display);
-    if (bounds.isEmpty()) {
+    if (bounds.isEmpty() || _panel.isPlacedByDesktop()) {
         return;
     }
     Rectangle frame = _panel.frame();

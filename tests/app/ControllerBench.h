@@ -42,6 +42,7 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
     void updatePlot() override {}
     void showUndo(bool undo, bool /*canRedo*/) override { canUndo = undo; }
 
+    [[nodiscard]] bool isPlacedByDesktop() const override { return placedByDesktop; }
     [[nodiscard]] Rectangle frame() const override { return place; }
     void setFrameOrigin(const Point& origin) override {
         place.x = origin.x;
@@ -72,6 +73,7 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
     bool correction = false;
     bool canUndo = false;
     bool hasHint = false;
+    bool placedByDesktop = false;
     PanelSubject subject;
     Rectangle place{100, 100, 320, 470};
     bool isShown = false;

@@ -62,6 +62,16 @@ TEST(Launch, RestoresPanelEntirelyOnAnAttachedDisplay) {
     EXPECT_EQ(bench.panel.place.y, 0) << "Too tall a panel keeps the edge it is moved by.";
 }
 
+TEST(Launch, KeepsThePanelsPlaceForOtherDesktopsWhereTheDesktopPlacesIt) {
+    ControllerBench bench;
+    bench.preferences.stored = {{frameKey, "1800 700 320 132"}};
+    bench.panel.placedByDesktop = true;
+    bench.launchAndSettle();
+    bench.controller().editDisplay(left);
+    bench.controller().applicationWillTerminate();
+    EXPECT_EQ(bench.preferences.stored[frameKey], "1800 700 320 132");
+}
+
 TEST(Launch, SavesOnceAtShutdownAndLoadsOnNextStart) {
     ControllerBench bench;
     bench.launchAndSettle();

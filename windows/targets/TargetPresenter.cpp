@@ -186,7 +186,8 @@ void TargetPresenter::saveFrame() {
     if (areWindowsPlacedByDesktop()) {
         // Only the size is known; another desktop may want the place.
         const auto stored = windowFrameFrom(_preferences.stringForKey(settingsKey::targetsFrame));
-        const Point centre = stored ? stored->centre() : _service.bounds(0).centre();
+        const Point centre =
+            stored ? stored->centre() : _service.bounds(_service.mainDisplay()).centre();
         frame.x = centre.x - frame.width / 2;
         frame.y = centre.y - frame.height / 2;
     }
