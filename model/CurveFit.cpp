@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "model/CurveValues.h"
-#include "model/TableComputation.h"
 
 namespace tonquil {
 

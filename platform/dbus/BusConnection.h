@@ -83,8 +83,6 @@ class BusConnection {
     /// done. Waits for nothing when called from a callback.
     [[nodiscard]] bool waitUntil(const std::function<bool()>& isDone,
                                  std::chrono::milliseconds limit);
-    /// Neither lost nor unreachable; perhaps not open yet.
-    [[nodiscard]] bool isConnected() const { return _bus != nullptr; }
 
  private:
     struct Question {

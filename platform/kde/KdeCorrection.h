@@ -60,7 +60,6 @@ class KdeCorrection {
     [[nodiscard]] const HardwareRamp& calibration() const { return _base.calibration; }
     /// Whether nothing is on its way or still to be sent.
     [[nodiscard]] bool isSettled() const;
-    [[nodiscard]] bool isPresent() const { return _output != nullptr; }
     /// Why the last change was not made, as a sentence; empty if it was.
     [[nodiscard]] const std::string& obstacle() const { return _obstacle; }
 
