@@ -9,7 +9,7 @@
 
 namespace tonquil {
 
-/// The desktop's night light, as its settings service tells of it.
+/// The desktop's night light, as reported by its settings service.
 class NightLight {
  public:
     /// The connection must outlive this. `changed` is called when its colour differs.
