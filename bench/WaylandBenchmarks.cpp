@@ -10,8 +10,7 @@ namespace tonquil {
 
 namespace {
 
-/// From an edit until the compositor has read the new table, including one question to it whether
-/// it has.
+/// From an edit until the compositor has read the new table, including one query whether it has.
 void editUntilReceived(benchmark::State& state) {
     const std::string output = "DP-1";
     GammaCompositor compositor;
@@ -40,7 +39,7 @@ void editUntilReceived(benchmark::State& state) {
         HardwareRamp now = last;
         for (int asked = 0; now == last && asked < 10000; ++asked) {
             now = compositor.ramp(output);
-            // That the compositor has the last table, so that the next one may go.
+            // Takes the compositor's confirmation, so that the next table may be sent.
             loop.pollReadable(std::chrono::milliseconds(0));
         }
         isGood = isGood && now != last;

@@ -48,8 +48,8 @@ Result<Assignments> assignAny(const Curves& curves, const ScreenRegistry::Screen
     return std::visit([&](const auto& source) { return assign(source, screens); }, curves);
 }
 
-/// Puts the curves on the displays that are meant and that are there, unless they are left to the
-/// Tonquil that runs: see `leaveToTonquil`.
+/// Puts the curves on the attached displays that are meant, unless they are left to the Tonquil
+/// that is running: see `leaveToTonquil`.
 Result<std::optional<std::string>> applyOnce(const Curves& curves, const Arguments& arguments,
                                              DisplayService& service, ScreenRegistry& registry,
                                              const CommandEnvironment& environment) {
@@ -60,7 +60,7 @@ Result<std::optional<std::string>> applyOnce(const Curves& curves, const Argumen
         return tl::unexpected(meant.error());
     }
     if (!arguments.hold && service.isKeptByOneProgram()) {
-        // The running Tonquil holds these displays, so what is in our way is not in its.
+        // The running Tonquil holds these displays, so what blocks us does not block it.
         auto left = assignAny(curves, *meant).and_then([&](const Assignments& assignments) {
             return leaveToTonquil(requestFor(assignments, service), *meant, service, environment);
         });
@@ -86,7 +86,7 @@ Result<std::optional<std::string>> applyOnce(const Curves& curves, const Argumen
     return std::nullopt;
 }
 
-/// Keeps the curves on the displays, whichever come and go, until the run loop is stopped.
+/// Keeps the curves on the displays, even as they come and go, until the run loop is stopped.
 Result<void> hold(const Curves& curves, const Arguments& arguments, DisplayService& service,
                   ScreenRegistry& registry, const CommandEnvironment& environment) {
     RunLoop& loop = environment.remote.runLoop;

@@ -5,7 +5,7 @@
 
 #include "cli/Commands.h"
 #include "model/GammaTable.h"
-#include "screens/DisplayService.h"
+#include "screens/DisplayIdentity.h"
 
 namespace tonquil {
 

@@ -19,9 +19,10 @@ using Assignments = std::vector<std::pair<ScreenRegistry::ScreenPointer, KVScree
 [[nodiscard]] std::string requestToRestore(const ScreenRegistry::Screens& screens, bool areAll,
                                            DisplayService& service);
 
-/// Leaves a request to the Tonquil that runs, where these displays are kept by one program. Nothing
-/// if the caller has to carry it out; an empty text if it is done; otherwise the request, to be
-/// handed over once the displays have been let go, for to look at one may have taken it.
+/// Leaves a request to the Tonquil that is running, where these displays are kept by one program.
+/// Nothing if the caller has to carry it out; an empty text if it is done; otherwise the request,
+/// to be handed over once the displays have been let go, because just looking at one may have taken
+/// it.
 [[nodiscard]] Result<std::optional<std::string>> leaveToTonquil(
     std::string request, const ScreenRegistry::Screens& screens, DisplayService& service,
     const CommandEnvironment& environment);

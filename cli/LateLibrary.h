@@ -11,7 +11,7 @@ namespace tonquil {
 /// that need none of it start without it.
 ///
 /// `Library` has the file's name as `file`, and as `failure` what its functions of type `int`
-/// answer where the library is missing; the others answer null or 0. `own` is our function of that
+/// return if the library is missing; the others return null or 0. `own` is our function of that
 /// name, which the linker takes for the library's.
 template <typename Library, auto own, typename... Arguments>
 auto late(const char* name, Arguments... arguments) {

@@ -54,7 +54,7 @@ tonquil::PresetFolder presets() {
     return tonquil::PresetFolder(folders ? folders->config() / "presets" : "");
 }
 
-/// Where a program can have no folders, none of ours runs either.
+/// Nothing if no Tonquil is running, and none can without a folder for its socket.
 std::optional<tonquil::Result<void>> handOver(const std::string& request) {
     const auto folders = tonquil::XdgFolders::fromEnvironment();
     const auto answer = folders ? tonquil::InstanceSocket::handOver(

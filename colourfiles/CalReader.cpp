@@ -28,7 +28,7 @@ struct Word {
     [[nodiscard]] bool is(std::string_view keyword) const { return !isQuoted && text == keyword; }
 };
 
-/// Splits CGATS text into words, quoted texts and nothing else: it skips comments.
+/// Splits CGATS text into words and quoted texts; skips comments.
 class WordReader {
  public:
     explicit WordReader(std::string_view text) : _rest(text) {}
@@ -159,7 +159,7 @@ class TableReader {
         return calibration;
     }
 
-    // They are written with few digits.
+    // Programs write the inputs with few digits, so this allows for rounding.
     static bool areEvenlySpaced(const std::vector<double>& inputs) {
         if (inputs.size() < 2) {
             return false;

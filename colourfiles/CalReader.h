@@ -9,7 +9,7 @@
 
 namespace tonquil {
 
-/// Whether a file with these first bytes means to be a calibration in CGATS text.
+/// Whether a file starts like a calibration in CGATS text; it may still be damaged.
 [[nodiscard]] bool beginsLikeCal(std::span<const std::uint8_t> bytes);
 
 /// Reads the first table of a .cal file, CGATS text with the columns RGB_I, RGB_R, RGB_G and RGB_B

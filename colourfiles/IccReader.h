@@ -13,7 +13,7 @@ namespace tonquil {
 /// Larger profiles are not read. Those of displays have a few MiB at most.
 inline constexpr std::size_t mostIccBytes = std::size_t{16} << 20U;
 
-/// Whether a file with these first bytes means to be an ICC profile.
+/// Whether a file starts like an ICC profile; it may still be damaged.
 [[nodiscard]] bool beginsLikeIcc(std::span<const std::uint8_t> bytes);
 
 /// Reads the `vcgt` tag of an ICC profile of version 2 or 4: a table of one or three channels with

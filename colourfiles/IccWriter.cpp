@@ -86,7 +86,7 @@ Result<std::vector<std::uint8_t>> writeIcc(const GammaTable& table,
     };
     ProfileHandle profile = profileWith(display.primaries);
     if (!profile) {
-        // A display may report colours that cannot be.
+        // A display may report impossible colours.
         profile = profileWith({});
     }
     if (!profile) {

@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "model/CurveValues.h"
-#include "model/TableComputation.h"
 
 namespace tonquil {
 
@@ -87,8 +86,8 @@ double lowestBetween(double from, double to, const Function& function) {
     return (from + to) / 2;
 }
 
-// The exponent with the least squares: near the best of a coarse row, for there may be more valleys
-// than one.
+// The exponent with the least squares. A coarse scan comes first, because there may be more than
+// one valley.
 ChannelCurve fitChannel(Levels levels, const std::array<double, slotCount>& logarithms) {
     const auto [lowest, highest] = std::ranges::minmax(levels);
     if (lowest == highest) {

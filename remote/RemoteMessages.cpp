@@ -6,7 +6,6 @@
 #include <cmath>
 #include <utility>
 
-#include "remote/PrintableText.h"
 #include "values/BoundedJson.h"
 #include "values/Utf8.h"
 

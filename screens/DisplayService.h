@@ -83,11 +83,11 @@ class DisplayService : public SystemCalibration {
 
     [[nodiscard]] virtual std::unique_ptr<Subscription> registerReconfigurationCallback(
         ReconfigurationCallback callback) = 0;
-    /// Whether others can replace a table without the service's hearing of it. Where they cannot,
-    /// there is nothing to put right again and again.
+    /// Whether others can replace a table without the service noticing. Where they cannot, the
+    /// curves need not be applied again and again.
     [[nodiscard]] virtual bool canBeDisturbed() const { return true; }
-    /// Whether curves belong into the hands of a Tonquil that runs: it would undo what others set,
-    /// or not hear of it.
+    /// Whether curves should be handed to a Tonquil that is running: it would undo what others set,
+    /// or not notice it.
     [[nodiscard]] virtual bool isKeptByOneProgram() const { return false; }
     /// `lost` is called once, from the run loop, when the displays are out of reach for good. A
     /// service that was opened with such a callback may ignore this one.

@@ -27,7 +27,7 @@ std::string textFromBytes(const std::vector<std::uint8_t>& bytes) {
     return text;
 }
 
-/// Nothing but digits counts.
+/// Skips whatever is not a pair of hexadecimal digits.
 std::vector<std::uint8_t> bytesFromText(const std::string& text) {
     std::vector<std::uint8_t> bytes;
     std::size_t high = std::string_view::npos;
@@ -51,7 +51,7 @@ PropertyValue valueOf(const KVGammaCurve& curve) {
     return textFromBytes(dictionary.at(storedTable).get_binary());
 }
 
-/// Null if it is none.
+/// Null if the value is no curve.
 std::shared_ptr<KVGammaCurve> curveOf(const PropertyValue& value) {
     if (value.is_string()) {
         return KVTableGammaCurve::tableGammaCurveWithDictionary(

@@ -10,7 +10,6 @@
 #include <utility>
 
 #include "files/BoundedFile.h"
-#include "foundation/TranslatableText.h"
 #include "platform/dbus/BusAddresses.h"
 #include "platform/folders/XdgFolders.h"
 #include "platform/kde/KdeDisplayService.h"

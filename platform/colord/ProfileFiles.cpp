@@ -104,7 +104,7 @@ void ProfileFiles::takeProfile(const std::string& connector, const std::string& 
 }
 
 void ProfileFiles::takeFile(const std::string& connector, const std::string& file) {
-    // Profiles with large tables for printing have a few of these.
+    // Even profiles with large tables for printing have only a few MiB.
     constexpr std::size_t mostBytes = std::size_t{16} * 1024 * 1024;
     auto bytes = readBoundedFile(file, mostBytes);
     if (bytes && calibrationRamp(*bytes, GammaTable::capacity)) {

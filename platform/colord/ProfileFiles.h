@@ -18,7 +18,8 @@ namespace tonquil {
 /// displays, which it knows by their connectors.
 ///
 /// With a run loop nothing is ever waited for: a display counts as uncalibrated until the answer
-/// comes. Without one, `ask` waits, for `longestAnswer` at most and once at most in vain.
+/// comes. Without one, `ask` waits for at most `longestAnswer`, and never again after it has waited
+/// in vain.
 class ProfileFiles {
  public:
     static constexpr std::chrono::milliseconds longestAnswer{100};
@@ -28,7 +29,7 @@ class ProfileFiles {
         RunLoop* runLoop = nullptr;
         /// Of the system bus; without one no display has a profile.
         std::string systemBus = {};
-        /// Called when a calibration differs from what was said of it before.
+        /// Called when a calibration has changed.
         std::function<void()> changed = {};
     };
 

@@ -70,12 +70,12 @@ class BusConnection {
     /// open.
     void watch(const Signal& signal, Call call);
     /// Calls a method, then `answered` with what it returns, or `failed` on an error or after 25 s;
-    /// at once where the service has given a path that is none. Neither is called once the
+    /// `failed` at once if a path that the service gave is invalid. Neither is called once the
     /// connection is lost.
     void ask(
         const Method& method, const std::vector<Argument>& arguments, Call answered,
         std::function<void()> failed = [] {});
-    /// The same, told the reason as the other side gave it.
+    /// The same; `failed` gets the reason that the other side gave.
     void ask(const Method& method, const std::vector<Argument>& arguments, Call answered,
              std::function<void(const std::string& reason)> failed);
 
@@ -83,8 +83,6 @@ class BusConnection {
     /// done. Waits for nothing when called from a callback.
     [[nodiscard]] bool waitUntil(const std::function<bool()>& isDone,
                                  std::chrono::milliseconds limit);
-    /// Neither lost nor unreachable; perhaps not open yet.
-    [[nodiscard]] bool isConnected() const { return _bus != nullptr; }
 
  private:
     struct Question {

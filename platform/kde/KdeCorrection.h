@@ -15,8 +15,8 @@
 
 namespace tonquil {
 
-/// What is wanted of one display, and what it takes to bring that about: the person's colour
-/// profile, or ours with a correction laid over it. It stays while the display is away.
+/// Which colour profile one display should have, and the steps to set it: the person's own, or ours
+/// with a correction laid over it. It outlasts an unplugging of the display.
 ///
 /// Before ours is set for the first time, the person's choice is noted on the disk.
 class KdeCorrection {
@@ -56,11 +56,10 @@ class KdeCorrection {
 
     /// The calibration of the profile that the person has chosen, read anew from its file.
     const HardwareRamp& readCalibration();
-    /// The same as it was read last.
+    /// The calibration as it was last read.
     [[nodiscard]] const HardwareRamp& calibration() const { return _base.calibration; }
     /// Whether nothing is on its way or still to be sent.
     [[nodiscard]] bool isSettled() const;
-    [[nodiscard]] bool isPresent() const { return _output != nullptr; }
     /// Why the last change was not made, as a sentence; empty if it was.
     [[nodiscard]] const std::string& obstacle() const { return _obstacle; }
 

@@ -17,10 +17,10 @@
 
 namespace tonquil {
 
-/// One output of KDE's compositor and what is said of it.
+/// One output of KDE's compositor and its properties.
 class KdeOutput {
  public:
-    /// As of the last time that the compositor said that all has been said.
+    /// As of the compositor's last `done` event.
     struct Properties {
         /// The connector, such as "DP-1"; made up where the compositor does not tell.
         std::string name;
@@ -49,7 +49,7 @@ class KdeOutput {
 
     [[nodiscard]] kde_output_device_v2* get() const { return _device.get(); }
     [[nodiscard]] std::uint32_t number() const { return _number; }
-    /// False until everything has been said for the first time.
+    /// False until the first `done` event.
     [[nodiscard]] bool isComplete() const { return _isComplete; }
     [[nodiscard]] const Properties& properties() const { return _properties; }
 
@@ -71,7 +71,7 @@ class KdeOutput {
     const kde_output_device_mode_v2* _currentMode = nullptr;
     bool _isOnItsSide = false;
     double _scale = 1;
-    /// What has been said, complete or not; the size of its bounds is not filled in.
+    /// As received so far, complete or not; the size of its bounds is not filled in.
     Properties _said;
     Properties _properties;
     bool _isComplete = false;

@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view namePrefix = "kde-";
 constexpr std::string_view profileSuffix = ".icc";
 constexpr std::string_view noteSuffix = ".plist";
-// Profiles with tables for every colour have some megabytes.
+// Profiles with tables for every colour have a few megabytes.
 constexpr std::size_t mostProfileBytes = std::size_t{32} << 20U;
 
 constexpr const char* pathKey = "ProfilePath";

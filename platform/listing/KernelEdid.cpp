@@ -12,7 +12,7 @@ namespace tonquil {
 
 namespace {
 
-/// Whether `folder` is named as in "card0-DP-1", for whatever card.
+/// Whether `folder` is named as in "card0-DP-1", for any card.
 bool isConnectorOfSomeCard(std::string_view folder, std::string_view connector) {
     constexpr std::string_view card = "card";
     if (!folder.starts_with(card)) {

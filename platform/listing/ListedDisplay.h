@@ -30,8 +30,8 @@ struct ListedDisplay {
     bool operator==(const ListedDisplay&) const = default;
 };
 
-/// Fills in who the display on `display.connector` is. Without an EDID the connector's name stands
-/// for the model: otherwise all displays of one size would share a reference ID.
+/// Fills in the identity of the display on `display.connector`. Without an EDID the connector's
+/// name stands for the model: otherwise all displays of one size would share a reference ID.
 void identify(ListedDisplay& display, const std::optional<Edid>& edid);
 
 }  // namespace tonquil

@@ -12,8 +12,8 @@
 
 namespace tonquil {
 
-/// The displays of a Wayland desktop: all that is said of them comes from a list. What is on the
-/// hardware cannot be read there, and the pointer cannot be moved.
+/// The displays of a Wayland desktop, all described by one list. What is on the hardware cannot be
+/// read there, and the pointer cannot be moved.
 class ListedDisplayService : public DisplayService {
  public:
     [[nodiscard]] std::vector<DisplayID> onlineDisplays(std::size_t most) override;

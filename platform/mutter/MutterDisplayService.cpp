@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A start must not be late for the first ramps, nor for the colour of the night light in them.
+/// How long a start waits for the first ramps, and for the night light's colour in them.
 constexpr std::chrono::milliseconds longestFirstRamps = 100ms;
 constexpr std::chrono::milliseconds longestNightLight = 20ms;
 
@@ -50,7 +50,7 @@ MutterDisplayService::MutterDisplayService(Surroundings with)
                  .changed = [this] { calibrationsChanged(); }}),
       _nightLight(_bus.connection(), [this] { sendAgain(); }) {}
 
-// What other programs are to find on the hardware must have left.
+// Ramps that stay on the hardware must have been sent.
 MutterDisplayService::~MutterDisplayService() {
     // Nobody is told any more.
     _isLost = true;
@@ -239,7 +239,7 @@ bool MutterDisplayService::endBatch() {
         }
     }
     if (_isStarting && !sent.empty()) {
-        // Without a run loop nobody will be here to hear later that a ramp was refused.
+        // Without a run loop a refusal that came later would go unnoticed.
         static_cast<void>(wait([this] { return _gamma->isIdle(); },
                                _with.runLoop == nullptr ? _with.longestAnswer : longestFirstRamps));
         if (!_isObserved) {

@@ -29,8 +29,8 @@ namespace tonquil {
 /// table is never read back: it is the calibration in the profile that the colour management
 /// service names, or a straight line.
 ///
-/// With a run loop only the opening, and the first ramps until the loop runs, are waited for, all
-/// of it for a bounded time.
+/// With a run loop, only opening and the first ramps before the loop runs are waited for, each for
+/// a bounded time.
 class MutterDisplayService final : public ListedDisplayService {
  public:
     /// How long changes of the monitors are collected.
@@ -49,7 +49,7 @@ class MutterDisplayService final : public ListedDisplayService {
         /// Addresses of the buses.
         std::string sessionBus = {};
         std::string systemBus = {};
-        /// How long is waited for the bus, and for the compositor's answers.
+        /// How long to wait for the bus, and for the compositor's answers.
         std::chrono::milliseconds longestGreeting{2000};
         std::chrono::milliseconds longestAnswer{2000};
         std::filesystem::path connectors = kernelConnectors;
@@ -59,7 +59,7 @@ class MutterDisplayService final : public ListedDisplayService {
     /// problem where there is none.
     [[nodiscard]] static Result<std::unique_ptr<MutterDisplayService>> open(
         std::optional<Generation> wanted, Surroundings with);
-    /// Whether there is any generation; takes nothing.
+    /// Whether there is any generation; changes nothing.
     [[nodiscard]] static bool isOffered(const std::string& sessionBus,
                                         std::chrono::milliseconds longestGreeting);
     ~MutterDisplayService() override;

@@ -26,8 +26,8 @@ struct MutterDisplay {
 /// The displays that there are, the main one first.
 class MutterDisplays {
  public:
-    /// Takes the monitors of a layout instead, of which those that were there before keep their
-    /// corrections; returns the connectors of the others.
+    /// Replaces the displays by the monitors of a layout. Those that were there before keep their
+    /// corrections; returns the connectors of those that have gone.
     std::vector<std::string> replace(const MutterLayout& layout, DisplayListing& listing,
                                      const std::filesystem::path& connectors);
 

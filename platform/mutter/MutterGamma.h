@@ -14,7 +14,7 @@
 
 namespace tonquil {
 
-/// The way in which a generation of the compositor takes gamma ramps for its monitors, which go by
+/// How one generation of the compositor takes gamma ramps for its monitors, which are named by
 /// their connectors.
 ///
 /// Everything is asked and answered in the background. Of each monitor one ramp at most is on its
@@ -26,14 +26,14 @@ class MutterGamma {
     static constexpr std::uint32_t largestSize = 65'536;
     static constexpr std::chrono::milliseconds retryInterval{10'000};
 
-    /// What it works with; all of it must outlive it.
+    /// What it works with; must outlive this object.
     struct Host {
         BusConnection& bus;
         /// Null where nothing is tried again.
         RunLoop* runLoop;
         /// The ramp for a monitor as of now.
         std::function<HardwareRamp(const std::string& connector, std::uint32_t size)> ramp;
-        /// Called when what is said here of a monitor may have changed.
+        /// Called when the state of a monitor may have changed.
         std::function<void()> changed;
     };
 
@@ -53,13 +53,13 @@ class MutterGamma {
 
     virtual ~MutterGamma() = default;
 
-    /// These are the monitors from now on. What is held stays held, and is set anew.
+    /// Replaces the list of monitors. What is held stays held, and its ramp is sent again.
     virtual void setMonitors(const std::vector<std::string>& connectors) = 0;
     /// Puts the host's ramp on a monitor and keeps it there.
     virtual void hold(const std::string& connector) = 0;
-    /// Gives a monitor back, on which the host's ramp is the system's from now on.
+    /// Gives a monitor back: the host's ramp for it is the system's from now on.
     virtual void release(const std::string& connector) = 0;
-    /// For a monitor that is not there, the state is that of one of which nothing is known.
+    /// The default state for a monitor that is not there.
     [[nodiscard]] virtual State state(const std::string& connector) const = 0;
     /// Whether the compositor owes no answer.
     [[nodiscard]] virtual bool isIdle() const = 0;

@@ -28,7 +28,7 @@ struct MutterMonitor {
 
 /// The monitors that show a picture, the main one first.
 struct MutterLayout {
-    /// Another one after each change.
+    /// Differs after each change.
     std::uint32_t serial = 0;
     std::vector<MutterMonitor> monitors;
 
@@ -38,8 +38,8 @@ struct MutterLayout {
 /// Reads the answer to GetCurrentState of org.gnome.Mutter.DisplayConfig.
 [[nodiscard]] MutterLayout readMutterLayout(BusArguments& state);
 
-/// Who the display on the monitor's connector is, by the EDID that the kernel has of it or else by
-/// the compositor's words. Its ID is still 0.
+/// The display on the monitor's connector, identified by the EDID that the kernel has of it or else
+/// by the compositor's words. Its ID is still 0.
 [[nodiscard]] ListedDisplay listedDisplay(const MutterMonitor& monitor,
                                           const std::filesystem::path& connectors);
 

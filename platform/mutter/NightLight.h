@@ -9,10 +9,10 @@
 
 namespace tonquil {
 
-/// The desktop's night light, as its settings service tells of it.
+/// The desktop's night light, as reported by its settings service.
 class NightLight {
  public:
-    /// The connection must outlive this. `changed` is called when `white` differs.
+    /// The connection must outlive this. `changed` is called when its colour differs.
     NightLight(BusConnection& bus, std::function<void()> changed)
         : _bus(bus), _changed(std::move(changed)) {}
     NightLight(const NightLight&) = delete;
@@ -22,9 +22,7 @@ class NightLight {
     void start();
     /// Whether the service has answered, or there is none.
     [[nodiscard]] bool isKnown() const { return _isKnown; }
-    /// The share of red, green and blue, 0…1, that the night light leaves; all 1 while it is off.
-    [[nodiscard]] const std::array<double, 3>& white() const { return _white; }
-    /// Gives a ramp that white.
+    /// Gives a ramp the night light's colour; does nothing while the night light is off.
     void tint(HardwareRamp& ramp) const;
 
  private:
@@ -35,6 +33,7 @@ class NightLight {
     bool _isKnown = false;
     bool _isActive = false;
     double _kelvin = 6500;
+    /// The share of red, green and blue, 0…1, that it leaves; all 1 while it is off.
     std::array<double, 3> _white{1, 1, 1};
 };
 

@@ -89,7 +89,7 @@ void PortalHotKeyService::watchPortal() {
                    if (wasThere) {
                        portalLost();
                    }
-                   // Our first question starts the portal; that it is there now is no news then.
+                   // Our first call starts the portal, whose appearance is then no news.
                    if (isThere && _isLost) {
                        findPortal();
                    }
@@ -148,7 +148,7 @@ void PortalHotKeyService::bindSoon() {
     _turn = _with.runLoop.callOnce(std::chrono::milliseconds(0), [this] { bind(); });
 }
 
-// The shortcuts of a session cannot be changed, so other ones take another session.
+// The shortcuts of a session cannot be changed, so different ones need a new session.
 void PortalHotKeyService::bind() {
     _turn.reset();
     std::set<std::string> actions;
@@ -221,7 +221,7 @@ BusNamedDictionaries PortalHotKeyService::shortcuts() const {
     return all;
 }
 
-// A change may tell of some only.
+// A change may list only some of them.
 void PortalHotKeyService::takeShortcuts(BusArguments& arguments) {
     arguments.eachStructure([&] {
         const std::string action = arguments.text();

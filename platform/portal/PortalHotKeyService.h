@@ -29,7 +29,7 @@ class PortalHotKeyService final : public HotKeyService {
     struct Surroundings {
         RunLoop& runLoop;
         Descriptions descriptions;
-        /// Called whenever an answer of one of the queries below is another.
+        /// Called whenever the result of `isOffered` or `trigger` may have changed.
         std::function<void()> changed;
         Log log;
     };

@@ -7,7 +7,7 @@
 namespace tonquil {
 
 void PortalRequests::watchAnswers() {
-    const std::string ours = pathOf("request", {});
+    const std::string ours = pathOf({});
     _bus.watch({.interface = "org.freedesktop.portal.Request",
                 .name = "Response",
                 .rest = "sender='" + std::string(service) + "',path_namespace='" +
@@ -28,19 +28,18 @@ void PortalRequests::answer(const std::string& path, BusArguments* results) {
 }
 
 // The path is known before the call, so that an answer which overtakes its return is recognised.
-std::string PortalRequests::pathOf(const std::string& kind, const std::string& token) const {
+std::string PortalRequests::pathOf(const std::string& token) const {
     std::string sender = _bus.uniqueName();
     sender.erase(0, 1);
     std::ranges::replace(sender, '.', '_');
-    return std::string(object).append("/").append(kind).append("/").append(sender).append("/") +
-           token;
+    return std::string(object).append("/request/").append(sender).append("/") + token;
 }
 
 void PortalRequests::ask(const std::string& interface, const std::string& method,
                          std::vector<BusArgument> arguments, BusDictionary options,
                          Answered answered) {
     const std::string token = newToken();
-    const std::string path = pathOf("request", token);
+    const std::string path = pathOf(token);
     options["handle_token"] = token;
     arguments.emplace_back(std::move(options));
     _waiting[path] = std::move(answered);

@@ -29,8 +29,6 @@ class PortalRequests {
     void watchAnswers();
     /// A new name for a request or a session, which is part of its object's path.
     [[nodiscard]] std::string newToken() { return "tonquil" + std::to_string(++_lastToken); }
-    /// The path of a request's or a session's object; `kind` is "request" or "session".
-    [[nodiscard]] std::string pathOf(const std::string& kind, const std::string& token) const;
     /// Calls a method whose last argument is `options`, to which this adds the request's token.
     void ask(const std::string& interface, const std::string& method,
              std::vector<BusArgument> arguments, BusDictionary options, Answered answered);
@@ -38,6 +36,8 @@ class PortalRequests {
     void clear() { _waiting.clear(); }
 
  private:
+    /// The path of a request's object.
+    [[nodiscard]] std::string pathOf(const std::string& token) const;
     void answer(const std::string& path, BusArguments* results);
 
     BusConnection& _bus;

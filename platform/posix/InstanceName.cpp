@@ -19,7 +19,7 @@ std::string variableNamed(const char* name) {
 std::string instanceName() {
     std::string name = "instance-";
     std::string display = variableNamed("DISPLAY");
-    // The screen behind the point is another face of the same display.
+    // The screen number after the point does not make it another display.
     display.erase(std::min(display.find('.', display.rfind(':')), display.size()));
     for (const char c : display.empty() ? variableNamed("WAYLAND_DISPLAY") : display) {
         name += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';

@@ -5,7 +5,7 @@
 
 namespace tonquil {
 
-/// One instance runs for each desktop of a person: its name, fit for a file.
+/// The name of this desktop's instance, usable as a file name. Each desktop of a user has one.
 [[nodiscard]] std::string instanceName();
 
 }  // namespace tonquil

@@ -13,7 +13,8 @@ namespace tonquil {
 /// the hardware has.
 class HardwareRamp {
  public:
-    /// Anything larger is treated as a driver bug and refused before memory is allocated.
+    /// A size that an X server reports above this is treated as a driver bug and refused before
+    /// memory is allocated.
     static constexpr std::uint32_t largestSize = 16384;
 
     HardwareRamp() = default;

@@ -14,10 +14,10 @@
 
 namespace tonquil {
 
-/// One output of a compositor and what is said of it.
+/// One output of a compositor and its properties.
 class WaylandOutput {
  public:
-    /// As of the last time that the compositor said that all has been said.
+    /// As of the compositor's last `done` event.
     struct Properties {
         /// The connector, such as "DP-1"; made up where the compositor does not tell.
         std::string name;
@@ -41,7 +41,7 @@ class WaylandOutput {
 
     [[nodiscard]] wl_output* get() const { return _output.get(); }
     [[nodiscard]] std::uint32_t number() const { return _number; }
-    /// False until everything has been said for the first time.
+    /// False until the first `done` event.
     [[nodiscard]] bool isComplete() const { return _isComplete; }
     [[nodiscard]] const Properties& properties() const { return _properties; }
 
@@ -53,7 +53,7 @@ class WaylandOutput {
     struct DestroyXdgOutput {
         void operator()(zxdg_output_v1* output) const { zxdg_output_v1_destroy(output); }
     };
-    /// What has been said, complete or not.
+    /// As received so far, complete or not.
     struct Said {
         std::string name;
         std::string model;

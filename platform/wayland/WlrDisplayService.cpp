@@ -80,8 +80,8 @@ std::vector<WlrOutput*> WlrDisplayService::outputs() {
             complete.push_back(output.get());
         }
     }
-    // Wayland has no main display. Whatever the order in which a wake-up announces the outputs
-    // anew, the one at the desktop's origin is taken for it.
+    // Wayland has no main display. The one at the desktop's origin is taken for it, because a
+    // wake-up may announce the outputs again in any order.
     const auto place = [](const WlrOutput* output) {
         const auto& [name, model, width, height, bounds] = output->wayland.properties();
         const bool isAtOrigin = bounds.x == 0 && bounds.y == 0;
@@ -216,7 +216,7 @@ bool WlrDisplayService::endBatch() {
     }
     sendRamps();
     if (_with.runLoop == nullptr && !set.empty()) {
-        // Nobody will be here to hear later that a ramp was refused.
+        // A refusal that came later would go unnoticed.
         _allReached = _connection->waitForAnswers(longestAnswer) && _allReached;
         for (const DisplayID display : set) {
             const WlrOutput* output = find(display);
