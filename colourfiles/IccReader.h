@@ -11,7 +11,7 @@
 namespace tonquil {
 
 /// Larger profiles are not read. Those of displays have a few MiB at most.
-inline constexpr std::size_t mostIccBytes = std::size_t{16} << 20U;
+inline constexpr std::size_t mostIccBytes = std::size_t{32} << 20U;
 
 /// Whether a file starts like an ICC profile; it may still be damaged.
 [[nodiscard]] bool beginsLikeIcc(std::span<const std::uint8_t> bytes);

@@ -44,7 +44,7 @@ using Settings = std::variant<SingleDisplaySettings, MultiDisplaySettings, RawTa
 /// Refuses a damaged file of a known kind, and one with curves for more than 256 displays.
 [[nodiscard]] Result<Settings> readSettings(std::vector<std::uint8_t> bytes);
 
-/// The same for a regular file. An ICC profile may have at most 16 MiB, a property list or .cal
+/// The same for a regular file. An ICC profile may have at most 32 MiB, a property list or .cal
 /// file 1 MiB; a raw table may be followed by any number of bytes.
 [[nodiscard]] Result<Settings> readSettingsFile(const std::filesystem::path& path);
 

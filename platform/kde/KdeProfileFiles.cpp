@@ -3,6 +3,7 @@
 
 #include <span>
 
+#include "colourfiles/IccReader.h"
 #include "colourfiles/IccWriter.h"
 #include "files/AtomicFile.h"
 #include "files/BoundedFile.h"
@@ -24,8 +25,6 @@ namespace fs = std::filesystem;
 constexpr std::string_view namePrefix = "kde-";
 constexpr std::string_view profileSuffix = ".icc";
 constexpr std::string_view noteSuffix = ".plist";
-// Profiles with tables for every colour have a few megabytes.
-constexpr std::size_t mostProfileBytes = std::size_t{32} << 20U;
 
 constexpr const char* pathKey = "ProfilePath";
 constexpr const char* sourceKey = "ProfileSource";
@@ -69,7 +68,7 @@ bool KdeProfileFiles::isOurs(const std::string& path) const {
         file.filename().native().starts_with(namePrefix)) {
         return true;
     }
-    const auto bytes = readBoundedFile(file, mostProfileBytes);
+    const auto bytes = readBoundedFile(file, mostIccBytes);
     return bytes && isCorrectionProfile(*bytes);
 }
 
@@ -91,7 +90,7 @@ std::optional<KdeProfileChoice> KdeProfileFiles::choiceUnder(const std::string& 
 KdeBase KdeProfileFiles::base(const KdeProfileChoice& choice, const Primaries& reported) {
     KdeBase base{.profile = {}, .calibration = HardwareRamp::straight(rampSize)};
     if (choice.source == KdeProfileChoice::file && !choice.path.empty()) {
-        auto bytes = readBoundedFile(choice.path, mostProfileBytes);
+        auto bytes = readBoundedFile(choice.path, mostIccBytes);
         if (bytes && correctionProfile(*bytes, base.calibration)) {
             base.calibration = calibrationRamp(*bytes, rampSize).value_or(base.calibration);
             base.profile = std::move(*bytes);
