@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "tests/program/Desk.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <thread>
 
+#include "files/FileHandle.h"
 #include "plist/PropertyListReader.h"
 #include "plist/PropertyListWriter.h"
 #include "tests/support/EdidBuilder.h"
@@ -243,9 +246,13 @@ PropertyValue Desk::preferences() const {
 }
 
 void Desk::writePreferences(const PropertyValue& changes) const {
+    const auto file = folder() / "config/tonquil/preferences.plist";
+    // Two programs that save at once would lose what one of them changed.
+    const std::string lockPath = file.native() + ".lock";
+    const FileHandle lock(::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+    EXPECT_EQ(flock(lock.get(), LOCK_EX), 0);
     PropertyValue all = preferences();
     all.update(changes);
-    const auto file = folder() / "config/tonquil/preferences.plist";
     const auto beside = folder() / "config/tonquil/preferences.plist.other";
     std::ofstream(beside, std::ios::binary) << writePropertyList(all).value();
     std::filesystem::rename(beside, file);

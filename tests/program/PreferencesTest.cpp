@@ -111,8 +111,11 @@ TEST_F(Preferences, ComeBackWhereTheirWindowWasAndWriteAnEntryThatStartsTheProgr
     ASSERT_TRUE(eventually([&] { return std::filesystem::exists(entry); }));
     // A program that runs from here, and not from where programs are installed, shows advice.
     EXPECT_TRUE(eventually([&] { return desk.windows().size() == 3; }));
-    desk.xdotool({"key", "Return"});
-    EXPECT_TRUE(eventually([&] { return desk.windows().size() == 2; }));
+    EXPECT_TRUE(eventually([&] {
+        // The alert may not have the keyboard yet.
+        desk.xdotool({"key", "Return"});
+        return desk.windows().size() == 2;
+    }));
     end();
     const auto started = desk.begin({"sh", "-c", "eval exec $(sed -n s/^Exec=//p \"$0\")", entry});
     EXPECT_TRUE(eventually([&] { return desk.hasPanel(); })) << started->standardError();
