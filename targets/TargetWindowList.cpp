@@ -11,12 +11,17 @@ namespace tonquil {
 namespace {
 
 /// The current entry for the display of `covered`; null if it is gone. The number takes precedence
-/// over the position, because displays may swap positions.
+/// over the position, because displays may swap positions; by its position only a display that was
+/// not there before is recognised.
 const TargetScreen* findPresent(const std::vector<TargetScreen>& screens,
-                                const TargetScreen& covered) {
+                                const TargetScreen& covered,
+                                const std::vector<std::uint32_t>& before) {
     auto found = std::ranges::find(screens, covered.displayID, &TargetScreen::displayID);
     if (found == screens.end()) {
-        found = std::ranges::find(screens, covered.frame, &TargetScreen::frame);
+        found = std::ranges::find_if(screens, [&](const TargetScreen& screen) {
+            return screen.frame == covered.frame &&
+                   std::ranges::count(before, screen.displayID) == 0;
+        });
     }
     return found != screens.end() ? &*found : nullptr;
 }
@@ -53,9 +58,14 @@ TQTargetWindowController& TargetWindowList::targetWindowControllerForScreen(
 
 // Dismissing changes the list and calls owners back, who may change it as well.
 void TargetWindowList::screensChanged(const std::vector<TargetScreen>& screens) {
+    std::vector<std::uint32_t> now;
+    for (const TargetScreen& screen : screens) {
+        now.push_back(screen.displayID);
+    }
+    const std::vector<std::uint32_t> before = std::exchange(_displays, std::move(now));
     std::vector<TQTargetWindowController*> gone;
     for (const auto& controller : _controllers) {
-        if (const TargetScreen* present = findPresent(screens, controller->screen())) {
+        if (const TargetScreen* present = findPresent(screens, controller->screen(), before)) {
             controller->moveTo(*present);
         } else {
             gone.push_back(controller.get());

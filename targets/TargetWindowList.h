@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTimer>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -28,7 +29,8 @@ class TargetWindowList {
     TQTargetWindowController& targetWindowControllerForScreen(const TargetScreen& screen);
 
     /// Moves each cover to its display's current position, and dismisses those whose display is
-    /// gone. A display that comes back under another number is recognised by its frame.
+    /// gone. A display that comes back under another number is recognised by its frame. To be
+    /// called once before the first change, too.
     void screensChanged(const std::vector<TargetScreen>& screens);
 
  private:
@@ -38,6 +40,8 @@ class TargetWindowList {
 
     std::vector<std::unique_ptr<TQTargetWindowController>> _controllers;
     std::vector<std::unique_ptr<TQTargetWindowController>> _released;
+    /// Those of the last `screensChanged`.
+    std::vector<std::uint32_t> _displays;
     QTimer _cleaning;  ///< Fires after the current event.
 };
 

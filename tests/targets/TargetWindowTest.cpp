@@ -131,6 +131,13 @@ TEST_F(Covers, FollowTheirDisplaysUntilRemoved) {
     EXPECT_EQ(closings, 1);
 }
 
+TEST_F(Covers, AreNotTakenOverByADisplayThatMovesIntoTheGap) {
+    list.screensChanged({left, right});
+    list.targetWindowControllerForScreen(left).showWindow();
+    list.screensChanged({{.displayID = right.displayID, .frame = left.frame}});
+    EXPECT_EQ(list.existingTargetWindowControllerForScreen({right.displayID, left.frame}), nullptr);
+}
+
 TEST_F(Covers, MayBeDismissedFromCloseCallback) {
     TQTargetWindowController& first = list.targetWindowControllerForScreen(left);
     TQTargetWindowController& second = list.targetWindowControllerForScreen(right);

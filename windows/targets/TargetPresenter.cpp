@@ -32,6 +32,7 @@ TargetPresenter::TargetPresenter(DisplayService& service, PreferencesStore& pref
     _labelTimer.setSingleShot(true);
     _labelTimer.setInterval(labelTime);
     _labelTimer.callOnTimeout([this] { _labels.clear(); });
+    TargetPresenter::displaysChanged();
 }
 
 TargetScreen TargetPresenter::screenOf(DisplayID display) const {
