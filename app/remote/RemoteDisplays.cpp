@@ -164,9 +164,9 @@ void RemoteDisplays::carryOut(const std::string& referenceID, const RemoteOrder&
 void RemoteDisplays::setCurve(KVScreen& screen,
                               const std::shared_ptr<TQExtendedGammaCurve>& curve) const {
     // Companions resend, because nothing confirms delivery. A repeat is not an edit, but the ramp
-    // may have been replaced in the meantime.
-    if (!tableOf(screen) && compactArrayOf(screen) == curve->gammaCurveCompactArray()) {
-        screen.setGammaCurve(curve);
+    // may have been replaced in the meantime. Of a table, the closest curve was announced.
+    if (compactArrayOf(screen) == curve->gammaCurveCompactArray()) {
+        screen.setGammaCurve(tableOf(screen) ? screen.gammaCurve() : curve);
         return;
     }
     _reactions.willEdit();

@@ -2,7 +2,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <fstream>
+
+#include "colourfiles/ExportedTable.h"
 #include "tests/app/ControllerBench.h"
+#include "tests/support/ScratchFolder.h"
 
 namespace tonquil {
 namespace {
@@ -68,6 +72,24 @@ TEST_F(Remote, AppliesNetworkCurveAsOneEdit) {
     bench.controller().undo();
     EXPECT_EQ(bench.red(left), 0) << "A repeated order is no second edit.";
     EXPECT_THAT(bench.network.sent, IsEmpty());
+}
+
+TEST_F(Remote, KeepsTableWhoseAnnouncedCurveComesBack) {
+    const ScratchFolder folder;
+    GammaTable steps;
+    for (std::size_t slot = 0; slot < GammaTable::capacity; ++slot) {
+        steps.channel(0)[slot] = steps.channel(1)[slot] = steps.channel(2)[slot] =
+            slot < 100 ? 0.1F : 0.8F;
+    }
+    const auto bytes = exportedTable(ExportFormat::Cal, steps, GammaTable::capacity, {}).value();
+    const auto file = folder.path() / "steps.cal";
+    std::ofstream(file, std::ios::binary) << std::string(bytes.begin(), bytes.end());
+    bench.controller().openFile(file);
+    bench.loop.runPosted();
+    const int stepped = bench.firstEntry(left);
+    setStateInPeace(left, {{"gamma", info(left)["gamma"]}, {"content", "colorTargets"}});
+    EXPECT_EQ(bench.firstEntry(left), stepped);
+    EXPECT_TRUE(bench.controller().canMakeEditable()) << "It is still a table.";
 }
 
 TEST_F(Remote, IgnoresCurvesOutOfRange) {
