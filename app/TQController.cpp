@@ -293,8 +293,8 @@ Result<void> TQController::takeCurves(const HandedCurves& curves) {
             setApplyCorrection(true);
         }
     }
-    for (const auto& screen : _with.registry.screens()) {
-        const auto description = _with.service.description(screen->directDisplayID());
+    for (const DisplayID display : _with.service.onlineDisplays(ScreenRegistry::mostScreens)) {
+        const auto description = _with.service.description(display);
         if (curves.contains(description.connector) && !description.obstacle.empty()) {
             return problem(description.connector + ": " + description.obstacle);
         }

@@ -121,7 +121,8 @@ Result<void> hold(const Curves& curves, const Arguments& arguments, DisplayServi
     std::vector<DisplayID> displays;
     for (const auto& screen : registry.screens()) {
         if (screen->gammaCurve()) {
-            displays.push_back(screen->directDisplayID());
+            const auto all = screen->displayIDs();
+            displays.insert(displays.end(), all.begin(), all.end());
         }
     }
     service.restoreSystemCalibration(displays);

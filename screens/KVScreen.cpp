@@ -25,6 +25,19 @@ void KVScreen::_setDirectDisplayID(DisplayID display) {
     _connector = _service.description(display).connector;
 }
 
+std::vector<DisplayID> KVScreen::displayIDs() const {
+    std::vector<DisplayID> displays = _otherDisplayIDs;
+    displays.insert(displays.begin(), _directDisplayID);
+    return displays;
+}
+
+bool KVScreen::isNamed(std::string_view name) const {
+    return name == referenceID() || name == _connector ||
+           std::ranges::any_of(_otherDisplayIDs, [&](DisplayID display) {
+               return _service.description(display).connector == name;
+           });
+}
+
 std::string KVScreen::twinReferenceID() const {
     return twinReferenceIDFor(referenceID(), _connector);
 }

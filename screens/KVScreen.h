@@ -40,6 +40,8 @@ class KVScreen : public CurveScreen {
     [[nodiscard]] DisplayID directDisplayID() const { return _directDisplayID; }
     /// Binds the screen to its display's new ID; everything else is unchanged.
     void _setDirectDisplayID(DisplayID display);
+    /// All displays that it stands for.
+    [[nodiscard]] std::vector<DisplayID> displayIDs() const;
     /// Further displays that get the same tables.
     void setOtherDisplayIDs(std::vector<DisplayID> displays) {
         _otherDisplayIDs = std::move(displays);
@@ -54,10 +56,8 @@ class KVScreen : public CurveScreen {
     [[nodiscard]] std::array<std::string, 3> keys() const {
         return {twinReferenceID(), referenceID(), oldReferenceID()};
     }
-    /// Whether `name` means this display for a user: its reference ID or its connector.
-    [[nodiscard]] bool isNamed(std::string_view name) const {
-        return name == referenceID() || name == _connector;
-    }
+    /// Whether `name` means this display for a user: its reference ID or a connector of it.
+    [[nodiscard]] bool isNamed(std::string_view name) const;
     /// The platform screen of this display; null while there is none. Cached once found.
     [[nodiscard]] std::shared_ptr<const PlatformScreen> nsscreen();
 

@@ -35,12 +35,17 @@ bool EditHistory::step(std::vector<Step>& from, std::vector<Step>& to) {
     }
     Step step = std::move(from.back());
     from.pop_back();
-    for (auto& [screen, curve] : step) {
-        // Each undo leaves the replaced curve in the step, for redo, and the other way round.
-        KVScreen::CurvePointer present = screen->gammaCurve();
-        screen->setGammaCurve(std::exchange(curve, std::move(present)));
+    // Each undo leaves the replaced curves for redo, and the other way round. They are all taken
+    // first: a screen that twins share is there twice.
+    Step replaced;
+    replaced.reserve(step.size());
+    for (const auto& [screen, curve] : step) {
+        replaced.emplace_back(screen, screen->gammaCurve());
     }
-    to.push_back(std::move(step));
+    for (auto& [screen, curve] : step) {
+        screen->setGammaCurve(std::move(curve));
+    }
+    to.push_back(std::move(replaced));
     return true;
 }
 

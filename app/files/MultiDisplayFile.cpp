@@ -30,17 +30,26 @@ PropertyValue MultiDisplayFile::allScreensDictionary() const {
     return allScreens;
 }
 
+std::shared_ptr<KVGammaCurve> MultiDisplayFile::curveFor(const KVScreen& screen) const {
+    for (const std::string& key : screen.keys()) {
+        if (const auto found = _curves.find(key); found != _curves.end()) {
+            return found->second;
+        }
+    }
+    return nullptr;
+}
+
+ScreenRegistry::Screens MultiDisplayFile::matchingScreens(ScreenRegistry& registry) const {
+    ScreenRegistry::Screens screens = registry.sightedScreens();
+    std::erase_if(screens, [this](const auto& screen) { return curveFor(*screen) == nullptr; });
+    return screens;
+}
+
 std::size_t MultiDisplayFile::applyTo(ScreenRegistry& registry) const {
     const ScreenRegistry::Screens attached = registry.screens();
     std::size_t count = 0;
-    for (const auto& screen : registry.sightedScreens()) {
-        const auto keys = screen->keys();
-        const auto* const key =
-            std::ranges::find_if(keys, [this](const auto& each) { return _curves.contains(each); });
-        if (key == keys.end()) {
-            continue;
-        }
-        screen->setGammaCurve(_curves.at(*key));
+    for (const auto& screen : matchingScreens(registry)) {
+        screen->setGammaCurve(curveFor(*screen));
         screen->applyGammaCurve();
         count += std::find(attached.begin(), attached.end(), screen) != attached.end() ? 1 : 0;
     }

@@ -21,8 +21,9 @@ class MultiDisplayFile {
 
     /// The curves as an all-screens dictionary, in the current format.
     [[nodiscard]] PropertyValue allScreensDictionary() const;
-    /// Assigns and applies to each sighted screen its curve, found by the first of its keys that
-    /// the file has. Returns how many of those screens are attached.
+    /// The sighted screens that it has curves for.
+    [[nodiscard]] ScreenRegistry::Screens matchingScreens(ScreenRegistry& registry) const;
+    /// Assigns and applies to each of them its curve. Returns how many of them are attached.
     [[nodiscard]] std::size_t applyTo(ScreenRegistry& registry) const;
 
     /// Builds the contents of a file with the curves of the attached displays. Each curve is stored
@@ -32,6 +33,9 @@ class MultiDisplayFile {
     [[nodiscard]] static PropertyValue contentsFor(ScreenRegistry& registry);
 
  private:
+    /// Found by the first of the screen's keys that the file has; null without one.
+    [[nodiscard]] std::shared_ptr<KVGammaCurve> curveFor(const KVScreen& screen) const;
+
     std::map<std::string, std::shared_ptr<KVGammaCurve>> _curves;
 };
 

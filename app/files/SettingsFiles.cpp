@@ -92,7 +92,9 @@ bool SettingsFiles::openSettings(const MultiDisplaySettings& settings) {
                                                         "many more displays."),
                                .detail = {}});
         }
-        _with.editing.willEdit(_with.registry.sightedScreens(), editSubject::openedFile);
+        if (const auto meant = file.matchingScreens(_with.registry); !meant.empty()) {
+            _with.editing.willEdit(meant, editSubject::openedFile);
+        }
         const std::size_t count = file.applyTo(_with.registry);
         _with.storage.storeCurves(curves);
         if (count == 0) {

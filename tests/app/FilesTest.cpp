@@ -103,6 +103,10 @@ TEST_F(Files, ForUnpluggedDisplaysAreReportedAndKept) {
     EXPECT_THAT(bench.dialogs.alerts, ElementsAre("No Matching Screens"));
     EXPECT_EQ(bench.red(left), 0.125F);
     EXPECT_EQ(bench.red(right), 0.5F) << "It was here earlier in this run.";
+    open(fileWith(PropertyValue{{"Format", 1}, {"Screens", {{"9-9-9", curve(0.25F)}}}}));
+    bench.controller().undo();
+    EXPECT_EQ(bench.red(right), 0) << "A file that matches nothing is no step.";
+    bench.controller().redo();
     EXPECT_THAT(bench.controller().recentFiles(), IsEmpty());
     bench.desk.plug(ControllerBench::makeDisplay(right, 1000));
     bench.controller().applicationWillTerminate();
@@ -338,6 +342,25 @@ TEST_F(Twins, PluggedInOneByOneShareCurveAndLoseNothing) {
     plug(right);
     editAndCrash(left, 0.75F);
     EXPECT_EQ(reds(), std::pair(0.75F, 0.75F)) << "Edited together.";
+
+    bench.desk.unplug(right);
+    restart();
+    plug(right);
+    bench.set("AffectAllScreens", true);
+    const int before = bench.firstEntry(left);
+    bench.edit(PanelSlider::BlackRed, 0.125F);
+    const int edited = bench.firstEntry(left);
+    for (int count = 0; count < 2; ++count) {
+        bench.controller().undo();
+        EXPECT_EQ(bench.firstEntry(left), before);
+        bench.controller().redo();
+        EXPECT_EQ(bench.firstEntry(left), edited) << "A shared screen is in a step twice.";
+    }
+    for (const char* const connector : {"DP-1", "DP-2"}) {
+        HandedCurves handed;
+        handed[connector] = std::make_shared<TQExtendedGammaCurve>();
+        EXPECT_TRUE(bench.controller().takeCurves(handed)) << connector;
+    }
 }
 
 }  // namespace
