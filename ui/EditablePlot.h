@@ -27,6 +27,8 @@ class EditablePlot : public CurvePlot {
     void setGripChanged(std::function<void(const Grip&, bool isHeld)> changed) {
         _gripChanged = std::move(changed);
     }
+    /// Ends a drag although the mouse button is down.
+    void letGo();
     /// Called with the level, 0 to 1, that the grabbed point is dragged to.
     void setDragged(std::function<void(const Grip&, double level)> dragged) {
         _dragged = std::move(dragged);
@@ -53,7 +55,6 @@ class EditablePlot : public CurvePlot {
     [[nodiscard]] std::optional<PlotHandles> handles() const;
     [[nodiscard]] std::optional<Grip> gripAt(const QPointF& pointer) const;
     void drawReadout(QPainter& painter) const;
-    void letGo();
     void setSpaceBarDown(bool isDown);
 
     /// Where the pointer hovers.

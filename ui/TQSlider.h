@@ -61,9 +61,11 @@ class TQSlider : public QWidget {
     void sendAction();
 
     /// Called when the mouse button is pressed on the slider, before the value changes, and when it
-    /// is released, or the slider is hidden or disabled; `isInteracting` tells which.
+    /// is released, or the slider is hidden, disabled or let go; `isInteracting` tells which.
     void setInteractionChanged(Action changed) { _interactionChanged = std::move(changed); }
     [[nodiscard]] bool isInteracting() const { return _isInteracting; }
+    /// Ends a drag although the mouse button is down.
+    void letGo() { setInteracting(false); }
 
     [[nodiscard]] Channel channel() const { return _channel; }
     /// Draws the fill in the channel's colour of the current theme; `None` uses `cell().color()`.

@@ -32,9 +32,13 @@ void PanelView::panelMoved() {
 
 void PanelView::_changeScreen() {
     _with.history.endStep();
-    // Uncommitted typing was meant for the previous display.
+    // Uncommitted typing was meant for the previous display, and so was a drag.
     _with.controls.revertTyping();
+    const auto before = _displayUnderPanel;
     rememberDisplay();
+    if (_displayUnderPanel != before) {
+        _with.controls.letGo();
+    }
     _setControlsEnabled(_areControlsEnabled);
     _updateCurveInPanel();
 }

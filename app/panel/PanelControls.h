@@ -32,6 +32,8 @@ class PanelControls {
     virtual void setValues(const PanelValues& values) = 0;
     /// Discards uncommitted text in a number field.
     virtual void revertTyping() = 0;
+    /// Ends a drag of a slider or of the plot although the pointer's button is down.
+    virtual void letGo() = 0;
     /// Moves one slider, clamped to its range.
     virtual void setSlider(PanelSlider slider, float value) = 0;
     /// Shows no mode if the panel does not know `blendingMode`.

@@ -30,6 +30,7 @@ class RecordedPanel final : public PanelControls, public PanelWindow {
     [[nodiscard]] PanelValues values() const override { return shown; }
     void setValues(const PanelValues& values) override { shown = values; }
     void revertTyping() override {}
+    void letGo() override { _journal.emplace_back("let go"); }
     void setSlider(PanelSlider slider, float value) override { shown[slider] = value; }
     void selectBlendingMode(std::int32_t mode) override { shown.blendingMode = mode; }
     void updateTouchBarSlider() override {}

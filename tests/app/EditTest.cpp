@@ -244,7 +244,10 @@ TEST_F(Correction, ShowsUncorrectedDisplaysOnlyWhileCompared) {
 TEST_F(Correction, StaysOffForDisplayUnpluggedDuringSwitch) {
     bench.movePanel(1100);
     bench.edit(PanelSlider::BlackRed, 0.25F);
+    bench.journal.clear();
     bench.desk.unplug(right);
+    EXPECT_THAT(bench.journal, testing::Contains("let go"))
+        << "A drag is no edit of the other display.";
     bench.controller().setApplyCorrection(false);
     bench.desk.plug(ControllerBench::makeDisplay(right, 1000));
     bench.panel.place.x = 1100;

@@ -181,6 +181,10 @@ void ChannelStrip::valuePickerSelectionChanged(int segment) {
     updateTouchBarForResponder(_responder);
 }
 
+void ChannelStrip::letGo() {
+    _slider->letGo();
+}
+
 void ChannelStrip::_setControlsEnabled(bool enabled) {
     _areControlsEnabled = enabled;
     const bool hasChannel = _sliders.channelForResponder(_responder) != Channel::None;

@@ -35,6 +35,7 @@ class ChannelStrip : public QWidget {
     void updateTouchBarSlider();
     void showTab(int tab) { updateTouchBarChannelImagesForTab(tab); }
     void _setControlsEnabled(bool enabled);
+    void letGo();
 
  protected:
     void changeEvent(QEvent* event) override;

@@ -180,6 +180,12 @@ void ControlPanel::_setControlsEnabled(bool enabled) {
     }
 }
 
+void ControlPanel::letGo() {
+    _contents->sliders.letGo();
+    _contents->channelStrip->letGo();
+    _contents->plot->letGo();
+}
+
 void ControlPanel::showCorrection(bool isOn) {
     _isCorrected = isOn;
     _contents->applyCorrectionBox->setChecked(isOn);

@@ -44,6 +44,7 @@ class ControlPanel final : public QWidget, public PanelControls, public PanelWin
     [[nodiscard]] PanelValues values() const override;
     void setValues(const PanelValues& values) override;
     void revertTyping() override { _contents->sliders.revertTyping(); }
+    void letGo() override;
     void setSlider(PanelSlider slider, float value) override;
     void selectBlendingMode(std::int32_t blendingMode) override;
     void updateTouchBarSlider() override;

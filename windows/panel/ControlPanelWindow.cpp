@@ -109,6 +109,7 @@ bool ControlPanel::event(QEvent* event) {
     } else if (event->type() == QEvent::WindowBlocked) {
         // The release goes to the window in front.
         endComparison();
+        letGo();
     }
     return QWidget::event(event);
 }

@@ -230,6 +230,12 @@ void PanelSliders::revertTyping() {
     }
 }
 
+void PanelSliders::letGo() {
+    for (const Row& row : _rows) {
+        row.slider->letGo();
+    }
+}
+
 void PanelSliders::setEnabled(bool enabled) {
     for (const Row& row : _rows) {
         row.label->setEnabled(enabled);

@@ -54,6 +54,7 @@ class PanelSliders {
     /// range grows to hold a value beyond it. Not-a-number shows as neutral.
     void setValues(const PanelValues& values);
     void revertTyping();
+    void letGo();
     void setEnabled(bool enabled);
     /// Called with the slider that the user moved.
     void setAction(const std::function<void(PanelSlider)>& action);
