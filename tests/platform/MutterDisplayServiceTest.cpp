@@ -135,6 +135,11 @@ TEST_P(CalibratedMutterDisplays, OpenASessionAgainThatWasNotReadyOrIsStopped) {
     loop.advance(1s);
     loop.pollReadable(20ms);
     EXPECT_TRUE(isGivenBack()) << "off";
+    correct();
+    service->restoreSystemCalibration();
+    correct();
+    EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+    EXPECT_TRUE(log.empty()) << "our own session is nobody else's";
 }
 
 TEST_P(CalibratedMutterDisplays, AreNotBarredByAnotherProgramOnceTheyAreGivenBack) {
