@@ -25,7 +25,8 @@ void KdeCorrection::see(const KdeOutput* output, kde_output_management_v2* manag
         _reported = properties.edid->primaries.value_or(Primaries{});
     }
     if (_present != properties.choice) {
-        adopt(properties.choice);
+        // If their choice cannot be read now, it is read again before anything is sent.
+        static_cast<void>(adopt(properties.choice));
     }
     if (std::exchange(_isHdr, properties.isHdr) != properties.isHdr && !_obstacle.empty()) {
         // The compositor may think otherwise now.
@@ -40,25 +41,32 @@ void KdeCorrection::see(const KdeOutput* output, kde_output_management_v2* manag
 }
 
 // Ours is never taken for theirs, not even if nothing is left that says what theirs was.
-void KdeCorrection::adopt(const KdeProfileChoice& present) {
-    const bool isFirst = !_present;
+Result<void> KdeCorrection::adopt(const KdeProfileChoice& present) {
     _present = present;
     const bool isOurFile = _with.files.isOurs(present.path);
     _isOursPresent = isOurFile && present.source == KdeProfileChoice::file;
     KdeProfileChoice theirs = present;
     if (isOurFile) {
-        const KdeProfileChoice before =
-            isFirst ? _with.files.choiceUnder(present.path).value_or(KdeProfileChoice{}) : _theirs;
+        KdeProfileChoice before = _theirs;
+        if (!_isTheirsKnown) {
+            const auto noted = _with.files.choiceUnder(present.path);
+            if (!noted) {
+                readCalibration();
+                return tl::unexpected(noted.error());
+            }
+            before = noted->value_or(KdeProfileChoice{});
+        }
         theirs.path = before.path;
         // Somebody may have changed the source alone.
         theirs.source = _isOursPresent ? before.source : present.source;
     }
-    if (isFirst || theirs != _theirs) {
+    if (!std::exchange(_isTheirsKnown, true) || theirs != _theirs) {
         _theirs = std::move(theirs);
         readCalibration();
         // It will be sent once there is a ramp for the new base.
         _isSent = _isSent && _wanted != Wanted::Corrected;
     }
+    return {};
 }
 
 const HardwareRamp& KdeCorrection::readCalibration() {
@@ -120,17 +128,16 @@ void KdeCorrection::send() {
         }
         _earliest = now + shortestInterval;
     }
+    const auto prepared = prepare();
     _isSent = true;
-    const bool isOurs = _wanted == Wanted::Corrected;
-    if (isOurs) {
-        if (const auto prepared = prepare(); !prepared) {
-            tryAgainOr(
-                TONQUIL_TEXT("Problem", "The colour profile with the correction cannot be saved."),
-                prepared.error().sentence);
-            return;
-        }
-        _isOursSent = true;
+    if (!prepared) {
+        tryAgainOr(
+            TONQUIL_TEXT("Problem", "The colour profile with the correction cannot be saved."),
+            prepared.error().sentence);
+        return;
     }
+    const bool isOurs = _wanted == Wanted::Corrected;
+    _isOursSent = _isOursSent || isOurs;
     _underway = std::make_unique<KdeConfiguration>(
         _management, _output->get(),
         isOurs ? KdeProfileChoice{.path = _path, .source = KdeProfileChoice::file} : _theirs,
@@ -141,8 +148,17 @@ void KdeCorrection::send() {
 // The note is on the disk before the compositor hears of our profile. A program that is killed at
 // any moment leaves either their profile in force, or ours and the note.
 Result<void> KdeCorrection::prepare() {
+    if (!_isTheirsKnown) {
+        if (auto adopted = adopt(*_present); !adopted) {
+            return adopted;
+        }
+    }
+    if (_wanted != Wanted::Corrected) {
+        return {};
+    }
     if (!_noted) {
-        _noted = _with.files.choiceUnder(_path);
+        // Theirs is known here, so a note that cannot be read may be replaced.
+        _noted = _with.files.choiceUnder(_path).value_or(std::nullopt);
     }
     if (_noted != _theirs) {
         if (auto noted = _with.files.note(_path, _theirs); !noted) {

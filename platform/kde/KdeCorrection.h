@@ -66,7 +66,8 @@ class KdeCorrection {
  private:
     enum class Wanted : std::uint8_t { AsFound, Corrected, Theirs };
 
-    void adopt(const KdeProfileChoice& present);
+    /// A problem, and nothing known of their choice, where it is noted but cannot be read now.
+    [[nodiscard]] Result<void> adopt(const KdeProfileChoice& present);
     void send();
     [[nodiscard]] Result<void> prepare();
     void answered(bool isOurs, bool isApplied);
@@ -84,6 +85,8 @@ class KdeCorrection {
     bool _isOursPresent = false;
     bool _isHdr = false;
     KdeProfileChoice _theirs;
+    /// Until it is, nothing is set: neither the note nor the compositor may lose their choice.
+    bool _isTheirsKnown = false;
     /// The colours that the display says it has.
     Primaries _reported;
     KdeBase _base;

@@ -2,6 +2,7 @@
 #include "platform/kde/KdeProfileFiles.h"
 
 #include <span>
+#include <system_error>
 
 #include "colourfiles/IccReader.h"
 #include "colourfiles/IccWriter.h"
@@ -72,10 +73,20 @@ bool KdeProfileFiles::isOurs(const std::string& path) const {
     return bytes && isCorrectionProfile(*bytes);
 }
 
-std::optional<KdeProfileChoice> KdeProfileFiles::choiceUnder(const std::string& path) const {
-    const auto bytes = readBoundedFile(noteFor(path), PropertyListBudget{}.mostBytes);
-    const auto noted = bytes ? readPropertyList(*bytes) : tl::unexpected(bytes.error());
-    if (!noted) {
+Result<std::optional<KdeProfileChoice>> KdeProfileFiles::choiceUnder(
+    const std::string& path) const {
+    const fs::path note = noteFor(path);
+    const auto beginning = readFileBeginning(note, PropertyListBudget{}.mostBytes);
+    if (!beginning) {
+        std::error_code error;
+        const fs::file_status status = fs::status(note, error);
+        if (fs::is_regular_file(status) || !fs::status_known(status)) {
+            return tl::unexpected(beginning.error());
+        }
+        return std::nullopt;
+    }
+    const auto noted = readPropertyList(beginning->bytes);
+    if (!beginning->isWhole || !noted) {
         return std::nullopt;
     }
     auto chosen = pathFromValue(entry(*noted, pathKey));

@@ -40,8 +40,10 @@ class KdeProfileFiles {
     /// Whether a profile is one of ours: by its place or, wherever it is, by its mark.
     [[nodiscard]] bool isOurs(const std::string& path) const;
     /// The person's choice that is noted for our profile at `path`. Nothing where the note is
-    /// missing or cannot be used.
-    [[nodiscard]] std::optional<KdeProfileChoice> choiceUnder(const std::string& path) const;
+    /// missing or damaged; a problem where it cannot be read now, such as for lack of file
+    /// descriptors, but may be later.
+    [[nodiscard]] Result<std::optional<KdeProfileChoice>> choiceUnder(
+        const std::string& path) const;
     /// What a choice that is not ours means for a display that reports these primaries; a file that
     /// is no profile of a display means the same to the compositor as none.
     [[nodiscard]] static KdeBase base(const KdeProfileChoice& choice, const Primaries& reported);

@@ -108,17 +108,37 @@ void CalibrationSessions::open(Session& session) {
     session.isOpening = true;
     session.isRampUnsent = true;
     session.attempt = ++_attempts;
+    ask(session);
+}
+
+// One at a time: what an abandoned attempt is granted must be stopped first, or the compositor
+// refuses the next one as it would another program's.
+void CalibrationSessions::ask(const Session& session) {
+    if (!_asked.insert(session.connector).second) {
+        return;
+    }
     _host.bus.ask(
         {colorManager, colorManagerPath, colorManager, "CalibrateMonitor"}, {session.connector},
         [this, connector = session.connector, attempt = session.attempt](BusArguments& arguments) {
+            _asked.erase(connector);
             opened(connector, attempt, arguments.text());
         },
         [this, connector = session.connector,
          attempt = session.attempt](const std::string& reason) {
+            _asked.erase(connector);
             if (Session* const asked = find(connector, attempt)) {
                 refused(*asked, reason);
+            } else {
+                askAfterAbandoned(connector);
             }
         });
+}
+
+void CalibrationSessions::askAfterAbandoned(const std::string& connector) {
+    const auto found = _sessions.find(connector);
+    if (found != _sessions.end() && found->second.isOpening) {
+        ask(found->second);
+    }
 }
 
 void CalibrationSessions::opened(const std::string& connector, std::uint64_t attempt,
@@ -126,6 +146,7 @@ void CalibrationSessions::opened(const std::string& connector, std::uint64_t att
     Session* const session = find(connector, attempt);
     if (session == nullptr) {
         stop(path);
+        askAfterAbandoned(connector);
         return;
     }
     session->path = path;

@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -52,6 +53,8 @@ class CalibrationSessions final : public MutterGamma {
 
     [[nodiscard]] Session* find(const std::string& connector, std::uint64_t attempt);
     void open(Session& session);
+    void ask(const Session& session);
+    void askAfterAbandoned(const std::string& connector);
     void opened(const std::string& connector, std::uint64_t attempt, const std::string& path);
     void sizeKnown(Session& session, std::uint32_t size);
     void refused(Session& session, const std::string& reason);
@@ -64,6 +67,8 @@ class CalibrationSessions final : public MutterGamma {
     Host _host;
     std::uint64_t _attempts = 0;
     std::size_t _stopsDue = 0;
+    /// The monitors for which the compositor owes an answer to an attempt, even an abandoned one.
+    std::set<std::string> _asked;
     std::map<std::string, Session> _sessions;
 };
 

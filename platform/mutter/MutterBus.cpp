@@ -42,11 +42,14 @@ void MutterBus::watchMonitors(std::function<void()> changed) {
         [this](BusArguments&) { _lost("The Wayland compositor has gone."); });
 }
 
-void MutterBus::askForMonitors(std::function<void(MutterLayout)> answered) {
-    _connection.ask({monitorService, monitorServicePath, monitorService, "GetCurrentState"}, {},
-                    [answered = std::move(answered)](BusArguments& state) {
-                        answered(readMutterLayout(state));
-                    });
+void MutterBus::askForMonitors(std::function<void(MutterLayout)> answered,
+                               std::function<void()> failed) {
+    _connection.ask(
+        {monitorService, monitorServicePath, monitorService, "GetCurrentState"}, {},
+        [answered = std::move(answered)](BusArguments& state) {
+            answered(readMutterLayout(state));
+        },
+        std::move(failed));
 }
 
 }  // namespace tonquil

@@ -30,8 +30,8 @@ class MutterBus {
 
     /// Calls back whenever something about the monitors has changed.
     void watchMonitors(std::function<void()> changed);
-    /// Calls back with what the monitors are now; not at all if the compositor fails to say.
-    void askForMonitors(std::function<void(MutterLayout)> answered);
+    /// Calls back with what the monitors are now, or `failed` if the compositor fails to say.
+    void askForMonitors(std::function<void(MutterLayout)> answered, std::function<void()> failed);
 
     [[nodiscard]] BusConnection& connection() { return _connection; }
 

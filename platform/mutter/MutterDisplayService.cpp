@@ -123,13 +123,23 @@ void MutterDisplayService::monitorsChanged() {
 }
 
 void MutterDisplayService::askForLayout() {
+    _retry.reset();
     const bool haveChanged = std::exchange(_haveMonitorsChanged, false);
-    _bus.askForMonitors([this, haveChanged](MutterLayout layout) {
-        _isLayoutKnown = true;
-        if (haveChanged || layout != _layout) {
-            takeLayout(std::move(layout));
-        }
-    });
+    _bus.askForMonitors(
+        [this, haveChanged](MutterLayout layout) {
+            _isLayoutKnown = true;
+            if (haveChanged || layout != _layout) {
+                takeLayout(std::move(layout));
+            }
+        },
+        [this, haveChanged] {
+            _haveMonitorsChanged = _haveMonitorsChanged || haveChanged;
+            // Apart from the quiet time, so that a change that comes sooner does not wait for this.
+            if (_with.runLoop != nullptr && !_isLost) {
+                _retry =
+                    _with.runLoop->callOnce(MutterGamma::retryInterval, [this] { askForLayout(); });
+            }
+        });
 }
 
 void MutterDisplayService::takeLayout(MutterLayout layout) {
@@ -341,6 +351,7 @@ void MutterDisplayService::connectionLost(const std::string& sentence) {
         return;
     }
     _quiet.reset();
+    _retry.reset();
     _announcement.reset();
     _news.reset();
     if (_with.lost) {

@@ -125,6 +125,7 @@ class MutterDisplayService final : public ListedDisplayService {
     std::unique_ptr<MutterGamma> _gamma;
     std::unique_ptr<RunLoop::Handle> _started;
     std::unique_ptr<RunLoop::Handle> _quiet;
+    std::unique_ptr<RunLoop::Handle> _retry;
     std::unique_ptr<RunLoop::Handle> _announcement;
     std::unique_ptr<RunLoop::Handle> _news;
 };

@@ -89,6 +89,27 @@ TEST_F(KdeDisplays, LeavesToOthersWhatTheyCorrectWhileItDoesNot) {
     EXPECT_EQ(compositor.changes(), before);
 }
 
+TEST_F(KdeDisplays, KeepsThePersonsChoiceThroughAStartThatCannotReadIt) {
+    namespace fs = std::filesystem;
+    const fs::path note = fs::path(compositor.choice("DP-1").first).replace_extension(".plist");
+    const fs::path aside = folder.path() / "aside";
+    for (const bool isCorrectedAgain : {true, false}) {
+        service.reset();
+        fs::rename(note, aside);
+        fs::create_symlink(note, note);
+        open({.state = note.parent_path()});
+        if (!isCorrectedAgain) {
+            subscription.reset();
+            service->restoreSystemCalibration();
+        }
+        EXPECT_TRUE(comesTrue([&] { return isObstructed(); }));
+        fs::rename(aside, note);
+        EXPECT_TRUE(comesTrue([&] { return !isObstructed(); }));
+        EXPECT_EQ(base(), 1000);
+        EXPECT_EQ(compositor.choice("DP-1") != theirs, isCorrectedAgain);
+    }
+}
+
 TEST_F(KdeDisplays, SendsAtMost15ChangesASecondAndTheLastOneAlways) {
     const auto slide = [&](std::chrono::milliseconds time) {
         for (auto end = loop.now() + time; loop.now() < end; loop.advance(5ms)) {

@@ -135,6 +135,11 @@ TEST_P(CalibratedMutterDisplays, OpenASessionAgainThatWasNotReadyOrIsStopped) {
     loop.advance(1s);
     loop.pollReadable(20ms);
     EXPECT_TRUE(isGivenBack()) << "off";
+    correct();
+    service->restoreSystemCalibration();
+    correct();
+    EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); }));
+    EXPECT_TRUE(log.empty()) << "our own session is nobody else's";
 }
 
 TEST_P(CalibratedMutterDisplays, AreNotBarredByAnotherProgramOnceTheyAreGivenBack) {
@@ -242,6 +247,8 @@ TEST_P(MutterDisplays, AreCorrectedAfterAStormOfChanges) {
     EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1") && isCorrected("DP-2"); }));
     EXPECT_EQ(service->mainDisplay(), first);
     EXPECT_EQ(service->bounds(first), (Rectangle{0, 0, 1920, 1080})) << "of 3840 at a scale of 2";
+    desk.tell("(desk.monitors['DP-1'].release(), setattr(desk, 'failures', 1), desk.change())");
+    EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); })) << "asked again";
 }
 
 TEST_P(MutterDisplays, TellOfANewCalibrationAndSendOnlyTheLastOfManyEdits) {

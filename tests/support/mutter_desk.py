@@ -51,7 +51,7 @@ class Monitor:
 class Desk(dbus.service.FallbackObject):
     def __init__(self, bus):
         super().__init__(bus, "/")
-        self.monitors, self.serial, self.count = {}, 1, 0
+        self.monitors, self.serial, self.count, self.failures = {}, 1, 0, 0
         self.night = dbus.Dictionary(
             {"Temperature": dbus.UInt32(4000), "NightLightActive": False}, signature="sv")
         bus.add_signal_receiver(self.name_left, "NameOwnerChanged", arg2="")
@@ -114,6 +114,9 @@ class Desk(dbus.service.FallbackObject):
     # The compositor.
     @dbus.service.method(CONFIG, "", "ua((ssss)a(siiddada{sv})a{sv})a(iiduba(ssss)a{sv})a{sv}")
     def GetCurrentState(self):
+        if self.failures > 0:
+            self.failures -= 1
+            raise dbus.DBusException("There is no such state")
         modes = [("small", 640, 480, 60.0, 1.0, [], EMPTY),
                  ("large", 3840, 2160, 60.0, 2.0, [1.0, 2.0], {"is-current": True})]
         spec = {name: (name, "GSM", "Model", "0x00000007") for name in self.monitors}
