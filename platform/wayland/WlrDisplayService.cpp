@@ -268,6 +268,8 @@ void WlrDisplayService::takeEvents() {
     if (_connection->isLost()) {
         connectionLost();
     }
+    // An output that came has been bound and its gamma control asked for.
+    _connection->flush();
 }
 
 void WlrDisplayService::connectionLost() {
