@@ -78,6 +78,10 @@ class PortalHotKeys : public testing::Test {
                         if (failing == "BindShortcuts") {
                             return QVariant();
                         }
+                        if (isDialogCancelled) {
+                            close();
+                            isGranted = false;
+                        }
                         bound.emplace_back();
                         const auto list = qdbus_cast<QList<NamedOptions>>(arguments.at(1));
                         for (const NamedOptions& each : list) {
@@ -103,6 +107,10 @@ class PortalHotKeys : public testing::Test {
                        {isGranted ? 0U : 1U, results});
         return QVariant::fromValue(QDBusObjectPath(path));
     }
+    void close() {
+        bus.emitSignal(session.c_str(), "org.freedesktop.portal.Session", "Closed",
+                       {QVariantMap()});
+    }
     void key(const char* signal, const char* action, qulonglong time, const char* in = nullptr) {
         bus.emitSignal(desktop, "org.freedesktop.portal.GlobalShortcuts", signal,
                        {QVariant::fromValue(
@@ -124,6 +132,7 @@ class PortalHotKeys : public testing::Test {
     std::string session;
     int sessions = 0;
     bool isGranted = true;
+    bool isDialogCancelled = false;
     std::string failing;
     std::vector<QString> bound;
     PortalHotKeyService service{{.runLoop = loop,
@@ -200,10 +209,6 @@ TEST_F(PortalHotKeys, AreAskedForOnceMoreAfterAFailureButNotAfterARefusal) {
         loop.advance(pause);
         ASSERT_TRUE(until(hasKeys)) << method;
     }
-    const auto close = [&] {
-        bus.emitSignal(session.c_str(), "org.freedesktop.portal.Session", "Closed",
-                       {QVariantMap()});
-    };
     close();
     ASSERT_TRUE(until([&] { return !hasKeys(); }));
     loop.advance(pause);
@@ -218,10 +223,11 @@ TEST_F(PortalHotKeys, AreAskedForOnceMoreAfterAFailureButNotAfterARefusal) {
     ASSERT_TRUE(until([&] { return log.size() == 2; }));
     loop.advance(10 * pause);
     failing.clear();
-    isGranted = false;
+    isDialogCancelled = true;
     service.changeKeys();
     ASSERT_TRUE(until([&] { return log.size() == 3; }));
     loop.advance(10 * pause);
+    isDialogCancelled = false;
     isGranted = true;
     service.changeKeys();
     ASSERT_TRUE(until(hasKeys));
