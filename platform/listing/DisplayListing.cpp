@@ -24,7 +24,7 @@ DisplayID DisplayListing::idFor(const std::string& connector, const DisplayIdent
 
 void DisplayListing::announce(std::vector<ListedDisplay> displays) {
     const auto before = std::exchange(_announced, std::move(displays));
-    std::set<DisplayID> affected;
+    std::set<DisplayID> affected = std::exchange(_again, {});
     const auto addChanged = [&](const auto& those, const auto& others) {
         for (const ListedDisplay& display : those) {
             if (std::ranges::find(others, display) == others.end()) {

@@ -33,6 +33,8 @@ class DisplayListing {
     void begin(std::vector<ListedDisplay> displays) { _announced = std::move(displays); }
     /// Calls them for each display that came, went or differs.
     void announce(std::vector<ListedDisplay> displays);
+    /// Has the next `announce` call them for this display even if it is described as before.
+    void announceAgain(DisplayID display) { _again.insert(display); }
 
     /// Tells them that the display's system calibration is another one.
     void announceCalibration(DisplayID display) const {
@@ -54,6 +56,7 @@ class DisplayListing {
     Log _log;
     std::vector<KnownDisplay> _known;
     std::vector<ListedDisplay> _announced;
+    std::set<DisplayID> _again;
     ReconfigurationCallbacks _callbacks;
     std::set<DisplayID> _reported;
 };

@@ -14,6 +14,9 @@ namespace {
 constexpr const char* shortcutsInterface = "org.freedesktop.portal.GlobalShortcuts";
 constexpr const char* sessionInterface = "org.freedesktop.portal.Session";
 
+constexpr const char* refusal = "The desktop has refused to give out keys for hot keys.";
+constexpr const char* noKeys = "The desktop has given the hot keys no keys.";
+
 std::string fromPortal(const std::string& more = {}) {
     return "sender='" + std::string(PortalRequests::service) + "'" + more;
 }
@@ -99,6 +102,7 @@ void PortalHotKeyService::watchPortal() {
                    if (arguments.path() == _session) {
                        forgetSession();
                        _with.changed();
+                       repeatLater();
                    }
                });
 }
@@ -139,17 +143,18 @@ void PortalHotKeyService::portalLost() {
     _isLost = true;
     _version = 0;
     _asked.clear();
+    _repeat.reset();
     _requests.clear();
     forgetSession();
     _with.changed();
 }
 
 void PortalHotKeyService::bindSoon() {
-    _turn = _with.runLoop.callOnce(std::chrono::milliseconds(0), [this] { bind(); });
+    _turn = _with.runLoop.callOnce(std::chrono::milliseconds(0), [this] { bind(true); });
 }
 
 // The shortcuts of a session cannot be changed, so different ones need a new session.
-void PortalHotKeyService::bind() {
+void PortalHotKeyService::bind(bool mayRepeat) {
     _turn.reset();
     std::set<std::string> actions;
     for (const auto& [handle, registration] : _registrations) {
@@ -159,50 +164,58 @@ void PortalHotKeyService::bind() {
         return;
     }
     _asked = std::move(actions);
+    _mayRepeat = mayRepeat;
+    _repeat.reset();
     if (!_session.empty()) {
         closeSession(_session);
     }
     forgetSession();
     _with.changed();
-    if (_asked.empty()) {
-        return;
+    if (!_asked.empty()) {
+        createSession();
     }
+}
+
+void PortalHotKeyService::createSession() {
     _requests.ask(shortcutsInterface, "CreateSession", {},
                   {{"session_handle_token", _requests.newToken()}},
-                  [this, round = _round](BusArguments* results) {
-                      if (results == nullptr) {
-                          report("The desktop has refused to give out keys for hot keys.");
-                          return;
-                      }
-                      std::string session;
-                      results->eachEntry([&](const std::string& key) {
-                          if (key == "session_handle") {
-                              results->insideVariant([&] { session = results->text(); });
-                          }
-                      });
-                      if (round == _round) {
-                          bindIn(session);
-                      } else {
-                          closeSession(session);
-                      }
-                  });
+                  {[this, round = _round](BusArguments* results) {
+                       if (results == nullptr) {
+                           refused(refusal);
+                           return;
+                       }
+                       std::string session;
+                       results->eachEntry([&](const std::string& key) {
+                           if (key == "session_handle") {
+                               results->insideVariant([&] { session = results->text(); });
+                           }
+                       });
+                       if (round == _round) {
+                           bindIn(session);
+                       } else {
+                           closeSession(session);
+                       }
+                   },
+                   [this, round = _round] { failed(refusal, round); }});
 }
 
 void PortalHotKeyService::bindIn(const std::string& session) {
     _session = session;
     _requests.ask(shortcutsInterface, "BindShortcuts",
                   {BusObjectPath{session}, shortcuts(), std::string()}, {},
-                  [this, round = _round](BusArguments* results) {
-                      if (results == nullptr) {
-                          report("The desktop has given the hot keys no keys.");
-                      } else if (round == _round) {
-                          results->eachEntry([&](const std::string& key) {
-                              if (key == "shortcuts") {
-                                  results->insideVariant([&] { takeShortcuts(*results); });
-                              }
-                          });
-                      }
-                  });
+                  {[this, round = _round](BusArguments* results) {
+                       if (results == nullptr) {
+                           refused(noKeys);
+                       } else if (round == _round) {
+                           _mayRepeat = true;
+                           results->eachEntry([&](const std::string& key) {
+                               if (key == "shortcuts") {
+                                   results->insideVariant([&] { takeShortcuts(*results); });
+                               }
+                           });
+                       }
+                   },
+                   [this, round = _round] { failed(noKeys, round); }});
 }
 
 BusNamedDictionaries PortalHotKeyService::shortcuts() const {
@@ -266,6 +279,29 @@ void PortalHotKeyService::forgetSession() {
 void PortalHotKeyService::closeSession(const std::string& session) {
     _bus.ask({PortalRequests::service, session, sessionInterface, "Close"}, {},
              [](BusArguments&) {});
+}
+
+void PortalHotKeyService::repeatLater() {
+    if (_mayRepeat) {
+        _repeat = _with.runLoop.callOnce(repeatInterval, [this] {
+            _asked.clear();
+            bind(false);
+        });
+    }
+}
+
+// The desktop may close the session of a request that the user refuses, before or after it says so.
+void PortalHotKeyService::refused(const std::string& line) {
+    _mayRepeat = false;
+    _repeat.reset();
+    report(line);
+}
+
+void PortalHotKeyService::failed(const std::string& line, std::uint32_t round) {
+    report(line);
+    if (round == _round) {
+        repeatLater();
+    }
 }
 
 void PortalHotKeyService::report(const std::string& line) const {

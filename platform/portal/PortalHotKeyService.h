@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
@@ -20,9 +21,13 @@ namespace tonquil {
 ///
 /// Registering always succeeds. The registrations of one turn of the event loop become one request
 /// to the desktop, and none if the actions are still the same. Nothing waits for the bus or the
-/// portal. Without a portal no key is ever reported.
+/// portal. Without a portal no key is ever reported. A request that fails is made once more after
+/// `repeatInterval`, and so is one for keys that the desktop takes back; one that the user refuses
+/// is not.
 class PortalHotKeyService final : public HotKeyService {
  public:
+    static constexpr std::chrono::milliseconds repeatInterval{10'000};
+
     /// What the desktop's dialog calls an action, by the action's name.
     using Descriptions = std::map<std::string, std::string>;
 
@@ -66,9 +71,13 @@ class PortalHotKeyService final : public HotKeyService {
     void findPortal();
     void portalLost();
     void bindSoon();
-    void bind();
+    void bind(bool mayRepeat);
+    void createSession();
     void forgetSession();
     void closeSession(const std::string& session);
+    void repeatLater();
+    void refused(const std::string& line);
+    void failed(const std::string& line, std::uint32_t round);
     void bindIn(const std::string& session);
     [[nodiscard]] BusNamedDictionaries shortcuts() const;
     void takeShortcuts(BusArguments& arguments);
@@ -96,6 +105,9 @@ class PortalHotKeyService final : public HotKeyService {
     BusConnection _bus;
     PortalRequests _requests{_bus};
     std::unique_ptr<RunLoop::Handle> _turn;
+    /// Whether the desktop may be asked for the same actions once more.
+    bool _mayRepeat = true;
+    std::unique_ptr<RunLoop::Handle> _repeat;
 };
 
 }  // namespace tonquil

@@ -14,17 +14,15 @@ void PortalRequests::watchAnswers() {
                         ours.substr(0, ours.size() - 1) + "'"},
                [this](BusArguments& arguments) {
                    const bool isGranted = arguments.number() == 0U;
-                   answer(arguments.path(), isGranted ? &arguments : nullptr);
+                   if (const auto outcome = take(arguments.path())) {
+                       outcome->answered(isGranted ? &arguments : nullptr);
+                   }
                });
 }
 
-void PortalRequests::answer(const std::string& path, BusArguments* results) {
-    const auto found = _waiting.find(path);
-    if (found != _waiting.end()) {
-        const Answered answered = std::move(found->second);
-        _waiting.erase(found);
-        answered(results);
-    }
+std::optional<PortalRequests::Outcome> PortalRequests::take(const std::string& path) {
+    auto node = _waiting.extract(path);
+    return node.empty() ? std::nullopt : std::optional(std::move(node.mapped()));
 }
 
 // The path is known before the call, so that an answer which overtakes its return is recognised.
@@ -37,15 +35,19 @@ std::string PortalRequests::pathOf(const std::string& token) const {
 
 void PortalRequests::ask(const std::string& interface, const std::string& method,
                          std::vector<BusArgument> arguments, BusDictionary options,
-                         Answered answered) {
+                         Outcome outcome) {
     const std::string token = newToken();
     const std::string path = pathOf(token);
     options["handle_token"] = token;
     arguments.emplace_back(std::move(options));
-    _waiting[path] = std::move(answered);
+    _waiting[path] = std::move(outcome);
     _bus.ask(
         {service, object, interface, method}, arguments, [](BusArguments&) {},
-        [this, path] { answer(path, nullptr); });
+        [this, path] {
+            if (const auto waiting = take(path)) {
+                waiting->failed();
+            }
+        });
 }
 
 }  // namespace tonquil

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,9 +19,13 @@ class PortalRequests {
     static constexpr const char* service = "org.freedesktop.portal.Desktop";
     static constexpr const char* object = "/org/freedesktop/portal/desktop";
 
-    /// Called once: with a dictionary of results, or with null if the request was refused or
-    /// failed.
-    using Answered = std::function<void(BusArguments* results)>;
+    /// One of them is called once.
+    struct Outcome {
+        /// With a dictionary of results, or with null if the user or the desktop refused.
+        std::function<void(BusArguments* results)> answered;
+        /// The portal could not even begin the request.
+        std::function<void()> failed;
+    };
 
     /// The connection must outlive this.
     explicit PortalRequests(BusConnection& bus) : _bus(bus) {}
@@ -31,19 +36,20 @@ class PortalRequests {
     [[nodiscard]] std::string newToken() { return "tonquil" + std::to_string(++_lastToken); }
     /// Calls a method whose last argument is `options`, to which this adds the request's token.
     void ask(const std::string& interface, const std::string& method,
-             std::vector<BusArgument> arguments, BusDictionary options, Answered answered);
+             std::vector<BusArgument> arguments, BusDictionary options, Outcome outcome);
     /// Forgets all requests: there will be no answers.
     void clear() { _waiting.clear(); }
 
  private:
     /// The path of a request's object.
     [[nodiscard]] std::string pathOf(const std::string& token) const;
-    void answer(const std::string& path, BusArguments* results);
+    /// What is waited for at this path, if anything, and no longer.
+    [[nodiscard]] std::optional<Outcome> take(const std::string& path);
 
     BusConnection& _bus;
     std::uint32_t _lastToken = 0;
     /// By the paths of the requests.
-    std::map<std::string, Answered> _waiting;
+    std::map<std::string, Outcome> _waiting;
 };
 
 }  // namespace tonquil

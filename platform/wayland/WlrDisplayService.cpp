@@ -19,6 +19,12 @@ constexpr std::chrono::milliseconds longestAnswer = 2s;
 /// while another program holds the output.
 constexpr std::chrono::milliseconds longestGammaAnswer = 250ms;
 
+/// Whether the gamma control is lent to us and nothing is set by it.
+bool isIdle(const WlrOutput& output) {
+    return output.gamma.state() == WlrGammaControl::State::Held && !output.gamma.isInUse() &&
+           !output.isRampUnsent;
+}
+
 }  // namespace
 
 Result<std::unique_ptr<WlrDisplayService>> WlrDisplayService::open(const char* display,
@@ -159,6 +165,7 @@ void WlrDisplayService::catchUp() {
 void WlrDisplayService::setTransferTable(DisplayID display, const GammaTable& table) {
     const DisplayBatch batch(*this);
     WlrOutput* output = correctable(display);
+    _wanted.insert(output == nullptr ? display : output->display.id);
     if (output == nullptr) {
         _allReached = false;
         return;
@@ -198,6 +205,7 @@ void WlrDisplayService::restoreSystemCalibration(std::span<const DisplayID> disp
             _allReached = false;
             continue;
         }
+        _wanted.erase(output->display.id);
         output->isRampUnsent = false;
         output->gamma.release();
     }
@@ -268,6 +276,8 @@ void WlrDisplayService::takeEvents() {
     if (_connection->isLost()) {
         connectionLost();
     }
+    // An output that came has been bound and its gamma control asked for.
+    _connection->flush();
 }
 
 void WlrDisplayService::connectionLost() {
@@ -319,13 +329,23 @@ void WlrDisplayService::calibrationsChanged() {
     }
 }
 
+// Within the quiet time an output can go and come back, or its gamma control be taken and lent
+// again. It is then described as before, but its ramp is lost.
+void WlrDisplayService::announceLosses() {
+    for (const WlrOutput* output : outputs()) {
+        if (isIdle(*output) && _wanted.contains(output->display.id)) {
+            _listing.announceAgain(output->display.id);
+        }
+    }
+}
+
 void WlrDisplayService::displaysChanged() {
+    announceLosses();
     _listing.announce(layout());
     askForProfiles();
     // With the correction off nothing was set, and another program may have the display.
     for (WlrOutput* output : outputs()) {
-        if (output->gamma.state() == WlrGammaControl::State::Held && !output->gamma.isInUse() &&
-            !output->isRampUnsent) {
+        if (isIdle(*output)) {
             output->gamma.release();
         }
     }

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include "foundation/Log.h"
@@ -81,6 +82,7 @@ class WlrDisplayService final : public ListedDisplayService {
     void takeEvents();
     void outputsChanged();
     void displaysChanged();
+    void announceLosses();
     void retryLater();
     void retry();
     void connectionLost();
@@ -90,6 +92,8 @@ class WlrDisplayService final : public ListedDisplayService {
     Surroundings _with;
     ProfileFiles _profiles;
     std::unique_ptr<WlrOutputs> _outputs;
+    /// The displays that a table was set for, whether or not it got there, and not restored since.
+    std::set<DisplayID> _wanted;
     /// The answer to the ramps sent last; while it is awaited no more are sent.
     std::unique_ptr<wl_callback, DestroyWaylandProxy> _sent;
     std::unique_ptr<RunLoop::Handle> _watch;

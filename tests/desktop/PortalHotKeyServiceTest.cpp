@@ -68,10 +68,20 @@ class PortalHotKeys : public testing::Test {
                    {"CreateSession",
                     [this](auto& arguments) {
                         session = "/session" + std::to_string(++sessions);
+                        if (failing == "CreateSession") {
+                            return QVariant();
+                        }
                         return answer(arguments, {{QStringLiteral("session_handle"),
                                                    QString::fromStdString(session)}});
                     }},
                    {"BindShortcuts", [this](auto& arguments) {
+                        if (failing == "BindShortcuts") {
+                            return QVariant();
+                        }
+                        if (isDialogCancelled) {
+                            close();
+                            isGranted = false;
+                        }
                         bound.emplace_back();
                         const auto list = qdbus_cast<QList<NamedOptions>>(arguments.at(1));
                         for (const NamedOptions& each : list) {
@@ -97,6 +107,10 @@ class PortalHotKeys : public testing::Test {
                        {isGranted ? 0U : 1U, results});
         return QVariant::fromValue(QDBusObjectPath(path));
     }
+    void close() {
+        bus.emitSignal(session.c_str(), "org.freedesktop.portal.Session", "Closed",
+                       {QVariantMap()});
+    }
     void key(const char* signal, const char* action, qulonglong time, const char* in = nullptr) {
         bus.emitSignal(desktop, "org.freedesktop.portal.GlobalShortcuts", signal,
                        {QVariant::fromValue(
@@ -118,6 +132,8 @@ class PortalHotKeys : public testing::Test {
     std::string session;
     int sessions = 0;
     bool isGranted = true;
+    bool isDialogCancelled = false;
+    std::string failing;
     std::vector<QString> bound;
     PortalHotKeyService service{{.runLoop = loop,
                                  .descriptions = {{"switch", "Switch it"}, {"show", "Show it"}},
@@ -176,6 +192,46 @@ TEST_F(PortalHotKeys, SurviveRefusalsAndComeBackWithThePortal) {
     isGranted = true;
     service.changeKeys();
     EXPECT_TRUE(until([&] { return service.trigger("switch") == "Hyper+1"; }));
+}
+
+TEST_F(PortalHotKeys, AreAskedForOnceMoreAfterAFailureButNotAfterARefusal) {
+    constexpr auto pause = PortalHotKeyService::repeatInterval;
+    const auto hasKeys = [&] { return service.trigger("switch") == "Hyper+1"; };
+    serve();
+    service.start(sessionBusAddress());
+    EXPECT_TRUE(service.registerHotKey(f5, 0, 1, "switch"));
+    ASSERT_TRUE(until(hasKeys));
+    for (const char* method : {"CreateSession", "BindShortcuts"}) {
+        failing = method;
+        service.changeKeys();
+        ASSERT_TRUE(until([&] { return !std::exchange(log, {}).empty(); })) << method;
+        failing.clear();
+        loop.advance(pause);
+        ASSERT_TRUE(until(hasKeys)) << method;
+    }
+    close();
+    ASSERT_TRUE(until([&] { return !hasKeys(); }));
+    loop.advance(pause);
+    ASSERT_TRUE(until(hasKeys)) << "closed by the desktop";
+
+    // What fails again is given up, and so is what the user refuses.
+    sessions = 0;
+    failing = "CreateSession";
+    service.changeKeys();
+    ASSERT_TRUE(until([&] { return log.size() == 1; }));
+    loop.advance(pause);
+    ASSERT_TRUE(until([&] { return log.size() == 2; }));
+    loop.advance(10 * pause);
+    failing.clear();
+    isDialogCancelled = true;
+    service.changeKeys();
+    ASSERT_TRUE(until([&] { return log.size() == 3; }));
+    loop.advance(10 * pause);
+    isDialogCancelled = false;
+    isGranted = true;
+    service.changeKeys();
+    ASSERT_TRUE(until(hasKeys));
+    EXPECT_EQ(sessions, 4);
 }
 
 }  // namespace

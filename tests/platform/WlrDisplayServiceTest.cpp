@@ -78,6 +78,37 @@ TEST_F(WlrDisplays, CorrectsWhatIsThereAfterAThousandHotplugs) {
     EXPECT_EQ(service->mainDisplay(), first) << "the same display, whatever the compositor says";
 }
 
+TEST_F(WlrDisplays, CorrectsAgainWhatWasLostAndCameBackWithinTheQuietTime) {
+    const auto takeEvents = [this] {
+        while (loop.pollReadable(20ms) != 0) {
+        }
+    };
+    compositor.plug("DP-1", 0);
+    compositor.plug("DP-2", 1920);
+    compositor.setTaken("DP-2", true);
+    open();
+    takeEvents();
+    ASSERT_TRUE(isCorrected("DP-1"));
+    loop.advance(WlrDisplayService::retryInterval - 1ms);
+
+    // The retry for DP-2 has an output lent at once that had its gamma control taken just before.
+    compositor.setTaken("DP-1", true);
+    compositor.setTaken("DP-1", false);
+    takeEvents();
+    loop.advance(1ms);
+    takeEvents();
+    ASSERT_TRUE(compositor.isHeld("DP-1"));
+    ASSERT_FALSE(isCorrected("DP-1"));
+    EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); })) << "taken and lent again";
+
+    compositor.unplug("DP-1");
+    compositor.plug("DP-1", 0);
+    takeEvents();
+    ASSERT_TRUE(compositor.isHeld("DP-1")) << "a new output is asked for at once";
+    ASSERT_FALSE(isCorrected("DP-1"));
+    EXPECT_TRUE(comesTrue([&] { return isCorrected("DP-1"); })) << "unplugged and plugged in again";
+}
+
 TEST_F(WlrDisplays, LeavesADisplayToOthersWhileItIsNotCorrected) {
     compositor.plug("DP-1", 0);
     open();
