@@ -275,6 +275,7 @@ void WlrDisplayService::takeEvents() {
     _connection->takeEvents();
     if (_connection->isLost()) {
         connectionLost();
+        return;
     }
     // An output that came has been bound and its gamma control asked for.
     _connection->flush();
