@@ -59,6 +59,7 @@ TQTargetWindowController& TargetWindowList::targetWindowControllerForScreen(
 // Dismissing changes the list and calls owners back, who may change it as well.
 void TargetWindowList::screensChanged(const std::vector<TargetScreen>& screens) {
     std::vector<std::uint32_t> now;
+    now.reserve(screens.size());
     for (const TargetScreen& screen : screens) {
         now.push_back(screen.displayID);
     }

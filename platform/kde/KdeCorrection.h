@@ -84,9 +84,9 @@ class KdeCorrection {
     std::optional<KdeProfileChoice> _present;
     bool _isOursPresent = false;
     bool _isHdr = false;
-    KdeProfileChoice _theirs;
-    /// Until it is, nothing is set: neither the note nor the compositor may lose their choice.
+    /// Until theirs is, nothing is set: neither the note nor the compositor may lose their choice.
     bool _isTheirsKnown = false;
+    KdeProfileChoice _theirs;
     /// The colours that the display says it has.
     Primaries _reported;
     KdeBase _base;

@@ -2,6 +2,7 @@
 #include "platform/kde/KdeDisplayService.h"
 
 #include <algorithm>
+#include <exception>
 #include <tuple>
 #include <utility>
 
@@ -75,15 +76,21 @@ KdeDisplayService::KdeDisplayService(std::unique_ptr<WaylandConnection> connecti
 
 KdeDisplayService::~KdeDisplayService() {
     constexpr std::chrono::milliseconds longestFarewell = 500ms;
-    for (auto& [key, display] : _displays) {
-        display.correction.hurry();
+    try {
+        for (auto& [key, display] : _displays) {
+            display.correction.hurry();
+        }
+        static_cast<void>(_connection->waitUntil(
+            [this] {
+                return std::ranges::all_of(present(), [](const Display* display) {
+                    return display->correction.isSettled();
+                });
+            },
+            longestFarewell));
+    } catch (const std::exception&) {
+        // Out of memory: what has been sent, and the note, stay.
+        return;
     }
-    static_cast<void>(_connection->waitUntil(
-        [this] {
-            return std::ranges::all_of(
-                present(), [](const Display* display) { return display->correction.isSettled(); });
-        },
-        longestFarewell));
 }
 
 void KdeDisplayService::match() {
