@@ -126,24 +126,28 @@ TEST_F(ProgramOnWayland, HandsCurvesToTheTonquilThatRuns) {
     const auto control = [&](const std::vector<std::string>& arguments) {
         return run(inSession(request(arguments))).value().exitStatus;
     };
+    // A slow machine's compositor may not answer in the time in which a command does.
+    const auto succeeds = [&](const std::vector<std::string>& arguments) {
+        return comesTrue([&] { return control(arguments) == 0; });
+    };
     auto start = inSession(request({}));
     start.command = {TONQUIL};
     const auto program = BackgroundProcess::start(start).value();
-    ASSERT_TRUE(comesTrue([&] { return control({"restore"}) == 0; })) << program->standardError();
+    ASSERT_TRUE(succeeds({"restore"})) << program->standardError();
 
     // The correction was off, and what is not meant keeps its neutral curve.
-    EXPECT_EQ(control({"apply", "--display", "DP-2", "--curve", "[0,0,1.5]"}), 0);
+    EXPECT_TRUE(succeeds({"apply", "--display", "DP-2", "--curve", "[0,0,1.5]"}));
     const auto areAlike = [&] { return compositor.ramp("DP-1") == compositor.ramp("DP-2"); };
     EXPECT_TRUE(comesTrue([&] { return compositor.isHeld("DP-1") && !areAlike(); }));
-    EXPECT_EQ(control({"restore", "--display", "DP-2"}), 0);
+    EXPECT_TRUE(succeeds({"restore", "--display", "DP-2"}));
     EXPECT_TRUE(comesTrue(areAlike));
     const HardwareRamp neutral = compositor.ramp("DP-1");
-    EXPECT_EQ(control({"apply", fileWith(std::string(768, '\x80'))}), 0);
+    EXPECT_TRUE(succeeds({"apply", fileWith(std::string(768, '\x80'))}));
     EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-2").channel(2)[7] == 32768; }));
 
-    EXPECT_EQ(control({"apply", "--curve", "[0,0,1.5]"}), 0);
+    EXPECT_TRUE(succeeds({"apply", "--curve", "[0,0,1.5]"}));
     EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") != neutral && areAlike(); }));
-    EXPECT_EQ(control({"restore"}), 0);
+    EXPECT_TRUE(succeeds({"restore"}));
     EXPECT_TRUE(comesTrue([&] { return compositor.ramp("DP-1") == HardwareRamp::straight(256); }));
     compositor.setTaken("DP-1", true);
     EXPECT_TRUE(comesTrue([&] { return control({"apply", "--curve", "[0,0,1.2]"}) == 1; }));
