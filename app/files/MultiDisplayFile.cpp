@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/files/MultiDisplayFile.h"
 
-#include <algorithm>
-
 #include "app/files/FileDialogs.h"
 #include "model/StoredCurve.h"
 #include "plist/Unicode.h"
@@ -45,15 +43,11 @@ ScreenRegistry::Screens MultiDisplayFile::matchingScreens(ScreenRegistry& regist
     return screens;
 }
 
-std::size_t MultiDisplayFile::applyTo(ScreenRegistry& registry) const {
-    const ScreenRegistry::Screens attached = registry.screens();
-    std::size_t count = 0;
-    for (const auto& screen : matchingScreens(registry)) {
+void MultiDisplayFile::applyTo(const ScreenRegistry::Screens& matching) const {
+    for (const auto& screen : matching) {
         screen->setGammaCurve(curveFor(*screen));
         screen->applyGammaCurve();
-        count += std::find(attached.begin(), attached.end(), screen) != attached.end() ? 1 : 0;
     }
-    return count;
 }
 
 PropertyValue MultiDisplayFile::contentsFor(ScreenRegistry& registry) {

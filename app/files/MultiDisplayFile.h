@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstddef>
 #include <map>
 #include <memory>
 #include <string>
@@ -23,8 +22,8 @@ class MultiDisplayFile {
     [[nodiscard]] PropertyValue allScreensDictionary() const;
     /// The sighted screens that it has curves for.
     [[nodiscard]] ScreenRegistry::Screens matchingScreens(ScreenRegistry& registry) const;
-    /// Assigns and applies to each of them its curve. Returns how many of them are attached.
-    [[nodiscard]] std::size_t applyTo(ScreenRegistry& registry) const;
+    /// Assigns and applies to each of the matching screens its curve.
+    void applyTo(const ScreenRegistry::Screens& matching) const;
 
     /// Builds the contents of a file with the curves of the attached displays. Each curve is stored
     /// under its display's reference ID and its old-style ID, so that older programs find it too.

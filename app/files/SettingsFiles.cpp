@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/files/SettingsFiles.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <ctime>
@@ -92,12 +93,14 @@ bool SettingsFiles::openSettings(const MultiDisplaySettings& settings) {
                                                         "many more displays."),
                                .detail = {}});
         }
-        if (const auto meant = file.matchingScreens(_with.registry); !meant.empty()) {
-            _with.editing.willEdit(meant, editSubject::openedFile);
+        const auto& attached = _with.registry.screens();
+        const auto matching = file.matchingScreens(_with.registry);
+        if (!matching.empty()) {
+            _with.editing.willEdit(matching, editSubject::openedFile);
+            file.applyTo(matching);
         }
-        const std::size_t count = file.applyTo(_with.registry);
         _with.storage.storeCurves(curves);
-        if (count == 0) {
+        if (std::ranges::find_first_of(matching, attached) == matching.end()) {
             _with.dialogs.alert(
                 TONQUIL_TEXT("Problem", "No Matching Screens"),
                 TONQUIL_TEXT("Problem",

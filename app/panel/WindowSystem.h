@@ -16,7 +16,8 @@ using WindowID = std::uint64_t;
 /// The native window must exist at the time of a call: Qt may delay its creation until after the
 /// current event. A window manager forgets a window's properties when it is hidden, so the commands
 /// are repeated each time before it is shown. Without a connection, or if the window system does
-/// not support an operation, commands do nothing, and queries return what they say or else false.
+/// not support an operation, commands do nothing, and queries return false unless they say
+/// otherwise.
 class WindowSystem {
  public:
     virtual ~WindowSystem() = default;
